@@ -1,0 +1,24 @@
+# How every target of this project is compiled.
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE Release CACHE STRING "Kind of build" FORCE)
+endif()
+
+option(ZEL_WARNINGS_AS_ERRORS "Stop at the first compiler warning" ON)
+set(ZEL_SANITIZE "" CACHE STRING "Sanitizers to build with, separated by commas")
+
+add_compile_options(-Wall -Wextra)
+if(ZEL_WARNINGS_AS_ERRORS)
+    add_compile_options(-Werror)
+endif()
+if(ZEL_SANITIZE)
+    add_compile_options(-fsanitize=${ZEL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    add_link_options(-fsanitize=${ZEL_SANITIZE})
+endif()

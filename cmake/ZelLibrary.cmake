@@ -1,0 +1,22 @@
+# The shared library, made of all modules.
+
+get_property(zel_modules GLOBAL PROPERTY ZEL_MODULES)
+get_property(zel_public_headers GLOBAL PROPERTY ZEL_PUBLIC_HEADERS)
+
+add_library(ZelControlCenter SHARED)
+add_library(Zel::ControlCenter ALIAS ZelControlCenter)
+set_target_properties(ZelControlCenter PROPERTIES EXPORT_NAME ControlCenter)
+# The modules' objects go into the library; their include folders and links are not its users' business.
+foreach(module IN LISTS zel_modules)
+    target_sources(ZelControlCenter PRIVATE $<TARGET_OBJECTS:${module}>)
+endforeach()
+target_sources(ZelControlCenter PRIVATE $<TARGET_OBJECTS:ZelResources>)
+target_link_libraries(ZelControlCenter
+                      PUBLIC ZelPlatform ${ZEL_QT_CORE} ${ZEL_QT_WIDGETS}
+                      PRIVATE ZelSingleApplication)
+target_include_directories(ZelControlCenter INTERFACE $<INSTALL_INTERFACE:include>
+                                                     $<INSTALL_INTERFACE:include/zel>)
+foreach(header IN LISTS zel_public_headers)
+    get_filename_component(folder ${header} DIRECTORY)
+    target_include_directories(ZelControlCenter INTERFACE $<BUILD_INTERFACE:${folder}>)
+endforeach()

@@ -1,0 +1,27 @@
+# The runnable tree that the build makes; `install` makes the same one. At run time the library looks for the
+# toolkit's plug-ins in "bin" and for translations in "resources/languages", both below the working folder.
+
+set(ZEL_STAGE ${PROJECT_BINARY_DIR}/stage)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${ZEL_STAGE}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${ZEL_STAGE}/lib)
+
+# The trees are alike, so one path relative to the loading file serves both.
+set(CMAKE_INSTALL_LIBDIR lib)
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
+set(CMAKE_INSTALL_RPATH "$ORIGIN/../lib")
+
+set(ZEL_PLUGIN_FOLDERS iconengines imageformats platforminputcontexts platforms platformthemes styles
+                       xcbglintegrations)
+
+file(MAKE_DIRECTORY ${ZEL_STAGE}/bin ${ZEL_STAGE}/resources/languages)
+foreach(folder IN LISTS ZEL_PLUGIN_FOLDERS)
+    if(NOT EXISTS ${ZEL_QT_PLUGINS}/${folder})
+        continue()
+    endif()
+    if(WIN32)
+        file(COPY ${ZEL_QT_PLUGINS}/${folder} DESTINATION ${ZEL_STAGE}/bin)
+    else()
+        file(CREATE_LINK ${ZEL_QT_PLUGINS}/${folder} ${ZEL_STAGE}/bin/${folder} SYMBOLIC)
+    endif()
+endforeach()
+list(JOIN ZEL_PLUGIN_FOLDERS "|" ZEL_PLUGIN_PATTERN)

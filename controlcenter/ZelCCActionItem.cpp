@@ -1,0 +1,55 @@
+#include "ZelCCActionItem.h"
+
+#include "ui_ZelCCActionItem.h"
+
+#include "platform/kqDMIApplication.h"
+#include "platform/zelAction.h"
+
+#include <QKeySequence>
+
+namespace zel {
+
+ZelCCActionItem::ZelCCActionItem(zelAction* action, QWidget* parent, Qt::WindowFlags flags)
+    : QWidget(parent, flags)
+    , m_ui(new Ui::ZelCCActionItem)
+    , m_action(action)
+    , m_workflowSpecific(false)
+{
+    m_ui->setupUi(this);
+    setStyleSheet(kqDMIApplication::GetStylesheet("ZelCCActionItem"));
+    onActionChanged();
+    connect(action, SIGNAL(changed()), this, SLOT(onActionChanged()));
+    connect(m_ui->actionButton, SIGNAL(clicked()), action, SLOT(trigger()));
+}
+
+ZelCCActionItem::~ZelCCActionItem() = default;
+
+zelAction* ZelCCActionItem::getZelAction() const
+{
+    return m_action;
+}
+
+void ZelCCActionItem::setIsWorkflowSpecific(bool specific)
+{
+    m_workflowSpecific = specific;
+}
+
+bool ZelCCActionItem::isWorkflowSpecific() const
+{
+    return m_workflowSpecific;
+}
+
+void ZelCCActionItem::onActionChanged()
+{
+    setVisible(m_action->isVisible());
+    m_ui->actionButton->setText(m_action->getActionGuiName());
+    const QKeySequence shortcut = m_action->shortcut();
+    if (!shortcut.isEmpty())
+        m_ui->shortcut->setText(shortcut.toString(QKeySequence::NativeText));
+    m_ui->shortcut->setVisible(!shortcut.isEmpty());
+    setStatusTip(m_action->statusTip());
+    setToolTip(m_action->toolTip());
+    m_ui->actionButton->setEnabled(m_action->isEnabled());
+}
+
+} // namespace zel

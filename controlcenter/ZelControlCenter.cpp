@@ -1,0 +1,541 @@
+#include "ZelControlCenter.h"
+
+#include "ui_ControlCenter.h"
+
+#include "ZelCCActionItem.h"
+#include "ZelSettingsFile.h"
+#include "ZelSettingsPanel.h"
+
+#include "platform/kqDMGuiPlugin.h"
+#include "platform/kqDMIApplication.h"
+#include "platform/kqMessageBox.h"
+#include "platform/zelAction.h"
+
+#include <QApplication>
+#include <QButtonGroup>
+#include <QColor>
+#include <QIcon>
+#include <QMouseEvent>
+#include <QPropertyAnimation>
+#include <QScrollBar>
+#include <QSignalMapper>
+
+#include <algorithm>
+
+// The resource initialiser is declared in the namespace that names it, so this stands outside any.
+static void cleanupResources()
+{
+    Q_CLEANUP_RESOURCE(ZelControlCenter);
+}
+
+namespace {
+
+const int SlideDuration = 350;   // ms
+const int MenuWidth = 250;       // pixels
+const int DrawerWidth = 450;     // pixels
+const int ClickGuard = 500;      // ms
+const int SeparatorMargin = 18;  // pixels
+const int ExternalIconSize = 40; // pixels
+
+QMessageBox::StandardButton showMessage(const QString& text, QMessageBox::StandardButtons buttons)
+{
+    return kqMessageBox::ShowMessage(QCoreApplication::translate("ZelControlCenter", "Settings Modification"),
+                                     text, buttons, nullptr, Qt::WindowFlags(),
+                                     QMap<QMessageBox::StandardButton, QString>(), false);
+}
+
+} // namespace
+
+namespace zel {
+
+ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* parent, Qt::WindowFlags flags)
+    : QWidget(parent, flags)
+    , m_ui(new Ui::ControlCenter)
+    , m_application(application)
+    , m_pageMapper(new QSignalMapper(this))
+    , m_pageGroup(new QButtonGroup(this))
+    , m_menuOpen(false)
+    , m_settingsOpen(false)
+{
+    m_ui->setupUi(this);
+    setStyleSheet(kqDMIApplication::GetStylesheet("ZelControlCenter"));
+    setObjectName("ZelControlCenter");
+    m_ui->verticalLayout->setAlignment(Qt::AlignTop);
+
+    // The drawer is placed by its width, not by the form's layout; whoever embeds it may lay it out.
+    m_drawer = m_ui->settingsScrollArea;
+    m_ui->horizontalLayout_30->removeWidget(m_drawer);
+    m_drawer->setParent(this);
+    m_ui->controlCenterButton->setChecked(false);
+    m_drawer->hide();
+
+    connect(m_pageMapper, SIGNAL(mapped(QString)), this, SLOT(onPanelClicked(QString)));
+    m_widthAnimation = createSlide("controlCenterWidth", MenuWidth, SLOT(onControlCenterWidthFinished()));
+    m_settingsAnimation = createSlide("settingsWidth", DrawerWidth, SLOT(onSettingsWidthFinished()));
+
+    QScrollBar* scrollBar = m_drawer->verticalScrollBar();
+    m_scrollAnimation = new QPropertyAnimation(scrollBar, "value", this);
+    m_scrollAnimation->setDuration(SlideDuration);
+    m_scrollAnimation->setEasingCurve(QEasingCurve::InOutQuad);
+    connect(scrollBar, SIGNAL(valueChanged(int)), this, SLOT(onScrollBarValueChanged(int)));
+    // Queued, because the scroll area itself shows and hides the bar only after the range has changed.
+    connect(scrollBar, SIGNAL(rangeChanged(int, int)), this, SLOT(onScrollBarRangeChanged()),
+            Qt::QueuedConnection);
+
+    m_pageGroup->setExclusive(true);
+    openMenu(false);
+    createSettingsAction();
+    m_clickTimer.start();
+}
+
+ZelControlCenter::~ZelControlCenter()
+{
+    m_separators.clear();
+    while (!m_panels.isEmpty())
+        unregisterSettingsPanel(m_panels.front(), true);
+    delete m_drawer;
+    unregisterCCAction(m_settingsAction.get());
+}
+
+void ZelControlCenter::CleanupRessources()
+{
+    cleanupResources();
+}
+
+QPropertyAnimation* ZelControlCenter::createSlide(const char* property, int openWidth,
+                                                  const char* finishedSlot)
+{
+    auto* slide = new QPropertyAnimation(this, property, this);
+    slide->setDuration(SlideDuration);
+    slide->setStartValue(0);
+    slide->setEndValue(openWidth);
+    connect(slide, SIGNAL(finished()), this, finishedSlot);
+    return slide;
+}
+
+void ZelControlCenter::createSettingsAction()
+{
+    m_settingsAction = std::make_unique<zelAction>(
+        "Settings", QCoreApplication::translate("ZelControlCenter", "Settings"), nullptr);
+    m_settingsAction->setStatusTip(
+        QCoreApplication::translate("ZelControlCenter", "Changes the settings of the application"));
+    registerCCAction(m_settingsAction.get(), "", false, false, true);
+    connect(m_settingsAction.get(), SIGNAL(triggered()), this, SLOT(openSettings()));
+    // The settings open inside the menu, so choosing them must not close it.
+    disconnect(m_settingsAction.get(), SIGNAL(triggered()), this, SLOT(closeMenu()));
+}
+
+void ZelControlCenter::registerSettingsPanel(ZelSettingsPanel* panel)
+{
+    m_panels.append(panel);
+    connect(panel, SIGNAL(stateChanged()), this, SLOT(onStateChanged()));
+
+    QPushButton* button = panel->getActionWidget();
+    m_ui->verticalLayout_6->addWidget(button);
+    m_ui->applicationSettings->show();
+    m_pageGroup->addButton(button);
+    m_ui->verticalLayout_8->addWidget(panel);
+    m_ui->applicationFrame->show();
+    panel->show();
+    panel->initializeWidget();
+
+    connect(button, SIGNAL(clicked()), m_pageMapper, SLOT(map()));
+    m_pageMapper->setMapping(button, panel->getPanelName());
+    onStateChanged();
+}
+
+void ZelControlCenter::unregisterSettingsPanel(ZelSettingsPanel* panel, bool reevaluate)
+{
+    disconnect(panel, SIGNAL(stateChanged()), this, SLOT(onStateChanged()));
+    if (m_panels.removeOne(panel)) {
+        QPushButton* button = panel->getActionWidget();
+        m_pageGroup->removeButton(button);
+        disconnect(button, SIGNAL(clicked()), m_pageMapper, SLOT(map()));
+        m_pageMapper->removeMappings(button);
+        button->setParent(nullptr);
+        panel->setParent(nullptr);
+    }
+    if (reevaluate)
+        onStateChanged();
+}
+
+bool ZelControlCenter::isMenuOpen() const
+{
+    return m_menuOpen;
+}
+
+bool ZelControlCenter::isSettingsOpen() const
+{
+    return m_settingsOpen;
+}
+
+bool ZelControlCenter::hasModifications() const
+{
+    return std::any_of(m_panels.begin(), m_panels.end(),
+                       [](const ZelSettingsPanel* panel) { return panel->hasModifications(); });
+}
+
+bool ZelControlCenter::applyModifications()
+{
+    bool restart = false;
+    for (ZelSettingsPanel* panel : m_panels)
+        restart = panel->applyModifications() || restart;
+    // One write for all pages, so that the file never holds half of an Apply. A failure is reported there.
+    QString error;
+    ZelSettingsFile::Sync(m_application->getSettings(), error);
+    return restart;
+}
+
+void ZelControlCenter::setGUIHandler(QWidget* handler)
+{
+    m_guiHandler = handler;
+}
+
+void ZelControlCenter::setControlCenterButton(QPushButton* button)
+{
+    m_controlCenterButton = button;
+}
+
+QScrollArea* ZelControlCenter::settingsWidget() const
+{
+    return m_drawer;
+}
+
+int ZelControlCenter::controlCenterWidth() const
+{
+    return minimumWidth();
+}
+
+void ZelControlCenter::setControlCenterWidth(int width)
+{
+    setVisible(width >= 1);
+    setFixedWidth(width);
+}
+
+int ZelControlCenter::settingsWidth() const
+{
+    return m_drawer->isVisible() ? m_drawer->minimumWidth() : 0;
+}
+
+void ZelControlCenter::setSettingsWidth(int width)
+{
+    m_drawer->setVisible(width >= 1);
+    m_drawer->setFixedWidth(width);
+    const QScrollBar* scrollBar = m_drawer->verticalScrollBar();
+    const int barWidth = scrollBar->isVisible() ? scrollBar->width() : 0;
+    m_ui->settingsContent->setFixedWidth(std::max(width - barWidth, 0));
+}
+
+void ZelControlCenter::registerCCAction(zelAction* action, const QString& anchorName, bool isWorkflowSpecific,
+                                        bool after, bool closeMenuOnTrigger)
+{
+    auto* item = new ZelCCActionItem(action, this, Qt::WindowFlags());
+    item->setIsWorkflowSpecific(isWorkflowSpecific);
+    if (closeMenuOnTrigger)
+        connect(action, SIGNAL(triggered()), this, SLOT(closeMenu()));
+    m_actionItems.append(item);
+
+    const int anchor = anchorIndex(anchorName);
+    const bool besideAnchor = !anchorName.isEmpty() && anchor >= 0;
+    insertIntoColumn(besideAnchor && after ? anchor + 1 : anchor, item);
+    if (!besideAnchor)
+        layout()->invalidate();
+}
+
+void ZelControlCenter::unregisterCCAction(zelAction* action)
+{
+    const auto items = m_actionItems;
+    for (ZelCCActionItem* item : items) {
+        if (item->getZelAction() != action)
+            continue;
+        disconnect(action, SIGNAL(triggered()), this, SLOT(closeMenu()));
+        m_actionItems.removeOne(item);
+        delete item;
+    }
+}
+
+bool ZelControlCenter::addCCSeparator(const QString& anchorName, const QString& separatorName)
+{
+    if (m_separators.contains(separatorName))
+        return false;
+    auto* separator = new QFrame(this);
+    separator->setStyleSheet("background:rgb(0,0,0,30);");
+    separator->setFixedHeight(1);
+    separator->setFixedWidth(width() - SeparatorMargin);
+    m_separators.insert(separatorName, separator);
+    insertIntoColumn(anchorIndex(anchorName), separator);
+    return true;
+}
+
+bool ZelControlCenter::setCCSeparatorVisible(const QString& separatorName, bool visible)
+{
+    QFrame* separator = m_separators.value(separatorName);
+    if (!separator)
+        return false;
+    separator->setVisible(visible);
+    return true;
+}
+
+void ZelControlCenter::setInterfaceColor(const QColor& color, const QString& iconOnFile,
+                                         const QString& iconOffFile)
+{
+    m_ui->actionFrame->setStyleSheet(QString("#actionFrame{ background-color:rgb(%1,%2,%3);}")
+                                         .arg(color.red())
+                                         .arg(color.green())
+                                         .arg(color.blue()));
+    if (!m_controlCenterButton)
+        return;
+    QIcon icon;
+    icon.addFile(iconOnFile, QSize(), QIcon::Normal, QIcon::On);
+    icon.addFile(iconOffFile, QSize(), QIcon::Normal, QIcon::Off);
+    m_controlCenterButton->setIcon(icon);
+    m_controlCenterButton->setIconSize(QSize(ExternalIconSize, ExternalIconSize));
+}
+
+bool ZelControlCenter::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Resize)
+        m_clickTimer.restart();
+    // A press into a modal box is an answer, not a click outside. Presses that the toolkit first hands to its
+    // native window come again for the widget.
+    if (event->type() != QEvent::MouseButtonPress || QApplication::activeModalWidget() ||
+        watched->inherits("QWindow"))
+        return false;
+    if (m_clickTimer.elapsed() < ClickGuard)
+        return false;
+    m_clickTimer.restart();
+    const QPoint position = static_cast<QMouseEvent*>(event)->globalPos();
+    if (isClickOutside(watched, position) && discardModifications()) {
+        openSettingsPanel(false);
+        openMenu(false);
+    }
+    return false;
+}
+
+void ZelControlCenter::openMenu(bool open)
+{
+    const bool wasVisible = isVisible();
+    if (open) {
+        m_application->setUpdateEngineEnabled(false);
+        if (guiPlugin()) {
+            // Removed first, so that it is installed once.
+            qApp->removeEventFilter(this);
+            qApp->installEventFilter(this);
+        }
+        m_widthAnimation->setEasingCurve(QEasingCurve::OutQuad);
+        m_widthAnimation->setDirection(QAbstractAnimation::Forward);
+        m_ui->preferenceFrame->hide();
+    } else {
+        openSettingsPanel(false);
+        if (!discardModifications()) {
+            m_application->setUpdateEngineEnabled(true);
+            return;
+        }
+        m_application->setUpdateEngineEnabled(false);
+        if (guiPlugin())
+            qApp->removeEventFilter(this);
+        m_widthAnimation->setEasingCurve(QEasingCurve::InQuad);
+        m_widthAnimation->setDirection(QAbstractAnimation::Backward);
+        m_ui->controlCenterButton->setChecked(false);
+    }
+
+    if (m_ui->preferenceFrame->isVisible())
+        openSettingsPanel(false);
+    if (m_controlCenterButton)
+        m_controlCenterButton->setChecked(open);
+    if (m_widthAnimation->state() == QAbstractAnimation::Running)
+        return;
+    if (wasVisible == open)
+        onControlCenterWidthFinished();
+    else
+        m_widthAnimation->start();
+}
+
+void ZelControlCenter::setControlCenterVisible(bool visible)
+{
+    if (visible) {
+        m_ui->controlCenterButton->setChecked(true);
+        m_ui->preferenceFrame->show();
+        openSettingsPanel(true);
+    } else if (m_ui->preferenceFrame->isVisible()) {
+        openSettingsPanel(false);
+    }
+}
+
+void ZelControlCenter::openSettings()
+{
+    const bool open = !m_ui->controlCenterButton->isChecked();
+    setControlCenterVisible(open);
+    m_ui->controlCenterButton->setChecked(open);
+}
+
+void ZelControlCenter::on_applyButton_clicked()
+{
+    if (applyModifications() && guiPlugin())
+        showMessage(QCoreApplication::translate(
+                        "ZelControlCenter",
+                        "You need to restart your application to turn settings modification effective."),
+                    QMessageBox::Ok);
+    onStateChanged();
+}
+
+void ZelControlCenter::on_resetButton_clicked()
+{
+    resetControlCenter();
+}
+
+void ZelControlCenter::onPanelClicked(const QString& pPanelName)
+{
+    if (!m_settingsOpen)
+        openSettingsPanel(true);
+    for (ZelSettingsPanel* panel : m_panels)
+        if (panel->getPanelName() == pPanelName)
+            ensureSettingVisible(panel);
+}
+
+void ZelControlCenter::onStateChanged()
+{
+    m_ui->resetButton->setEnabled(
+        std::any_of(m_panels.begin(), m_panels.end(),
+                    [](const ZelSettingsPanel* panel) { return panel->canResetContent(); }));
+    m_ui->applyButton->setEnabled(hasModifications());
+}
+
+void ZelControlCenter::onControlCenterWidthFinished()
+{
+    m_menuOpen = m_widthAnimation->direction() == QAbstractAnimation::Forward;
+    if (!m_menuOpen)
+        hide();
+    m_application->setUpdateEngineEnabled(true);
+}
+
+void ZelControlCenter::onSettingsWidthFinished()
+{
+    m_application->setUpdateEngineEnabled(true);
+    m_settingsOpen = m_settingsAnimation->direction() == QAbstractAnimation::Forward;
+    if (m_settingsOpen) {
+        onScrollBarValueChanged(m_drawer->verticalScrollBar()->value());
+    } else {
+        m_ui->preferenceFrame->hide();
+        m_drawer->hide();
+    }
+}
+
+void ZelControlCenter::onScrollBarValueChanged(int value)
+{
+    if (m_scrollAnimation->state() == QAbstractAnimation::Running)
+        return;
+    const QPoint belowTop(10, value + 10);
+    for (QWidget* widget = m_ui->settingsContent->childAt(belowTop); widget;
+         widget = widget->parentWidget()) {
+        if (auto* panel = qobject_cast<ZelSettingsPanel*>(widget)) {
+            panel->getActionWidget()->setChecked(true);
+            return;
+        }
+    }
+}
+
+void ZelControlCenter::closeMenu()
+{
+    openMenu(false);
+}
+
+void ZelControlCenter::onScrollBarRangeChanged()
+{
+    if (m_settingsOpen && m_settingsAnimation->state() != QAbstractAnimation::Running)
+        setSettingsWidth(settingsWidth());
+}
+
+void ZelControlCenter::openSettingsPanel(bool open)
+{
+    const bool wasVisible = m_drawer->isVisible();
+    m_ui->actionFrame->setVisible(!open);
+    m_application->setUpdateEngineEnabled(false);
+    if (open) {
+        if (!wasVisible)
+            initializePanels();
+        m_drawer->show();
+    }
+    m_settingsAnimation->setEasingCurve(open ? QEasingCurve::OutQuad : QEasingCurve::InQuad);
+    m_settingsAnimation->setDirection(open ? QAbstractAnimation::Forward : QAbstractAnimation::Backward);
+    if (wasVisible != open)
+        m_settingsAnimation->start();
+}
+
+void ZelControlCenter::ensureSettingVisible(QWidget* widget)
+{
+    QScrollBar* scrollBar = m_drawer->verticalScrollBar();
+    const int target = widget->y() + widget->parentWidget()->y();
+    m_scrollAnimation->stop();
+    m_scrollAnimation->setStartValue(scrollBar->value());
+    m_scrollAnimation->setEndValue(std::min(target, scrollBar->maximum()));
+    m_scrollAnimation->start();
+}
+
+void ZelControlCenter::resetControlCenter()
+{
+    for (ZelSettingsPanel* panel : m_panels)
+        panel->resetContent();
+}
+
+void ZelControlCenter::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+}
+
+void ZelControlCenter::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+}
+
+kqDMGuiPlugin* ZelControlCenter::guiPlugin() const
+{
+    return m_application ? m_application->getGuiPlugin() : nullptr;
+}
+
+void ZelControlCenter::initializePanels()
+{
+    for (ZelSettingsPanel* panel : m_panels)
+        panel->initializeWidget();
+    onStateChanged();
+}
+
+bool ZelControlCenter::discardModifications()
+{
+    if (!hasModifications())
+        return true;
+    const QString question = QCoreApplication::translate(
+        "ZelControlCenter", "You have pending modifications. Continue and discard your changes ?");
+    if (guiPlugin() && showMessage(question, QMessageBox::Ok | QMessageBox::Cancel) != QMessageBox::Ok)
+        return false;
+    initializePanels();
+    return true;
+}
+
+bool ZelControlCenter::isClickOutside(QObject* watched, const QPoint& globalPosition) const
+{
+    const QWidget* view = guiPlugin() ? guiPlugin()->getMainViewWidget() : nullptr;
+    if (!view || !QRect(view->mapToGlobal(QPoint(0, 0)), view->size()).contains(globalPosition))
+        return false;
+    const auto* widget = qobject_cast<QWidget*>(watched);
+    return !m_guiHandler || !widget || m_guiHandler->isAncestorOf(widget);
+}
+
+int ZelControlCenter::anchorIndex(const QString& anchorName) const
+{
+    if (anchorName.isEmpty())
+        return 0;
+    for (int index = 0; index < m_ui->verticalLayout->count(); ++index) {
+        const auto* item = qobject_cast<ZelCCActionItem*>(m_ui->verticalLayout->itemAt(index)->widget());
+        if (item && item->getZelAction()->getActionName() == anchorName)
+            return index;
+    }
+    return -1;
+}
+
+void ZelControlCenter::insertIntoColumn(int index, QWidget* widget)
+{
+    m_ui->verticalLayout->insertWidget(index, widget);
+}
+
+} // namespace zel

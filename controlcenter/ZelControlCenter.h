@@ -1,0 +1,180 @@
+#ifndef ZEL_ZELCONTROLCENTER_H
+#define ZEL_ZELCONTROLCENTER_H
+
+#include "ZelSettingsCatalogue.h"
+#include "ZelSettingsRegistry.h"
+#include "ZelSettingsValidators.h"
+
+#include "platform/ZelExport.h"
+
+#include <QElapsedTimer>
+#include <QList>
+#include <QMap>
+#include <QPointer>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QWidget>
+
+#include <memory>
+
+class QButtonGroup;
+class QColor;
+class QFrame;
+class QPropertyAnimation;
+class QSignalMapper;
+class kqDMGuiPlugin;
+class kqDMIApplication;
+class zelAction;
+
+namespace Ui {
+class ControlCenter;
+}
+
+namespace zel {
+
+class ZelCCActionItem;
+class ZelSettingsPanel;
+
+/// The side panel that an application puts beside its 3D view: a menu column of actions that slides open, and
+/// beside it a drawer in which the registered settings pages are stacked, with Apply and Reset for all of
+/// them.
+///
+/// The rules of Settings.ini (registry, validators, catalogue) are reached through this class too; they need
+/// no instance.
+///
+/// Registered pages and actions belong to their creators, who unregister them before they delete them. The
+/// application must outlive the control center. GUI thread only.
+class ZEL_EXPORT ZelControlCenter : public QWidget,
+                                    public ZelSettingsRegistry,
+                                    public ZelSettingsValidators,
+                                    public ZelSettingsCatalogue
+{
+    Q_OBJECT
+    Q_PROPERTY(int controlCenterWidth READ controlCenterWidth WRITE setControlCenterWidth)
+    Q_PROPERTY(int settingsWidth READ settingsWidth WRITE setSettingsWidth)
+
+public:
+    /// Closed, with the built-in action "Settings" in its menu column. The application must not be null.
+    ZelControlCenter(kqDMIApplication* application, QWidget* parent, Qt::WindowFlags flags);
+    ~ZelControlCenter() override;
+
+    /// Releases the images that are compiled into the library, before it is unloaded.
+    static void CleanupRessources();
+
+    /// Adds a page below those already there and loads its values.
+    void registerSettingsPanel(ZelSettingsPanel* panel);
+    /// Takes a page out; it has no parent afterwards. The Apply and Reset buttons follow if reevaluate is
+    /// true.
+    void unregisterSettingsPanel(ZelSettingsPanel* panel, bool reevaluate);
+
+    /// True from the end of the opening slide to the end of the closing one.
+    bool isMenuOpen() const;
+    bool isSettingsOpen() const;
+
+    /// True when any page has pending edits.
+    bool hasModifications() const;
+    /// Applies the pending edits of every page and writes the settings file; true when a restart is needed.
+    bool applyModifications();
+
+    /// The widget outside of which a click never closes the menu. Not owned; null, as at first, for any.
+    void setGUIHandler(QWidget* handler);
+    /// The application's own checkable button that opens the control center. Not owned.
+    void setControlCenterButton(QPushButton* button);
+
+    /// The drawer, for applications that lay it out themselves. Owned by the control center.
+    QScrollArea* settingsWidget() const;
+
+    /// Width of the menu column in pixels; it is visible from 1 on.
+    int controlCenterWidth() const;
+    void setControlCenterWidth(int width);
+
+    /// Width of the drawer in pixels, 0 while it is hidden; it is visible from 1 on.
+    int settingsWidth() const;
+    void setSettingsWidth(int width);
+
+    /// Adds an action to the menu column, before or after the item of the action named anchorName; on top
+    /// when the anchor is empty, at the bottom when no item has it.
+    void registerCCAction(zelAction* action, const QString& anchorName, bool isWorkflowSpecific, bool after,
+                          bool closeMenuOnTrigger);
+    /// Removes every item of an action; an action that has none is ignored.
+    void unregisterCCAction(zelAction* action);
+
+    /// Adds a separator line before an anchor, as registerCCAction() finds it. False when the name is taken.
+    bool addCCSeparator(const QString& anchorName, const QString& separatorName);
+    /// False when there is no separator of that name.
+    bool setCCSeparatorVisible(const QString& separatorName, bool visible);
+
+    /// Tints the menu column (alpha is ignored) and gives the application's button, if one has been set, its
+    /// icons for the checked and the unchecked state.
+    void setInterfaceColor(const QColor& color, const QString& iconOnFile, const QString& iconOffFile);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+public Q_SLOTS:
+    /// Slides the menu column open or closed. Closing discards pending edits; inside the viewer the user is
+    /// asked first and may refuse.
+    void openMenu(bool open);
+    /// Shows the list of pages and opens the drawer, or closes both.
+    void setControlCenterVisible(bool visible);
+    /// Toggles the drawer.
+    void openSettings();
+
+protected Q_SLOTS:
+    void on_applyButton_clicked();
+    void on_resetButton_clicked();
+    void onPanelClicked(const QString& pPanelName);
+    /// Re-evaluates the Apply and Reset buttons.
+    void onStateChanged();
+    void onControlCenterWidthFinished();
+    void onSettingsWidthFinished();
+    void onScrollBarValueChanged(int value);
+    void closeMenu();
+    /// Gives the pages the width that the scroll bar leaves them.
+    void onScrollBarRangeChanged();
+
+protected:
+    void openSettingsPanel(bool open);
+    /// Scrolls the drawer until a page is at its top, as far as it goes.
+    void ensureSettingVisible(QWidget* widget);
+    /// Puts the defaults into every page, as pending edits.
+    void resetControlCenter();
+
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    /// The plug-in that draws the viewer's interface; null outside the full viewer.
+    kqDMGuiPlugin* guiPlugin() const;
+    QPropertyAnimation* createSlide(const char* property, int openWidth, const char* finishedSlot);
+    void createSettingsAction();
+    void initializePanels();
+    /// Drops pending edits, after asking where that is possible; false when the user keeps them.
+    bool discardModifications();
+    bool isClickOutside(QObject* watched, const QPoint& globalPosition) const;
+    /// Index of an anchor's item in the menu column; -1 when there is none.
+    int anchorIndex(const QString& anchorName) const;
+    /// Inserts a widget into the menu column at an index, or at the bottom for a negative one.
+    void insertIntoColumn(int index, QWidget* widget);
+
+    const std::unique_ptr<Ui::ControlCenter> m_ui;
+    std::unique_ptr<zelAction> m_settingsAction;
+    QList<ZelSettingsPanel*> m_panels;
+    QList<ZelCCActionItem*> m_actionItems;
+    QMap<QString, QFrame*> m_separators;
+    QElapsedTimer m_clickTimer;
+    QPointer<QWidget> m_guiHandler;
+    kqDMIApplication* const m_application;
+    QSignalMapper* const m_pageMapper;
+    QPointer<QPushButton> m_controlCenterButton;
+    QButtonGroup* const m_pageGroup;
+    QPointer<QScrollArea> m_drawer;
+    QPropertyAnimation* m_widthAnimation;
+    QPropertyAnimation* m_settingsAnimation;
+    QPropertyAnimation* m_scrollAnimation;
+    bool m_menuOpen;
+    bool m_settingsOpen;
+};
+
+} // namespace zel
+
+#endif

@@ -1,0 +1,61 @@
+#include "ZelSettingsPanel.h"
+
+namespace zel {
+
+ZelSettingsPanel::ZelSettingsPanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
+                                   Qt::WindowFlags flags)
+    : QWidget(parent, flags)
+    , m_application(application)
+    , m_settings(&settings)
+    , m_category(NoCategory)
+    , m_actionWidget(new QPushButton(this))
+{
+    m_actionWidget->setCheckable(true);
+    m_actionWidget->setAutoExclusive(true);
+}
+
+ZelSettingsPanel::~ZelSettingsPanel()
+{
+    // The control center may have taken the button into a layout of its own.
+    delete m_actionWidget;
+}
+
+ZelSettingsPanel::PanelCategory ZelSettingsPanel::getPanelCategory() const
+{
+    return m_category;
+}
+
+void ZelSettingsPanel::setPanelCategory(PanelCategory category)
+{
+    m_category = category;
+}
+
+QPushButton* ZelSettingsPanel::getActionWidget() const
+{
+    return m_actionWidget;
+}
+
+const QString& ZelSettingsPanel::getPanelName() const
+{
+    return m_panelName;
+}
+
+void ZelSettingsPanel::setPanelName(const QString& name)
+{
+    m_panelName = name;
+    m_actionWidget->setText(name);
+}
+
+void ZelSettingsPanel::refreshWidgetContent()
+{
+}
+
+void ZelSettingsPanel::registerCCAction(zelAction*)
+{
+}
+
+void ZelSettingsPanel::unregisterCCActionByName(const QString&)
+{
+}
+
+} // namespace zel

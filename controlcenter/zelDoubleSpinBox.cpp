@@ -1,0 +1,10 @@
+#include "zelDoubleSpinBox.h"
+
+namespace zel {
+
+zelDoubleSpinBox::zelDoubleSpinBox(QWidget* parent)
+    : WheelGuard<QDoubleSpinBox>(parent)
+{
+}
+
+} // namespace zel

@@ -1,0 +1,24 @@
+#ifndef ZEL_ZELDOUBLESPINBOX_H
+#define ZEL_ZELDOUBLESPINBOX_H
+
+#include "WheelGuard.h"
+
+#include "platform/ZelExport.h"
+
+#include <QDoubleSpinBox>
+
+namespace zel {
+
+/// A spin box for floating-point numbers that leaves the mouse wheel to the page around it until it has the
+/// focus.
+class ZEL_EXPORT zelDoubleSpinBox : public WheelGuard<QDoubleSpinBox>
+{
+    Q_OBJECT
+
+public:
+    explicit zelDoubleSpinBox(QWidget* parent = nullptr);
+};
+
+} // namespace zel
+
+#endif

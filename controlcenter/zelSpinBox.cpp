@@ -1,0 +1,10 @@
+#include "zelSpinBox.h"
+
+namespace zel {
+
+zelSpinBox::zelSpinBox(QWidget* parent)
+    : WheelGuard<QSpinBox>(parent)
+{
+}
+
+} // namespace zel

@@ -1,0 +1,98 @@
+#ifndef ZEL_ZELRENDERERSETTINGSPANEL_H
+#define ZEL_ZELRENDERERSETTINGSPANEL_H
+
+#include "ZelEditablePanel.h"
+
+#include "platform/ZelExport.h"
+
+#include <memory>
+
+namespace Ui {
+class ZelRendererSettingsPanel;
+}
+
+namespace zel {
+
+/// What the Display page edits. The engine decides which of the other values count.
+struct EngineModel
+{
+    quint64 maxCPUMemory3D = 0;        ///< Bytes, used by the deferred renderer.
+    quint64 maxCPUMemoryRaytracer = 0; ///< Bytes.
+    quint64 maxGPUMemory = 0;          ///< Bytes, used by the deferred renderer.
+    quint64 trianglesCap = 0;          ///< Triangles of one frame.
+    int coreNumber = 0;                ///< Processor cores of the raytracer.
+    int quality = 0;                   ///< Of the raytracer: index into the kernel's list of names.
+    int sceneUnitIndex = 0;            ///< From 0, the kilometre, to 6, the millimetre.
+    bool useSoftware = false;          ///< True for the raytracer, false for the deferred renderer.
+    bool useSSAO = false;
+    bool useFXAA = false;
+    bool useED = false; ///< Edge detection.
+};
+
+/// True when both say the same to the engine that they choose: values of the other engine do not count, nor
+/// does the scene unit without SSAO.
+ZEL_EXPORT bool operator==(const EngineModel& left, const EngineModel& right);
+
+/// The page "Display": the rendering engine, its effects or its quality, and what it may use of the machine.
+/// Only what concerns the chosen engine is shown. A new engine needs a restart, and so do the raytracer's
+/// quality and cores, unless the running application was started with the very value; the cap of triangles
+/// takes effect with Apply.
+class ZEL_EXPORT ZelRendererSettingsPanel : public ZelEditablePanel<EngineModel>
+{
+    Q_OBJECT
+
+public:
+    ZelRendererSettingsPanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
+                             Qt::WindowFlags flags);
+    ~ZelRendererSettingsPanel() override;
+
+    /// Index of the unit of which this many make one metre, within 0.001; the metre's when there is none.
+    static int GetSceneUnitComboIndex(float factor);
+
+Q_SIGNALS:
+    void stateChanged();
+
+protected Q_SLOTS:
+    void on_resetButton_clicked();
+    void on_maxTrianglesSpinBox_valueChanged(int triangles);
+    void on_maxGPUSPinBox_valueChanged(int mebibytes);
+    void on_maxCPURaySpinBox_valueChanged(int mebibytes);
+    void on_maxCPU3DSpinBox_valueChanged(int mebibytes);
+    void on_sceneUnitComboBox_currentIndexChanged(int index);
+    void on_deferredEDCheckBox_stateChanged(int state);
+    void on_deferredFXAACheckBox_stateChanged(int state);
+    void on_deferredSSAOCheckBox_stateChanged(int state);
+    void on_coreUsedSlider_valueChanged(int cores);
+    void on_qualitySlider_valueChanged(int quality);
+    void on_deferredButton_toggled(bool checked);
+    void on_raytracerButton_toggled(bool checked);
+
+protected:
+    void getCurrentModel(EngineModel& model) const override;
+    void applyModel(const EngineModel& model) override;
+    void pushToApplication() override;
+    bool shouldRestart() const override;
+    void notifyStateChanged() override;
+
+private:
+    /// True when the raytracer is chosen, with a quality or a number of cores that it takes up only after a
+    /// restart.
+    bool hasRaytracerRebootChanged() const;
+
+    /// Shows what concerns the deferred renderer (true) or the raytracer (false).
+    void forceGPUMode(bool gpu);
+    void setNbCoresTxt(int cores);
+    void setRaytracerQuality(int quality);
+    void setTriangleCap(quint64 triangles);
+
+    const std::unique_ptr<Ui::ZelRendererSettingsPanel> m_ui;
+
+    // What the running application was started with.
+    const int m_startQuality;
+    const int m_startCoreNumber;
+    const bool m_startGPUMode;
+};
+
+} // namespace zel
+
+#endif

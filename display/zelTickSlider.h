@@ -1,0 +1,27 @@
+#ifndef ZEL_ZELTICKSLIDER_H
+#define ZEL_ZELTICKSLIDER_H
+
+#include <QSlider>
+
+namespace zel {
+
+/// A horizontal slider whose tick marks stay visible below it under a style sheet: the toolkit leaves them
+/// out as soon as a sheet draws the handle. They have the sheet's text colour.
+class zelTickSlider : public QSlider
+{
+    Q_OBJECT
+
+public:
+    explicit zelTickSlider(QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    /// Where the handle is when the slider has a value.
+    QRect handleRect(int value) const;
+};
+
+} // namespace zel
+
+#endif

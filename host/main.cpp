@@ -1,0 +1,14 @@
+#include "launch.h"
+
+#include "platform/ApplicationRoot.h"
+
+#include <cstdio>
+
+int main(int argc, char** argv)
+{
+    if (!zel::enterApplicationRoot()) {
+        std::fputs("torvane-settings: cannot enter the folder of the application\n", stderr);
+        return 2;
+    }
+    return launch(argc, argv);
+}

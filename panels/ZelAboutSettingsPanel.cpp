@@ -1,0 +1,115 @@
+#include "ZelAboutSettingsPanel.h"
+
+#include "ui_ZelAboutSettingsPanel.h"
+
+#include "platform/kqDMIApplication.h"
+#include "platform/kqDMPlugin.h"
+
+#include <QCoreApplication>
+#include <QHeaderView>
+#include <QTableWidget>
+#include <QUrl>
+
+#include <vector>
+
+namespace zel {
+
+namespace {
+
+const struct
+{
+    const char* name;
+    const char* purpose;
+    const char* address;
+} Components[] = {
+    {"Qt", QT_TRANSLATE_NOOP("ZelAboutSettingsPanel", "application toolkit"), "https://www.qt.io"},
+    {"Qt Solutions, QtSingleApplication",
+     QT_TRANSLATE_NOOP("ZelAboutSettingsPanel", "single running instance"),
+     "https://github.com/qtproject/qt-solutions"},
+    {"Open Sans", QT_TRANSLATE_NOOP("ZelAboutSettingsPanel", "fonts"),
+     "https://fonts.google.com/specimen/Open+Sans"},
+};
+
+// The versions get what the names leave over, in pixels.
+const int PluginNameWidth = 260;
+
+QString componentsText()
+{
+    QString text;
+    for (const auto& component : Components)
+        text += QString("<p style=\"margin:3px 0px;\"><a style=\"color:white;\" href=\"%1\">%2</a>, %3</p>")
+                    .arg(component.address, component.name,
+                         QCoreApplication::translate("ZelAboutSettingsPanel", component.purpose));
+    return text;
+}
+
+QTableWidgetItem* newItem(const QString& text)
+{
+    auto* item = new QTableWidgetItem(text);
+    item->setToolTip(text);
+    return item;
+}
+
+// The table takes no keys, so it must not need to be scrolled; the drawer around the page does that.
+void showAllRows(QTableWidget& table)
+{
+    table.ensurePolished();
+    table.setColumnWidth(0, PluginNameWidth);
+    table.resizeRowsToContents();
+    table.setFixedHeight(table.horizontalHeader()->sizeHint().height() + table.verticalHeader()->length() +
+                         2 * table.frameWidth());
+}
+
+} // namespace
+
+ZelAboutSettingsPanel::ZelAboutSettingsPanel(kqDMIApplication* application, QSettings& settings,
+                                             QWidget* parent, Qt::WindowFlags flags)
+    : ZelSettingsPanel(application, settings, parent, flags)
+    , m_ui(new Ui::ZelAboutSettingsPanel)
+    , m_initialized(false)
+{
+    m_ui->setupUi(this);
+    m_ui->noticeLabel->setText(m_ui->noticeLabel->text().arg("2024", 0, QChar(' ')));
+    setStyleSheet(kqDMIApplication::GetStylesheet("ZelAboutSettingsPanel"));
+    m_ui->platform->setText("X64");
+    m_ui->libUseLabel_2->setText(componentsText());
+    connect(m_ui->libUseLabel_2, SIGNAL(linkActivated(const QString&)), this,
+            SLOT(onLinkActivated(const QString&)));
+    setPanelName(QCoreApplication::translate("ZelAboutSettingsPanel", "About"));
+    setPanelCategory(ApplicationCategory);
+}
+
+ZelAboutSettingsPanel::~ZelAboutSettingsPanel() = default;
+
+void ZelAboutSettingsPanel::initializeWidget()
+{
+    if (m_initialized)
+        return;
+    m_ui->applicationVersion->setText(kqDMIApplication::GetKernelVersion());
+    fillPlugins();
+    m_initialized = true;
+}
+
+void ZelAboutSettingsPanel::onLinkActivated(const QString& link)
+{
+    kqDMIApplication::OpenUrl(QUrl(link));
+}
+
+void ZelAboutSettingsPanel::fillPlugins()
+{
+    std::vector<kqDMPlugin*> plugins;
+    if (application()) {
+        plugins = application()->getPluginsList();
+        m_ui->tableWidget->setRowCount(static_cast<int>(plugins.size()));
+    }
+    int row = 0;
+    for (const kqDMPlugin* plugin : plugins) {
+        m_ui->tableWidget->setItem(row, 0, newItem(plugin->getName()));
+        m_ui->tableWidget->setItem(row, 1, newItem("v. " + plugin->getVersion()));
+        ++row;
+    }
+    m_ui->pluginsFrame->setVisible(!plugins.empty());
+    showAllRows(*m_ui->tableWidget);
+}
+
+} // namespace zel

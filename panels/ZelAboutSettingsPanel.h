@@ -1,0 +1,52 @@
+#ifndef ZEL_ZELABOUTSETTINGSPANEL_H
+#define ZEL_ZELABOUTSETTINGSPANEL_H
+
+#include "ZelSettingsPanel.h"
+
+#include "platform/ZelExport.h"
+
+#include <memory>
+
+namespace Ui {
+class ZelAboutSettingsPanel;
+}
+
+namespace zel {
+
+/// The page "About": the version, the loaded plug-ins and the components that the product is made with. There
+/// is nothing on it to edit.
+class ZEL_EXPORT ZelAboutSettingsPanel : public ZelSettingsPanel
+{
+    Q_OBJECT
+
+public:
+    ZelAboutSettingsPanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
+                          Qt::WindowFlags flags);
+    ~ZelAboutSettingsPanel() override;
+
+    /// Fills the page the first time; plug-ins that are loaded later are not shown.
+    void initializeWidget() override;
+    bool hasModifications() const override { return false; }
+    bool applyModifications() override { return false; }
+    bool canResetContent() const override { return false; }
+    void resetContent() override {}
+    bool cancelModifications() override { return false; }
+    virtual void saveSettings() {}
+
+Q_SIGNALS:
+    /// Never emitted.
+    void stateChanged();
+
+protected Q_SLOTS:
+    void onLinkActivated(const QString& link);
+
+private:
+    void fillPlugins();
+
+    const std::unique_ptr<Ui::ZelAboutSettingsPanel> m_ui;
+    bool m_initialized;
+};
+
+} // namespace zel
+
+#endif

@@ -1,0 +1,190 @@
+#include "ZelSimplificationSettingsPanel.h"
+
+#include "ui_ZelSimplificationSettingsPanel.h"
+
+#include "NumberText.h"
+#include "SettingsKeys.h"
+#include "SignalBlock.h"
+
+#include "platform/ZelQtCompat.h"
+#include "platform/kqDMIApplication.h"
+#include "platform/kqDMManager.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+namespace zel {
+
+namespace {
+
+typedef std::vector<float> Ratios;
+
+const int FirstEditableLevel = 2;
+const int LastLevel = 5;
+const char* const Separator = "/";
+
+Ratios parseRatios(const QString& text)
+{
+    Ratios ratios;
+    for (const QString& part : text.split(Separator, SkipEmptyParts)) {
+        float ratio = 0;
+        ratios.push_back(parseFloat(part, ratio) ? ratio : 0);
+    }
+    return ratios;
+}
+
+Ratios defaultRatios(const QString& text)
+{
+    Ratios ratios = parseRatios(text);
+    if (ratios.size() > LastLevel)
+        ratios.resize(LastLevel);
+    return ratios;
+}
+
+bool isWellFormed(const Ratios& ratios)
+{
+    return ratios.size() == LastLevel;
+}
+
+bool isMalformed(const QVariant& stored)
+{
+    return stored.isValid() && !isWellFormed(parseRatios(stored.toString()));
+}
+
+Ratios storedRatios(const QVariant& stored)
+{
+    const Ratios ratios = parseRatios(stored.toString());
+    if (isWellFormed(ratios))
+        return ratios;
+    return defaultRatios(ZelSettingsRegistry::GetDefaultSettingsValue(keys::SimplificationRatios));
+}
+
+QVariant ratiosToStore(const Ratios& ratios)
+{
+    QStringList parts;
+    for (float ratio : ratios)
+        parts << numberText(ratio);
+    return parts.join(Separator);
+}
+
+ZelEditablePanel<SimplificationModel>::Fields simplificationFields()
+{
+    return {{keys::SimplificationRatios,
+             &SimplificationModel::ratios,
+             {storedRatios, defaultRatios, ratiosToStore}}};
+}
+
+} // namespace
+
+bool operator==(const SimplificationModel& left, const SimplificationModel& right)
+{
+    return left.ratios == right.ratios;
+}
+
+ZelSimplificationSettingsPanel::ZelSimplificationSettingsPanel(kqDMIApplication* application,
+                                                               QSettings& settings, QWidget* parent,
+                                                               Qt::WindowFlags flags)
+    : ZelEditablePanel<SimplificationModel>(application, settings, parent, flags, simplificationFields())
+    , m_ui(new Ui::ZelSimplificationSettingsPanel)
+    , m_editing(false)
+{
+    m_ui->setupUi(this);
+    m_percentages = {m_ui->ratio1, m_ui->ratio2, m_ui->ratio3, m_ui->ratio4, m_ui->ratio5};
+    setStyleSheet(kqDMIApplication::GetStylesheet("ZelSimplificationSettingsPanel"));
+    setPanelName(QCoreApplication::translate("ZelSimplificationSettingsPanel", "Simplification"));
+    setPanelCategory(ProjectCategory);
+}
+
+ZelSimplificationSettingsPanel::~ZelSimplificationSettingsPanel() = default;
+
+void ZelSimplificationSettingsPanel::on_resetButton_clicked()
+{
+    resetContent();
+}
+
+void ZelSimplificationSettingsPanel::on_ratio2_editingFinished()
+{
+    finishEditing(2);
+}
+
+void ZelSimplificationSettingsPanel::on_ratio3_editingFinished()
+{
+    finishEditing(3);
+}
+
+void ZelSimplificationSettingsPanel::on_ratio4_editingFinished()
+{
+    finishEditing(4);
+}
+
+void ZelSimplificationSettingsPanel::on_ratio5_editingFinished()
+{
+    finishEditing(5);
+}
+
+bool ZelSimplificationSettingsPanel::hasModifications() const
+{
+    // What the page cannot show is replaced by the next apply.
+    return isMalformed(settings().value(keys::SimplificationRatios)) ||
+           ZelEditablePanel<SimplificationModel>::hasModifications();
+}
+
+void ZelSimplificationSettingsPanel::getCurrentModel(SimplificationModel& model) const
+{
+    model.ratios.clear();
+    for (const zelDoubleSpinBox* box : m_percentages)
+        model.ratios.push_back(float(box->value()) / 100);
+}
+
+void ZelSimplificationSettingsPanel::applyModel(const SimplificationModel& model)
+{
+    if (!isWellFormed(model.ratios))
+        return;
+    for (int level = FirstEditableLevel; level <= LastLevel; ++level) {
+        const SignalBlock block{percentage(level)};
+        // Single precision decides how a half is rounded: 0.755 is shown as 76, not as 75.
+        percentage(level)->setValue(model.ratios[level - 1] * 100);
+    }
+}
+
+void ZelSimplificationSettingsPanel::pushToApplication()
+{
+    setRatios();
+}
+
+void ZelSimplificationSettingsPanel::notifyStateChanged()
+{
+    emit stateChanged();
+}
+
+void ZelSimplificationSettingsPanel::setRatios()
+{
+    kqDMManager* manager = application() ? application()->getDMManager() : nullptr;
+    if (!manager)
+        return;
+    SimplificationModel current;
+    getCurrentModel(current);
+    manager->setSimplificationRatios(current.ratios);
+}
+
+void ZelSimplificationSettingsPanel::saveRatios()
+{
+    saveSettingsInternal();
+}
+
+void ZelSimplificationSettingsPanel::finishEditing(int level)
+{
+    const bool nested = m_editing;
+    m_editing = true;
+    const double edited = percentage(level)->value();
+    if (level < LastLevel && percentage(level + 1)->value() > edited)
+        percentage(level + 1)->setValue(edited);
+    if (level > FirstEditableLevel && percentage(level - 1)->value() < edited)
+        percentage(level - 1)->setValue(edited);
+    if (nested)
+        return;
+    m_editing = false;
+    onEdited();
+}
+
+} // namespace zel

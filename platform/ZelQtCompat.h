@@ -1,0 +1,63 @@
+#ifndef ZEL_ZELQTCOMPAT_H
+#define ZEL_ZELQTCOMPAT_H
+
+// The few differences between the toolkit's versions 4.8 and 5 that product code meets, and nothing else.
+
+#include <QCoreApplication>
+#include <QString>
+#include <QTextCodec>
+#include <QtGlobal>
+
+namespace zel {
+
+/// What QString::split takes to drop empty parts.
+#if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
+const Qt::SplitBehavior SkipEmptyParts = Qt::SkipEmptyParts;
+#else
+const QString::SplitBehavior SkipEmptyParts = QString::SkipEmptyParts;
+#endif
+
+/// Hands every message of the toolkit, whatever its type, to the sink.
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+template <void (*Sink)(const QString& text)>
+void installToolkitMessageSink()
+{
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) { Sink(text); });
+}
+#else
+template <void (*Sink)(const QString& text)>
+void forwardToolkitMessage(QtMsgType, const char* text)
+{
+    Sink(QString::fromLocal8Bit(text));
+}
+
+template <void (*Sink)(const QString& text)>
+void installToolkitMessageSink()
+{
+    qInstallMsgHandler(&forwardToolkitMessage<Sink>);
+}
+#endif
+
+/// Lets the interface follow the screen's scale where the toolkit can. To be called before the application
+/// object exists.
+inline void followScreenScale()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 6, 0)
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
+}
+
+/// Reads and writes file names and arguments as UTF-8, also where the process has no locale: under the "C"
+/// locale the toolkit would replace every other character by a question mark. Windows passes names in
+/// Unicode.
+inline void useUtf8FileNames()
+{
+#if !defined(Q_OS_WIN)
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+#endif
+}
+
+} // namespace zel
+
+#endif

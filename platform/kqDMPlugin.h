@@ -1,0 +1,20 @@
+#ifndef ZEL_KQDMPLUGIN_H
+#define ZEL_KQDMPLUGIN_H
+
+#include "ZelExport.h"
+
+#include <QString>
+
+/// A plug-in that the viewer has loaded. Owned by the application.
+class ZEL_KERNEL_EXPORT kqDMPlugin
+{
+public:
+    virtual ~kqDMPlugin();
+
+    /// Name of the plug-in, as it is shown to users.
+    virtual QString getName() const = 0;
+    /// Version of the plug-in, as it is shown to users; may be empty.
+    virtual QString getVersion() const = 0;
+};
+
+#endif

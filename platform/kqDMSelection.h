@@ -1,0 +1,26 @@
+#ifndef ZEL_KQDMSELECTION_H
+#define ZEL_KQDMSELECTION_H
+
+#include "ZelExport.h"
+#include "kqDMIApplication.h"
+
+#include <QObject>
+
+#include <vector>
+
+/// The components that the user has selected in the scene.
+class ZEL_KERNEL_GUI_EXPORT kqDMSelection : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit kqDMSelection(QObject* parent = nullptr);
+    ~kqDMSelection() override;
+
+    bool isEmpty() const;
+
+private:
+    std::vector<kqDMComponentId> m_components;
+};
+
+#endif

@@ -1,0 +1,52 @@
+#ifndef ZEL_QTSINGLEAPPLICATION_H
+#define ZEL_QTSINGLEAPPLICATION_H
+
+#include <QApplication>
+#include <QPointer>
+#include <QString>
+
+#include <memory>
+
+class LocalPeer;
+
+/// The application object of a program that runs once per user: the first process is the instance, later ones
+/// send it a message and end. A genuine single-instance library of the same interface can take its place.
+class QtSingleApplication : public QApplication
+{
+    Q_OBJECT
+
+public:
+    /// The id is derived from the executable's path.
+    QtSingleApplication(int& argc, char** argv, bool guiEnabled = true);
+    /// Processes with the same id are instances of one program.
+    QtSingleApplication(const QString& id, int& argc, char** argv);
+    ~QtSingleApplication() override;
+
+    /// True when another process is the instance; otherwise this one becomes it, if it is not already.
+    bool isRunning();
+    QString id() const;
+
+    /// The window that activateWindow() raises, and whether each arriving message does so too. Not owned.
+    void setActivationWindow(QWidget* window, bool activateOnMessage = true);
+    QWidget* activationWindow() const;
+
+public Q_SLOTS:
+    /// Sends a message to the instance. False when this process is the instance itself, when the message is too
+    /// long, or when it was not taken within the time-out, in milliseconds.
+    bool sendMessage(const QString& message, int timeout = 5000);
+
+    /// Restores, raises and focuses the activation window, if there is one.
+    void activateWindow();
+
+Q_SIGNALS:
+    /// Another process has sent a message to this instance.
+    void messageReceived(const QString& message);
+
+private:
+    void connectPeer(const QString& id);
+
+    std::unique_ptr<LocalPeer> m_peer;
+    QPointer<QWidget> m_activationWindow;
+};
+
+#endif

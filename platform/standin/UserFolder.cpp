@@ -1,0 +1,81 @@
+#include "platform/standin/UserFolder.h"
+
+#include <cstdlib>
+
+#if defined(_WIN32)
+#    include <QString>
+
+#    include <shlobj.h>
+#    include <windows.h>
+#else
+#    include <cstdlib>
+#    include <pwd.h>
+#    include <unistd.h>
+#endif
+
+namespace {
+
+std::string withoutSlashAtEnd(std::string path)
+{
+    while (!path.empty() && (path.back() == '/' || path.back() == '\\'))
+        path.pop_back();
+    return path;
+}
+
+#if defined(_WIN32)
+
+std::string utf8(const wchar_t* text)
+{
+    return QString::fromWCharArray(text).toUtf8().constData();
+}
+
+std::string folderUtf8(const wchar_t* variable, int systemFolder)
+{
+    const wchar_t* value = _wgetenv(variable);
+    if (value && *value)
+        return utf8(value);
+    wchar_t path[MAX_PATH] = L"";
+    SHGetFolderPathW(nullptr, systemFolder, nullptr, SHGFP_TYPE_CURRENT, path);
+    return utf8(path);
+}
+
+#else
+
+/// Empty unless the variable holds an absolute path: any other would follow the working folder about.
+std::string absolutePathFrom(const char* variable)
+{
+    const char* value = std::getenv(variable);
+    return value && *value == '/' ? value : "";
+}
+
+std::string homeFolder()
+{
+    const std::string home = absolutePathFrom("HOME");
+    if (!home.empty())
+        return home;
+    const passwd* account = ::getpwuid(::geteuid());
+    return account && account->pw_dir ? account->pw_dir : "";
+}
+
+std::string folderUtf8(const char* variable, const char* belowHome)
+{
+    const std::string path = absolutePathFrom(variable);
+    return path.empty() ? withoutSlashAtEnd(homeFolder()) + belowHome : path;
+}
+
+#endif
+
+} // namespace
+
+std::string userFolderUtf8(UserFolder folder)
+{
+    const bool settings = folder == UserFolder::Settings;
+#if defined(_WIN32)
+    const std::string path = settings ? folderUtf8(L"APPDATA", CSIDL_APPDATA)
+                                      : folderUtf8(L"LOCALAPPDATA", CSIDL_LOCAL_APPDATA) + "/Temp";
+#else
+    const std::string path =
+        settings ? folderUtf8("XDG_CONFIG_HOME", "/.config") : folderUtf8("XDG_CACHE_HOME", "/.cache");
+#endif
+    return withoutSlashAtEnd(path);
+}

@@ -1,0 +1,3 @@
+#include "platform/kqDMPlugin.h"
+
+kqDMPlugin::~kqDMPlugin() = default;

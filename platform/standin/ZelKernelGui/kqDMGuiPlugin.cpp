@@ -1,0 +1,3 @@
+#include "platform/kqDMGuiPlugin.h"
+
+kqDMGuiPlugin::~kqDMGuiPlugin() = default;

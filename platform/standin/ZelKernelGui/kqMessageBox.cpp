@@ -1,0 +1,35 @@
+#include "platform/kqMessageBox.h"
+
+#include <QAbstractButton>
+#include <QPointer>
+
+namespace {
+
+QMessageBox::Icon icon(const QMessageBox& box, bool critical)
+{
+    if (critical)
+        return QMessageBox::Critical;
+    return box.buttons().size() > 1 ? QMessageBox::Question : QMessageBox::Information;
+}
+
+} // namespace
+
+QMessageBox::StandardButton
+kqMessageBox::ShowMessage(const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
+                          QWidget* parent, Qt::WindowFlags flags,
+                          const QMap<QMessageBox::StandardButton, QString>& buttonTexts, bool critical)
+{
+    // Guarded, because a parent that goes away meanwhile takes the box along.
+    const QPointer<QMessageBox> box(new QMessageBox(QMessageBox::NoIcon, title, text, buttons, parent,
+                                                    flags | Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint));
+    box->setIcon(icon(*box, critical));
+    box->setTextFormat(Qt::PlainText);
+    for (auto text = buttonTexts.begin(); text != buttonTexts.end(); ++text) {
+        if (QAbstractButton* button = box->button(text.key()))
+            button->setText(text.value());
+    }
+    const int answer = box->exec();
+    delete box;
+    return answer == QMessageBox::NoButton ? QMessageBox::Cancel
+                                           : static_cast<QMessageBox::StandardButton>(answer);
+}

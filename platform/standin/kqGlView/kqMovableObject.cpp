@@ -1,0 +1,112 @@
+#include "platform/kqMovableObject.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMouseEvent>
+
+kqMovableObject::kqMovableObject(QObject* parent)
+    : QObject(parent)
+    , m_dragging(false)
+    , m_expandOnDoubleClick(false)
+{
+}
+
+kqMovableObject::~kqMovableObject() = default;
+
+void kqMovableObject::setExpandOnDlbClick(bool expand)
+{
+    m_expandOnDoubleClick = expand;
+}
+
+void kqMovableObject::setAnchorObject(QObject* anchor, QWidget* target)
+{
+    if (m_anchor)
+        m_anchor->removeEventFilter(this);
+    m_anchor = anchor;
+    m_target = target;
+    m_dragging = false;
+    if (m_anchor)
+        m_anchor->installEventFilter(this);
+}
+
+bool kqMovableObject::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_anchor && m_target) {
+        switch (event->type()) {
+        case QEvent::MouseButtonPress:
+            return press(*static_cast<QMouseEvent*>(event));
+        case QEvent::MouseButtonDblClick:
+            return expand(*static_cast<QMouseEvent*>(event));
+        case QEvent::MouseMove:
+            return drag(*static_cast<QMouseEvent*>(event));
+        case QEvent::MouseButtonRelease:
+            m_dragging = m_dragging && static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton;
+            break;
+        default:
+            break;
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+bool kqMovableObject::press(const QMouseEvent& event)
+{
+    m_dragging = isHandle(event);
+    if (!m_dragging)
+        return false;
+    m_pressed = event.globalPos();
+    m_grip = m_pressed - m_target->pos();
+    return true;
+}
+
+bool kqMovableObject::expand(const QMouseEvent& event)
+{
+    if (!m_expandOnDoubleClick)
+        return press(event);
+    if (!isHandle(event))
+        return false;
+    m_dragging = false;
+    if (m_target->isMaximized())
+        m_target->showNormal();
+    else
+        m_target->showMaximized();
+    return true;
+}
+
+bool kqMovableObject::drag(const QMouseEvent& event)
+{
+    // The release goes elsewhere when another window takes the mouse meanwhile.
+    m_dragging = m_dragging && (event.buttons() & Qt::LeftButton);
+    if (!m_dragging)
+        return false;
+    if (m_target->isMaximized()) {
+        // A click of an unsteady hand is no drag.
+        if ((event.globalPos() - m_pressed).manhattanLength() < QApplication::startDragDistance())
+            return true;
+        restoreUnderGrip();
+    }
+    m_target->move(event.globalPos() - m_grip);
+    return true;
+}
+
+bool kqMovableObject::isHandle(const QMouseEvent& event) const
+{
+    if (event.button() != Qt::LeftButton)
+        return false;
+    // An enabled button keeps its clicks to itself, a disabled one lets them through.
+    const QWidget* anchor = qobject_cast<QWidget*>(m_anchor);
+    const QWidget* widget = anchor ? anchor->childAt(event.pos()) : nullptr;
+    while (widget && widget != anchor && !qobject_cast<const QAbstractButton*>(widget))
+        widget = widget->parentWidget();
+    return !widget || widget == anchor;
+}
+
+void kqMovableObject::restoreUnderGrip()
+{
+    const QSize maximized = m_target->size();
+    const QSize restored = m_target->normalGeometry().size();
+    m_target->showNormal();
+    // A window manager restores the size later than this; until then the window would keep the size it has.
+    m_target->resize(restored);
+    m_grip.setX(m_grip.x() * restored.width() / qMax(1, maximized.width()));
+}

@@ -1,0 +1,30 @@
+#ifndef ZEL_ZELACTIONMANAGER_H
+#define ZEL_ZELACTIONMANAGER_H
+
+#include "ZelExport.h"
+
+#include <QMap>
+#include <QObject>
+#include <QString>
+
+class zelAction;
+
+/// The application's actions by name. Owns the actions that were created with it.
+class ZEL_KERNEL_GUI_EXPORT zelActionManager : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit zelActionManager(QObject* parent = nullptr);
+    ~zelActionManager() override;
+
+    /// The action of that name; null when there is none.
+    zelAction* getActionByName(const QString& name) const;
+
+private:
+    friend class zelAction;
+
+    QMap<QString, zelAction*> m_actions;
+};
+
+#endif

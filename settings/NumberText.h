@@ -1,0 +1,16 @@
+#ifndef ZEL_NUMBERTEXT_H
+#define ZEL_NUMBERTEXT_H
+
+#include <QString>
+
+namespace zel {
+
+/// Reads a single-precision number. False for surrounding text and for "nan", which no setting can mean.
+bool parseFloat(const QString& text, float& number);
+
+/// Writes a number in general notation with six significant digits.
+QString numberText(double number);
+
+} // namespace zel
+
+#endif

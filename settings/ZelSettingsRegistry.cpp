@@ -1,0 +1,71 @@
+#include "ZelSettingsRegistry.h"
+
+#include <QSettings>
+#include <QVariant>
+
+#include <algorithm>
+#include <vector>
+
+namespace zel {
+
+namespace {
+
+ZelSettingsRegistry::Settings& registry()
+{
+    static ZelSettingsRegistry::Settings settings;
+    return settings;
+}
+
+std::vector<ZelSettingsRegistry::EndCheck>& endChecks()
+{
+    static std::vector<ZelSettingsRegistry::EndCheck> checks;
+    return checks;
+}
+
+} // namespace
+
+bool ZelSettingsRegistry::RegisterSetting(const QString& key, const QString& defaultValue,
+                                          Validator validator)
+{
+    return registry().emplace(key, std::make_pair(defaultValue, validator)).second;
+}
+
+QString ZelSettingsRegistry::GetDefaultSettingsValue(const QString& key)
+{
+    const auto found = registry().find(key);
+    return found == registry().end() ? QString() : found->second.first;
+}
+
+const ZelSettingsRegistry::Settings& ZelSettingsRegistry::GetDefaultSettingsValues()
+{
+    return registry();
+}
+
+void ZelSettingsRegistry::ClearSettingsValues()
+{
+    registry().clear();
+}
+
+bool ZelSettingsRegistry::RegisterEndCheckFunction(EndCheck check)
+{
+    if (std::find(endChecks().begin(), endChecks().end(), check) != endChecks().end())
+        return false;
+    endChecks().push_back(check);
+    return true;
+}
+
+bool ZelSettingsRegistry::EnsureSettings(QSettings& settings, QString& error)
+{
+    for (const auto& [key, rule] : registry()) {
+        const auto& [defaultValue, validator] = rule;
+        QString value = settings.value(key, QVariant(defaultValue)).toString();
+        if (!validator(key, defaultValue, value, error))
+            return false;
+        settings.setValue(key, QVariant(value));
+    }
+    settings.sync();
+    return std::all_of(endChecks().begin(), endChecks().end(),
+                       [&](EndCheck check) { return check(settings, error); });
+}
+
+} // namespace zel

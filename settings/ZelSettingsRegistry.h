@@ -1,0 +1,56 @@
+#ifndef ZEL_ZELSETTINGSREGISTRY_H
+#define ZEL_ZELSETTINGSREGISTRY_H
+
+#include "platform/ZelExport.h"
+
+#include <QString>
+
+#include <map>
+#include <utility>
+
+class QSettings;
+
+namespace zel {
+
+/// The keys that Settings.ini must hold, each with its default text and the validator that repairs its value,
+/// and the pass that brings a file into that form. One registry per process: filled at start-up, before any
+/// page exists, and read-only from then on. GUI thread only.
+class ZEL_EXPORT ZelSettingsRegistry
+{
+public:
+    /// Checks one value and may rewrite it in place; what it leaves there is written back. False stops the
+    /// pass: only then does the validator set the error text.
+    typedef bool (*Validator)(const QString& key, const QString& defaultValue, QString& value,
+                              QString& error);
+
+    /// Checks the settings as a whole, after every value has been repaired. Sets the error text when it
+    /// fails.
+    typedef bool (*EndCheck)(QSettings& settings, QString& error);
+
+    typedef std::map<QString, std::pair<QString, Validator>> Settings;
+
+    /// Adds a key. The first registration of a key wins: false, and no change, for a key that is there
+    /// already.
+    static bool RegisterSetting(const QString& key, const QString& defaultValue, Validator validator);
+
+    /// The registered default of a key; a null text for a key that nobody registered.
+    static QString GetDefaultSettingsValue(const QString& key);
+
+    /// Every registered key with its default and validator, in key order.
+    static const Settings& GetDefaultSettingsValues();
+
+    /// Forgets every key; end checks stay.
+    static void ClearSettingsValues();
+
+    /// Adds an end check behind those already there; false, and no change, if it is one of them.
+    static bool RegisterEndCheckFunction(EndCheck check);
+
+    /// Repairs and completes the settings: every registered key holds a valid value afterwards, written to
+    /// the file. False when a validator or an end check gave up; the error text is then theirs. A validator
+    /// that gives up leaves the keys after its own, and the file, untouched.
+    static bool EnsureSettings(QSettings& settings, QString& error);
+};
+
+} // namespace zel
+
+#endif

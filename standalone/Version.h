@@ -1,0 +1,29 @@
+#ifndef ZEL_VERSION_H
+#define ZEL_VERSION_H
+
+#include "platform/ZelExport.h"
+
+#include <QtGlobal>
+
+namespace ZelControlCenter {
+
+/// The version of this library. The texts are static; nobody frees them.
+struct ZEL_EXPORT Version
+{
+    static quint32 GetMajor();
+    static quint32 GetMinor();
+    static quint32 GetRelease();
+    static quint32 GetRevision();
+    static quint16 GetYear();
+    static quint8 GetMonth();
+
+    /// The argument chooses between the internal and the public form of a text; this version has them alike.
+    static const char* GetDescStringMajorMinor(bool internal);
+    static const char* GetDescStringMajorMinorRelease(bool internal);
+    static const char* GetDescStringMajorMinorReleaseRevision(bool internal);
+    static const char* GetDescStringMajorMinorReleaseRevisionDate();
+};
+
+} // namespace ZelControlCenter
+
+#endif

@@ -1,0 +1,111 @@
+#include "ZelControlCenterStandAloneWidget.h"
+
+#include "ui_ControlCenterStandAlone.h"
+
+#include "ZelAboutSettingsPanel.h"
+#include "ZelControlCenter.h"
+#include "ZelGeneralSettingsPanel.h"
+#include "ZelImportSettingsPanel.h"
+#include "ZelRendererSettingsPanel.h"
+#include "ZelSimplificationSettingsPanel.h"
+
+#include "platform/kqDMIApplication.h"
+#include "platform/kqMovableObject.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QMessageBox>
+
+namespace zel {
+
+namespace {
+
+template <class Panel>
+std::unique_ptr<ZelSettingsPanel> createPanel(kqDMIApplication* application)
+{
+    return std::make_unique<Panel>(application, application->getSettings(), nullptr, Qt::WindowFlags());
+}
+
+} // namespace
+
+ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplication* application,
+                                                                   QWidget* parent, Qt::WindowFlags flags)
+    : QWidget(parent, flags)
+    , m_ui(new Ui::ControlCenterStandAlone)
+{
+    m_ui->setupUi(this);
+
+    m_movable.reset(new kqMovableObject(this));
+    m_movable->setExpandOnDlbClick(true);
+    m_movable->setAnchorObject(m_ui->headerFrame, this);
+
+    m_controlCenter.reset(new ZelControlCenter(application, nullptr, Qt::WindowFlags()));
+    m_controlCenter->setGUIHandler(this);
+    m_ui->contentLayout->insertWidget(0, m_controlCenter.get());
+    m_ui->contentLayout->insertWidget(1, m_controlCenter->settingsWidget());
+
+    connect(m_ui->closeButton, SIGNAL(clicked()), this, SLOT(closeWidget()));
+    connect(m_ui->maximizeButton, SIGNAL(clicked()), this, SLOT(triggerMaximize()));
+    connect(m_ui->minimizeButton, SIGNAL(clicked()), this, SLOT(triggerMinimize()));
+
+    m_panels.push_back(createPanel<ZelRendererSettingsPanel>(application));
+    m_panels.push_back(createPanel<ZelGeneralSettingsPanel>(application));
+    m_panels.push_back(createPanel<ZelSimplificationSettingsPanel>(application));
+    m_panels.push_back(createPanel<ZelImportSettingsPanel>(application));
+    m_panels.push_back(createPanel<ZelAboutSettingsPanel>(application));
+    for (const auto& panel : m_panels)
+        m_controlCenter->registerSettingsPanel(panel.get());
+}
+
+ZelControlCenterStandAloneWidget::~ZelControlCenterStandAloneWidget()
+{
+    for (auto panel = m_panels.rbegin(); panel != m_panels.rend(); ++panel)
+        m_controlCenter->unregisterSettingsPanel(panel->get(), true);
+    while (!m_panels.empty())
+        m_panels.pop_back();
+}
+
+void ZelControlCenterStandAloneWidget::triggerMinimize()
+{
+    showMinimized();
+}
+
+void ZelControlCenterStandAloneWidget::triggerMaximize()
+{
+    if (isMaximized())
+        showNormal();
+    else
+        showMaximized();
+}
+
+void ZelControlCenterStandAloneWidget::closeWidget()
+{
+    close();
+}
+
+void ZelControlCenterStandAloneWidget::openMenu()
+{
+    m_controlCenter->openMenu(true);
+    m_controlCenter->setControlCenterVisible(true);
+}
+
+void ZelControlCenterStandAloneWidget::parseMessage(const QString&)
+{
+}
+
+void ZelControlCenterStandAloneWidget::closeEvent(QCloseEvent* event)
+{
+    if (!m_controlCenter->hasModifications()) {
+        event->accept();
+        return;
+    }
+    const auto answer = QMessageBox::warning(
+        this, QCoreApplication::translate("ZelControlCenter", "Settings Modification"),
+        QCoreApplication::translate(
+            "ZelControlCenter",
+            "Your current changes will be discarded.\nContinue and close the application ?"),
+        QMessageBox::Ok | QMessageBox::Cancel);
+    event->setAccepted(answer == QMessageBox::Ok);
+}
+
+} // namespace zel

@@ -1,0 +1,57 @@
+#ifndef ZEL_ZELCONTROLCENTERSTANDALONEWIDGET_H
+#define ZEL_ZELCONTROLCENTERSTANDALONEWIDGET_H
+
+#include "platform/ZelExport.h"
+
+#include <QWidget>
+
+#include <memory>
+#include <vector>
+
+class kqDMIApplication;
+class kqMovableObject;
+
+namespace Ui {
+class ControlCenterStandAlone;
+}
+
+namespace zel {
+
+class ZelControlCenter;
+class ZelSettingsPanel;
+
+/// The window of the stand-alone settings editor: a frame of its own with a header to drag it by and three
+/// buttons, around a control center with every page. Owns both; the application must outlive it.
+class ZEL_EXPORT ZelControlCenterStandAloneWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    ZelControlCenterStandAloneWidget(kqDMIApplication* application, QWidget* parent, Qt::WindowFlags flags);
+    ~ZelControlCenterStandAloneWidget() override;
+
+public Q_SLOTS:
+    void triggerMinimize();
+    /// Maximises the window, or restores it.
+    void triggerMaximize();
+    void closeWidget();
+    /// Slides the menu and the drawer open.
+    void openMenu();
+    /// What another process has passed on. Ignored: such a message only raises the window.
+    void parseMessage(const QString& message);
+
+protected:
+    /// Asks before pending edits are lost.
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    const std::unique_ptr<Ui::ControlCenterStandAlone> m_ui;
+    std::unique_ptr<ZelControlCenter> m_controlCenter;
+    std::unique_ptr<kqMovableObject> m_movable;
+    /// In the order in which they are shown.
+    std::vector<std::unique_ptr<ZelSettingsPanel>> m_panels;
+};
+
+} // namespace zel
+
+#endif

@@ -1,0 +1,83 @@
+#include "FakeApplication.h"
+#include "ShownPage.h"
+#include "ZelAboutSettingsPanel.h"
+
+#include <QDesktopServices>
+#include <QLabel>
+#include <QRegularExpression>
+#include <QTableWidget>
+
+using namespace zel;
+
+typedef ShownPage<ZelAboutSettingsPanel> Page;
+
+class tst_ZelAboutSettingsPanel : public QObject
+{
+    Q_OBJECT
+
+private:
+    QList<QUrl> m_opened;
+    FakeApplication m_application;
+    FakePlugin m_first{"Reader", "1.2"}, m_second{QString("A long name ").repeated(9), ""};
+
+public Q_SLOTS:
+    void open(const QUrl& url) { m_opened << url; }
+
+private Q_SLOTS:
+    void pluginsAreThoseOfTheFirstOpening()
+    {
+        m_application.plugins = {&m_first, &m_second};
+        Page page(&m_application, m_application.getSettings());
+        m_application.plugins.push_back(&m_first);
+        page.page.initializeWidget();
+
+        auto* table = page.find<QTableWidget>("tableWidget");
+        QCOMPARE(table->rowCount(), 2);
+        const QString texts[2][2] = {{"Reader", "v. 1.2"}, {m_second.name, "v. "}};
+        for (int row = 0; row < 2; ++row)
+            for (int column = 0; column < 2; ++column) {
+                QCOMPARE(table->item(row, column)->text(), texts[row][column]);
+                QCOMPARE(table->item(row, column)->toolTip(), texts[row][column]);
+            }
+        QVERIFY(page.find("pluginsFrame")->isVisible());
+        // Nothing of the table is out of view.
+        QVERIFY(table->rowHeight(1) > table->rowHeight(0));
+        QVERIFY(table->visualItemRect(table->item(1, 1)).bottom() <= table->viewport()->height());
+        QVERIFY(table->visualItemRect(table->item(1, 1)).right() <= table->viewport()->width());
+    }
+
+    void withoutPluginsThereIsNoTable()
+    {
+        m_application.plugins.clear();
+        for (kqDMIApplication* application :
+             {static_cast<kqDMIApplication*>(&m_application), (kqDMIApplication*)nullptr}) {
+            Page page(application, m_application.getSettings());
+            QVERIFY(!page.find("pluginsFrame")->isVisible());
+            QCOMPARE(page.find<QLabel>("applicationVersion")->text(), kqDMIApplication::GetKernelVersion());
+            QVERIFY(page.find<QLabel>("noticeLabel")->text().contains("2024"));
+            QVERIFY(!page.page.hasModifications() && !page.page.canResetContent() &&
+                    !page.page.applyModifications());
+        }
+    }
+
+    void linksOpenFromTheKeyboard()
+    {
+        QDesktopServices::setUrlHandler("https", this, "open");
+        Page page(nullptr, m_application.getSettings());
+        auto* components = page.find<QLabel>("libUseLabel_2");
+        QList<QUrl> expected;
+        auto link = QRegularExpression("href=\"([^\"]+)\"").globalMatch(components->text());
+        components->setFocus(Qt::TabFocusReason);
+        while (link.hasNext()) {
+            expected << QUrl(link.next().captured(1));
+            QTest::keyClick(components, Qt::Key_Tab);
+            QTest::keyClick(components, Qt::Key_Return);
+        }
+        QDesktopServices::unsetUrlHandler("https");
+        QCOMPARE(expected.size(), 3);
+        QCOMPARE(m_opened, expected);
+    }
+};
+
+QTEST_MAIN(tst_ZelAboutSettingsPanel)
+#include "tst_ZelAboutSettingsPanel.moc"
