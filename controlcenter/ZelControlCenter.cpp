@@ -6,6 +6,7 @@
 #include "ZelSettingsFile.h"
 #include "ZelSettingsPanel.h"
 
+#include "platform/ZelQtCompat.h"
 #include "platform/kqDMGuiPlugin.h"
 #include "platform/kqDMIApplication.h"
 #include "platform/kqMessageBox.h"
@@ -299,7 +300,7 @@ bool ZelControlCenter::eventFilter(QObject* watched, QEvent* event)
     // A press into a modal box is an answer, not a click outside. Presses that the toolkit first hands to its
     // native window come again for the widget.
     if (event->type() != QEvent::MouseButtonPress || QApplication::activeModalWidget() ||
-        watched->inherits("QWindow"))
+        isNativeWindow(watched))
         return false;
     if (m_clickTimer.elapsed() < ClickGuard)
         return false;

@@ -12,7 +12,6 @@
 #include "platform/zelAction.h"
 #include "platform/zelActionManager.h"
 
-#include <QButtonGroup>
 #include <QCoreApplication>
 #include <QThread>
 

@@ -38,6 +38,12 @@ void installToolkitMessageSink()
 }
 #endif
 
+/// True for the native window by which some versions of the toolkit receive input before a widget does.
+inline bool isNativeWindow(const QObject* object)
+{
+    return object->inherits("QWindow");
+}
+
 /// Lets the interface follow the screen's scale where the toolkit can. To be called before the application
 /// object exists.
 inline void followScreenScale()

@@ -35,11 +35,11 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
 {
     m_ui->setupUi(this);
 
-    m_movable.reset(new kqMovableObject(this));
+    m_movable = std::make_unique<kqMovableObject>(this);
     m_movable->setExpandOnDlbClick(true);
     m_movable->setAnchorObject(m_ui->headerFrame, this);
 
-    m_controlCenter.reset(new ZelControlCenter(application, nullptr, Qt::WindowFlags()));
+    m_controlCenter = std::make_unique<ZelControlCenter>(application, nullptr, Qt::WindowFlags());
     m_controlCenter->setGUIHandler(this);
     m_ui->contentLayout->insertWidget(0, m_controlCenter.get());
     m_ui->contentLayout->insertWidget(1, m_controlCenter->settingsWidget());

@@ -31,8 +31,8 @@ public:
     QWidget* activationWindow() const;
 
 public Q_SLOTS:
-    /// Sends a message to the instance. False when this process is the instance itself, when the message is too
-    /// long, or when it was not taken within the time-out, in milliseconds.
+    /// Sends a message to the instance. False when this process is the instance itself, when the message is
+    /// too long, or when it was not taken within the time-out, in milliseconds.
     bool sendMessage(const QString& message, int timeout = 5000);
 
     /// Restores, raises and focuses the activation window, if there is one.

@@ -1,4 +1,3 @@
-#include "FakeApplication.h"
 #include "ShownPage.h"
 #include "ZelAboutSettingsPanel.h"
 
@@ -33,24 +32,22 @@ private Q_SLOTS:
 
         auto* table = page.find<QTableWidget>("tableWidget");
         QCOMPARE(table->rowCount(), 2);
-        const QString texts[2][2] = {{"Reader", "v. 1.2"}, {m_second.name, "v. "}};
-        for (int row = 0; row < 2; ++row)
-            for (int column = 0; column < 2; ++column) {
-                QCOMPARE(table->item(row, column)->text(), texts[row][column]);
-                QCOMPARE(table->item(row, column)->toolTip(), texts[row][column]);
-            }
+        const QStringList texts = {"Reader", "v. 1.2", m_second.name, "v. "};
+        for (int cell = 0; cell < texts.size(); ++cell) {
+            QCOMPARE(table->item(cell / 2, cell % 2)->text(), texts[cell]);
+            QCOMPARE(table->item(cell / 2, cell % 2)->toolTip(), texts[cell]);
+        }
         QVERIFY(page.find("pluginsFrame")->isVisible());
         // Nothing of the table is out of view.
         QVERIFY(table->rowHeight(1) > table->rowHeight(0));
-        QVERIFY(table->visualItemRect(table->item(1, 1)).bottom() <= table->viewport()->height());
-        QVERIFY(table->visualItemRect(table->item(1, 1)).right() <= table->viewport()->width());
+        QVERIFY(table->viewport()->rect().contains(table->visualItemRect(table->item(1, 1))));
     }
 
     void withoutPluginsThereIsNoTable()
     {
         m_application.plugins.clear();
-        for (kqDMIApplication* application :
-             {static_cast<kqDMIApplication*>(&m_application), (kqDMIApplication*)nullptr}) {
+        kqDMIApplication* const none = nullptr;
+        for (kqDMIApplication* application : {none, static_cast<kqDMIApplication*>(&m_application)}) {
             Page page(application, m_application.getSettings());
             QVERIFY(!page.find("pluginsFrame")->isVisible());
             QCOMPARE(page.find<QLabel>("applicationVersion")->text(), kqDMIApplication::GetKernelVersion());

@@ -1,20 +1,17 @@
-#include "FakeApplication.h"
 #include "SettingsKeys.h"
 #include "ShownPage.h"
 #include "ZelImportSettingsPanel.h"
 
-#include <QAbstractButton>
+#include <QRadioButton>
 
 using namespace zel;
 
 typedef ShownPage<ZelImportSettingsPanel> Page;
 
-Q_DECLARE_METATYPE(SettingsTexts)
-
 namespace {
 
-/// Everything that a file can hold, with nothing in force.
-const SettingsTexts Nothing = {
+/// A file in which nothing is in force.
+const SettingsTexts Defaults = {
     {keys::TessellationQualitySet, "false"}, {keys::TessellationHighQuality, "true"},
     {keys::MaxFaceSagSet, "false"},          {keys::MaxFaceSag, "0.2"},
     {keys::MaxFaceLengthSet, "false"},       {keys::MaxFaceLength, "5"},
@@ -24,10 +21,17 @@ const SettingsTexts Nothing = {
 struct Limit
 {
     const char *byDefault, *byValue, *spinBox, *set, *key;
-} const Limits[] = {
-    {"defaultSag", "sag", "faceSagSpin", keys::MaxFaceSagSet, keys::MaxFaceSag},
-    {"defaultLength", "length", "faceLengthSpin", keys::MaxFaceLengthSet, keys::MaxFaceLength},
-    {"defaultAngle", "angle", "faceAngleSpin", keys::MaxFaceAngleSet, keys::MaxFaceAngle},
+    SettingsTexts texts; ///< What is stored, and what the page makes of it; null: the same.
+};
+
+const SettingsTexts Reals = {{"0", {}},   {"0.123", {}},        {"99.99", {}},   {"250", "99.99"},
+                             {"-1", "0"}, {"1.23456", "1.235"}, {"nan", "99.99"}};
+const SettingsTexts Angles = {{"0", {}}, {"359", {}}, {"360", "359"}, {"-1", "0"}};
+
+const Limit Limits[] = {
+    {"defaultSag", "sag", "faceSagSpin", keys::MaxFaceSagSet, keys::MaxFaceSag, Reals},
+    {"defaultLength", "length", "faceLengthSpin", keys::MaxFaceLengthSet, keys::MaxFaceLength, Reals},
+    {"defaultAngle", "angle", "faceAngleSpin", keys::MaxFaceAngleSet, keys::MaxFaceAngle, Angles},
 };
 
 } // namespace
@@ -37,133 +41,91 @@ class tst_ZelImportSettingsPanel : public QObject
     Q_OBJECT
 
 private:
-    std::unique_ptr<FakeApplication> m_application;
-    QSettings* m_settings = nullptr;
+    QString stored(const QString& key) { return m_application->getSettings().value(key).toString(); }
 
-    QString stored(const QString& key) { return m_settings->value(key).toString(); }
+    std::unique_ptr<FakeApplication> m_application;
 
 private Q_SLOTS:
     void init()
     {
         m_application.reset(new FakeApplication);
-        m_settings = &m_application->getSettings();
-        registerDefaults(Nothing);
-        store(*m_settings, Nothing);
-    }
-
-    void untouchedPageWritesOnlyWhatItCannotShow_data()
-    {
-        QTest::addColumn<SettingsTexts>("stored");
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QString>("rewritten"); // null: not written
-        const auto row = [](const char* set, const char* key, const char* text, const char* rewritten) {
-            QTest::addRow("%s=%s, %s", key, text, set)
-                << SettingsTexts{{set, "true"}, {key, text}} << key << QString(rewritten);
-        };
-        const char* const none = "other/none";
-        QTest::newRow("nothing in force") << SettingsTexts() << QString(none) << QString();
-        for (const char* quality : {"true", "false"}) {
-            row(keys::TessellationQualitySet, keys::TessellationHighQuality, quality, nullptr);
-            row(none, keys::TessellationHighQuality, quality, nullptr);
-        }
-        for (const Limit& limit : {Limits[0], Limits[1]}) {
-            row(limit.set, limit.key, "0", nullptr);
-            row(limit.set, limit.key, "0.123", nullptr);
-            row(limit.set, limit.key, "99.99", nullptr);
-            row(limit.set, limit.key, "250", "99.99");
-            row(limit.set, limit.key, "-1", "0");
-            row(limit.set, limit.key, "1.23456", "1.235");
-            row(limit.set, limit.key, "nan", "99.99");
-            row(none, limit.key, "250", nullptr);
-        }
-        row(keys::MaxFaceAngleSet, keys::MaxFaceAngle, "0", nullptr);
-        row(keys::MaxFaceAngleSet, keys::MaxFaceAngle, "359", nullptr);
-        row(keys::MaxFaceAngleSet, keys::MaxFaceAngle, "360", "359");
-        row(keys::MaxFaceAngleSet, keys::MaxFaceAngle, "-1", "0");
-        row(none, keys::MaxFaceAngle, "360", nullptr);
+        registerDefaults(Defaults);
+        store(m_application->getSettings(), Defaults);
     }
 
     void untouchedPageWritesOnlyWhatItCannotShow()
     {
-        QFETCH(SettingsTexts, stored);
-        QFETCH(QString, key);
-        QFETCH(QString, rewritten);
-        store(*m_settings, stored);
-        const QByteArray before = m_application->storedFile();
-        Page page(m_application.get(), *m_settings);
-        QCOMPARE(page.page.hasModifications(), !rewritten.isNull());
-        QVERIFY(!page.page.applyModifications());
-        QCOMPARE(m_application->storedFile() != before, !rewritten.isNull());
-        if (!rewritten.isNull())
-            QCOMPARE(this->stored(key), rewritten);
-        QVERIFY(!page.page.hasModifications() && page.changes.isEmpty());
+        const auto written = [&](const char* set, const QString& isSet, const QString& key,
+                                 const QString& text) {
+            return writtenUntouched<ZelImportSettingsPanel>(*m_application, {{set, isSet}, {key, text}}, key);
+        };
+        for (const char* high : {"true", "false"})
+            for (const char* set : {"true", "false"})
+                QVERIFY(
+                    written(keys::TessellationQualitySet, set, keys::TessellationHighQuality, high).isNull());
+        for (const Limit& limit : Limits)
+            for (const QString& text : limit.texts.keys()) {
+                QVERIFY(written(limit.set, "false", limit.key, text).isNull());
+                QCOMPARE(written(limit.set, "true", limit.key, text), limit.texts[text]);
+            }
     }
 
     void eachLimitIsLeftOrSet()
     {
         for (const Limit& limit : Limits) {
-            Page page(m_application.get(), *m_settings);
-            const QString value = stored(limit.key);
+            Page page(m_application.get(), m_application->getSettings());
+            QSignalSpy toggles(page.find(limit.byDefault), SIGNAL(toggled(bool)));
             QVERIFY(!page.find(limit.spinBox)->isEnabled());
             page.click(limit.byValue);
-            QVERIFY(page.find(limit.spinBox)->isEnabled());
-            QVERIFY(!page.find<QAbstractButton>(limit.byDefault)->isChecked());
+            QVERIFY(page.find(limit.spinBox)->isEnabled() && page.canClickReset());
+            QVERIFY(!page.find<QRadioButton>(limit.byDefault)->isChecked());
             QCOMPARE(page.changes.count(), 1);
-            QVERIFY(page.canClickReset() && page.page.hasModifications());
-            QVERIFY(!page.page.applyModifications());
+            QVERIFY(page.page.hasModifications() && !page.page.applyModifications());
             QCOMPARE(stored(limit.set), QString("true"));
-            QCOMPARE(stored(limit.key), value);
+            QCOMPARE(stored(limit.key), Defaults[limit.key]);
 
             page.type(limit.spinBox, "42");
             QCOMPARE(page.changes.count(), 1);
             QVERIFY(page.page.hasModifications());
+            page.page.initializeWidget();
+            QVERIFY(!page.page.hasModifications() && toggles.isEmpty());
 
             page.click(limit.byDefault);
-            QVERIFY(!page.find(limit.spinBox)->isEnabled());
-            QVERIFY(!page.find<QAbstractButton>(limit.byValue)->isChecked() && !page.canClickReset());
-            QVERIFY(!page.page.applyModifications());
+            QVERIFY(!page.find(limit.spinBox)->isEnabled() && !page.canClickReset());
+            QVERIFY(!page.find<QRadioButton>(limit.byValue)->isChecked());
+            page.page.applyModifications();
             QCOMPARE(stored(limit.set), QString("false"));
-            QCOMPARE(stored(limit.key), QString("42"));
         }
     }
 
     void lowQualityLeavesTheResetButtonAlone()
     {
-        Page page(m_application.get(), *m_settings);
-        const auto isChecked = [&](const char* name) {
-            return page.find<QAbstractButton>(name)->isChecked();
-        };
-        const struct
-        {
-            const char* button;
-            bool canClickReset;
-        } steps[] = {
+        Page page(m_application.get(), m_application->getSettings());
+        const std::pair<const char*, bool> clicks[] = {
             {"lowQuality", false}, {"highQuality", true}, {"lowQuality", true}, {"defaultQuality", false}};
-        for (const auto& step : steps) {
+        for (const auto& [button, canClickReset] : clicks) {
             page.changes.clear();
-            page.click(step.button);
+            page.click(button);
             for (const char* name : {"defaultQuality", "highQuality", "lowQuality"})
-                QCOMPARE(isChecked(name), QByteArray(name) == step.button);
-            QCOMPARE(page.canClickReset(), step.canClickReset);
+                QCOMPARE(page.find<QRadioButton>(name)->isChecked(), QByteArray(name) == button);
+            QCOMPARE(page.canClickReset(), canClickReset);
             QCOMPARE(page.changes.count(), 1);
         }
         page.click("lowQuality");
-        QVERIFY(page.page.canResetContent() && !page.page.applyModifications() && page.canClickReset());
+        QVERIFY(!page.page.applyModifications() && page.canClickReset());
         QCOMPARE(stored(keys::TessellationQualitySet), QString("true"));
         QCOMPARE(stored(keys::TessellationHighQuality), QString("false"));
     }
 
     void everyChoiceIsInReachOfTheKeyboard()
     {
-        Page page(m_application.get(), *m_settings);
+        Page page(m_application.get(), m_application->getSettings());
         page.click("sag");
-        const QList<QByteArray> order = {
-            "defaultQuality", "highQuality",   "lowQuality", "defaultSag",   "sag",
-            "faceSagSpin",    "defaultLength", "length",     "defaultAngle", "angle"};
         page.find("resetButton")->setFocus();
-        for (const QByteArray& name : order) {
+        for (const char* name : {"defaultQuality", "highQuality", "lowQuality", "defaultSag", "sag",
+                                 "faceSagSpin", "defaultLength", "length", "defaultAngle", "angle"}) {
             QTest::keyClick(page.page.focusWidget(), Qt::Key_Tab);
-            QCOMPARE(page.page.focusWidget()->objectName().toLatin1(), name);
+            QCOMPARE(page.page.focusWidget()->objectName(), QString(name));
         }
         QTest::keyClick(page.page.focusWidget(), Qt::Key_Space);
         QVERIFY(page.find("faceAngleSpin")->isEnabled());

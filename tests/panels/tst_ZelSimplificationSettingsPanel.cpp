@@ -1,4 +1,3 @@
-#include "FakeApplication.h"
 #include "SettingsKeys.h"
 #include "ShownPage.h"
 #include "ZelSimplificationSettingsPanel.h"
@@ -25,65 +24,43 @@ private:
 
     QString stored() { return m_application->getSettings().value(keys::SimplificationRatios).toString(); }
 
+    QString written(const QString& text)
+    {
+        return writtenUntouched<ZelSimplificationSettingsPanel>(
+            *m_application, {{keys::SimplificationRatios, text}}, keys::SimplificationRatios);
+    }
+
+    const QString m_defaults = "1/0.75/0.5/0.25/0.1";
     std::unique_ptr<FakeApplication> m_application;
 
 private Q_SLOTS:
     void init()
     {
         m_application.reset(new FakeApplication);
-        registerDefaults({{keys::SimplificationRatios, "1/0.75/0.5/0.25/0.1"}});
-    }
-
-    void untouchedPageWritesOnlyWhatItCannotShow_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<Percentages>("percentages");
-        QTest::addColumn<QString>("rewritten");
-        const QString defaults = "1/0.75/0.5/0.25/0.1";
-        const Percentages defaultPercentages{100, 75, 50, 25, 10};
-        QTest::newRow("whole") << "1/0.99/0.5/0.02/0.01" << Percentages{100, 99, 50, 2, 1} << QString();
-        QTest::newRow("unordered") << "1/0.1/0.9/0.1/0.9" << Percentages{100, 10, 90, 10, 90} << QString();
-        QTest::newRow("empty parts") << "1//0.8/0.6/0.4/0.2/" << Percentages{100, 80, 60, 40, 20}
-                                     << QString();
-        QTest::newRow("rounded") << "1/0.755/0.333/0.1/0.1" << Percentages{100, 76, 33, 10, 10}
-                                 << "1/0.76/0.33/0.1/0.1";
-        QTest::newRow("clamped") << "1/7/0.5/-1/0" << Percentages{100, 100, 50, 1, 1} << "1/1/0.5/0.01/0.01";
-        QTest::newRow("no number") << "1/x/nan/0.2/0.1" << Percentages{100, 1, 1, 20, 10}
-                                   << "1/0.01/0.01/0.2/0.1";
-        QTest::newRow("first") << "0.9/0.75/0.5/0.25/0.1" << defaultPercentages << defaults;
-        QTest::newRow("four parts") << "1/0.75/0.5/0.25" << defaultPercentages << defaults;
-        QTest::newRow("six parts") << "1/0.9/0.8/0.7/0.6/0.5" << defaultPercentages << defaults;
-        QTest::newRow("empty") << "" << defaultPercentages << defaults;
-        QTest::newRow("absent") << QString() << defaultPercentages << QString();
+        registerDefaults({{keys::SimplificationRatios, m_defaults}});
     }
 
     void untouchedPageWritesOnlyWhatItCannotShow()
     {
-        QFETCH(QString, text);
-        QFETCH(Percentages, percentages);
-        QFETCH(QString, rewritten);
-        if (!text.isNull())
-            store(m_application->getSettings(), {{keys::SimplificationRatios, text}});
-        Page page(m_application.get(), m_application->getSettings());
-        QCOMPARE(shown(page), percentages);
-        QCOMPARE(page.page.hasModifications(), !rewritten.isNull());
-        QVERIFY(!page.page.applyModifications());
-        QCOMPARE(stored(), rewritten.isNull() ? text : rewritten);
-        QVERIFY(!page.page.hasModifications() && page.changes.isEmpty());
+        const SettingsTexts texts = {{"1/0.99/0.5/0.02/0.01", {}},
+                                     {"1/0.1/0.9/0.1/0.9", {}},
+                                     {"1//0.8/0.6/0.4/0.2/", {}},
+                                     {"1/0.755/0.333/0.1/0.1", "1/0.76/0.33/0.1/0.1"},
+                                     {"1/7/0.5/-1/0", "1/1/0.5/0.01/0.01"},
+                                     {"1/x/nan/0.2/0.1", "1/0.01/0.01/0.2/0.1"},
+                                     {"0.9/0.75/0.5/0.25/0.2", "1/0.75/0.5/0.25/0.2"},
+                                     {"1/0.9/0.8/0.7", m_defaults},
+                                     {"1/0.9/0.8/0.7/0.6/0.5", m_defaults}};
+        for (const QString& text : texts.keys())
+            QCOMPARE(written(text), texts[text]);
     }
 
     void everyPercentageKeepsItsValue()
     {
         for (int percentage = 1; percentage <= 100; ++percentage) {
-            const QString ratio = QString::number(percentage / 100.0);
-            store(m_application->getSettings(),
-                  {{keys::SimplificationRatios, "1" + ("/" + ratio).repeated(3) + "/0.0149"}});
-            ZelSimplificationSettingsPanel page(nullptr, m_application->getSettings(), nullptr,
-                                                Qt::WindowFlags());
-            page.initializeWidget();
-            QVERIFY(!page.applyModifications());
-            QCOMPARE(stored(), "1" + ("/" + ratio).repeated(3) + "/0.01");
-            QVERIFY(!page.hasModifications());
+            const QString equal = "1" + ("/" + QString::number(percentage / 100.0)).repeated(3);
+            QCOMPARE(written(equal + "/0.0149"), equal + "/0.01");
+            QVERIFY(written(stored()).isNull());
         }
     }
 
@@ -92,18 +69,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("box");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<Percentages>("percentages");
-        QTest::newRow("in order") << "ratio3"
-                                  << "60" << Percentages{100, 75, 60, 25, 10};
-        QTest::newRow("raises the one above") << "ratio3"
-                                              << "80" << Percentages{100, 80, 80, 25, 10};
-        QTest::newRow("lowers the one below") << "ratio4"
-                                              << "5" << Percentages{100, 75, 50, 5, 5};
-        QTest::newRow("one step down") << "ratio2"
-                                       << "10" << Percentages{100, 10, 10, 25, 10};
-        QTest::newRow("one step up") << "ratio5"
-                                     << "90" << Percentages{100, 75, 50, 90, 90};
-        QTest::newRow("highest") << "ratio2"
-                                 << "100" << Percentages{100, 100, 50, 25, 10};
+        const auto row = [](const char* name, const char* box, const char* typed, const Percentages& result) {
+            QTest::newRow(name) << QString(box) << QString(typed) << result;
+        };
+        row("in order", "ratio3", "60", {100, 75, 60, 25, 10});
+        row("raises the one above", "ratio3", "80", {100, 80, 80, 25, 10});
+        row("lowers the one below", "ratio4", "5", {100, 75, 50, 5, 5});
+        row("one step down", "ratio2", "10", {100, 10, 10, 25, 10});
+        row("one step up", "ratio5", "90", {100, 75, 50, 90, 90});
     }
 
     void anEditBringsOnlyTheNeighboursIntoOrder()
@@ -112,18 +85,17 @@ private Q_SLOTS:
         QFETCH(QString, typed);
         QFETCH(Percentages, percentages);
         Page page(m_application.get(), m_application->getSettings());
+        QVERIFY(!page.canClickReset() && !page.page.hasModifications() && !page.find("ratio1")->isEnabled());
         page.find(box)->setFocus();
         page.changes.clear();
         page.type(box, typed);
+        QCOMPARE(page.changes.count(), 1);
         QCOMPARE(shown(page), percentages);
-        QCOMPARE(page.changes.count(), 1);
-        QVERIFY(page.canClickReset() && page.page.hasModifications() && !page.find("ratio1")->isEnabled());
-        page.find("resetButton")->setFocus();
-        page.changes.clear();
-        QTest::keyClick(page.find("resetButton"), Qt::Key_Space);
-        QCOMPARE(page.changes.count(), 1);
+        QVERIFY(page.canClickReset() && page.page.hasModifications());
+        QSignalSpy values(page.find(box), SIGNAL(valueChanged(double)));
+        QCOMPARE(page.reset(), 1);
         QCOMPARE(shown(page), (Percentages{100, 75, 50, 25, 10}));
-        QVERIFY(!page.canClickReset() && stored().isEmpty());
+        QVERIFY(!page.canClickReset() && values.isEmpty() && stored().isEmpty());
     }
 
     void applyHandsTheFractionsToTheSimplifier()
@@ -144,11 +116,9 @@ private Q_SLOTS:
     {
         registerDefaults({});
         Page page(nullptr, m_application->getSettings());
+        QCOMPARE(page.reset(), 1);
         QCOMPARE(shown(page), (Percentages{100, 75, 50, 25, 1}));
-        QVERIFY(page.canClickReset() && page.page.hasModifications());
-        page.click("resetButton");
-        QCOMPARE(shown(page), (Percentages{100, 75, 50, 25, 1}));
-        QVERIFY(!page.page.applyModifications());
+        QVERIFY(page.canClickReset() && !page.page.applyModifications());
         QCOMPARE(stored(), QString("1/0.75/0.5/0.25/0.01"));
     }
 };

@@ -1,5 +1,6 @@
 #include "platform/kqMovableObject.h"
 
+#include <QCheckBox>
 #include <QFrame>
 #include <QLabel>
 #include <QPushButton>
@@ -45,9 +46,8 @@ void tst_kqMovableObject::init()
     m_header->setGeometry(0, 0, 2000, 40);
     auto* group = new QFrame(m_header);
     group->setGeometry(100, 0, 300, 40);
-    auto* disabled = new QPushButton("disabled", group);
-    disabled->setEnabled(false);
-    const QList<QWidget*> row = {new QLabel("label", group), new QPushButton("button", group), disabled};
+    const QList<QWidget*> row = {new QLabel("label", group), new QPushButton("button", group),
+                                 new QCheckBox("x", group)};
     for (int i = 0; i < row.size(); ++i)
         row[i]->setGeometry(100 * i, 0, 90, 40);
     m_movable = new kqMovableObject(m_window.data());
@@ -65,7 +65,7 @@ void tst_kqMovableObject::dragging_data()
     QTest::newRow("label") << QPoint(150, 20) << int(Qt::LeftButton) << true;
     QTest::newRow("frame in the header") << QPoint(195, 20) << int(Qt::LeftButton) << true;
     QTest::newRow("button") << QPoint(250, 20) << int(Qt::LeftButton) << false;
-    QTest::newRow("disabled button") << QPoint(350, 20) << int(Qt::LeftButton) << false;
+    QTest::newRow("check box, beside its text") << QPoint(380, 20) << int(Qt::LeftButton) << false;
     QTest::newRow("right button of the mouse") << QPoint(20, 20) << int(Qt::RightButton) << false;
     QTest::newRow("below the header") << QPoint(20, 200) << int(Qt::LeftButton) << false;
 }
@@ -91,11 +91,11 @@ void tst_kqMovableObject::doubleClick()
     const auto clickTwice = [this](QPoint pos) {
         QTest::mouseDClick(m_window->windowHandle(), Qt::LeftButton, {}, pos);
     };
-    const QPoint label(150, 20), disabledButton(350, 20);
+    const QPoint label(150, 20), besideCheckBox(380, 20);
     const QRect normal = m_window->geometry();
     clickTwice(label);
     m_movable->setExpandOnDlbClick(true);
-    clickTwice(disabledButton);
+    clickTwice(besideCheckBox);
     QVERIFY(!m_window->isMaximized());
     clickTwice(label);
     QVERIFY(m_window->isMaximized());

@@ -1,11 +1,10 @@
 #ifndef ZEL_SHOWNPAGE_H
 #define ZEL_SHOWNPAGE_H
 
+#include "FakeApplication.h"
 #include "ZelSettingsRegistry.h"
 
 #include <QAbstractSpinBox>
-#include <QApplication>
-#include <QSettings>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -29,15 +28,14 @@ inline void store(QSettings& settings, const SettingsTexts& texts)
 
 /// A page in an active window of the drawer's width, loaded from the settings, and the user in front of it.
 template <class Page>
-class ShownPage
+struct ShownPage
 {
-public:
     ShownPage(kqDMIApplication* application, QSettings& settings)
         : page(application, settings, nullptr, Qt::WindowFlags())
         , changes(&page, SIGNAL(stateChanged()))
     {
         // As in the drawer, which shows it elsewhere.
-        page.getActionWidget()->setParent(&m_elsewhere);
+        page.getActionWidget()->setParent(&elsewhere);
         page.initializeWidget();
         page.resize(435, page.heightForWidth(435));
         page.show();
@@ -57,9 +55,8 @@ public:
 
     void click(const QString& name)
     {
-        auto* widget = find(name);
         // Near the left end, where a radio button has its indicator.
-        QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, QPoint(8, widget->height() / 2));
+        QTest::mouseClick(find(name), Qt::LeftButton, Qt::NoModifier, QPoint(8, find(name)->height() / 2));
     }
 
     /// Types a number over the one in a spin box and leaves the box by the tabulator.
@@ -72,14 +69,36 @@ public:
         QTest::keyClick(box, Qt::Key_Tab);
     }
 
+    /// Presses the reset button from the keyboard; how often the page says that it changed.
+    int reset()
+    {
+        find("resetButton")->setFocus();
+        changes.clear();
+        QTest::keyClick(find("resetButton"), Qt::Key_Space);
+        return changes.count();
+    }
+
     bool canClickReset() { return find("resetButton")->isEnabled(); }
 
-private:
-    QWidget m_elsewhere;
-
-public:
+    QWidget elsewhere;
     Page page;
     QSignalSpy changes;
 };
+
+/// Opens a page on stored texts and applies it without an edit. Answers what is stored under a key if that
+/// wrote anything, else a null text.
+template <class Page>
+QString writtenUntouched(FakeApplication& application, const SettingsTexts& stored, const QString& key)
+{
+    store(application.getSettings(), stored);
+    const QByteArray before = application.storedFile();
+    ShownPage<Page> shown(&application, application.getSettings());
+    const bool modified = shown.page.hasModifications();
+    if (shown.page.applyModifications() || shown.page.hasModifications() || !shown.changes.isEmpty())
+        return "restart, or still modified, or announced as an edit";
+    if (modified != (application.storedFile() != before))
+        return "modified and written disagree";
+    return modified ? application.getSettings().value(key).toString() : QString();
+}
 
 #endif

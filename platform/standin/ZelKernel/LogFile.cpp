@@ -6,7 +6,7 @@
 
 namespace {
 
-const qint64 Limit = 5 * 1024 * 1024;
+const qint64 Limit = 5LL * 1024 * 1024;
 
 } // namespace
 

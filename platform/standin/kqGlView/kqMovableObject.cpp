@@ -93,7 +93,7 @@ bool kqMovableObject::isHandle(const QMouseEvent& event) const
 {
     if (event.button() != Qt::LeftButton)
         return false;
-    // An enabled button keeps its clicks to itself, a disabled one lets them through.
+    // A check box lets a press through that misses its text.
     const QWidget* anchor = qobject_cast<QWidget*>(m_anchor);
     const QWidget* widget = anchor ? anchor->childAt(event.pos()) : nullptr;
     while (widget && widget != anchor && !qobject_cast<const QAbstractButton*>(widget))

@@ -28,7 +28,7 @@ LocalMessage::Result LocalMessage::read(QLocalSocket& socket, QString& message)
         return Invalid;
     if (header.size() < HeaderSize)
         return Incomplete;
-    const quint32 length =
+    const auto length =
         qFromBigEndian<quint32>(reinterpret_cast<const uchar*>(header.constData() + MarkSize));
     if (length > static_cast<quint32>(MaxSize - HeaderSize))
         return Invalid;
