@@ -15,6 +15,8 @@ option(ZEL_WARNINGS_AS_ERRORS "Stop at the first compiler warning" ON)
 set(ZEL_SANITIZE "" CACHE STRING "Sanitizers to build with, separated by commas")
 
 add_compile_options(-Wall -Wextra)
+# A library with symbols that are unique in the process is never unloaded.
+add_compile_options($<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
 if(ZEL_WARNINGS_AS_ERRORS)
     add_compile_options(-Werror)
 endif()

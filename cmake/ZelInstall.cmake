@@ -2,24 +2,39 @@
 
 include(CMakePackageConfigHelpers)
 
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME runtime)
+
 set(zel_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ZelControlCenter)
 get_property(zel_public_headers GLOBAL PROPERTY ZEL_PUBLIC_HEADERS)
 get_property(zel_platform_libraries GLOBAL PROPERTY ZEL_PLATFORM_LIBRARIES)
 file(GLOB zel_platform_headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/platform/*.h)
+# The host's own.
+list(REMOVE_ITEM zel_platform_headers ${PROJECT_SOURCE_DIR}/platform/ApplicationRoot.h)
 
-install(FILES ${zel_public_headers} DESTINATION include/zel)
-install(FILES ${zel_platform_headers} DESTINATION include/zel/platform)
+install(FILES ${zel_public_headers} DESTINATION include/zel COMPONENT headers)
+install(FILES ${zel_platform_headers} DESTINATION include/zel/platform COMPONENT headers)
 install(TARGETS torvane-settings RUNTIME DESTINATION bin)
 install(TARGETS ZelControlCenter ZelPlatform ${zel_platform_libraries} EXPORT ZelTargets
         RUNTIME DESTINATION bin LIBRARY DESTINATION lib ARCHIVE DESTINATION lib)
-install(DIRECTORY ${ZEL_STAGE}/bin/ DESTINATION bin
-        FILES_MATCHING REGEX "/(${ZEL_PLUGIN_PATTERN})$")
-install(EXPORT ZelTargets NAMESPACE Zel:: DESTINATION ${zel_package_dir})
+foreach(folder IN LISTS ZEL_PLUGIN_FOLDERS)
+    if(EXISTS ${ZEL_STAGE}/bin/${folder})
+        install(DIRECTORY ${ZEL_STAGE}/bin/${folder} DESTINATION bin)
+    endif()
+endforeach()
+set(ZEL_LANGUAGE_DIR resources/languages)
+install(DIRECTORY ${ZEL_STAGE}/${ZEL_LANGUAGE_DIR} DESTINATION resources)
+
+install(EXPORT ZelTargets NAMESPACE Zel:: DESTINATION ${zel_package_dir} COMPONENT headers)
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/ZelControlCenterConfig.cmake.in
                               ${PROJECT_BINARY_DIR}/ZelControlCenterConfig.cmake
-                              INSTALL_DESTINATION ${zel_package_dir})
+                              INSTALL_DESTINATION ${zel_package_dir} PATH_VARS ZEL_LANGUAGE_DIR)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/ZelControlCenterConfigVersion.cmake
                                  COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/ZelControlCenterConfig.cmake
               ${PROJECT_BINARY_DIR}/ZelControlCenterConfigVersion.cmake
-        DESTINATION ${zel_package_dir})
+        DESTINATION ${zel_package_dir} COMPONENT headers)
+
+install(TARGETS torvane-settings-check RUNTIME DESTINATION bin)
+
+# Builds what `install` copies, and nothing else.
+add_custom_target(ZelInstalled DEPENDS torvane-settings torvane-settings-check)

@@ -3,7 +3,6 @@
 #include "ui_ZelCCActionItem.h"
 
 #include "platform/kqDMIApplication.h"
-#include "platform/zelAction.h"
 
 #include <QKeySequence>
 
@@ -19,6 +18,7 @@ ZelCCActionItem::ZelCCActionItem(zelAction* action, QWidget* parent, Qt::WindowF
     setStyleSheet(kqDMIApplication::GetStylesheet("ZelCCActionItem"));
     onActionChanged();
     connect(action, SIGNAL(changed()), this, SLOT(onActionChanged()));
+    connect(action, SIGNAL(destroyed()), this, SLOT(hide()));
     connect(m_ui->actionButton, SIGNAL(clicked()), action, SLOT(trigger()));
 }
 

@@ -94,6 +94,8 @@ ZelControlCenter::~ZelControlCenter()
     m_separators.clear();
     while (!m_panels.isEmpty())
         unregisterSettingsPanel(m_panels.front(), true);
+    if (isSliding())
+        m_application->setUpdateEngineEnabled(true);
     delete m_drawer;
     unregisterCCAction(m_settingsAction.get());
 }
@@ -128,14 +130,24 @@ void ZelControlCenter::createSettingsAction()
 
 void ZelControlCenter::registerSettingsPanel(ZelSettingsPanel* panel)
 {
+    if (m_panels.contains(panel))
+        return;
     m_panels.append(panel);
     connect(panel, SIGNAL(stateChanged()), this, SLOT(onStateChanged()));
+    connect(panel, SIGNAL(destroyed(QObject*)), this, SLOT(onPanelDestroyed(QObject*)));
 
     QPushButton* button = panel->getActionWidget();
     m_ui->verticalLayout_6->addWidget(button);
     m_ui->applicationSettings->show();
-    m_pageGroup->addButton(button);
     m_ui->verticalLayout_8->addWidget(panel);
+    // The keyboard walks the column from top to bottom before any page.
+    if (m_pageGroup->buttons().isEmpty()) {
+        setTabOrder(button, m_ui->resetButton);
+        setTabOrder(m_ui->resetButton, m_ui->applyButton);
+    } else {
+        setTabOrder(m_pageGroup->buttons().last(), button);
+    }
+    m_pageGroup->addButton(button);
     m_ui->applicationFrame->show();
     panel->show();
     panel->initializeWidget();
@@ -147,7 +159,7 @@ void ZelControlCenter::registerSettingsPanel(ZelSettingsPanel* panel)
 
 void ZelControlCenter::unregisterSettingsPanel(ZelSettingsPanel* panel, bool reevaluate)
 {
-    disconnect(panel, SIGNAL(stateChanged()), this, SLOT(onStateChanged()));
+    disconnect(panel, nullptr, this, nullptr);
     if (m_panels.removeOne(panel)) {
         QPushButton* button = panel->getActionWidget();
         m_pageGroup->removeButton(button);
@@ -179,8 +191,7 @@ bool ZelControlCenter::hasModifications() const
 bool ZelControlCenter::applyModifications()
 {
     bool restart = false;
-    for (ZelSettingsPanel* panel : m_panels)
-        restart = panel->applyModifications() || restart;
+    forEachPanel([&restart](ZelSettingsPanel* panel) { restart = panel->applyModifications() || restart; });
     // One write for all pages, so that the file never holds half of an Apply. A failure is reported there.
     QString error;
     ZelSettingsFile::Sync(m_application->getSettings(), error);
@@ -215,11 +226,13 @@ void ZelControlCenter::setControlCenterWidth(int width)
 
 int ZelControlCenter::settingsWidth() const
 {
-    return m_drawer->isVisible() ? m_drawer->minimumWidth() : 0;
+    return m_drawer && m_drawer->isVisible() ? m_drawer->minimumWidth() : 0;
 }
 
 void ZelControlCenter::setSettingsWidth(int width)
 {
+    if (!m_drawer)
+        return;
     m_drawer->setVisible(width >= 1);
     m_drawer->setFixedWidth(width);
     const QScrollBar* scrollBar = m_drawer->verticalScrollBar();
@@ -233,7 +246,7 @@ void ZelControlCenter::registerCCAction(zelAction* action, const QString& anchor
     auto* item = new ZelCCActionItem(action, this, Qt::WindowFlags());
     item->setIsWorkflowSpecific(isWorkflowSpecific);
     if (closeMenuOnTrigger)
-        connect(action, SIGNAL(triggered()), this, SLOT(closeMenu()));
+        connect(action, SIGNAL(triggered()), this, SLOT(closeMenu()), Qt::UniqueConnection);
     m_actionItems.append(item);
 
     const int anchor = anchorIndex(anchorName);
@@ -262,7 +275,7 @@ bool ZelControlCenter::addCCSeparator(const QString& anchorName, const QString& 
     auto* separator = new QFrame(this);
     separator->setStyleSheet("background:rgb(0,0,0,30);");
     separator->setFixedHeight(1);
-    separator->setFixedWidth(width() - SeparatorMargin);
+    separator->setFixedWidth(std::max(width() - SeparatorMargin, 0));
     m_separators.insert(separatorName, separator);
     insertIntoColumn(anchorIndex(anchorName), separator);
     return true;
@@ -389,9 +402,10 @@ void ZelControlCenter::onPanelClicked(const QString& pPanelName)
 {
     if (!m_settingsOpen)
         openSettingsPanel(true);
-    for (ZelSettingsPanel* panel : m_panels)
+    forEachPanel([&](ZelSettingsPanel* panel) {
         if (panel->getPanelName() == pPanelName)
             ensureSettingVisible(panel);
+    });
 }
 
 void ZelControlCenter::onStateChanged()
@@ -414,12 +428,10 @@ void ZelControlCenter::onSettingsWidthFinished()
 {
     m_application->setUpdateEngineEnabled(true);
     m_settingsOpen = m_settingsAnimation->direction() == QAbstractAnimation::Forward;
-    if (m_settingsOpen) {
+    if (!m_settingsOpen)
+        closeDrawer();
+    else if (m_drawer)
         onScrollBarValueChanged(m_drawer->verticalScrollBar()->value());
-    } else {
-        m_ui->preferenceFrame->hide();
-        m_drawer->hide();
-    }
 }
 
 void ZelControlCenter::onScrollBarValueChanged(int value)
@@ -443,12 +455,21 @@ void ZelControlCenter::closeMenu()
 
 void ZelControlCenter::onScrollBarRangeChanged()
 {
-    if (m_settingsOpen && m_settingsAnimation->state() != QAbstractAnimation::Running)
+    if (m_drawer && m_drawer->isVisible() && !isSliding())
         setSettingsWidth(settingsWidth());
+}
+
+void ZelControlCenter::onPanelDestroyed(QObject* panel)
+{
+    // Only its address is left to compare.
+    m_panels.erase(std::remove(m_panels.begin(), m_panels.end(), panel), m_panels.end());
+    onStateChanged();
 }
 
 void ZelControlCenter::openSettingsPanel(bool open)
 {
+    if (!m_drawer)
+        return;
     const bool wasVisible = m_drawer->isVisible();
     m_ui->actionFrame->setVisible(!open);
     m_application->setUpdateEngineEnabled(false);
@@ -461,6 +482,10 @@ void ZelControlCenter::openSettingsPanel(bool open)
     m_settingsAnimation->setDirection(open ? QAbstractAnimation::Forward : QAbstractAnimation::Backward);
     if (wasVisible != open)
         m_settingsAnimation->start();
+    else if (!open)
+        closeDrawer(); // It may be open inside a window that is hidden.
+    else if (!isSliding())
+        m_application->setUpdateEngineEnabled(true);
 }
 
 void ZelControlCenter::ensureSettingVisible(QWidget* widget)
@@ -475,8 +500,7 @@ void ZelControlCenter::ensureSettingVisible(QWidget* widget)
 
 void ZelControlCenter::resetControlCenter()
 {
-    for (ZelSettingsPanel* panel : m_panels)
-        panel->resetContent();
+    forEachPanel([](ZelSettingsPanel* panel) { panel->resetContent(); });
 }
 
 void ZelControlCenter::resizeEvent(QResizeEvent* event)
@@ -489,6 +513,28 @@ void ZelControlCenter::showEvent(QShowEvent* event)
     QWidget::showEvent(event);
 }
 
+bool ZelControlCenter::isSliding() const
+{
+    return m_widthAnimation->state() == QAbstractAnimation::Running ||
+           m_settingsAnimation->state() == QAbstractAnimation::Running;
+}
+
+void ZelControlCenter::closeDrawer()
+{
+    m_settingsOpen = false;
+    m_ui->preferenceFrame->hide();
+    if (m_drawer)
+        m_drawer->hide();
+}
+
+void ZelControlCenter::forEachPanel(const std::function<void(ZelSettingsPanel*)>& action) const
+{
+    const QList<ZelSettingsPanel*> panels = m_panels;
+    for (ZelSettingsPanel* panel : panels)
+        if (m_panels.contains(panel))
+            action(panel);
+}
+
 kqDMGuiPlugin* ZelControlCenter::guiPlugin() const
 {
     return m_application ? m_application->getGuiPlugin() : nullptr;
@@ -496,8 +542,7 @@ kqDMGuiPlugin* ZelControlCenter::guiPlugin() const
 
 void ZelControlCenter::initializePanels()
 {
-    for (ZelSettingsPanel* panel : m_panels)
-        panel->initializeWidget();
+    forEachPanel([](ZelSettingsPanel* panel) { panel->initializeWidget(); });
     onStateChanged();
 }
 
@@ -528,7 +573,7 @@ int ZelControlCenter::anchorIndex(const QString& anchorName) const
         return 0;
     for (int index = 0; index < m_ui->verticalLayout->count(); ++index) {
         const auto* item = qobject_cast<ZelCCActionItem*>(m_ui->verticalLayout->itemAt(index)->widget());
-        if (item && item->getZelAction()->getActionName() == anchorName)
+        if (item && item->getZelAction() && item->getZelAction()->getActionName() == anchorName)
             return index;
     }
     return -1;

@@ -15,6 +15,7 @@
 #include <QScrollArea>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 class QButtonGroup;
@@ -131,6 +132,7 @@ protected Q_SLOTS:
     void closeMenu();
     /// Gives the pages the width that the scroll bar leaves them.
     void onScrollBarRangeChanged();
+    void onPanelDestroyed(QObject* panel);
 
 protected:
     void openSettingsPanel(bool open);
@@ -147,6 +149,11 @@ private:
     kqDMGuiPlugin* guiPlugin() const;
     QPropertyAnimation* createSlide(const char* property, int openWidth, const char* finishedSlot);
     void createSettingsAction();
+    bool isSliding() const;
+    void closeDrawer();
+    /// Calls a function for each page, in the order of registration. A page may register or unregister others
+    /// meanwhile.
+    void forEachPanel(const std::function<void(ZelSettingsPanel*)>& action) const;
     void initializePanels();
     /// Drops pending edits, after asking where that is possible; false when the user keeps them.
     bool discardModifications();

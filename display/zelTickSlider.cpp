@@ -24,7 +24,7 @@ void zelTickSlider::paintEvent(QPaintEvent* event)
     QSlider::paintEvent(event);
 
     const int steps = maximum() - minimum();
-    const int length = handleRect(maximum()).left() - handleRect(minimum()).left();
+    const int length = qAbs(handleRect(maximum()).left() - handleRect(minimum()).left());
     int interval = 1;
     while (interval < steps && length * interval < SmallestTickSpacing * steps)
         interval *= 2;

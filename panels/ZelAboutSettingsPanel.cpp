@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QHeaderView>
+#include <QIcon>
 #include <QTableWidget>
 #include <QUrl>
 
@@ -29,6 +30,8 @@ const struct
     {"Open Sans", QT_TRANSLATE_NOOP("ZelAboutSettingsPanel", "fonts"),
      "https://fonts.google.com/specimen/Open+Sans"},
 };
+
+const int LogoSize = 96; // In pixels.
 
 // The versions get what the names leave over, in pixels.
 const int PluginNameWidth = 260;
@@ -69,9 +72,13 @@ ZelAboutSettingsPanel::ZelAboutSettingsPanel(kqDMIApplication* application, QSet
     , m_initialized(false)
 {
     m_ui->setupUi(this);
+    // An icon, unlike a pixmap of the form, also finds the image for screens of double density.
+    m_ui->applicationIcon->setPixmap(
+        QIcon(":/controlCenter/controlCenter/logo-torvane.png").pixmap(LogoSize, LogoSize));
     m_ui->noticeLabel->setText(m_ui->noticeLabel->text().arg("2024", 0, QChar(' ')));
     setStyleSheet(kqDMIApplication::GetStylesheet("ZelAboutSettingsPanel"));
     m_ui->platform->setText("X64");
+    m_ui->pluginsFrame->hide();
     m_ui->libUseLabel_2->setText(componentsText());
     connect(m_ui->libUseLabel_2, SIGNAL(linkActivated(const QString&)), this,
             SLOT(onLinkActivated(const QString&)));
@@ -88,6 +95,13 @@ void ZelAboutSettingsPanel::initializeWidget()
     m_ui->applicationVersion->setText(kqDMIApplication::GetKernelVersion());
     fillPlugins();
     m_initialized = true;
+}
+
+void ZelAboutSettingsPanel::resizeEvent(QResizeEvent* event)
+{
+    // How many lines a row needs depends on the width that the page has got.
+    showAllRows(*m_ui->tableWidget);
+    QWidget::resizeEvent(event);
 }
 
 void ZelAboutSettingsPanel::onLinkActivated(const QString& link)

@@ -40,6 +40,9 @@ Q_SIGNALS:
 protected Q_SLOTS:
     void onLinkActivated(const QString& link);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     void fillPlugins();
 

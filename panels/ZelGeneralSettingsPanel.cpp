@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QKeySequence>
 
 namespace zel {
 
@@ -124,9 +125,11 @@ void ZelGeneralSettingsPanel::notifyStateChanged()
 
 void ZelGeneralSettingsPanel::elideText()
 {
-    for (QPushButton* button : {m_ui->databaseButton, m_ui->screenshotFolderButton})
+    for (QPushButton* button : {m_ui->databaseButton, m_ui->screenshotFolderButton}) {
         button->setText(button->fontMetrics().elidedText(button->toolTip(), Qt::ElideLeft,
                                                          button->width() - ButtonTextMargin));
+        button->setShortcut(QKeySequence()); // An "&" in a path is part of its name.
+    }
 }
 
 void ZelGeneralSettingsPanel::setScreenshotFolder()

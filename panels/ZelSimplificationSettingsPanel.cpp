@@ -11,6 +11,7 @@
 #include "platform/kqDMManager.h"
 
 #include <QCoreApplication>
+#include <QIcon>
 #include <QStringList>
 
 namespace zel {
@@ -22,6 +23,7 @@ typedef std::vector<float> Ratios;
 const int FirstEditableLevel = 2;
 const int LastLevel = 5;
 const char* const Separator = "/";
+const int ImageSize = 64; // In pixels.
 
 Ratios parseRatios(const QString& text)
 {
@@ -74,6 +76,24 @@ ZelEditablePanel<SimplificationModel>::Fields simplificationFields()
              {storedRatios, defaultRatios, ratiosToStore}}};
 }
 
+void showLevelImages(const Ui::ZelSimplificationSettingsPanel& form)
+{
+    const struct
+    {
+        QLabel* label;
+        const char* image;
+    } levels[] = {
+        {form.icon1, "High"},        {form.icon2, "Medium High"},
+        {form.icon3, "Medium"},      {form.icon4, "Medium-Low-Quality"},
+        {form.icon5, "Low-Quality"},
+    };
+    // An icon, unlike a pixmap of the form, also finds the image for screens of double density.
+    for (const auto& level : levels) {
+        const QIcon icon(QString(":/controlCenter/controlCenter/%1.png").arg(level.image));
+        level.label->setPixmap(icon.pixmap(ImageSize, ImageSize));
+    }
+}
+
 } // namespace
 
 bool operator==(const SimplificationModel& left, const SimplificationModel& right)
@@ -89,6 +109,7 @@ ZelSimplificationSettingsPanel::ZelSimplificationSettingsPanel(kqDMIApplication*
     , m_editing(false)
 {
     m_ui->setupUi(this);
+    showLevelImages(*m_ui);
     m_percentages = {m_ui->ratio1, m_ui->ratio2, m_ui->ratio3, m_ui->ratio4, m_ui->ratio5};
     setStyleSheet(kqDMIApplication::GetStylesheet("ZelSimplificationSettingsPanel"));
     setPanelName(QCoreApplication::translate("ZelSimplificationSettingsPanel", "Simplification"));
@@ -165,11 +186,6 @@ void ZelSimplificationSettingsPanel::setRatios()
     SimplificationModel current;
     getCurrentModel(current);
     manager->setSimplificationRatios(current.ratios);
-}
-
-void ZelSimplificationSettingsPanel::saveRatios()
-{
-    saveSettingsInternal();
 }
 
 void ZelSimplificationSettingsPanel::finishEditing(int level)

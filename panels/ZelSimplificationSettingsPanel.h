@@ -57,8 +57,6 @@ protected:
 
     /// Hands the ratios to the running simplifier.
     void setRatios();
-    /// Writes the ratios to the settings.
-    void saveRatios();
 
 private:
     /// Brings the neighbours of an edited level, but none beyond them, into descending order with it.

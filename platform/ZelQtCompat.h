@@ -17,26 +17,56 @@ const Qt::SplitBehavior SkipEmptyParts = Qt::SkipEmptyParts;
 const QString::SplitBehavior SkipEmptyParts = QString::SkipEmptyParts;
 #endif
 
-/// Hands every message of the toolkit, whatever its type, to the sink.
-#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
-template <void (*Sink)(const QString& text)>
-void installToolkitMessageSink()
-{
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) { Sink(text); });
-}
-#else
-template <void (*Sink)(const QString& text)>
-void forwardToolkitMessage(QtMsgType, const char* text)
-{
-    Sink(QString::fromLocal8Bit(text));
-}
+/// Whether the toolkit's settings replace their file in one step, or else rewrite it in place.
+const bool SettingsReplaceTheirFile = QT_VERSION >= QT_VERSION_CHECK(5, 10, 0);
 
+/// Hands every message of the toolkit, whatever its type, to a function for as long as it lives.
 template <void (*Sink)(const QString& text)>
-void installToolkitMessageSink()
+class ToolkitMessageSink
 {
-    qInstallMsgHandler(&forwardToolkitMessage<Sink>);
-}
+public:
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    ToolkitMessageSink()
+        : m_former(qInstallMessageHandler(&forward))
+    {
+    }
+
+    ~ToolkitMessageSink()
+    {
+        qInstallMessageHandler(m_former);
+    }
+#else
+    ToolkitMessageSink()
+        : m_former(qInstallMsgHandler(&forward))
+    {
+    }
+
+    ~ToolkitMessageSink()
+    {
+        qInstallMsgHandler(m_former);
+    }
 #endif
+
+    ToolkitMessageSink(const ToolkitMessageSink&) = delete;
+    ToolkitMessageSink& operator=(const ToolkitMessageSink&) = delete;
+
+private:
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    static void forward(QtMsgType, const QMessageLogContext&, const QString& text)
+    {
+        Sink(text);
+    }
+
+    const QtMessageHandler m_former;
+#else
+    static void forward(QtMsgType, const char* text)
+    {
+        Sink(QString::fromLocal8Bit(text));
+    }
+
+    const QtMsgHandler m_former;
+#endif
+};
 
 /// True for the native window by which some versions of the toolkit receive input before a widget does.
 inline bool isNativeWindow(const QObject* object)

@@ -1,8 +1,13 @@
 #ifndef ZEL_SETTINGSKEYS_H
 #define ZEL_SETTINGSKEYS_H
 
-/// The keys of Settings.ini. What stands before a "/" is the group of the file.
 namespace zel {
+
+/// Names the folders of the stand-alone editor's settings, log and cache.
+const char* const StandAloneApplicationName = "TorvaneBoundless"
+                                              "X64";
+
+/// The keys of Settings.ini. What stands before a "/" is the group of the file.
 namespace keys {
 
 const char* const Engine = "engine";

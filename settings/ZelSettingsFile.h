@@ -9,8 +9,9 @@ class QSettings;
 
 namespace zel {
 
-/// What can go wrong with the settings file itself, told to the caller in a translated text that names the
-/// file.
+/// What keeps the user's settings file whole: after any mishap it holds its old content or the new one, with
+/// every key that is not ours. What goes wrong is told in a translated text that names the file, to the
+/// caller, in the log and on standard output. GUI thread only.
 class ZEL_EXPORT ZelSettingsFile
 {
 public:
@@ -22,8 +23,13 @@ public:
     /// read.
     static bool IsUsable(const QString& path, QString& error);
 
-    /// Writes what has been changed to the file. When it cannot be written, the log and standard output tell
-    /// the file and the reason.
+    /// Makes the file ready for what the toolkit is about to write on its own, as the validation pass lets
+    /// it; Sync is to follow. Keeps a dated copy beside a damaged file, because the toolkit drops what it
+    /// cannot read. False when it cannot: then nothing should be written.
+    static bool PrepareWriting(const QString& path, QString& error);
+
+    /// Writes what has been changed to the file, prepared for it before. What other processes have written in
+    /// the meantime stays. False when the file could not be written; the changes are then still pending.
     static bool Sync(QSettings& settings, QString& error);
 };
 

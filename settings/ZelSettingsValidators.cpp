@@ -1,5 +1,6 @@
 #include "ZelSettingsValidators.h"
 
+#include "FolderCreation.h"
 #include "NumberText.h"
 #include "SceneUnits.h"
 #include "SettingsKeys.h"
@@ -9,7 +10,6 @@
 #include "platform/kqDMRenderer.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFileInfo>
 #include <QRegExp>
 #include <QStringList>
@@ -142,11 +142,6 @@ bool isFolder(const QString& path)
 QString folderOf(const QString& file)
 {
     return QFileInfo(file).absolutePath();
-}
-
-bool createFolder(const QString& path)
-{
-    return isFolder(path) || QDir(path).mkpath(".");
 }
 
 } // namespace

@@ -99,13 +99,16 @@ void ZelControlCenterStandAloneWidget::closeEvent(QCloseEvent* event)
         event->accept();
         return;
     }
-    const auto answer = QMessageBox::warning(
-        this, QCoreApplication::translate("ZelControlCenter", "Settings Modification"),
-        QCoreApplication::translate(
-            "ZelControlCenter",
-            "Your current changes will be discarded.\nContinue and close the application ?"),
-        QMessageBox::Ok | QMessageBox::Cancel);
-    event->setAccepted(answer == QMessageBox::Ok);
+    QMessageBox question(QMessageBox::Warning,
+                         QCoreApplication::translate("ZelControlCenter", "Settings Modification"),
+                         QCoreApplication::translate(
+                             "ZelControlCenter",
+                             "Your current changes will be discarded.\nContinue and close the application ?"),
+                         QMessageBox::Ok | QMessageBox::Cancel, this);
+    // Before it is polished, a box that has a parent with a sheet does not heed its own.
+    question.ensurePolished();
+    question.setStyleSheet(kqDMIApplication::GetStylesheet("kqMessageBox"));
+    event->setAccepted(question.exec() == QMessageBox::Ok);
 }
 
 } // namespace zel

@@ -1,6 +1,7 @@
 #include "launch.h"
 
 #include "SettingsKeys.h"
+#include "SettingsMigration.h"
 #include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
 #include "ZelRendererSelector.h"
@@ -27,8 +28,6 @@ namespace {
 
 using namespace zel;
 
-const char* const ApplicationName = "TorvaneBoundless"
-                                    "X64";
 const char* const FallbackLanguage = "en";
 const int SendTimeout = 5000; // ms
 const int FirstStart = 1;     // Exit code that tells the host of a renderer chosen just now.
@@ -86,15 +85,23 @@ QString commandLineMessage(int argc, char** argv)
 
 QString createSettingsFolder()
 {
-    QString folder = QString::fromUtf8(kqDirUtils::GetAppDataFolderUtf8().c_str()) + "/" + ApplicationName;
+    QString folder =
+        QString::fromUtf8(kqDirUtils::GetAppDataFolderUtf8().c_str()) + "/" + StandAloneApplicationName;
     folder.replace('\\', '/');
     QDir().mkpath(folder);
     return folder;
 }
 
-QString translationFile(const QString& language)
+QString translationFile(const char* origin, const QString& language)
 {
-    return QString("resources/languages/Torvane_%1.qm").arg(language);
+    return QString("resources/languages/%1_%2.qm").arg(origin, language);
+}
+
+void installTranslation(const char* origin, const QString& language, QTranslator& translator)
+{
+    const QString file = translationFile(origin, language);
+    if (QFile::exists(file) && translator.load(file))
+        QCoreApplication::installTranslator(&translator);
 }
 
 QString loadTranslation(const QString& settingsFile, QTranslator& translator)
@@ -102,41 +109,26 @@ QString loadTranslation(const QString& settingsFile, QTranslator& translator)
     QSettings settings(settingsFile, QSettings::IniFormat);
     ZelSettingsFile::UseFileEncoding(settings);
     QString language = settings.value(keys::Language, FallbackLanguage).toString();
-    if (!QFile::exists(translationFile(language)))
+    if (!QFile::exists(translationFile("Torvane", language)))
         language = FallbackLanguage;
-    if (QFile::exists(translationFile(language)) && translator.load(translationFile(language)))
-        QCoreApplication::installTranslator(&translator);
+    installTranslation("Torvane", language, translator);
     return language;
 }
 
-/// Brings the file of an older version up to date, or starts it afresh: its layout is then too old to be
-/// kept. Returns whether the engine is known.
-bool migrateSettings(const QString& settingsFile, const QString& language)
+/// Asks for the renderer unless the settings name one. Sets the engine that has been chosen, if any; false
+/// when the user cancels.
+bool chooseEngine(const QString& settingsFile, const char*& chosenEngine)
 {
-    if (!QFile::exists(settingsFile))
-        return false;
-    QString error;
-    {
-        QSettings settings(settingsFile, QSettings::IniFormat);
-        ZelSettingsFile::UseFileEncoding(settings);
-        const int version = settings.value(keys::SettingsVersion, 0).toInt();
-        if (version == 1) {
-            settings.setValue(keys::SettingsVersion, CurrentSettingsVersion);
-            settings.setValue(keys::Engine, engines::Deferred);
-            ZelSettingsFile::Sync(settings, error);
-        }
-        if (version >= 1) {
-            const QString engine = settings.value(keys::Engine).toString();
-            return engine == engines::Deferred || engine == engines::Software;
-        }
-    }
-    QFile::remove(settingsFile);
     QSettings settings(settingsFile, QSettings::IniFormat);
     ZelSettingsFile::UseFileEncoding(settings);
-    settings.clear();
-    settings.setValue(keys::Language, language);
-    ZelSettingsFile::Sync(settings, error);
-    return false;
+    const QString engine = settings.value(keys::Engine).toString();
+    if (engine == engines::Deferred || engine == engines::Software)
+        return true;
+    ZelRendererSelector selector(nullptr, Qt::WindowFlags());
+    if (selector.exec() != QDialog::Accepted)
+        return false;
+    chosenEngine = selector.useGPURenderer() ? engines::Deferred : engines::Software;
+    return true;
 }
 
 void installLog(ZelSettingsApplication& application)
@@ -161,9 +153,11 @@ int runWindow(QtSingleApplication& singleApplication, ZelSettingsApplication& ap
 
 void showFatalError(const QString& error)
 {
-    QMessageBox::information(
-        nullptr, QCoreApplication::translate("ZelControlCenterStandAloneWidget", "Torvane - Fatal Error"),
-        error);
+    QMessageBox box(QMessageBox::Information,
+                    QCoreApplication::translate("ZelControlCenterStandAloneWidget", "Torvane - Fatal Error"),
+                    error, QMessageBox::Ok);
+    box.setTextFormat(Qt::PlainText); // A path may hold what looks like markup.
+    box.exec();
 }
 
 /// What follows the choice of the renderer: validates the settings, then opens the window unless the choice
@@ -171,12 +165,14 @@ void showFatalError(const QString& error)
 int runApplication(QtSingleApplication& singleApplication, ZelSettingsApplication& application,
                    const char* chosenEngine)
 {
-    ZelControlCenter::InitDefaultSettingsValues(ApplicationName);
+    ZelControlCenter::InitDefaultSettingsValues(StandAloneApplicationName);
     QSettings& settings = application.getSettings();
-    if (chosenEngine)
-        settings.setValue(keys::Engine, chosenEngine);
     QString error;
-    if (!ZelControlCenter::EnsureSettings(settings, error) || !ZelSettingsFile::Sync(settings, error)) {
+    const bool writable = ZelSettingsFile::PrepareWriting(settings.fileName(), error);
+    if (writable && chosenEngine)
+        settings.setValue(keys::Engine, chosenEngine);
+    if (!writable || !ZelControlCenter::EnsureSettings(settings, error) ||
+        !ZelSettingsFile::Sync(settings, error)) {
         showFatalError(error);
         return 0;
     }
@@ -188,7 +184,7 @@ int runApplication(QtSingleApplication& singleApplication, ZelSettingsApplicatio
 
 int launch(int argc, char** argv)
 {
-    installToolkitMessageSink<writeMessage>();
+    const ToolkitMessageSink<writeMessage> messageSink;
     useUtf8FileNames();
     followScreenScale();
     QCoreApplication::setLibraryPaths(QStringList("bin"));
@@ -203,27 +199,28 @@ int launch(int argc, char** argv)
     const QString settingsFolder = createSettingsFolder();
     const QString settingsFile = settingsFolder + "/Settings.ini";
 
-    QTranslator translator;
     int exitCode = 0;
     QString error;
     if (ZelSettingsFile::IsUsable(settingsFile, error)) {
+        // They remove themselves when they go.
+        QTranslator translator, toolkitTranslator;
         const QString language = loadTranslation(settingsFile, translator);
+        installTranslation("Toolkit", language, toolkitTranslator);
         const char* chosenEngine = nullptr;
-        if (!migrateSettings(settingsFile, language)) {
-            ZelRendererSelector selector(nullptr, Qt::WindowFlags());
+        if (!migrateSettings(settingsFile, language, error)) {
+            showFatalError(error);
+        } else if (chooseEngine(settingsFile, chosenEngine)) {
+            ZelSettingsApplication application(settingsFolder);
+            application.setLanguageCode(language);
+            exitCode = runApplication(singleApplication, application, chosenEngine);
+        } else {
             // The libraries stay as they are: nothing has used them yet, and the process is about to end.
-            if (selector.exec() != QDialog::Accepted)
-                return 0;
-            chosenEngine = selector.useGPURenderer() ? engines::Deferred : engines::Software;
+            return 0;
         }
-        ZelSettingsApplication application(settingsFolder);
-        application.setLanguageCode(language);
-        exitCode = runApplication(singleApplication, application, chosenEngine);
     } else {
         showFatalError(error);
     }
 
-    QCoreApplication::removeTranslator(&translator);
     ZelControlCenter::ClearSettingsValues();
     stopPlatformLibraries();
     return exitCode;

@@ -10,38 +10,40 @@ class tst_zelSpinBox : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void wheelNeedsTheFocus_data();
-    void wheelNeedsTheFocus();
-};
+    void wheelNeedsTheFocus()
+    {
+        QWidget page;
+        QLineEdit other;
+        zel::zelSpinBox integer, ofAForm;
+        zel::zelDoubleSpinBox floating;
+        ofAForm.setFocusPolicy(Qt::WheelFocus); // A form may ask for the wheel.
+        const QList<QAbstractSpinBox*> boxes = {&integer, &ofAForm, &floating};
+        QVBoxLayout layout(&page);
+        layout.addWidget(&other);
+        for (QAbstractSpinBox* box : boxes)
+            layout.addWidget(box);
+        page.show();
+        QVERIFY(QTest::qWaitForWindowActive(&page));
 
-void tst_zelSpinBox::wheelNeedsTheFocus_data()
-{
-    QTest::addColumn<bool>("floating");
-    QTest::addColumn<int>("formPolicy");
-    QTest::newRow("integer") << false << int(Qt::StrongFocus);
-    QTest::newRow("floating point") << true << int(Qt::StrongFocus);
-    QTest::newRow("a form that asks for the wheel") << false << int(Qt::WheelFocus);
-}
+        for (QAbstractSpinBox* box : boxes) {
+            const auto value = [box] { return box->property("value").toInt(); };
+            box->setProperty("value", 50);
+            other.setFocus();
+            QVERIFY(!takesTurn(box));
+            QCOMPARE(value(), 50);
+            QTest::mouseClick(box->findChild<QLineEdit*>(), Qt::LeftButton);
+            QVERIFY(takesTurn(box));
+            QCOMPARE(value(), 49);
+            QTest::keyClick(box, Qt::Key_Backtab);
+            QVERIFY(!box->hasFocus() && !takesTurn(box));
+            QCOMPARE(value(), 49);
+        }
+    }
 
-void tst_zelSpinBox::wheelNeedsTheFocus()
-{
-    QFETCH(bool, floating);
-    QFETCH(int, formPolicy);
-    QWidget page;
-    auto* layout = new QVBoxLayout(&page);
-    QAbstractSpinBox* box = floating ? static_cast<QAbstractSpinBox*>(new zel::zelDoubleSpinBox(&page))
-                                     : new zel::zelSpinBox(&page);
-    QCOMPARE(box->focusPolicy(), Qt::StrongFocus);
-    box->setFocusPolicy(Qt::FocusPolicy(formPolicy));
-    auto* other = new QLineEdit(&page);
-    layout->addWidget(other);
-    layout->addWidget(box);
-    page.show();
-    QVERIFY(QTest::qWaitForWindowActive(&page));
-    other->setFocus();
-
-    // Whether the box takes the turn; one that it ignores goes on to the page around it.
-    const auto takesTurn = [box] {
+private:
+    /// Whether the box takes a turn of the wheel; one that it ignores goes on to the page around it.
+    static bool takesTurn(QWidget* box)
+    {
         const QPoint center = box->rect().center();
         QWheelEvent wheel(center, box->mapToGlobal(center), QPoint(), QPoint(0, -120), Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
@@ -49,21 +51,8 @@ void tst_zelSpinBox::wheelNeedsTheFocus()
         QSpontaneKeyEvent::setSpontaneous(&wheel);
         QApplication::sendEvent(box, &wheel);
         return wheel.isAccepted();
-    };
-    const auto value = [box] { return box->property("value").toDouble(); };
-    box->setProperty("value", 50);
-    QVERIFY(!takesTurn());
-    QCOMPARE(value(), 50.);
-
-    QTest::mouseClick(box->findChild<QLineEdit*>(), Qt::LeftButton);
-    QCOMPARE(box->focusPolicy(), Qt::WheelFocus);
-    QVERIFY(takesTurn());
-    QCOMPARE(value(), 49.);
-
-    QTest::keyClick(box, Qt::Key_Backtab);
-    QVERIFY(!box->hasFocus() && !takesTurn());
-    QCOMPARE(value(), 49.);
-}
+    }
+};
 
 QTEST_MAIN(tst_zelSpinBox)
 #include "tst_zelSpinBox.moc"

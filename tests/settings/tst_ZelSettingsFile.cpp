@@ -1,10 +1,13 @@
 #include "ZelSettingsFile.h"
 
+#include "platform/MTLogger.h"
+
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 using zel::ZelSettingsFile;
 
@@ -16,6 +19,9 @@ private Q_SLOTS:
     void unusableFiles_data();
     void unusableFiles();
     void failedWriteIsTold();
+    void everyCharacterIsKept_data();
+    void everyCharacterIsKept();
+    void keptCopyIsNamed();
 };
 
 void tst_ZelSettingsFile::unusableFiles_data()
@@ -75,6 +81,63 @@ void tst_ZelSettingsFile::failedWriteIsTold()
     QString error;
     QVERIFY(!ZelSettingsFile::Sync(settings, error));
     QVERIFY2(error.contains(path), qPrintable(error));
+}
+
+void tst_ZelSettingsFile::everyCharacterIsKept_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("umlaut") << QString::fromUtf8("\303\274");
+    QTest::newRow("beyond 16 bits") << QString::fromUtf8("a\360\237\231\202\360\240\256\267f");
+    QTest::newRow("quoted") << QString::fromUtf8(" \360\237\231\202, \"\303\274\"; \n\t\\=");
+}
+
+void tst_ZelSettingsFile::everyCharacterIsKept()
+{
+    QFETCH(QString, text);
+    QTemporaryDir folder;
+    QSettings settings(folder.filePath("Settings.ini"), QSettings::IniFormat);
+    ZelSettingsFile::UseFileEncoding(settings);
+    settings.setValue("key", text);
+    settings.setValue("list", QStringList({text, text}));
+    QString error;
+    QVERIFY(ZelSettingsFile::Sync(settings, error));
+
+    // Under another name, as the toolkit remembers files, and by the toolkit's own means.
+    QVERIFY(QFile::copy(settings.fileName(), folder.filePath("copy.ini")));
+    QSettings copy(folder.filePath("copy.ini"), QSettings::IniFormat);
+    copy.setIniCodec("UTF-8");
+    QCOMPARE(copy.value("key").toString(), text);
+    QCOMPARE(copy.value("list").toStringList(), QStringList({text, text}));
+}
+
+void tst_ZelSettingsFile::keptCopyIsNamed()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath("Settings.ini");
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no settings\n") > 0);
+    file.close();
+    QFile output(folder.filePath("stdout"));
+    QVERIFY(output.open(QIODevice::ReadWrite));
+    MTLogger::InstallFileHandler(folder.filePath("log.txt").toStdString(), false, "");
+    std::fflush(stdout);
+    const int terminal = ::dup(STDOUT_FILENO);
+    ::dup2(output.handle(), STDOUT_FILENO);
+    QString error;
+    const bool prepared = ZelSettingsFile::PrepareWriting(path, error);
+    ::dup2(terminal, STDOUT_FILENO);
+    ::close(terminal);
+    MTLogger::RemoveFileHandler();
+
+    QVERIFY(prepared);
+    const QStringList copies = QDir(folder.path()).entryList({"Settings.ini.*.bak"}, QDir::Files);
+    QCOMPARE(copies.size(), 1);
+    QFile log(folder.filePath("log.txt"));
+    QVERIFY(log.open(QIODevice::ReadOnly) && output.seek(0));
+    for (const QByteArray& told : {log.readAll(), output.readAll()}) {
+        QVERIFY(told.contains(path.toUtf8()));
+        QVERIFY(told.contains(copies.first().toUtf8()));
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_ZelSettingsFile)

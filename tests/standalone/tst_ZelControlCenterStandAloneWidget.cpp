@@ -1,10 +1,9 @@
-#include "BoxAnswer.h"
 #include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
 #include "ZelSettingsApplication.h"
 #include "ZelSettingsPanel.h"
 
-#include <QSpinBox>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -15,77 +14,44 @@ class tst_ZelControlCenterStandAloneWidget : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void pagesStandInTheirOrder();
-    void closingAsksForPendingEdits();
-    void maximizeButtonToggles();
+    void pagesStandInTheirOrder()
+    {
+        m_window.show();
+        m_window.openMenu();
+        QTRY_VERIFY(m_window.findChild<ZelControlCenter*>()->isSettingsOpen());
+        QMap<int, QString> byPosition;
+        for (const ZelSettingsPanel* page : m_window.findChildren<ZelSettingsPanel*>())
+            byPosition.insert(page->y(), page->getPanelName());
+        const QStringList expected = {"Display", "Folders", "Simplification", "Tessellation", "About"};
+        QCOMPARE(QStringList(byPosition.values()), expected);
+    }
+
+    void headerMovesAndMaximizes()
+    {
+        m_window.show();
+        const QPoint start = m_window.pos();
+        const QPoint onHeader(300, 15);
+        QWindow* handle = m_window.windowHandle();
+        QTest::mousePress(handle, Qt::LeftButton, Qt::NoModifier, onHeader);
+        QTest::mouseMove(handle, onHeader + QPoint(30, 20));
+        QTest::mouseRelease(handle, Qt::LeftButton, Qt::NoModifier, onHeader);
+        const QRect moved = m_window.geometry();
+        QCOMPARE(moved, QRect(start + QPoint(30, 20), QSize(800, 600)));
+
+        auto* button = m_window.findChild<QPushButton*>("maximizeButton");
+        QTest::mouseDClick(m_window.findChild<QWidget*>("headerFrame"), Qt::LeftButton);
+        QVERIFY(m_window.isMaximized());
+        QTest::mouseClick(button, Qt::LeftButton);
+        QTRY_COMPARE(m_window.geometry(), moved);
+        QTest::mouseClick(button, Qt::LeftButton);
+        QVERIFY(m_window.isMaximized());
+    }
 
 private:
     QTemporaryDir m_folder;
-    std::unique_ptr<ZelSettingsApplication> m_application;
-    std::unique_ptr<ZelControlCenterStandAloneWidget> m_window;
+    ZelSettingsApplication m_application{m_folder.path()};
+    ZelControlCenterStandAloneWidget m_window{&m_application, nullptr, Qt::FramelessWindowHint};
 };
-
-void tst_ZelControlCenterStandAloneWidget::init()
-{
-    m_application.reset(new ZelSettingsApplication(m_folder.path()));
-    m_application->getSettings().clear();
-    m_window.reset(
-        new ZelControlCenterStandAloneWidget(m_application.get(), nullptr, Qt::FramelessWindowHint));
-    m_window->show();
-    m_window->openMenu();
-    QTRY_VERIFY(m_window->findChild<ZelControlCenter*>()->isSettingsOpen());
-}
-
-void tst_ZelControlCenterStandAloneWidget::cleanup()
-{
-    m_window.reset();
-    m_application.reset();
-}
-
-void tst_ZelControlCenterStandAloneWidget::pagesStandInTheirOrder()
-{
-    QMap<int, QString> byPosition;
-    for (const ZelSettingsPanel* page : m_window->findChildren<ZelSettingsPanel*>())
-        byPosition.insert(page->y(), page->getPanelName());
-    QCOMPARE(QStringList(byPosition.values()),
-             QStringList({"Display", "Folders", "Simplification", "Tessellation", "About"}));
-    QCOMPARE(m_window->windowTitle(), QString("Torvane - Control Center"));
-    QCOMPARE(m_window->size(), QSize(800, 600));
-}
-
-void tst_ZelControlCenterStandAloneWidget::closingAsksForPendingEdits()
-{
-    auto* cacheSize = m_window->findChild<QSpinBox*>("databaseSpinBox");
-    cacheSize->setFocus();
-    QTest::keyClick(cacheSize, Qt::Key_Up);
-    const int edited = cacheSize->value();
-    {
-        BoxAnswer answer(QMessageBox::Cancel);
-        QTest::mouseClick(m_window->findChild<QPushButton*>("closeButton"), Qt::LeftButton);
-        QCOMPARE(answer.titles, QStringList("Settings Modification"));
-        QCOMPARE(
-            answer.texts,
-            QStringList("Your current changes will be discarded.\nContinue and close the application ?"));
-    }
-    QVERIFY(m_window->isVisible());
-    QCOMPARE(cacheSize->value(), edited);
-    BoxAnswer answer(QMessageBox::Ok);
-    QTest::mouseClick(m_window->findChild<QPushButton*>("closeButton"), Qt::LeftButton);
-    QVERIFY(!m_window->isVisible() && answer.texts.size() == 1);
-}
-
-void tst_ZelControlCenterStandAloneWidget::maximizeButtonToggles()
-{
-    const QSize normal = m_window->size();
-    auto* button = m_window->findChild<QPushButton*>("maximizeButton");
-    QTest::mouseClick(button, Qt::LeftButton);
-    QVERIFY(m_window->isMaximized());
-    QTest::mouseClick(button, Qt::LeftButton);
-    QVERIFY(!m_window->isMaximized());
-    QTRY_COMPARE(m_window->size(), normal);
-}
 
 QTEST_MAIN(tst_ZelControlCenterStandAloneWidget)
 #include "tst_ZelControlCenterStandAloneWidget.moc"

@@ -8,34 +8,30 @@
 
 /// Answers the message boxes that open while it lives, as a user would: by a click on one of their buttons,
 /// or by Escape where that is to be. Keeps what they said.
-class BoxAnswer : public QObject
+class BoxAnswer : public QTimer
 {
 public:
     explicit BoxAnswer(QMessageBox::StandardButton button)
-        : m_button(button)
     {
-        connect(&m_poll, &QTimer::timeout, this, &BoxAnswer::answer);
-        m_poll.start(20);
+        callOnTimeout([this, button] { answer(button); });
+        start(20);
     }
 
     QStringList titles, texts;
 
 private:
-    void answer()
+    void answer(QMessageBox::StandardButton wanted)
     {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (!box || !box->isVisible())
             return;
         titles << box->windowTitle();
         texts << box->text();
-        if (QAbstractButton* button = box->button(m_button))
+        if (QAbstractButton* button = box->button(wanted))
             button->click();
         else
             box->reject();
     }
-
-    const QMessageBox::StandardButton m_button;
-    QTimer m_poll;
 };
 
 #endif

@@ -39,7 +39,11 @@ void LogFile::append(const QByteArray& line)
 
 void LogFile::openForAppending()
 {
-    if (!m_file.open(QIODevice::Append | QIODevice::Text | QIODevice::Unbuffered))
+    const QFileInfo file(m_file.fileName());
+    // Opening a pipe would wait for whoever reads it.
+    if (file.exists() && !file.isFile())
+        report("is not a file");
+    else if (!m_file.open(QIODevice::Append | QIODevice::Text | QIODevice::Unbuffered))
         report("cannot be opened");
 }
 

@@ -1,5 +1,7 @@
 #include "platform/kqMessageBox.h"
 
+#include "platform/kqDMIApplication.h"
+
 #include <QAbstractButton>
 #include <QPointer>
 
@@ -24,6 +26,7 @@ kqMessageBox::ShowMessage(const QString& title, const QString& text, QMessageBox
                                                     flags | Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint));
     box->setIcon(icon(*box, critical));
     box->setTextFormat(Qt::PlainText);
+    box->setStyleSheet(kqDMIApplication::GetStylesheet("kqMessageBox"));
     for (auto text = buttonTexts.begin(); text != buttonTexts.end(); ++text) {
         if (QAbstractButton* button = box->button(text.key()))
             button->setText(text.value());

@@ -1,0 +1,118 @@
+"""Makes the tables of docs/benchmarks.md: report.py RESULTS INSIDE
+
+RESULTS holds lines "name <tab> number", several for what was measured several times; INSIDE is the output of
+settings_benchmark in its JSON form.
+"""
+import collections
+import json
+import os
+import statistics
+import sys
+
+MEDIAN = statistics.median
+
+
+def read_results(path):
+    results = collections.defaultdict(list)
+    with open(path, encoding="utf-8") as lines:
+        for line in lines:
+            name, number = line.rstrip("\n").split("\t")
+            results[name].append(float(number))
+    return results
+
+
+def read_inside(path):
+    """Seconds by the name of the benchmark."""
+    with open(path, encoding="utf-8") as file:
+        runs = [run for run in json.load(file)["benchmarks"] if run["run_type"] == "iteration"]
+    results = collections.defaultdict(list)
+    for run in runs:
+        results[run["run_name"].removesuffix("/manual_time")].append(run["real_time"] / 1e9)
+    return {name: MEDIAN(times) for name, times in results.items()}
+
+
+def slides(results, size, kind, name):
+    """What each of the runs of slides noted under a name."""
+    return [numbers for key, numbers in results.items()
+            if key.startswith(f"{size} {kind} ") and key.endswith(" " + name)]
+
+
+def text(number, unit):
+    return f"{number:.{max(0, 2 - len(str(int(number))) + 1)}f} {unit}"
+
+
+def time_text(seconds):
+    for factor, unit in ((1, "s"), (1e3, "ms"), (1e6, "µs")):
+        if seconds * factor >= 1:
+            break
+    return text(seconds * factor, unit)
+
+
+def row(what, ours, base, show, most_ratio=None, most=None):
+    ratio = ours / base
+    limit, met = "", ""
+    if most_ratio is not None:
+        limit, met = f"{most_ratio} times", ratio <= most_ratio
+    elif most is not None:
+        limit, met = show(most), ours <= most
+    met = {True: "yes", False: "**no**"}.get(met, "")
+    return f"| {what} | {show(ours)} | {show(base)} | {ratio:.2f} | {limit} | {met} |"
+
+
+def main():
+    results, inside = read_results(sys.argv[1]), read_inside(sys.argv[2])
+
+    def seconds(name):
+        return MEDIAN(results[name]) / 1e3
+
+    rows = [row("Start to the first painted frame, beside an empty toolkit window",
+                seconds("start torvane"), seconds("start empty"), time_text, most_ratio=1.5),
+            row("– beside an empty window that loads no more plug-ins than the editor",
+                seconds("start torvane"), seconds("start empty, same plug-ins"), time_text)]
+    for name, limit in (("empty", 1.25), ("empty, same plug-ins", None)):
+        rows.append(row("Peak of the memory, beside an empty toolkit window" if limit else "– with the same plug-ins",
+                        MEDIAN(results["memory torvane"]) / 1024, MEDIAN(results["memory " + name]) / 1024,
+                        lambda number: text(number, "MB"), most_ratio=limit))
+    for keys in (10, 1000, 100000):
+        rows.append(row(f"Validation pass over {keys:,} keys, beside plain reading and writing",
+                        inside[f"pass/{keys}"], inside[f"plain/{keys}"], time_text, most_ratio=1.2))
+    growth = [inside[f"{name}/100000"] / inside[f"{name}/1000"] / 100 for name in ("pass", "plain")]
+    rows.append(row("– growth of the time for one key from 1,000 to 100,000 keys", *growth,
+                    lambda number: text(number, "times")))
+    rows.append(row("One edit with five pages, beside a spin box alone", inside["edit"], inside["edit alone"],
+                    time_text, most=1e-3))
+    for size in ("800 600", "1400 1000"):
+        where = size.replace(" ", " × ")
+        for name, what, most, measure in (
+                ("opening", "First opening of the drawer until it is seen", None, max),
+                ("cost", "Dearest frame of the slides, processor time", 0.016, max),
+                ("interval", "From one frame to the next, median", None, MEDIAN)):
+            ours, base = (MEDIAN([measure(run) for run in slides(results, size, kind, name)]) / 1e3
+                          for kind in ("torvane", "plain"))
+            rows.append(row(f"{what}, {where}", ours, base, time_text, most=most))
+
+    print("# Speed and memory\n\nMade by `scripts/benchmark`, which says how to run it again; "
+          f"{os.cpu_count()} processor cores, software rendering on Xvfb. Times are medians.\n")
+    print("| what | Torvane | baseline | ratio | at most | met |\n|---|--:|--:|--:|--:|---|")
+    print("\n".join(rows))
+    print("\n## Where the time of a start goes\n\n| stage | ms |\n|---|--:|")
+    for name, numbers in results.items():
+        if name.startswith("stage "):
+            print(f"| {name.removeprefix('stage ')} | {MEDIAN(numbers):.1f} |")
+    print("""
+The control center and its pages are measured in a start of their own; together they are most of the window.
+
+## How it is measured
+
+- *First painted frame*: an X client fills the empty screen with a colour, starts the program and looks, every half
+  millisecond, whether that colour is gone from the middle row and the middle column of the program's window.
+- *Peak of the memory*: `VmHWM` a second after the first frame, when the drawer has opened.
+- *Validation pass*: the file lies in memory and is put there anew each time, so that it is really read. The plain
+  reading and writing visits the same keys in the same order and stores what it has read.
+- *Slides*: the stand-alone window; the baseline slides a column and a drawer of as many unadorned toolkit widgets. The
+  cost of a frame is the processor time of the process from the end of one frame to the end of the next; the interval
+  between them follows the 16 ms clock of the toolkit's animations.""")
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,184 @@
+// What runs inside the process: the validation pass, beside plain reading and writing of the same file, and
+// one edit, beside the same edit of a spin box that nobody listens to.
+
+#include "ZelAboutSettingsPanel.h"
+#include "ZelControlCenter.h"
+#include "ZelGeneralSettingsPanel.h"
+#include "ZelImportSettingsPanel.h"
+#include "ZelRendererSettingsPanel.h"
+#include "ZelSettingsApplication.h"
+#include "ZelSettingsFile.h"
+#include "ZelSimplificationSettingsPanel.h"
+
+#include <QtWidgets>
+
+#include <benchmark/benchmark.h>
+
+using namespace zel;
+
+namespace {
+
+const struct
+{
+    const char* value;
+    ZelSettingsRegistry::Validator validator;
+} Samples[] = {
+    {"any text", &ZelSettingsValidators::noOp},
+    {"true", &ZelSettingsValidators::ensureBool},
+    {"software", &ZelSettingsValidators::ensureEngine},
+    {"120", &ZelSettingsValidators::ensureTesselationMaxFaceAngle},
+    {"0.25", &ZelSettingsValidators::ensureTesselationMaxFaceSag},
+    {"1000000", &ZelSettingsValidators::ensureLODTrianglesCap},
+    {"1073741824", &ZelSettingsValidators::ensureMaxGPUMemory},
+    {"0.01", &ZelSettingsValidators::ensureSceneUnit},
+    {"Medium", &ZelSettingsValidators::ensureRaytracerQuality},
+    {"1/0.5/0.25/0.1/0.05", &ZelSettingsValidators::ensureSimplificationRatios},
+};
+
+/// A settings file of any number of keys, all of them registered.
+class ManySettings
+{
+public:
+    explicit ManySettings(int keys)
+    {
+        QSettings settings(path(), QSettings::IniFormat);
+        ZelSettingsRegistry::ClearSettingsValues();
+        for (int i = 0; i < keys; ++i) {
+            const auto& sample = Samples[std::size_t(i) % std::size(Samples)];
+            const QString key = QString("Group%1/key%2").arg(i / 100).arg(i);
+            ZelSettingsRegistry::RegisterSetting(key, sample.value, sample.validator);
+            settings.setValue(key, sample.value);
+        }
+        settings.sync();
+        QFile file(path());
+        file.open(QIODevice::ReadOnly);
+        m_content = file.readAll();
+    }
+
+    ~ManySettings() { ZelSettingsRegistry::ClearSettingsValues(); }
+
+    QString path() const { return m_folder.filePath("Settings.ini"); }
+
+    /// Puts the file there anew, so that the toolkit cannot answer from what it remembers of it.
+    void restore() const
+    {
+        QFile::remove(path());
+        QFile file(path());
+        file.open(QIODevice::WriteOnly);
+        file.write(m_content);
+    }
+
+private:
+    QTemporaryDir m_folder;
+    QByteArray m_content;
+};
+
+template <void (*Run)(QSettings&)>
+void readAndWrite(benchmark::State& state)
+{
+    const ManySettings many(int(state.range(0)));
+    for (auto _ : state) {
+        many.restore();
+        const auto start = std::chrono::steady_clock::now();
+        {
+            QSettings settings(many.path(), QSettings::IniFormat);
+            ZelSettingsFile::UseFileEncoding(settings);
+            Run(settings);
+        }
+        state.SetIterationTime(
+            std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+    }
+}
+
+void plain(QSettings& settings)
+{
+    for (const auto& setting : ZelSettingsRegistry::GetDefaultSettingsValues()) {
+        const QString value = settings.value(setting.first, setting.second.first).toString();
+        settings.setValue(setting.first, value);
+    }
+    settings.sync();
+}
+
+void pass(QSettings& settings)
+{
+    QString error;
+    if (!ZelSettingsRegistry::EnsureSettings(settings, error))
+        qFatal("the validation pass fails");
+}
+
+/// All five pages in an open control center.
+class OpenControlCenter
+{
+public:
+    OpenControlCenter()
+        : m_application(m_folder.path())
+        , m_controlCenter(&m_application, nullptr, Qt::WindowFlags())
+    {
+        add<ZelRendererSettingsPanel>();
+        add<ZelGeneralSettingsPanel>();
+        add<ZelSimplificationSettingsPanel>();
+        add<ZelImportSettingsPanel>();
+        add<ZelAboutSettingsPanel>();
+        m_controlCenter.openMenu(true);
+        m_controlCenter.setControlCenterVisible(true);
+    }
+
+    ~OpenControlCenter()
+    {
+        for (const auto& page : m_pages)
+            m_controlCenter.unregisterSettingsPanel(page.get(), false);
+    }
+
+    QWidget& widget() { return m_controlCenter; }
+
+private:
+    template <class Page>
+    void add()
+    {
+        m_pages.push_back(
+            std::make_unique<Page>(&m_application, m_application.getSettings(), nullptr, Qt::WindowFlags()));
+        m_controlCenter.registerSettingsPanel(m_pages.back().get());
+    }
+
+    QTemporaryDir m_folder;
+    ZelSettingsApplication m_application;
+    ZelControlCenter m_controlCenter;
+    std::vector<std::unique_ptr<ZelSettingsPanel>> m_pages;
+};
+
+void edit(QSpinBox& box, benchmark::State& state)
+{
+    int value = 1000;
+    for (auto _ : state)
+        box.setValue(value ^= 1);
+}
+
+void editOnPage(benchmark::State& state)
+{
+    OpenControlCenter open;
+    edit(*open.widget().findChild<QSpinBox*>("databaseSpinBox"), state);
+    if (!open.widget().findChild<QPushButton*>("applyButton")->isEnabled())
+        qFatal("the edit does not reach the Apply button");
+}
+
+void editAlone(benchmark::State& state)
+{
+    QSpinBox box;
+    box.setRange(10, 4096);
+    edit(box, state);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    for (const int keys : {10, 1000, 100000}) {
+        benchmark::RegisterBenchmark("pass", readAndWrite<pass>)->Arg(keys)->UseManualTime();
+        benchmark::RegisterBenchmark("plain", readAndWrite<plain>)->Arg(keys)->UseManualTime();
+    }
+    benchmark::RegisterBenchmark("edit", editOnPage);
+    benchmark::RegisterBenchmark("edit alone", editAlone);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+}

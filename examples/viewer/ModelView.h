@@ -1,0 +1,66 @@
+#ifndef VIEWER_MODELVIEW_H
+#define VIEWER_MODELVIEW_H
+
+#include <QColor>
+#include <QMatrix4x4>
+#include <QPoint>
+#include <QPolygonF>
+#include <QTimer>
+#include <QWidget>
+
+#include <vector>
+
+class QPainter;
+class ViewerScene;
+
+/// The 3D view: paints the scene's model, turned by the mouse and, while the engine is on, by itself.
+class ModelView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// @param highlights  whether surfaces shine, which only the "deferred" engine can do
+    ModelView(ViewerScene& scene, bool highlights, QWidget* parent);
+
+public Q_SLOTS:
+    /// Stops the engine, so that nothing moves by itself, and starts it again.
+    void setEngineEnabled(bool enabled);
+    void setWireFrame(bool wireFrame);
+
+Q_SIGNALS:
+    void framePainted();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+
+private Q_SLOTS:
+    void advance();
+    void onSceneChanged();
+
+private:
+    struct PaintedFacet
+    {
+        QPolygonF outline;
+        QColor color;
+        float depth;
+    };
+
+    void turn(float degrees, const QVector3D& axis);
+    /// The facets that face the viewer, the farthest first.
+    std::vector<PaintedFacet> visibleFacets();
+    QColor shade(const QVector3D& normal, float along) const;
+    void paintCaption(QPainter& painter);
+
+    ViewerScene& m_scene;
+    const bool m_highlights;
+    QMatrix4x4 m_rotation;
+    QTimer m_clock;
+    QPoint m_grip;
+    std::size_t m_facetCount;
+    bool m_engineEnabled;
+    bool m_wireFrame;
+};
+
+#endif

@@ -1,0 +1,75 @@
+#include "TurntableSettingsPanel.h"
+
+#include "ui_TurntableSettingsPanel.h"
+
+#include "ViewerScene.h"
+#include "ViewerSettings.h"
+
+#include <zel/platform/kqDMIApplication.h>
+
+bool TurntableModel::operator==(const TurntableModel& other) const
+{
+    return turns == other.turns && degreesPerSecond == other.degreesPerSecond;
+}
+
+TurntableSettingsPanel::TurntableSettingsPanel(ViewerScene& scene, kqDMIApplication* application,
+                                               QSettings& settings)
+    : ZelEditablePanel(
+          application, settings, nullptr, Qt::WindowFlags(),
+          {
+              {viewerkeys::Turns, &TurntableModel::turns, zel::flagConversion()},
+              {viewerkeys::TurnSpeed, &TurntableModel::degreesPerSecond, zel::integerConversion()},
+          })
+    , m_ui(new Ui::TurntableSettingsPanel)
+    , m_scene(scene)
+{
+    m_ui->setupUi(this);
+    // Fonts and fields as on the library's pages.
+    setStyleSheet(kqDMIApplication::GetStylesheet("ZelGeneralSettingsPanel"));
+    setPanelName(tr("Turntable"));
+    setPanelCategory(ApplicationCategory);
+}
+
+TurntableSettingsPanel::~TurntableSettingsPanel() = default;
+
+void TurntableSettingsPanel::on_resetButton_clicked()
+{
+    resetContent();
+}
+
+void TurntableSettingsPanel::on_turnsCheckBox_toggled(bool)
+{
+    onEdited();
+}
+
+void TurntableSettingsPanel::on_speedSpinBox_valueChanged(int)
+{
+    onEdited();
+}
+
+void TurntableSettingsPanel::getCurrentModel(TurntableModel& model) const
+{
+    model.turns = m_ui->turnsCheckBox->isChecked();
+    model.degreesPerSecond = m_ui->speedSpinBox->value();
+}
+
+void TurntableSettingsPanel::applyModel(const TurntableModel& model)
+{
+    // Blocked, so that filling the page does not look like an edit.
+    m_ui->turnsCheckBox->blockSignals(true);
+    m_ui->speedSpinBox->blockSignals(true);
+    m_ui->turnsCheckBox->setChecked(model.turns);
+    m_ui->speedSpinBox->setValue(model.degreesPerSecond);
+    m_ui->turnsCheckBox->blockSignals(false);
+    m_ui->speedSpinBox->blockSignals(false);
+}
+
+void TurntableSettingsPanel::pushToApplication()
+{
+    m_scene.setTurnSpeed(m_ui->turnsCheckBox->isChecked() ? m_ui->speedSpinBox->value() : 0);
+}
+
+void TurntableSettingsPanel::notifyStateChanged()
+{
+    emit stateChanged();
+}

@@ -1,0 +1,51 @@
+#ifndef VIEWER_TURNTABLESETTINGSPANEL_H
+#define VIEWER_TURNTABLESETTINGSPANEL_H
+
+#include <memory>
+#include <zel/ZelEditablePanel.h>
+
+class ViewerScene;
+
+namespace Ui {
+class TurntableSettingsPanel;
+}
+
+/// What the page "Turntable" edits.
+struct TurntableModel
+{
+    bool turns = false;
+    int degreesPerSecond = 0;
+
+    bool operator==(const TurntableModel& other) const;
+};
+
+/// A settings page of the viewer's own: whether the model turns by itself, and how fast.
+class TurntableSettingsPanel : public zel::ZelEditablePanel<TurntableModel>
+{
+    Q_OBJECT
+
+public:
+    /// Applied values go to the scene at once.
+    TurntableSettingsPanel(ViewerScene& scene, kqDMIApplication* application, QSettings& settings);
+    ~TurntableSettingsPanel() override;
+
+Q_SIGNALS:
+    void stateChanged();
+
+protected Q_SLOTS:
+    void on_resetButton_clicked();
+    void on_turnsCheckBox_toggled(bool checked);
+    void on_speedSpinBox_valueChanged(int degreesPerSecond);
+
+protected:
+    void getCurrentModel(TurntableModel& model) const override;
+    void applyModel(const TurntableModel& model) override;
+    void pushToApplication() override;
+    void notifyStateChanged() override;
+
+private:
+    const std::unique_ptr<Ui::TurntableSettingsPanel> m_ui;
+    ViewerScene& m_scene;
+};
+
+#endif

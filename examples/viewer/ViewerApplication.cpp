@@ -1,0 +1,77 @@
+#include "ViewerApplication.h"
+
+#include "ViewerSettings.h"
+
+#include <QStringList>
+
+#include <zel/SettingsKeys.h>
+#include <zel/Version.h>
+#include <zel/ZelSettingsFile.h>
+#include <zel/ZelSettingsRegistry.h>
+#include <zel/platform/MTLogger.h>
+
+namespace keys = zel::keys;
+
+ViewerApplication::ViewerApplication(const QString& folder)
+    : m_folder(folder)
+    , m_settings(folder + "/Settings.ini", QSettings::IniFormat)
+    , m_manager(m_scene)
+    , m_renderer(m_scene)
+    , m_knotPlugin("Knots", "1.0")
+    , m_controlCenterPlugin("Control center",
+                            ZelControlCenter::Version::GetDescStringMajorMinorRelease(false))
+    , m_plugins{&m_knotPlugin, &m_controlCenterPlugin}
+{
+    zel::ZelSettingsFile::UseFileEncoding(m_settings);
+}
+
+void ViewerApplication::applicationStarted()
+{
+    m_language = m_settings.value(keys::Language).toString();
+    setScreenshotImageFolder(m_settings.value(keys::ScreenshotFolder).toString());
+    m_renderer.setTargetTriangles(m_settings.value(keys::TrianglesCap).toULongLong());
+    m_manager.setMaxCacheSize(m_settings.value(keys::CacheSize).toUInt());
+    std::vector<float> ratios;
+    for (const QString& ratio : m_settings.value(keys::SimplificationRatios).toString().split('/'))
+        ratios.push_back(ratio.toFloat());
+    m_manager.setSimplificationRatios(ratios);
+    const bool turns = m_settings.value(viewerkeys::Turns).toBool();
+    m_scene.setTurnSpeed(turns ? m_settings.value(viewerkeys::TurnSpeed).toInt() : 0);
+}
+
+QString ViewerApplication::getDefaultSettingsValue(const QString& key)
+{
+    return zel::ZelSettingsRegistry::GetDefaultSettingsValue(key);
+}
+
+void ViewerApplication::setUpdateEngineEnabled(bool enabled)
+{
+    MTLogger::Log("debug", enabled ? "engine updates on" : "engine updates off");
+    emit updateEngineEnabled(enabled);
+}
+
+void ViewerApplication::setScreenshotImageFolder(const QString& folder)
+{
+    m_screenshotFolder = folder;
+}
+
+void ViewerApplication::loadDocument(const QStringList& files, bool)
+{
+    KnotShape shape;
+    QString error;
+    if (files.isEmpty() || !shape.load(files.first(), error)) {
+        emit message(error);
+        return;
+    }
+    m_documentFile = files.first();
+    m_scene.setShape(shape);
+    emit message(tr("Opened %1").arg(m_documentFile));
+}
+
+bool ViewerApplication::saveDocument()
+{
+    QString error;
+    const bool saved = m_scene.shape().save(m_documentFile, error);
+    emit message(saved ? tr("Saved %1").arg(m_documentFile) : error);
+    return saved;
+}

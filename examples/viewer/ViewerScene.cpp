@@ -1,0 +1,66 @@
+#include "ViewerScene.h"
+
+#include <algorithm>
+
+ViewerScene::ViewerScene(QObject* parent)
+    : QObject(parent)
+    , m_level(3)
+    , m_triangleCap(ModelTriangles)
+    , m_ratios(LevelCount, 1.0F)
+    , m_turnSpeed(0)
+{
+}
+
+void ViewerScene::setShape(const KnotShape& shape)
+{
+    m_shape = shape;
+    m_meshes.clear();
+    emit changed();
+}
+
+void ViewerScene::setLevel(int level)
+{
+    m_level = level;
+    emit changed();
+}
+
+void ViewerScene::setTriangleCap(quint64 triangles)
+{
+    m_triangleCap = triangles;
+    emit changed();
+}
+
+void ViewerScene::setRatios(const std::vector<float>& ratios)
+{
+    m_ratios = ratios;
+    m_ratios.resize(LevelCount, 1.0F);
+    emit changed();
+}
+
+void ViewerScene::setCacheSize(unsigned int megabytes)
+{
+    m_meshes.setMaxCost(int(megabytes) * 1024);
+}
+
+void ViewerScene::setTurnSpeed(int degreesPerSecond)
+{
+    m_turnSpeed = degreesPerSecond;
+    emit changed();
+}
+
+quint64 ViewerScene::triangles() const
+{
+    return std::min(m_triangleCap, quint64(ModelTriangles * double(m_ratios[m_level - 1])));
+}
+
+std::shared_ptr<const KnotMesh> ViewerScene::mesh()
+{
+    const int facets = int(triangles() / TrianglesPerFacet);
+    if (const auto* known = m_meshes.object(facets))
+        return *known;
+    auto mesh = std::make_shared<const KnotMesh>(m_shape, facets);
+    const std::size_t bytes =
+        mesh->points().size() * sizeof(QVector3D) + mesh->facets().size() * sizeof(KnotMesh::Facet);
+    m_meshes.insert(facets, new std::shared_ptr<const KnotMesh>(mesh), int(bytes / 1024) + 1);
+    return mesh;
+}

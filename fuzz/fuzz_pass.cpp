@@ -1,0 +1,196 @@
+// The validation pass, on any bytes that a settings file may hold.
+
+#include "Check.h"
+#include "SettingsDamage.h"
+#include "SettingsKeys.h"
+#include "ZelSettingsFile.h"
+#include "ZelSettingsRegistry.h"
+#include "ZelSettingsValidators.h"
+
+#include <QCoreApplication>
+#include <QDataStream>
+#include <QDebug>
+#include <QFile>
+#include <QMap>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <algorithm>
+
+using namespace zel;
+
+namespace {
+
+typedef ZelSettingsValidators V;
+typedef QMap<QString, QByteArray>
+    Content; ///< Values as a stream holds them, because those of a window cannot be compared here.
+
+const QTemporaryDir& folder()
+{
+    static const QTemporaryDir created;
+    return created;
+}
+
+void registerSettings()
+{
+    const struct
+    {
+        const char* key;
+        QString defaultValue;
+        ZelSettingsRegistry::Validator validator;
+    } settings[] = {
+        {keys::Engine, engines::Deferred, &V::ensureEngine},
+        {keys::SettingsVersion, QString::number(CurrentSettingsVersion), &V::ensureSettingsVersion},
+        {keys::EnableDiagnostics, "false", &V::ensureBool},
+        {keys::LogTypeBlackList, QString(), &V::noOp},
+        {keys::LogFile, folder().filePath("data/log.txt"), &V::ensureFile},
+        {keys::CacheSize, "4096", &V::noOp},
+        {keys::CacheDirectory, folder().filePath("cache"), &V::ensureDMCacheFolder},
+        {keys::SimplificationRatios, "1/0.75/0.5/0.25/0.1", &V::ensureSimplificationRatios},
+        {keys::MaxFaceAngle, "15", &V::ensureTesselationMaxFaceAngle},
+        {keys::MaxFaceLength, "10", &V::ensureTesselationMaxFaceLength},
+        {keys::MaxFaceSag, "0.2", &V::ensureTesselationMaxFaceSag},
+        {keys::MaxFaceAngleSet, "false", &V::ensureBool},
+        {keys::MaxFaceLengthSet, "false", &V::ensureBool},
+        {keys::MaxFaceSagSet, "true", &V::ensureBool},
+        {keys::TessellationQualitySet, "false", &V::ensureBool},
+        {keys::TessellationHighQuality, "true", &V::ensureBool},
+        {keys::TrianglesCap, "20000000", &V::ensureLODTrianglesCap},
+        {keys::MaxGpuMemory, "1073741824", &V::ensureMaxGPUMemory},
+        {keys::MaxCpuMemoryRaytracer, "1073741824", &V::ensureMaxCPUMemoryRaytracer},
+        {keys::MaxCpuMemory3D, "1073741824", &V::ensureMaxCPUMemory3D},
+        {keys::SceneUnits, "1", &V::ensureSceneUnit},
+        {keys::UseEdgeDetection, "true", &V::ensureBool},
+        {keys::UseFxaa, "true", &V::ensureBool},
+        {keys::UseSsao, "true", &V::ensureBool},
+        {keys::CoreNumber, "1", &V::ensureCoreNumber},
+        {keys::RaytracerQuality, "Medium", &V::ensureRaytracerQuality},
+        // What an application may add.
+        {"network/host", "localhost", &V::ensureIpOrHostName},
+        {"network/port", "8080", &V::ensurePortValue},
+        {"network/cache", "100", &V::ensureCacheSize},
+        {"log/level", "1", &V::ensureLogLevel},
+        {"log/count", "5", &V::ensurePositiveInteger},
+        {"Simplification/RAM", "1073741824", &V::ensureSimplificationRAM},
+        {"Simplification/Threads", "1", &V::ensureSimplificationThreads},
+        {"tmp/folder", folder().filePath("tmp"), &V::ensureTmpFolder},
+    };
+    for (const auto& setting : settings)
+        ZelSettingsRegistry::RegisterSetting(setting.key, setting.defaultValue, setting.validator);
+}
+
+QByteArray bytes(const QString& path)
+{
+    QFile file(path);
+    check(file.open(QIODevice::ReadOnly), "the file exists", path);
+    return file.readAll();
+}
+
+/// What is stored under keys that nobody has registered.
+Content unknownContent(const QString& path)
+{
+    QSettings settings(path, QSettings::IniFormat);
+    ZelSettingsFile::UseFileEncoding(settings);
+    Content content;
+    for (const QString& key : settings.allKeys()) {
+        if (ZelSettingsRegistry::GetDefaultSettingsValues().count(key))
+            continue;
+        QDataStream stream(&content[key], QIODevice::WriteOnly);
+        // The toolkit stores numbers and truth values, in whatever form it has read them, as text.
+        QVariant value = settings.value(key);
+        if (value.canConvert(QVariant::String) && value.type() != QVariant::StringList)
+            value.convert(QVariant::String);
+        stream << value;
+    }
+    return content;
+}
+
+/// Names that the toolkit reads from a file but can neither reach nor remove, and partly writes as another:
+/// "/engine" becomes "engine", beside or over the key of that name.
+bool hasNameWithEmptyPart(const Content& content)
+{
+    const QStringList names = content.keys();
+    return std::any_of(names.begin(), names.end(),
+                       [](const QString& name) { return name.split('/').contains(""); });
+}
+
+QString text(const Content& content)
+{
+    QString result;
+    QDebug(&result) << content;
+    return result;
+}
+
+void checkRegisteredValues(const QString& path)
+{
+    QSettings settings(path, QSettings::IniFormat);
+    ZelSettingsFile::UseFileEncoding(settings);
+    for (const auto& [key, rule] : ZelSettingsRegistry::GetDefaultSettingsValues()) {
+        check(settings.contains(key), "every registered key is in the file", key);
+        const QString stored = settings.value(key).toString();
+        QString repaired = stored, error;
+        check(rule.second(key, rule.first, repaired, error), "every stored value is accepted", key, stored);
+        check(repaired == stored, "every stored value is left as it is", key, stored, repaired);
+    }
+}
+
+void runPass(const QString& path)
+{
+    QSettings settings(path, QSettings::IniFormat);
+    ZelSettingsFile::UseFileEncoding(settings);
+    QString error;
+    check(ZelSettingsRegistry::EnsureSettings(settings, error), "the pass succeeds", error);
+    check(settings.status() != QSettings::AccessError, "the file is written");
+}
+
+/// Copies of a file under other names, because the toolkit remembers a file that it has read by its name, its
+/// size and a time that does not tell two inputs of one millisecond apart.
+QString writeInput(const uint8_t* data, size_t size)
+{
+    static int number = 0;
+    const QString path = folder().filePath(QString("Settings%1.ini").arg(++number));
+    QFile file(path);
+    check(file.open(QIODevice::WriteOnly) &&
+              file.write(reinterpret_cast<const char*>(data), qint64(size)) == qint64(size),
+          "the input can be written", path);
+    return path;
+}
+
+QString copyOf(const QString& path)
+{
+    const QByteArray content = bytes(path);
+    return writeInput(reinterpret_cast<const uint8_t*>(content.constData()), size_t(content.size()));
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
+{
+    new QCoreApplication(*argc, *argv); // For the whole run.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    registerSettings();
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    const QString once = writeInput(data, size);
+    const bool damaged = !settingsDamage(bytes(once)).isEmpty();
+    const Content unknown = unknownContent(once);
+    runPass(once);
+
+    const QString twice = copyOf(once);
+    if (!hasNameWithEmptyPart(unknown)) {
+        const Content kept = unknownContent(twice);
+        check(damaged || kept == unknown, "unknown keys of an undamaged file are untouched", text(unknown),
+              text(kept));
+        check(settingsDamage(bytes(twice)).isEmpty(), "what the pass has written is not damaged",
+              bytes(twice));
+        checkRegisteredValues(twice);
+        runPass(twice);
+        check(bytes(twice) == bytes(once), "a second pass changes nothing", bytes(once), bytes(twice));
+    }
+    QFile::remove(once);
+    QFile::remove(twice);
+    return 0;
+}

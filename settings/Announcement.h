@@ -1,0 +1,17 @@
+#ifndef ZEL_ANNOUNCEMENT_H
+#define ZEL_ANNOUNCEMENT_H
+
+#include <QString>
+
+namespace zel {
+
+/// Tells the user of something in the log and on standard output.
+/// @param type  as MTLogger::Log takes it
+void announce(const char* type, const QString& text);
+
+/// From now on announcements go to the log alone, because standard output is for something else.
+void announceInLogOnly();
+
+} // namespace zel
+
+#endif

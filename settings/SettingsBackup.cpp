@@ -1,0 +1,85 @@
+#include "SettingsBackup.h"
+
+#include "Announcement.h"
+#include "FileCopy.h"
+#include "SettingsDamage.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStringList>
+
+namespace zel {
+
+namespace {
+
+const int KeptCopies = 3;
+// The order of the names is the order of the copies, also when summer time ends.
+const char* const NameFormat = "yyyy-MM-dd'T'hh-mm-ss.zzz'Z.bak'";
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The copies that there are, the oldest first.
+QStringList copiesOf(const QString& path)
+{
+    const QFileInfo file(path);
+    const QString prefix = file.fileName() + ".";
+    QStringList copies;
+    for (const QString& name : file.dir().entryList(QDir::Files | QDir::Hidden, QDir::Name)) {
+        if (name.startsWith(prefix) && QDateTime::fromString(name.mid(prefix.length()), NameFormat).isValid())
+            copies += file.dir().filePath(name);
+    }
+    return copies;
+}
+
+QString newName(const QString& path)
+{
+    QDateTime time = QDateTime::currentDateTime().toUTC();
+    QString name;
+    do {
+        name = path + "." + time.toString(NameFormat);
+        time = time.addMSecs(1);
+    } while (QFile::exists(name));
+    return name;
+}
+
+} // namespace
+
+bool SettingsBackup::keep(const QString& path, const QString& reason, QString& copy, QString& error)
+{
+    copy.clear();
+    const QByteArray content = contentOf(path);
+    if (content.isEmpty())
+        return true;
+    QStringList former = copiesOf(path);
+    for (const QString& kept : former) {
+        if (contentOf(kept) == content)
+            copy = kept;
+    }
+    if (copy.isEmpty()) {
+        const QString name = newName(path);
+        if (!copySettingsFile(path, name, error))
+            return false;
+        copy = name;
+        while (former.size() >= KeptCopies)
+            QFile::remove(former.takeFirst());
+    }
+    announce("warning",
+             QString("The settings file \"%1\" will be replaced: %2. A copy of it is kept as \"%3\".")
+                 .arg(path, reason, copy));
+    return true;
+}
+
+bool SettingsBackup::keepIfDamaged(const QString& path, QString& copy, QString& error)
+{
+    copy.clear();
+    const QString damage = settingsDamage(contentOf(path));
+    return damage.isEmpty() || keep(path, damage, copy, error);
+}
+
+} // namespace zel

@@ -1,0 +1,51 @@
+#!/usr/bin/env bash
+# Makes the Debian package of a build, installs it, starts the editor by the command of its desktop entry, and removes
+# it. Leaves the machine as it was; ends with 77 where that cannot be tried.
+#   debian.sh BUILD
+set -euo pipefail
+
+skip() { echo "Skipped: $1"; exit 77; }
+fail() { echo "Failed: $1" >&2; exit 1; }
+
+[ "$(id -u)" -eq 0 ] || skip "only root installs packages"
+command -v dpkg-shlibdeps >/dev/null || skip "dpkg-dev is not installed"
+! dpkg-query -s torvane-settings >/dev/null 2>&1 || skip "the package is installed already"
+
+work=$(mktemp -d)
+cleanup() {
+    [ -z "${editor:-}" ] || kill "$editor" 2>/dev/null || true
+    dpkg --purge torvane-settings >/dev/null 2>&1 || true
+    rm -rf "$work"
+}
+trap cleanup EXIT
+
+(cd "$1" && cpack -G DEB -B "$work") >/dev/null
+dpkg --install --force-depends "$work"/*.deb >/dev/null
+
+entry=/usr/share/applications/torvane-settings.desktop
+read -r -a command < <(sed -n 's/^Exec=//p' $entry)
+icon=$(sed -n 's/^Icon=//p' $entry)
+[ -f "/usr/share/icons/hicolor/128x128/apps/$icon.png" ] || fail "no icon $icon"
+
+export XDG_CONFIG_HOME=$work/config XDG_CACHE_HOME=$work/cache XDG_RUNTIME_DIR=$work/run QT_QPA_PLATFORM=offscreen
+mkdir -p -m 700 "$XDG_RUNTIME_DIR" "$XDG_CONFIG_HOME/TorvaneBoundlessX64"
+printf '[General]\nsettingsVersion=2\nengine=software\nlanguage=fr\n' >"$XDG_CONFIG_HOME/TorvaneBoundlessX64/Settings.ini"
+cd /
+"${command[@]}" >"$work/output" 2>&1 </dev/null &
+editor=$!
+log=$XDG_CONFIG_HOME/TorvaneBoundlessX64/log.txt
+for ((i = 0; i < 100; ++i)); do
+    ! grep -q "Applied the settings" "$log" 2>/dev/null || break
+    kill -0 "$editor" 2>/dev/null || fail "the editor ended: $(cat "$work/output")"
+    sleep 0.1
+done
+grep -q "Applied the settings" "$log" || fail "the editor did not come up: $(cat "$work/output")"
+pkill -P "$editor" || fail "the editor was gone"
+wait "$editor" 2>/dev/null || true
+editor=
+
+dpkg --remove torvane-settings >/dev/null
+for left in /opt/torvane-settings "$entry" "/usr/bin/${command[0]}"; do
+    [ ! -e "$left" ] || fail "$left was left behind"
+done
+echo "Installed, started and removed."

@@ -1,0 +1,123 @@
+#include "../endtoend/Editor.h"
+
+#include <QDir>
+#include <QSettings>
+#include <QTemporaryDir>
+
+namespace {
+
+const char* const Window = "Torvane Viewer";
+const char* const Box = "Settings Modification";
+
+// Where things are in the viewer's window, and what the user does there.
+const char* const ClickButton = "mousemove --window %1 24 24 click 1";
+const char* const ClickSettings = "mousemove --window %1 150 158 click 1";
+const char* const ClickEdgeDetect = "mousemove --window %1 320 292 click 1";
+const char* const TypeTriangles = "mousemove --window %1 600 400 click 1 key ctrl+a type 50000";
+const char* const ClickApply = "mousemove --window %1 231 267 click 1";
+const char* const ClickView = "mousemove --window %1 900 600 click 1";
+const int ClickGuard = 500; // Milliseconds in which another click does not close the menu.
+
+} // namespace
+
+/// The example viewer as a user meets it: what the control center does only inside a viewer.
+class tst_Viewer : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit tst_Viewer(const Desktop& desktop)
+        : m_desktop(desktop)
+    {
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_home = std::make_unique<QTemporaryDir>();
+        m_viewer = std::make_unique<Editor>(m_desktop, m_home->path());
+        QSettings settings(file("Settings.ini"), QSettings::IniFormat);
+        settings.setValue("enablediag", "true");
+        settings.setValue("turntable/enabled", "false");
+        settings.setValue("Resources/LODTrianglesCap", "100000");
+    }
+
+    void cleanup() { m_viewer.reset(); }
+
+    void closingAsksBeforeItDiscards()
+    {
+        openDrawer();
+        m_viewer->act(ClickEdgeDetect);
+        QTest::qWait(ClickGuard);
+        answer(ClickView, "key Escape");
+        QCOMPARE(state(), QString("drawer"));
+        answer(ClickButton, "key Escape"); // The edit is still there, so that it asks again.
+        QCOMPARE(state(), QString("menu"));
+        answer(ClickButton, "key Return");
+        QCOMPARE(state(), QString("closed"));
+        const QSettings settings(file("Settings.ini"), QSettings::IniFormat);
+        QCOMPARE(settings.value("deferred/useED").toString(), QString("false"));
+    }
+
+    void pushesTakeEffectAtOnce()
+    {
+        openDrawer();
+        const int before = paintedFacets();
+        m_viewer->act(TypeTriangles);
+        m_viewer->act(ClickApply);
+        QTRY_VERIFY_WITH_TIMEOUT(qAbs(paintedFacets() - before / 2) < before / 20, Patience);
+
+        m_viewer->act("key F12");
+        const QDir pictures(file("Screenshots"));
+        QTRY_COMPARE_WITH_TIMEOUT(pictures.entryList({"*.png"}).size(), 1, Patience);
+    }
+
+private:
+    QString file(const QString& name) const { return m_home->path() + "/config/TorvaneViewer/" + name; }
+
+    int paintedFacets() const
+    {
+        QFile log(file("log.txt"));
+        const bool open = log.open(QIODevice::ReadOnly);
+        const QString text = QString::fromUtf8(open ? log.readAll() : "");
+        return text.section("painting ", -1).section(' ', 0, 0).toInt();
+    }
+
+    /// What is open once nothing moves any more, by the colour of the place where the menu column is.
+    QString state() const
+    {
+        const QMap<QRgb, QString> colors = {{qRgb(52, 64, 84), "menu"}, {qRgb(69, 69, 69), "drawer"}};
+        return colors.value(m_viewer->picture().pixel(150, 500), "closed");
+    }
+
+    /// Does what opens the box, and closes that with a key.
+    void answer(const char* action, const char* key)
+    {
+        m_viewer->act(action);
+        QVERIFY(m_viewer->isAnswered(Box, key));
+        QVERIFY(m_viewer->shows(Window));
+    }
+
+    void openDrawer()
+    {
+        m_viewer->start();
+        QVERIFY(m_viewer->shows(Window));
+        m_viewer->act("windowmove --sync %1 10 10 windowsize --sync %1 970 680");
+        QCOMPARE(state(), QString("closed"));
+        m_viewer->act(ClickButton);
+        QCOMPARE(state(), QString("menu"));
+        m_viewer->act(ClickSettings);
+        QCOMPARE(state(), QString("drawer"));
+    }
+
+    const Desktop& m_desktop;
+    std::unique_ptr<QTemporaryDir> m_home;
+    std::unique_ptr<Editor> m_viewer;
+};
+
+int main(int argc, char** argv)
+{
+    return runOnDesktop<tst_Viewer>(argc, argv);
+}
+
+#include "tst_Viewer.moc"

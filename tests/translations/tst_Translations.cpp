@@ -1,0 +1,244 @@
+#include "ShownPage.h"
+#include "ZelAboutSettingsPanel.h"
+#include "ZelControlCenter.h"
+#include "ZelControlCenterStandAloneWidget.h"
+#include "ZelGeneralSettingsPanel.h"
+#include "ZelImportSettingsPanel.h"
+#include "ZelRendererSelector.h"
+#include "ZelRendererSettingsPanel.h"
+#include "ZelSimplificationSettingsPanel.h"
+
+#include <QDebug>
+#include <QFontDatabase>
+#include <QLabel>
+#include <QMessageBox>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSlider>
+#include <QStyleOptionButton>
+#include <QTranslator>
+#include <QXmlStreamReader>
+
+using namespace zel;
+
+namespace {
+
+struct Text
+{
+    QString context, source, translation;
+    bool finished;
+};
+
+QList<Text> readTexts(const QString& path)
+{
+    QList<Text> texts;
+    QString context;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s cannot be read", qPrintable(path));
+    QXmlStreamReader xml(&file);
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == "name")
+            context = xml.readElementText();
+        else if (xml.name() == "source")
+            texts << Text{context, xml.readElementText(), QString(), false};
+        else if (xml.name() == "translation") {
+            texts.last().finished = !xml.attributes().hasAttribute("type");
+            texts.last().translation = xml.readElementText();
+        }
+    }
+    return texts;
+}
+
+QStringList sources(const QString& path)
+{
+    QStringList found;
+    for (const Text& text : readTexts(path))
+        found << text.context + ": " + text.source;
+    found.sort();
+    return found;
+}
+
+/// What a translation has to keep: place markers, tags, line breaks, and the blanks at both ends.
+QStringList marks(const QString& text)
+{
+    QStringList found;
+    auto mark = QRegularExpression("%\\d|<[^>]*>|\\n|^ +| +$").globalMatch(text);
+    while (mark.hasNext())
+        found << mark.next().captured();
+    found.sort();
+    return found;
+}
+
+/// What a button's text needs, with the frame and the mark around it.
+QSize neededSize(const QAbstractButton& button)
+{
+    QStyleOptionButton option;
+    option.initFrom(&button);
+    const auto contents = button.inherits("QRadioButton") ? QStyle::SE_RadioButtonContents
+                          : button.inherits("QCheckBox")  ? QStyle::SE_CheckBoxContents
+                                                          : QStyle::SE_PushButtonContents;
+    return button.size() - button.style()->subElementRect(contents, &option, &button).size() +
+           button.fontMetrics().size(0, button.text());
+}
+
+QSize neededSize(const QLabel& label)
+{
+    return label.wordWrap() ? QSize(label.minimumSizeHint().width(), label.heightForWidth(label.width()))
+                            : label.sizeHint();
+}
+
+/// Not valid for a widget without a text of its own.
+QSize neededSize(const QWidget& widget)
+{
+    if (auto* button = qobject_cast<const QAbstractButton*>(&widget))
+        return button->text().isEmpty() ? QSize() : neededSize(*button);
+    if (auto* label = qobject_cast<const QLabel*>(&widget))
+        return neededSize(*label);
+    if (widget.inherits("QAbstractSpinBox") || widget.inherits("QComboBox"))
+        return widget.sizeHint();
+    return widget.inherits("QGroupBox") ? widget.minimumSizeHint() : QSize();
+}
+
+QString clippedTexts(const QWidget& window)
+{
+    QCoreApplication::processEvents(); // Lays out what has changed.
+    QString clipped;
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        // The folder buttons take what room is left, and elide their paths.
+        const QSize needed = neededSize(*widget);
+        if (!needed.isValid() || !widget->isVisible() ||
+            widget->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored)
+            continue;
+        if (needed.boundedTo(widget->size()) != needed ||
+            !widget->parentWidget()->rect().contains(widget->geometry()))
+            QDebug(&clipped) << widget->objectName() << "needs" << needed << "and has" << widget->geometry();
+    }
+    return clipped;
+}
+
+} // namespace
+
+class tst_Translations : public QObject
+{
+    Q_OBJECT
+
+private:
+    template <class Page>
+    void checkPage()
+    {
+        ShownPage<Page> shown(&m_application, m_application.getSettings());
+        QCOMPARE(clippedTexts(shown.page), QString());
+        QCOMPARE(shown.page.width(), 435);
+    }
+
+    FakeApplication m_application;
+    FakePlugin m_plugin{"Reader", "1.2"};
+    QTemporaryDir m_updated;
+    QString m_language;
+    QTranslator m_translator, m_toolkitTranslator;
+
+private Q_SLOTS:
+    void initTestCase_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const char* language : {"de", "en", "es", "fr", "it", "ja", "zh"})
+            QTest::newRow(language) << QString(language);
+    }
+
+    void initTestCase()
+    {
+        m_application.plugins = {&m_plugin};
+        const QDir folder(ZEL_SOURCES "/resources/languages");
+        for (const QString& name : folder.entryList({"*.ts"}))
+            QVERIFY(QFile::copy(folder.filePath(name), m_updated.filePath(name)));
+        QCOMPARE(QProcess::execute(ZEL_SOURCES "/scripts/update-translations", {m_updated.path()}), 0);
+    }
+
+    void init()
+    {
+        QFETCH_GLOBAL(QString, language);
+        m_language = language;
+        const QString file = ZEL_STAGE "/resources/languages/%1_%2.qm";
+        QVERIFY(m_translator.load(file.arg("Torvane", language)));
+        QVERIFY(m_toolkitTranslator.load(file.arg("Toolkit", language)));
+        QCoreApplication::installTranslator(&m_translator);
+        QCoreApplication::installTranslator(&m_toolkitTranslator);
+    }
+
+    void cleanup()
+    {
+        QCoreApplication::removeTranslator(&m_translator);
+        QCoreApplication::removeTranslator(&m_toolkitTranslator);
+    }
+
+    void hasEveryTextOfTheSources()
+    {
+        const QString name = "Torvane_" + m_language + ".ts";
+        const QString path = ZEL_SOURCES "/resources/languages/" + name;
+        QCOMPARE(sources(path), sources(m_updated.filePath(name)));
+        for (const Text& text : readTexts(path)) {
+            QVERIFY2(text.finished && !text.translation.trimmed().isEmpty(), qPrintable(text.source));
+            QCOMPARE(marks(text.translation), marks(text.source));
+            QVERIFY2(m_language != "en" || text.translation == text.source, qPrintable(text.source));
+        }
+    }
+
+    void toolkitTextsFollow()
+    {
+        const QMessageBox box(QMessageBox::NoIcon, "", "", QMessageBox::Cancel);
+        const QString cancel = box.button(QMessageBox::Cancel)->text().remove('&');
+        QCOMPARE(cancel == "Cancel", m_language == "en");
+    }
+
+    void pagesShowTheirTexts()
+    {
+        const auto writing = m_language == "ja"   ? QFontDatabase::Japanese
+                             : m_language == "zh" ? QFontDatabase::SimplifiedChinese
+                                                  : QFontDatabase::Latin;
+        QVERIFY2(!QFontDatabase().families(writing).isEmpty(), "no font with the characters is installed");
+        checkPage<ZelGeneralSettingsPanel>();
+        checkPage<ZelImportSettingsPanel>();
+        checkPage<ZelSimplificationSettingsPanel>();
+        checkPage<ZelAboutSettingsPanel>();
+    }
+
+    void displayPageShowsItsTexts()
+    {
+        ShownPage<ZelRendererSettingsPanel> shown(&m_application, m_application.getSettings());
+        for (const char* engine : {"deferredButton", "raytracerButton"}) {
+            shown.click(engine);
+            for (int quality = 0; quality < 4; ++quality) {
+                shown.find<QSlider>("qualitySlider")->setValue(quality);
+                QCOMPARE(clippedTexts(shown.page), QString());
+            }
+        }
+        QCOMPARE(shown.page.width(), 435);
+    }
+
+    void selectorShowsItsTexts()
+    {
+        ZelRendererSelector selector(nullptr, Qt::WindowFlags());
+        selector.show();
+        QCOMPARE(clippedTexts(selector), QString());
+        QCOMPARE(selector.size(), QSize(517, 262));
+    }
+
+    void windowShowsItsTexts()
+    {
+        ZelControlCenterStandAloneWidget window(&m_application, nullptr, Qt::FramelessWindowHint);
+        auto* controlCenter = window.findChild<ZelControlCenter*>();
+        window.show();
+        controlCenter->openMenu(true);
+        QTRY_VERIFY(controlCenter->isMenuOpen());
+        QCOMPARE(clippedTexts(window), QString());
+        window.openMenu();
+        QTRY_VERIFY(controlCenter->isSettingsOpen());
+        QCOMPARE(clippedTexts(window), QString());
+    }
+};
+
+QTEST_MAIN(tst_Translations)
+#include "tst_Translations.moc"

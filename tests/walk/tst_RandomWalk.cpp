@@ -1,0 +1,442 @@
+#include "Census.h"
+#include "FakeApplication.h"
+#include "SettingsKeys.h"
+#include "ZelControlCenter.h"
+#include "ZelControlCenterStandAloneWidget.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+#include <random>
+
+using namespace zel;
+
+namespace {
+
+/// What widgets show, by their names.
+typedef QMap<QString, QVariant> Values;
+
+const QStringList Flag = {"false", "true"};
+const QStringList Negated = {"true", "false"};
+const QStringList Engines = {"deferred", "software"};
+const QStringList Qualities = {"Low", "Medium", "High", "Ultra"};
+const QStringList Units = {"0.001", "0.01", "0.1", "1", "10", "100", "1000"};
+const QStringList Number;
+
+/// A widget; the one that decides whether its value counts, which it does while that is checked or, behind a
+/// "!", while it is not; the key, its default, and the texts that stand for the values, if those are not
+/// numbers.
+const struct Field
+{
+    QString page, widget, decider;
+    const char* key;
+    const char* defaultText;
+    QStringList texts;
+} Fields[] = {
+    {"General", "databaseSpinBox", "", keys::CacheSize, "1024", Number},
+    {"Display", "raytracerButton", "", keys::Engine, "deferred", Engines},
+    {"Display", "deferredSSAOCheckBox", "!raytracerButton", keys::UseSsao, "true", Flag},
+    {"Display", "deferredFXAACheckBox", "!raytracerButton", keys::UseFxaa, "true", Flag},
+    {"Display", "deferredEDCheckBox", "!raytracerButton", keys::UseEdgeDetection, "false", Flag},
+    {"Display", "sceneUnitComboBox", "deferredSSAOCheckBox", keys::SceneUnits, "1", Units},
+    {"Display", "maxCPU3DSpinBox", "!raytracerButton", keys::MaxCpuMemory3D, "1073741824", Number},
+    {"Display", "maxGPUSPinBox", "!raytracerButton", keys::MaxGpuMemory, "536870912", Number},
+    {"Display", "maxCPURaySpinBox", "raytracerButton", keys::MaxCpuMemoryRaytracer, "2147483648", Number},
+    {"Display", "coreUsedSlider", "raytracerButton", keys::CoreNumber, "1", Number},
+    {"Display", "qualitySlider", "raytracerButton", keys::RaytracerQuality, "Medium", Qualities},
+    {"Display", "maxTrianglesSpinBox", "", keys::TrianglesCap, "20000000", Number},
+    {"Import", "defaultQuality", "", keys::TessellationQualitySet, "false", Negated},
+    {"Import", "lowQuality", "!defaultQuality", keys::TessellationHighQuality, "true", Negated},
+    {"Import", "sag", "", keys::MaxFaceSagSet, "true", Flag},
+    {"Import", "faceSagSpin", "sag", keys::MaxFaceSag, "0.2", Number},
+    {"Import", "length", "", keys::MaxFaceLengthSet, "false", Flag},
+    {"Import", "faceLengthSpin", "length", keys::MaxFaceLength, "10", Number},
+    {"Import", "angle", "", keys::MaxFaceAngleSet, "false", Flag},
+    {"Import", "faceAngleSpin", "angle", keys::MaxFaceAngle, "15", Number},
+    // Stored together.
+    {"Simplification", "ratio2", "", nullptr, nullptr, Number},
+    {"Simplification", "ratio3", "", nullptr, nullptr, Number},
+    {"Simplification", "ratio4", "", nullptr, nullptr, Number},
+    {"Simplification", "ratio5", "", nullptr, nullptr, Number},
+};
+
+const QStringList RadioGroups[] = {
+    {"raytracerButton", "deferredButton"},
+    {"defaultQuality", "lowQuality", "highQuality"},
+    {"sag", "defaultSag"},
+    {"length", "defaultLength"},
+    {"angle", "defaultAngle"},
+};
+
+QString storedText(const Field& field, const QVariant& value)
+{
+    if (!field.texts.isEmpty())
+        return field.texts.value(value.toInt());
+    // Memory is shown in mebibytes and stored in bytes.
+    return QString(field.key).contains("Memory") ? QString::number(value.toULongLong() << 20)
+                                                 : value.toString();
+}
+
+QVariant shownValue(const QWidget* widget)
+{
+    if (auto* box = qobject_cast<const QDoubleSpinBox*>(widget))
+        return QString::number(box->value());
+    const bool list = widget->inherits("QComboBox");
+    return widget->property(widget->inherits("QAbstractButton") ? "checked"
+                            : list                              ? "currentIndex"
+                                                                : "value");
+}
+
+/// Whether the value of a widget counts beside those of the others.
+bool counts(const Values& values, const QString& widget)
+{
+    const auto field = std::find_if(std::begin(Fields), std::end(Fields),
+                                    [&](const Field& candidate) { return candidate.widget == widget; });
+    const QString decider = QString(field->decider).remove('!');
+    return decider.isEmpty() ||
+           (values[decider].toBool() != field->decider.startsWith('!') && counts(values, decider));
+}
+
+/// Whether two states of a page, or of any for an empty name, say something different.
+bool differ(const Values& left, const Values& right, const QString& page = QString())
+{
+    return std::any_of(std::begin(Fields), std::end(Fields), [&](const Field& field) {
+        const bool counted = counts(left, field.widget);
+        return (page.isEmpty() || page == field.page) &&
+               (counted != counts(right, field.widget) ||
+                (counted && left[field.widget] != right[field.widget]));
+    });
+}
+
+/// The keys and texts of a settings file; those that the walk writes need neither quotes nor escapes.
+QMap<QString, QString> fileContent(const QString& path)
+{
+    QMap<QString, QString> content;
+    QString group;
+    QFile file(path);
+    file.open(QIODevice::ReadOnly);
+    for (const QString& line : QString::fromUtf8(file.readAll()).split('\n')) {
+        if (line.startsWith('['))
+            group = line == "[General]" ? QString() : line.mid(1, line.size() - 2) + "/";
+        else if (!line.isEmpty())
+            content[group + line.section('=', 0, 0)] = line.section('=', 1);
+    }
+    return content;
+}
+
+/// A user in front of the stand-alone window, who does anything, and a small model of what must come of it.
+class Walk
+{
+public:
+    Walk(FakeApplication& application, std::mt19937& random)
+        : m_random(random)
+        , m_path(application.getSettings().fileName())
+        , m_window(&application, nullptr, Qt::WindowFlags())
+        , m_controlCenter(*m_window.findChild<ZelControlCenter*>())
+    {
+        m_window.show();
+        for (const Field& field : Fields)
+            m_stored[field.widget] = shownValue(find(field.widget));
+        m_defaults = m_stored;
+        openMenu();
+    }
+
+    void step()
+    {
+        const int choice = below(100);
+        if (choice < 75)
+            edit(Fields[below(int(std::size(Fields)))]);
+        else if (choice < 81)
+            apply();
+        else if (choice < 85)
+            reset();
+        else if (choice < 88)
+            reopenDrawer();
+        else if (choice < 91)
+            closeMenu(), openMenu();
+        else
+            scroll();
+    }
+
+    void openMenu()
+    {
+        m_window.openMenu();
+        settle();
+        reload();
+    }
+
+    void closeMenu()
+    {
+        m_controlCenter.openMenu(false);
+        settle();
+        if (differ(m_shown, m_stored))
+            reload();
+    }
+
+    /// What in the window or in the file is not as it must be; empty when nothing.
+    QString difference()
+    {
+        for (const Field& field : Fields) {
+            if (shownValue(find(field.widget)) != m_shown[field.widget])
+                return QString("%1 does not show %2").arg(field.widget, m_shown[field.widget].toString());
+        }
+        if (m_controlCenter.hasModifications() != differ(m_shown, m_stored))
+            return "pending edits";
+        if (find("applyButton")->isEnabled() != m_canApply || resetButton()->isEnabled() != m_canReset)
+            return "Apply or Reset";
+
+        QMap<QString, QString> expected = {{"viewer/own", "kept"}, {keys::SimplificationRatios, "1"}};
+        for (const Field& field : Fields) {
+            if (field.key)
+                expected[field.key] = storedText(field, m_stored[field.widget]);
+            else
+                expected[keys::SimplificationRatios] +=
+                    "/" + QString::number(m_stored[field.widget].toDouble() / 100);
+        }
+        const auto content = fileContent(m_path);
+        for (const QString& key : expected.keys()) {
+            if (content[key] != expected[key])
+                return QString("the file holds %1=%2, not %3").arg(key, content[key], expected[key]);
+        }
+        return QString();
+    }
+
+private:
+    int below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(m_random); }
+    QWidget* find(const QString& name) { return m_window.findChild<QWidget*>(name); }
+    QWidget* resetButton() { return find("frame_4")->findChild<QWidget*>("resetButton"); }
+
+    void evaluate()
+    {
+        m_canApply = differ(m_shown, m_stored);
+        m_canReset = differ(m_shown, m_defaults);
+    }
+
+    void reload()
+    {
+        m_shown = m_stored;
+        evaluate();
+    }
+
+    /// The pages that differ take over what another state says.
+    static void take(const Values& from, Values& to)
+    {
+        for (const char* page : {"General", "Display", "Simplification", "Import"}) {
+            if (!differ(from, to, page))
+                continue;
+            for (const Field& field : Fields) {
+                if (field.page == page)
+                    to[field.widget] = from[field.widget];
+            }
+        }
+    }
+
+    void edit(const Field& field)
+    {
+        QWidget* widget = find(field.widget);
+        if (!widget->isEnabled() || !widget->isVisible())
+            return;
+        const Values before = m_shown;
+        QVariant& value = m_shown[field.widget];
+        if (widget->inherits("QRadioButton")) {
+            choose(field.widget);
+        } else if (auto* box = qobject_cast<QSpinBox*>(widget)) {
+            type(*box, value = box->minimum() + below(box->maximum() - box->minimum() + 1));
+        } else if (auto* real = qobject_cast<QDoubleSpinBox*>(widget)) {
+            type(*real, value = QString::number(field.key ? below(99990) / 1000. : 1 + below(100)));
+        } else if (widget->inherits("QCheckBox")) {
+            QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, QPoint(8, widget->height() / 2));
+            value = !value.toBool();
+        } else {
+            const bool last = below(2), list = widget->inherits("QComboBox");
+            QTest::keyClick(widget, last ? Qt::Key_End : Qt::Key_Home);
+            value = list ? (last ? 6 : 0) : widget->property(last ? "maximum" : "minimum");
+        }
+        if (!field.key)
+            keepOrder(field.widget);
+        // The numbers of the Import page tell no one; buttons there, and ratios, tell of each visit, others
+        // of changes.
+        if (field.page == "Import" ? widget->inherits("QRadioButton") : !field.key || m_shown != before)
+            evaluate();
+    }
+
+    static void type(QAbstractSpinBox& box, const QVariant& value)
+    {
+        if (shownValue(&box) != value || box.objectName().startsWith("ratio")) {
+            box.selectAll();
+            QTest::keyClicks(&box, value.toString());
+            QTest::keyClick(&box, Qt::Key_Return);
+        }
+    }
+
+    void choose(const QString& button)
+    {
+        const auto group = std::find_if(std::begin(RadioGroups), std::end(RadioGroups),
+                                        [&](const QStringList& names) { return names.contains(button); });
+        const QString chosen = group->at(below(group->size()));
+        QTest::mouseClick(find(chosen), Qt::LeftButton, Qt::NoModifier,
+                          QPoint(8, find(chosen)->height() / 2));
+        for (const QString& name : *group) {
+            if (m_shown.contains(name))
+                m_shown[name] = name == chosen;
+        }
+    }
+
+    /// No level keeps more than the one before it, as far as the neighbours of the edited one.
+    void keepOrder(const QString& edited)
+    {
+        const int level = edited.right(1).toInt();
+        const double value = m_shown[edited].toDouble();
+        for (const int neighbour : {level - 1, level + 1}) {
+            const QString name = QString("ratio%1").arg(neighbour);
+            if (m_shown.contains(name) && (m_shown[name].toDouble() - value) * (neighbour - level) > 0)
+                m_shown[name] = m_shown[edited];
+        }
+    }
+
+    void apply()
+    {
+        QTest::mouseClick(find("applyButton"), Qt::LeftButton);
+        if (!m_canApply)
+            return;
+        take(m_shown, m_stored);
+        evaluate();
+    }
+
+    void reset()
+    {
+        QTest::mouseClick(resetButton(), Qt::LeftButton);
+        if (!m_canReset || !differ(m_shown, m_defaults))
+            return;
+        take(m_defaults, m_shown);
+        evaluate();
+    }
+
+    void reopenDrawer()
+    {
+        for (const bool visible : {false, true}) {
+            m_controlCenter.setControlCenterVisible(visible);
+            settle();
+        }
+        reload();
+    }
+
+    void scroll()
+    {
+        if (below(2))
+            m_controlCenter.settingsWidget()->verticalScrollBar()->setValue(below(2000));
+        else
+            QTest::mouseClick(find("applicationSettings")->findChildren<QPushButton*>()[below(5)],
+                              Qt::LeftButton);
+        settle();
+    }
+
+    /// Lets all slides come to their end, and chooses how long the next ones take.
+    void settle()
+    {
+        const auto slides = m_controlCenter.findChildren<QPropertyAnimation*>();
+        const auto moves = [](const QPropertyAnimation* slide) {
+            return slide->state() == QAbstractAnimation::Running;
+        };
+        while (std::any_of(slides.begin(), slides.end(), moves))
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        QCoreApplication::processEvents();
+        const int duration = below(10) ? 0 : 30;
+        for (QPropertyAnimation* slide : slides)
+            slide->setDuration(duration);
+    }
+
+    std::mt19937& m_random;
+    const QString m_path;
+    ZelControlCenterStandAloneWidget m_window;
+    ZelControlCenter& m_controlCenter;
+    Values m_defaults, m_stored, m_shown;
+    bool m_canApply = false, m_canReset = false; ///< As of the last evaluation.
+};
+
+} // namespace
+
+/// Long use, compressed: edits, applies, resets, reopenings and scrolls in any order. After each step window
+/// and file must be as the rules say; after each round nothing may have grown; when all is closed nothing may
+/// be left.
+///
+/// WALK_SEED and WALK_ROUNDS in the environment make another walk, or a longer one.
+class tst_RandomWalk : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void walk_data();
+    void walk();
+
+private:
+    FakeApplication m_application;
+    std::mt19937 m_random;
+    Census m_closed;
+};
+
+void tst_RandomWalk::initTestCase()
+{
+    Census::start();
+    const int seed = qEnvironmentVariableIntValue("WALK_SEED");
+    qInfo("WALK_SEED=%d", seed);
+    m_random.seed(unsigned(seed));
+    ZelControlCenter::RegisterSetting(keys::SimplificationRatios, "1/0.75/0.5/0.25/0.1",
+                                      &ZelControlCenter::noOp);
+    for (const Field& field : Fields) {
+        if (field.key)
+            ZelControlCenter::RegisterSetting(field.key, field.defaultText, &ZelControlCenter::noOp);
+    }
+}
+
+void tst_RandomWalk::walk_data()
+{
+    QTest::addColumn<bool>("first");
+    QTest::newRow("first window") << true;
+    QTest::newRow("second window") << false;
+}
+
+void tst_RandomWalk::walk()
+{
+    QFETCH(bool, first);
+    const int steps = 150, warmUp = 1;
+    const int rounds = qMax(8, qEnvironmentVariableIntValue("WALK_ROUNDS"));
+
+    QSettings& settings = m_application.getSettings();
+    settings.clear();
+    settings.setValue("viewer/own", "kept");
+    QString error;
+    QVERIFY(ZelControlCenter::EnsureSettings(settings, error));
+    {
+        Walk walk(m_application, m_random);
+        Census warm;
+        for (int round = 0; round < rounds; ++round) {
+            for (int step = 0; step < steps; ++step) {
+                walk.step();
+                const QString difference = walk.difference();
+                QVERIFY2(difference.isEmpty(),
+                         qPrintable(QString("round %1, step %2: %3").arg(round).arg(step).arg(difference)));
+            }
+            walk.closeMenu();
+            QTRY_COMPARE(Census::take().withTimer.join(" "), QString());
+            if (round == warmUp)
+                warm = Census::take();
+            walk.openMenu();
+        }
+        walk.closeMenu();
+        const Census last = Census::take();
+        QCOMPARE(last.descriptors, warm.descriptors);
+        QCOMPARE(last.objects, warm.objects);
+        const qint64 growthOfStep = (last.heap - warm.heap) / (steps * (rounds - warmUp));
+        QVERIFY2(growthOfStep < 300, qPrintable(QString("%1 bytes more with each step").arg(growthOfStep)));
+    }
+    const Census closed = Census::take();
+    if (first)
+        m_closed = closed;
+    QCOMPARE(closed.descriptors, m_closed.descriptors);
+    QCOMPARE(closed.objects, m_closed.objects);
+}
+
+QTEST_MAIN(tst_RandomWalk)
+#include "tst_RandomWalk.moc"
