@@ -10,6 +10,7 @@
 
 #include "platform/MTLogger.h"
 #include "platform/ZelQtCompat.h"
+#include "platform/kqDMIApplication.h"
 #include "platform/kqDirUtils.h"
 #include "platform/kqLibraries.h"
 
@@ -156,6 +157,7 @@ void showFatalError(const QString& error)
     QMessageBox box(QMessageBox::Information,
                     QCoreApplication::translate("ZelControlCenterStandAloneWidget", "Torvane - Fatal Error"),
                     error, QMessageBox::Ok);
+    box.setStyleSheet(kqDMIApplication::GetStylesheet("kqMessageBox"));
     box.setTextFormat(Qt::PlainText); // A path may hold what looks like markup.
     box.exec();
 }

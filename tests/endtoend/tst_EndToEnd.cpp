@@ -1,5 +1,7 @@
 #include "Editor.h"
 
+#include "platform/kqDMIApplication.h"
+
 #include <QDir>
 #include <QElapsedTimer>
 #include <QMessageBox>
@@ -156,6 +158,7 @@ private Q_SLOTS:
 
         text.replace("%1", m_home).replace("%2", userName());
         QMessageBox expected(QMessageBox::Information, FatalError, text, QMessageBox::Ok);
+        expected.setStyleSheet(kqDMIApplication::GetStylesheet("kqMessageBox"));
         expected.show();
         QVERIFY(QTest::qWaitForWindowActive(&expected));
         QVERIFY2(m_desktop.picture(QString::number(expected.winId())) == box, "the box has another text");
