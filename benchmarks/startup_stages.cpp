@@ -128,16 +128,20 @@ int main(int argc, char** argv)
     zelInitializeKernelLibrary();
     stages.end("platform libraries");
 
-    QTranslator translator;
-    if (translator.load("resources/languages/Torvane_en.qm"))
-        QCoreApplication::installTranslator(&translator);
+    QTranslator translators[2];
+    for (const int i : {0, 1}) {
+        if (translators[i].load(QString("resources/languages/%1_en.qm").arg(i ? "Toolkit" : "Torvane")))
+            QCoreApplication::installTranslator(&translators[i]);
+    }
     stages.end("translation");
 
     ZelSettingsApplication application(qEnvironmentVariable("XDG_CONFIG_HOME") + "/TorvaneBoundlessX64");
     ZelControlCenter::InitDefaultSettingsValues("TorvaneBoundlessX64");
+    QSettings& settings = application.getSettings();
     QString error;
-    ZelControlCenter::EnsureSettings(application.getSettings(), error);
-    ZelSettingsFile::Sync(application.getSettings(), error);
+    if (!ZelSettingsFile::PrepareWriting(settings.fileName(), error) ||
+        !ZelControlCenter::EnsureSettings(settings, error) || !ZelSettingsFile::Sync(settings, error))
+        qFatal("%s", qPrintable(error));
     stages.end("settings and validation pass");
 
     if (QCoreApplication::arguments().contains("--pages")) {

@@ -91,7 +91,6 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
 
 ZelControlCenter::~ZelControlCenter()
 {
-    m_separators.clear();
     while (!m_panels.isEmpty())
         unregisterSettingsPanel(m_panels.front(), true);
     if (isSliding())
@@ -251,7 +250,7 @@ void ZelControlCenter::registerCCAction(zelAction* action, const QString& anchor
 
     const int anchor = anchorIndex(anchorName);
     const bool besideAnchor = !anchorName.isEmpty() && anchor >= 0;
-    insertIntoColumn(besideAnchor && after ? anchor + 1 : anchor, item);
+    m_ui->verticalLayout->insertWidget(besideAnchor && after ? anchor + 1 : anchor, item);
     if (!besideAnchor)
         layout()->invalidate();
 }
@@ -277,7 +276,7 @@ bool ZelControlCenter::addCCSeparator(const QString& anchorName, const QString& 
     separator->setFixedHeight(1);
     separator->setFixedWidth(std::max(width() - SeparatorMargin, 0));
     m_separators.insert(separatorName, separator);
-    insertIntoColumn(anchorIndex(anchorName), separator);
+    m_ui->verticalLayout->insertWidget(anchorIndex(anchorName), separator);
     return true;
 }
 
@@ -577,11 +576,6 @@ int ZelControlCenter::anchorIndex(const QString& anchorName) const
             return index;
     }
     return -1;
-}
-
-void ZelControlCenter::insertIntoColumn(int index, QWidget* widget)
-{
-    m_ui->verticalLayout->insertWidget(index, widget);
 }
 
 } // namespace zel

@@ -141,6 +141,7 @@ protected:
     /// Puts the defaults into every page, as pending edits.
     void resetControlCenter();
 
+    // Part of the class's interface; they only forward.
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
@@ -158,10 +159,9 @@ private:
     /// Drops pending edits, after asking where that is possible; false when the user keeps them.
     bool discardModifications();
     bool isClickOutside(QObject* watched, const QPoint& globalPosition) const;
-    /// Index of an anchor's item in the menu column; -1 when there is none.
+    /// Index of an anchor's item in the menu column; 0 for an empty name; -1, which inserts at the bottom,
+    /// when there is none.
     int anchorIndex(const QString& anchorName) const;
-    /// Inserts a widget into the menu column at an index, or at the bottom for a negative one.
-    void insertIntoColumn(int index, QWidget* widget);
 
     const std::unique_ptr<Ui::ControlCenter> m_ui;
     std::unique_ptr<zelAction> m_settingsAction;

@@ -12,33 +12,33 @@
 namespace zel {
 
 namespace {
-const char* const scSoftware = "software";
+const char* const SoftwareProperty = "software";
 }
 
 ZelRendererSelector::ZelRendererSelector(QWidget* parent, Qt::WindowFlags flags)
     : QDialog(parent, flags)
-    , m_form(new Ui::ZelRendererSelector)
+    , m_ui(new Ui::ZelRendererSelector)
 {
-    setProperty(scSoftware, false);
-    m_form->setupUi(this);
+    setProperty(SoftwareProperty, false);
+    m_ui->setupUi(this);
     // An icon, unlike a pixmap of the form, also finds the image for screens of double density.
-    m_form->label->setPixmap(QIcon(":/menu/Menu/point.png").pixmap(8, 8));
+    m_ui->label->setPixmap(QIcon(":/menu/Menu/point.png").pixmap(8, 8));
     setWindowFlags(Qt::FramelessWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
 
     kqMovableObject* movable = new kqMovableObject(this);
-    movable->setAnchorObject(m_form->titleFrame, this);
+    movable->setAnchorObject(m_ui->titleFrame, this);
 
-    m_form->raytracerButton->installEventFilter(this);
-    m_form->deferredButton->installEventFilter(this);
-    m_form->okButton->setFocus();
+    m_ui->raytracerButton->installEventFilter(this);
+    m_ui->deferredButton->installEventFilter(this);
+    m_ui->okButton->setFocus();
 }
 
 ZelRendererSelector::~ZelRendererSelector() = default;
 
 bool ZelRendererSelector::useGPURenderer() const
 {
-    return !property(scSoftware).toBool();
+    return !property(SoftwareProperty).toBool();
 }
 
 bool ZelRendererSelector::eventFilter(QObject* watched, QEvent* event)
@@ -49,7 +49,7 @@ bool ZelRendererSelector::eventFilter(QObject* watched, QEvent* event)
 void ZelRendererSelector::keyPressEvent(QKeyEvent* event)
 {
     const QWidget* focused = focusWidget();
-    const bool onEngine = focused == m_form->raytracerButton || focused == m_form->deferredButton;
+    const bool onEngine = focused == m_ui->raytracerButton || focused == m_ui->deferredButton;
     if (onEngine && event->key() == Qt::Key_Space)
         choose(focused);
     else
@@ -59,10 +59,10 @@ void ZelRendererSelector::keyPressEvent(QKeyEvent* event)
 // Tells whether the choice changed.
 bool ZelRendererSelector::choose(const QObject* engine)
 {
-    const bool software = engine != m_form->deferredButton;
-    if (property(scSoftware).toBool() == software)
+    const bool software = engine != m_ui->deferredButton;
+    if (property(SoftwareProperty).toBool() == software)
         return false;
-    setProperty(scSoftware, software);
+    setProperty(SoftwareProperty, software);
     // Rules that depend on a property are evaluated only when the style sheet is set.
     setStyleSheet(styleSheet());
     return true;

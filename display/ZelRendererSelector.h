@@ -45,7 +45,7 @@ protected:
 private:
     bool choose(const QObject* engine);
 
-    std::unique_ptr<Ui::ZelRendererSelector> m_form;
+    std::unique_ptr<Ui::ZelRendererSelector> m_ui;
 };
 
 } // namespace zel

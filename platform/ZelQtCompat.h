@@ -1,7 +1,8 @@
 #ifndef ZEL_ZELQTCOMPAT_H
 #define ZEL_ZELQTCOMPAT_H
 
-// The few differences between the toolkit's versions 4.8 and 5 that product code meets, and nothing else.
+// The few differences between the toolkit's versions 4.8 and 5, and between operating systems, that product
+// code meets.
 
 #include <QCoreApplication>
 #include <QString>

@@ -2,8 +2,6 @@
 
 #include <QTextCodec>
 
-#include <algorithm>
-
 namespace zel {
 
 namespace {

@@ -4,8 +4,7 @@
 namespace zel {
 
 /// Names the folders of the stand-alone editor's settings, log and cache.
-const char* const StandAloneApplicationName = "TorvaneBoundless"
-                                              "X64";
+const char* const StandAloneApplicationName = "TorvaneBoundlessX64";
 
 /// The keys of Settings.ini. What stands before a "/" is the group of the file.
 namespace keys {

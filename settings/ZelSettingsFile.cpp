@@ -43,17 +43,12 @@ const std::chrono::milliseconds ClockTick(10);  // Systems count the time of fil
 const std::chrono::seconds CoarsestFileTime(2); // Some file systems keep no finer times.
 const int LockTaking = 250;                     // ms; it takes microseconds, unless the machine is stuck.
 
-QString settingsText(const char* text)
-{
-    return QCoreApplication::translate("ZelControlCenter", text);
-}
-
 QString unreadableReason(const QFileInfo& file)
 {
     if (!file.isFile())
-        return settingsText(QT_TRANSLATE_NOOP("ZelControlCenter", "it is not a file"));
+        return QCoreApplication::translate("ZelControlCenter", "it is not a file");
     if (file.size() > MaximumFileSize)
-        return settingsText(QT_TRANSLATE_NOOP("ZelControlCenter", "it is too large"));
+        return QCoreApplication::translate("ZelControlCenter", "it is too large");
     QFile reader(file.filePath());
     return reader.open(QIODevice::ReadOnly) ? QString() : reader.errorString();
 }
@@ -70,7 +65,7 @@ QString unwritableReason(const QString& path)
         mishapOfWritingBeside(file.exists() ? file.canonicalFilePath() : path, file.size() + 4096);
     if (!reason.isEmpty())
         return reason;
-    return settingsText(QT_TRANSLATE_NOOP("ZelControlCenter", "the reason is not known"));
+    return QCoreApplication::translate("ZelControlCenter", "the reason is not known");
 }
 
 /// The file that is prepared for writing.
@@ -136,8 +131,8 @@ bool write(QSettings& settings, QString& error)
     settings.sync();
     if (settings.status() == QSettings::NoError || writesOneValue(settings))
         return true;
-    error = settingsText(
-                QT_TRANSLATE_NOOP("ZelControlCenter", "Could not write the Torvane settings file \"%1\": %2"))
+    error = QCoreApplication::translate("ZelControlCenter",
+                                        "Could not write the Torvane settings file \"%1\": %2")
                 .arg(settings.fileName(), unwritableReason(settings.fileName()));
     announce("error", error);
     return false;
@@ -158,9 +153,9 @@ bool ZelSettingsFile::IsUsable(const QString& path, QString& error)
     const QString reason = file.exists() ? unreadableReason(file) : QString();
     if (reason.isEmpty())
         return true;
-    error = settingsText(
-                QT_TRANSLATE_NOOP("ZelControlCenter", "Could not read the Torvane settings file \"%1\": %2"))
-                .arg(path, reason);
+    error =
+        QCoreApplication::translate("ZelControlCenter", "Could not read the Torvane settings file \"%1\": %2")
+            .arg(path, reason);
     announce("error", error);
     return false;
 }

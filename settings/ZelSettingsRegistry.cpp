@@ -56,6 +56,7 @@ bool ZelSettingsRegistry::RegisterEndCheckFunction(EndCheck check)
 
 bool ZelSettingsRegistry::EnsureSettings(QSettings& settings, QString& error)
 {
+    // SettingsInspection foretells this loop: change both together.
     for (const auto& [key, rule] : registry()) {
         const auto& [defaultValue, validator] = rule;
         QString value = settings.value(key, QVariant(defaultValue)).toString();

@@ -29,11 +29,6 @@ const quint64 MiB = quint64(1024) * 1024;
 const quint64 MaximumMemory = 8096 * MiB;
 const std::size_t RatioCount = 5;
 
-QString settingsText(const char* text)
-{
-    return QCoreApplication::translate("ZelControlCenter", text);
-}
-
 bool ensureOneOf(const QStringList& accepted, const QString& defaultValue, QString& value)
 {
     if (!accepted.contains(value))
@@ -309,9 +304,8 @@ bool ZelSettingsValidators::ensureFile(const QString&, const QString& defaultVal
     CleanupFolder(value);
     if (createFolder(folderOf(value)))
         return true;
-    error = settingsText(
-                QT_TRANSLATE_NOOP("ZelControlCenter",
-                                  "Could not use the Torvane log file, file \"%1\" could not be created"))
+    error = QCoreApplication::translate(
+                "ZelControlCenter", "Could not use the Torvane log file, file \"%1\" could not be created")
                 .arg(value);
     return false;
 }
@@ -321,9 +315,8 @@ bool ZelSettingsValidators::ensureDMCacheFolder(const QString&, const QString& d
 {
     if (ensureFolder(defaultValue, value))
         return true;
-    error = settingsText(
-                QT_TRANSLATE_NOOP("ZelControlCenter",
-                                  "Could not use the 3D database cache, folder \"%1\" could not be created"))
+    error = QCoreApplication::translate(
+                "ZelControlCenter", "Could not use the 3D database cache, folder \"%1\" could not be created")
                 .arg(value);
     return false;
 }
@@ -332,9 +325,8 @@ bool ZelSettingsValidators::ensureTmpFolder(const QString&, const QString& defau
                                             QString& error)
 {
     if (!createFolder(defaultValue)) {
-        error =
-            settingsText(QT_TRANSLATE_NOOP("ZelControlCenter", "Could not create compulsory folder \"%1\""))
-                .arg(defaultValue);
+        error = QCoreApplication::translate("ZelControlCenter", "Could not create compulsory folder \"%1\"")
+                    .arg(defaultValue);
         return false;
     }
     CleanupFolder(value);

@@ -62,7 +62,7 @@ ZelControlCenterStandAloneWidget::~ZelControlCenterStandAloneWidget()
     for (auto panel = m_panels.rbegin(); panel != m_panels.rend(); ++panel)
         m_controlCenter->unregisterSettingsPanel(panel->get(), true);
     while (!m_panels.empty())
-        m_panels.pop_back();
+        m_panels.pop_back(); // The last one first, as they were unregistered.
 }
 
 void ZelControlCenterStandAloneWidget::triggerMinimize()

@@ -59,7 +59,8 @@ int runViewer(const QString& folder, QStringList arguments)
         QCoreApplication::installTranslator(&translator);
 
     ViewerSettings::Register(ApplicationName, folder);
-    if (!zel::ZelControlCenter::EnsureSettings(settings, error) ||
+    if (!zel::ZelSettingsFile::PrepareWriting(settings.fileName(), error) ||
+        !zel::ZelControlCenter::EnsureSettings(settings, error) ||
         !zel::ZelSettingsFile::Sync(settings, error))
         return showFatalError(error);
     MTLogger::InstallFileHandler(utf8(settings.value(keys::LogFile).toString()),

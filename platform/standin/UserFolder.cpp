@@ -8,7 +8,6 @@
 #    include <shlobj.h>
 #    include <windows.h>
 #else
-#    include <cstdlib>
 #    include <pwd.h>
 #    include <unistd.h>
 #endif

@@ -243,6 +243,20 @@ private Q_SLOTS:
         QVERIFY(m_controlCenter->isMenuOpen() && m_controlCenter->isSettingsOpen());
     }
 
+    void interfaceColour()
+    {
+        QPushButton external;
+        const QString icon(":/controlCenter/controlCenter/controlCenterOn.png");
+        m_controlCenter->setInterfaceColor(QColor(10, 20, 30, 128), icon, icon);
+        QCOMPARE(m_controlCenter->findChild<QFrame*>("actionFrame")->styleSheet(),
+                 QString("#actionFrame{ background-color:rgb(10,20,30);}"));
+        m_controlCenter->setControlCenterButton(&external);
+        QVERIFY(external.icon().isNull());
+        m_controlCenter->setInterfaceColor(Qt::white, icon, icon);
+        QCOMPARE(external.iconSize(), QSize(40, 40));
+        QVERIFY(!external.icon().isNull());
+    }
+
 private:
     QPushButton* button(const char* name) const
     {

@@ -27,9 +27,9 @@ kqMessageBox::ShowMessage(const QString& title, const QString& text, QMessageBox
     box->setIcon(icon(*box, critical));
     box->setTextFormat(Qt::PlainText);
     box->setStyleSheet(kqDMIApplication::GetStylesheet("kqMessageBox"));
-    for (auto text = buttonTexts.begin(); text != buttonTexts.end(); ++text) {
-        if (QAbstractButton* button = box->button(text.key()))
-            button->setText(text.value());
+    for (auto entry = buttonTexts.begin(); entry != buttonTexts.end(); ++entry) {
+        if (QAbstractButton* button = box->button(entry.key()))
+            button->setText(entry.value());
     }
     const int answer = box->exec();
     delete box;
