@@ -2,6 +2,7 @@
 
 #include "ui_ControlCenter.h"
 
+#include "StyleSheetPause.h"
 #include "ZelCCActionItem.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsPanel.h"
@@ -62,6 +63,8 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     setStyleSheet(kqDMIApplication::GetStylesheet("ZelControlCenter"));
     setObjectName("ZelControlCenter");
     m_ui->verticalLayout->setAlignment(Qt::AlignTop);
+    // The sliding menu uncovers its buttons instead of squeezing them.
+    m_ui->mainPanel->setMinimumWidth(MenuWidth);
 
     // The drawer is placed by its width, not by the form's layout; whoever embeds it may lay it out.
     m_drawer = m_ui->settingsScrollArea;
@@ -138,7 +141,10 @@ void ZelControlCenter::registerSettingsPanel(ZelSettingsPanel* panel)
     QPushButton* button = panel->getActionWidget();
     m_ui->verticalLayout_6->addWidget(button);
     m_ui->applicationSettings->show();
-    m_ui->verticalLayout_8->addWidget(panel);
+    {
+        const StyleSheetPause pause(*panel);
+        m_ui->verticalLayout_8->addWidget(panel);
+    }
     // The keyboard walks the column from top to bottom before any page.
     if (m_pageGroup->buttons().isEmpty()) {
         setTabOrder(button, m_ui->resetButton);
@@ -236,7 +242,12 @@ void ZelControlCenter::setSettingsWidth(int width)
     m_drawer->setFixedWidth(width);
     const QScrollBar* scrollBar = m_drawer->verticalScrollBar();
     const int barWidth = scrollBar->isVisible() ? scrollBar->width() : 0;
+    m_ui->verticalLayout_4->setLeastWidth(DrawerWidth - barWidth);
     m_ui->settingsContent->setFixedWidth(std::max(width - barWidth, 0));
+    // Nothing has scrolled yet, so the page in view is marked as soon as it can be seen.
+    if (m_settingsAnimation->state() == QAbstractAnimation::Running &&
+        m_settingsAnimation->direction() == QAbstractAnimation::Forward)
+        onScrollBarValueChanged(scrollBar->value());
 }
 
 void ZelControlCenter::registerCCAction(zelAction* action, const QString& anchorName, bool isWorkflowSpecific,
@@ -429,8 +440,6 @@ void ZelControlCenter::onSettingsWidthFinished()
     m_settingsOpen = m_settingsAnimation->direction() == QAbstractAnimation::Forward;
     if (!m_settingsOpen)
         closeDrawer();
-    else if (m_drawer)
-        onScrollBarValueChanged(m_drawer->verticalScrollBar()->value());
 }
 
 void ZelControlCenter::onScrollBarValueChanged(int value)

@@ -1,5 +1,9 @@
 #include "ZelSettingsPanel.h"
 
+#include "StyleSheetPause.h"
+
+#include "platform/kqDMIApplication.h"
+
 namespace zel {
 
 ZelSettingsPanel::ZelSettingsPanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
@@ -56,6 +60,12 @@ void ZelSettingsPanel::registerCCAction(zelAction*)
 
 void ZelSettingsPanel::unregisterCCActionByName(const QString&)
 {
+}
+
+void ZelSettingsPanel::setNamedStyleSheet(const QString& name)
+{
+    const StyleSheetPause pause(*this);
+    setStyleSheet(kqDMIApplication::GetStylesheet(name));
 }
 
 } // namespace zel

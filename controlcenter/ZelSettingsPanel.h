@@ -78,6 +78,9 @@ protected:
     kqDMIApplication* application() const { return m_application; }
     QSettings& settings() const { return *m_settings; }
 
+    /// Sets the style sheet that the application keeps under this name; to be called once the form is set up.
+    void setNamedStyleSheet(const QString& name);
+
 private:
     kqDMIApplication* m_application;
     QSettings* m_settings;

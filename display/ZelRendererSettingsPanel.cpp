@@ -123,7 +123,7 @@ ZelRendererSettingsPanel::ZelRendererSettingsPanel(kqDMIApplication* application
     , m_startGPUMode(!isSoftware(settings.value(keys::Engine).toString()))
 {
     m_ui->setupUi(this);
-    setStyleSheet(kqDMIApplication::GetStylesheet("ZelRendererSettingsPanel"));
+    setNamedStyleSheet("ZelRendererSettingsPanel");
     setPanelName(QCoreApplication::translate("ZelRendererSettingsPanel", "Display"));
     setPanelCategory(ApplicationCategory);
 

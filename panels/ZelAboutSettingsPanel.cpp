@@ -76,7 +76,7 @@ ZelAboutSettingsPanel::ZelAboutSettingsPanel(kqDMIApplication* application, QSet
     m_ui->applicationIcon->setPixmap(
         QIcon(":/controlCenter/controlCenter/logo-torvane.png").pixmap(LogoSize, LogoSize));
     m_ui->noticeLabel->setText(m_ui->noticeLabel->text().arg("2024", 0, QChar(' ')));
-    setStyleSheet(kqDMIApplication::GetStylesheet("ZelAboutSettingsPanel"));
+    setNamedStyleSheet("ZelAboutSettingsPanel");
     m_ui->platform->setText("X64");
     m_ui->pluginsFrame->hide();
     m_ui->libUseLabel_2->setText(componentsText());

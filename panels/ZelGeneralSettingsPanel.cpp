@@ -43,7 +43,7 @@ ZelGeneralSettingsPanel::ZelGeneralSettingsPanel(kqDMIApplication* application, 
     , m_initialCacheDirectory(settings.value(keys::CacheDirectory).toString())
 {
     m_ui->setupUi(this);
-    setStyleSheet(kqDMIApplication::GetStylesheet("ZelGeneralSettingsPanel"));
+    setNamedStyleSheet("ZelGeneralSettingsPanel");
     setPanelName(QCoreApplication::translate("ZelGeneralSettingsPanel", "Folders"));
     setPanelCategory(ApplicationCategory);
 }

@@ -5,8 +5,6 @@
 #include "SettingsKeys.h"
 #include "SignalBlock.h"
 
-#include "platform/kqDMIApplication.h"
-
 #include <QCoreApplication>
 
 namespace zel {
@@ -55,7 +53,7 @@ ZelImportSettingsPanel::ZelImportSettingsPanel(kqDMIApplication* application, QS
     m_limits[Length] = {&ImportModel::maxFaceLengthSet, m_ui->defaultLength, m_ui->length,
                         m_ui->faceLengthSpin};
     m_limits[Angle] = {&ImportModel::maxFaceAngleSet, m_ui->defaultAngle, m_ui->angle, m_ui->faceAngleSpin};
-    setStyleSheet(kqDMIApplication::GetStylesheet("ZelImportSettingsPanel"));
+    setNamedStyleSheet("ZelImportSettingsPanel");
     setPanelName(QCoreApplication::translate("ZelImportSettingsPanel", "Tessellation"));
     setPanelCategory(AdvancedCategory);
 }

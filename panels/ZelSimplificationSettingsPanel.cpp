@@ -111,7 +111,7 @@ ZelSimplificationSettingsPanel::ZelSimplificationSettingsPanel(kqDMIApplication*
     m_ui->setupUi(this);
     showLevelImages(*m_ui);
     m_percentages = {m_ui->ratio1, m_ui->ratio2, m_ui->ratio3, m_ui->ratio4, m_ui->ratio5};
-    setStyleSheet(kqDMIApplication::GetStylesheet("ZelSimplificationSettingsPanel"));
+    setNamedStyleSheet("ZelSimplificationSettingsPanel");
     setPanelName(QCoreApplication::translate("ZelSimplificationSettingsPanel", "Simplification"));
     setPanelCategory(ProjectCategory);
 }

@@ -5,8 +5,6 @@
 #include "ViewerScene.h"
 #include "ViewerSettings.h"
 
-#include <zel/platform/kqDMIApplication.h>
-
 bool TurntableModel::operator==(const TurntableModel& other) const
 {
     return turns == other.turns && degreesPerSecond == other.degreesPerSecond;
@@ -25,7 +23,7 @@ TurntableSettingsPanel::TurntableSettingsPanel(ViewerScene& scene, kqDMIApplicat
 {
     m_ui->setupUi(this);
     // Fonts and fields as on the library's pages.
-    setStyleSheet(kqDMIApplication::GetStylesheet("ZelGeneralSettingsPanel"));
+    setNamedStyleSheet("ZelGeneralSettingsPanel");
     setPanelName(tr("Turntable"));
     setPanelCategory(ApplicationCategory);
 }

@@ -80,7 +80,12 @@ private Q_SLOTS:
         QTest::mouseClick(button("actionButton"), Qt::LeftButton);
         QCOMPARE(m_calls, QStringList({"P0 initialize", "P1 initialize"}));
         QVERIFY(button("controlCenterButton")->isChecked());
+        // The drawer uncovers pages that have their final width from the start.
+        QTRY_VERIFY(m_controlCenter->settingsWidth() > 50);
+        QVERIFY(m_controlCenter->settingsWidth() < 400);
+        const int pageWidth = m_pages.front()->width();
         QTRY_VERIFY(m_controlCenter->isSettingsOpen());
+        QCOMPARE(pageWidth, m_pages.front()->width());
         QVERIFY(m_controlCenter->isMenuOpen()); // "Settings" alone does not close the menu.
         QCOMPARE(m_controlCenter->settingsWidget()->width(), 450);
         QTRY_COMPARE(m_window->findChild<QWidget*>("settingsContent")->width(), 450 - scrollBar()->width());
