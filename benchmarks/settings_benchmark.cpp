@@ -18,21 +18,29 @@ using namespace zel;
 
 namespace {
 
+typedef ZelSettingsValidators V;
+
+/// The kinds of settings, as often as the pages and the library itself have them.
 const struct
 {
+    int count;
     const char* value;
     ZelSettingsRegistry::Validator validator;
-} Samples[] = {
-    {"any text", &ZelSettingsValidators::noOp},
-    {"true", &ZelSettingsValidators::ensureBool},
-    {"software", &ZelSettingsValidators::ensureEngine},
-    {"120", &ZelSettingsValidators::ensureTesselationMaxFaceAngle},
-    {"0.25", &ZelSettingsValidators::ensureTesselationMaxFaceSag},
-    {"1000000", &ZelSettingsValidators::ensureLODTrianglesCap},
-    {"1073741824", &ZelSettingsValidators::ensureMaxGPUMemory},
-    {"0.01", &ZelSettingsValidators::ensureSceneUnit},
-    {"Medium", &ZelSettingsValidators::ensureRaytracerQuality},
-    {"1/0.5/0.25/0.1/0.05", &ZelSettingsValidators::ensureSimplificationRatios},
+} Kinds[] = {
+    {9, "true", &V::ensureBool},
+    {3, "1073741824", &V::ensureMaxGPUMemory},
+    {2, "0.25", &V::ensureTesselationMaxFaceSag},
+    {2, "4096", &V::noOp},
+    {1, "120", &V::ensureTesselationMaxFaceAngle},
+    {1, "1000000", &V::ensureLODTrianglesCap},
+    {1, "0.01", &V::ensureSceneUnit},
+    {1, "Medium", &V::ensureRaytracerQuality},
+    {1, "1/0.5/0.25/0.1/0.05", &V::ensureSimplificationRatios},
+    {1, "1", &V::ensureCoreNumber},
+    {1, "software", &V::ensureEngine},
+    {1, "2", &V::ensureSettingsVersion},
+    {1, "/tmp/log.txt", &V::ensureFile},
+    {1, "/tmp", &V::ensureDMCacheFolder},
 };
 
 /// A settings file of any number of keys, all of them registered.
@@ -43,11 +51,14 @@ public:
     {
         QSettings settings(path(), QSettings::IniFormat);
         ZelSettingsRegistry::ClearSettingsValues();
-        for (int i = 0; i < keys; ++i) {
-            const auto& sample = Samples[std::size_t(i) % std::size(Samples)];
-            const QString key = QString("Group%1/key%2").arg(i / 100).arg(i);
-            ZelSettingsRegistry::RegisterSetting(key, sample.value, sample.validator);
-            settings.setValue(key, sample.value);
+        for (int i = 0; i < keys;) {
+            for (const auto& kind : Kinds) {
+                for (int end = qMin(keys, i + kind.count); i < end; ++i) {
+                    const QString key = QString("Group%1/key%2").arg(i / 100).arg(i);
+                    ZelSettingsRegistry::RegisterSetting(key, kind.value, kind.validator);
+                    settings.setValue(key, kind.value);
+                }
+            }
         }
         settings.sync();
         QFile file(path());

@@ -95,12 +95,14 @@ Content unknownContent(const QString& path)
     for (const QString& key : settings.allKeys()) {
         if (ZelSettingsRegistry::GetDefaultSettingsValues().count(key))
             continue;
-        QDataStream stream(&content[key], QIODevice::WriteOnly);
+        const QVariant value = settings.value(key);
         // The toolkit stores numbers and truth values, in whatever form it has read them, as text.
-        QVariant value = settings.value(key);
-        if (value.canConvert(QVariant::String) && value.type() != QVariant::StringList)
-            value.convert(QVariant::String);
-        stream << value;
+        if (value.canConvert(QVariant::String) && value.type() != QVariant::StringList) {
+            content[key] = value.toString().toUtf8();
+        } else {
+            QDataStream stream(&content[key], QIODevice::WriteOnly);
+            stream << value;
+        }
     }
     return content;
 }
