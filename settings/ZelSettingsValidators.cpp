@@ -29,9 +29,10 @@ const quint64 MiB = quint64(1024) * 1024;
 const quint64 MaximumMemory = 8096 * MiB;
 const std::size_t RatioCount = 5;
 
-bool ensureOneOf(const QStringList& accepted, const QString& defaultValue, QString& value)
+template <std::size_t Count>
+bool ensureOneOf(const QString (&accepted)[Count], const QString& defaultValue, QString& value)
 {
-    if (!accepted.contains(value))
+    if (std::find(std::begin(accepted), std::end(accepted), value) == std::end(accepted))
         value = defaultValue;
     return true;
 }
@@ -162,13 +163,15 @@ bool ZelSettingsValidators::ensureSettingsVersion(const QString&, const QString&
 
 bool ZelSettingsValidators::ensureBool(const QString&, const QString& defaultValue, QString& value, QString&)
 {
-    return ensureOneOf({"true", "false"}, defaultValue, value);
+    static const QString accepted[] = {"true", "false"};
+    return ensureOneOf(accepted, defaultValue, value);
 }
 
 bool ZelSettingsValidators::ensureEngine(const QString&, const QString& defaultValue, QString& value,
                                          QString&)
 {
-    return ensureOneOf({engines::Deferred, engines::Software}, defaultValue, value);
+    static const QString accepted[] = {engines::Deferred, engines::Software};
+    return ensureOneOf(accepted, defaultValue, value);
 }
 
 bool ZelSettingsValidators::ensureLogLevel(const QString&, const QString& defaultValue, QString& value,
@@ -214,7 +217,9 @@ bool ZelSettingsValidators::ensureSimplificationThreads(const QString&, const QS
 bool ZelSettingsValidators::ensureCoreNumber(const QString&, const QString& defaultValue, QString& value,
                                              QString&)
 {
-    return clampInteger(1, QThread::idealThreadCount(), defaultValue, value);
+    // Asked once, because the answer is read from a file of the system each time.
+    static const int cores = QThread::idealThreadCount();
+    return clampInteger(1, cores, defaultValue, value);
 }
 
 bool ZelSettingsValidators::ensureTesselationMaxFaceAngle(const QString&, const QString& defaultValue,
@@ -262,10 +267,7 @@ bool ZelSettingsValidators::ensureMaxCPUMemory3D(const QString& key, const QStri
 bool ZelSettingsValidators::ensureRaytracerQuality(const QString&, const QString& defaultValue,
                                                    QString& value, QString&)
 {
-    QStringList names;
-    std::copy(std::begin(kqDMRenderer::scQualityEnum), std::end(kqDMRenderer::scQualityEnum),
-              std::back_inserter(names));
-    return ensureOneOf(names, defaultValue, value);
+    return ensureOneOf(kqDMRenderer::scQualityEnum, defaultValue, value);
 }
 
 bool ZelSettingsValidators::ensureSceneUnit(const QString&, const QString& defaultValue, QString& value,
