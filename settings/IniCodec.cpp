@@ -1,5 +1,7 @@
 #include "IniCodec.h"
 
+#include <cstring>
+
 namespace zel {
 
 QTextCodec& IniCodec::instance()
@@ -22,7 +24,10 @@ int IniCodec::mibEnum() const
 
 QString IniCodec::convertToUnicode(const char* text, int length, ConverterState*) const
 {
-    return QString::fromUtf8(text, length);
+    const QString decoded = QString::fromUtf8(text, length);
+    // The toolkit drops a leading mark, but what is decoded here stands inside the file.
+    return length >= 3 && std::memcmp(text, "\xef\xbb\xbf", 3) == 0 ? QChar(QChar::ByteOrderMark) + decoded
+                                                                    : decoded;
 }
 
 QByteArray IniCodec::convertFromUnicode(const QChar* text, int length, ConverterState*) const
