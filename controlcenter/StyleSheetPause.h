@@ -1,8 +1,11 @@
 #ifndef ZEL_STYLESHEETPAUSE_H
 #define ZEL_STYLESHEETPAUSE_H
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QList>
 #include <QString>
+#include <QStyle>
 #include <QWidget>
 
 #include <utility>
@@ -19,18 +22,22 @@ class StyleSheetPause
 {
 public:
     explicit StyleSheetPause(QWidget& tree)
+        : m_widgets(tree.findChildren<QWidget*>())
     {
-        const QList<QWidget*> descendants = tree.findChildren<QWidget*>();
+        m_widgets.prepend(&tree);
         // From the leaves to the root, so that no sheet is left below the one that is taken off.
-        for (int i = descendants.size() - 1; i >= 0; --i)
-            takeSheet(*descendants[i]);
-        takeSheet(tree);
+        for (int i = m_widgets.size() - 1; i >= 0; --i)
+            takeSheet(*m_widgets[i]);
     }
 
     ~StyleSheetPause()
     {
         for (auto sheet = m_sheets.rbegin(); sheet != m_sheets.rend(); ++sheet)
             sheet->first->setStyleSheet(sheet->second);
+        // The toolkit styles a widget when it is first shown or measured; the others have missed the sheets.
+        for (QWidget* widget : std::as_const(m_widgets))
+            if (widget->testAttribute(Qt::WA_WState_Polished))
+                style(*widget);
     }
 
     StyleSheetPause(const StyleSheetPause&) = delete;
@@ -45,6 +52,15 @@ private:
         widget.setStyleSheet(QString());
     }
 
+    static void style(QWidget& widget)
+    {
+        widget.style()->unpolish(&widget);
+        widget.style()->polish(&widget);
+        QEvent change(QEvent::StyleChange);
+        QCoreApplication::sendEvent(&widget, &change);
+    }
+
+    QList<QWidget*> m_widgets;
     std::vector<std::pair<QWidget*, QString>> m_sheets;
 };
 
