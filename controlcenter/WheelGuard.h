@@ -7,14 +7,14 @@
 
 namespace zel {
 
-/// Makes a spin box take the mouse wheel only while it has the focus, so that scrolling a page over it
+/// Makes a field take the mouse wheel only while it has the focus, so that scrolling a page over it
 /// changes nothing. The focus policy tells which of the two states it is in.
-template <class SpinBox>
-class WheelGuard : public SpinBox
+template <class Field>
+class WheelGuard : public Field
 {
 public:
     explicit WheelGuard(QWidget* parent)
-        : SpinBox(parent)
+        : Field(parent)
     {
         this->setFocusPolicy(Qt::StrongFocus);
         this->installEventFilter(this);
@@ -24,7 +24,7 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        // Mouse moves too: an unfocused box does not track the pointer.
+        // Mouse moves too: an unfocused field does not track the pointer.
         if (event->type() != QEvent::Wheel && event->type() != QEvent::MouseMove)
             return QObject::eventFilter(watched, event);
         const bool guarded = this->focusPolicy() != Qt::WheelFocus;
@@ -36,13 +36,13 @@ protected:
     void focusInEvent(QFocusEvent* event) override
     {
         this->setFocusPolicy(Qt::WheelFocus);
-        SpinBox::focusInEvent(event);
+        Field::focusInEvent(event);
     }
 
     void focusOutEvent(QFocusEvent* event) override
     {
         this->setFocusPolicy(Qt::StrongFocus);
-        SpinBox::focusOutEvent(event);
+        Field::focusOutEvent(event);
     }
 
     void showEvent(QShowEvent* event) override
@@ -50,7 +50,7 @@ protected:
         // A form may have set a policy by which the wheel itself would give the focus.
         if (!this->hasFocus())
             this->setFocusPolicy(Qt::StrongFocus);
-        SpinBox::showEvent(event);
+        Field::showEvent(event);
     }
 };
 

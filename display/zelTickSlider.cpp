@@ -15,7 +15,7 @@ const int SmallestTickSpacing = 4;
 } // namespace
 
 zelTickSlider::zelTickSlider(QWidget* parent)
-    : QSlider(parent)
+    : WheelGuard<QSlider>(parent)
 {
 }
 

@@ -1,13 +1,16 @@
 #ifndef ZEL_ZELTICKSLIDER_H
 #define ZEL_ZELTICKSLIDER_H
 
+#include "WheelGuard.h"
+
 #include <QSlider>
 
 namespace zel {
 
 /// A horizontal slider whose tick marks stay visible below it under a style sheet: the toolkit leaves them
-/// out as soon as a sheet draws the handle. They have the sheet's text colour.
-class zelTickSlider : public QSlider
+/// out as soon as a sheet draws the handle. They have the sheet's text colour. It takes the mouse wheel only
+/// while it has the focus.
+class zelTickSlider : public WheelGuard<QSlider>
 {
     Q_OBJECT
 
