@@ -1,4 +1,6 @@
-"""Makes the tables of docs/benchmarks.md: report.py RESULTS INSIDE
+"""Makes the tables of docs/benchmarks.md: report.py RESULTS INSIDE README
+
+What has a limit also goes into the README, between its lines "<!-- speed -->" and "<!-- /speed -->".
 
 RESULTS holds lines "name <tab> number", several for what was measured several times; INSIDE is the output of
 settings_benchmark in its JSON form.
@@ -59,6 +61,14 @@ def row(what, ours, base, show, most_ratio=None, most=None):
     return f"| {what} | {show(ours)} | {show(base)} | {ratio:.2f} | {limit} | {met} |"
 
 
+def update_readme(path, lines):
+    with open(path, encoding="utf-8") as file:
+        before, rest = file.read().split("<!-- speed -->\n")
+    after = rest.split("<!-- /speed -->\n")[1]
+    with open(path, "w", encoding="utf-8") as file:
+        file.write(before + "<!-- speed -->\n" + "\n".join(lines) + "\n<!-- /speed -->\n" + after)
+
+
 def main():
     results, inside = read_results(sys.argv[1]), read_inside(sys.argv[2])
 
@@ -91,9 +101,12 @@ def main():
                           for kind in ("torvane", "plain"))
             rows.append(row(f"{what}, {where}", ours, base, time_text, most=most))
 
+    heading = "| what | Torvane | baseline | ratio | at most | met |\n|---|--:|--:|--:|--:|---|"
+    update_readme(sys.argv[3], [heading] + [row for row in rows if not row.endswith("|  |  |")])
+
     print("# Speed and memory\n\nMade by `scripts/benchmark`, which says how to run it again; "
           f"{os.cpu_count()} processor cores, software rendering on Xvfb. Times are medians.\n")
-    print("| what | Torvane | baseline | ratio | at most | met |\n|---|--:|--:|--:|--:|---|")
+    print(heading)
     print("\n".join(rows))
     print("\n## Where the time of a start goes\n\n| stage | ms |\n|---|--:|")
     for name, numbers in results.items():
