@@ -1,9 +1,8 @@
 #ifndef ZEL_STYLESHEETPAUSE_H
 #define ZEL_STYLESHEETPAUSE_H
 
-#include <QCoreApplication>
-#include <QEvent>
 #include <QList>
+#include <QPointer>
 #include <QString>
 #include <QStyle>
 #include <QWidget>
@@ -17,26 +16,28 @@ namespace zel {
 /// widgets another style or parent does so under a pause: otherwise the toolkit styles every widget of the
 /// tree anew for each sheet on the way down, which used to be half of the time that the window took to open.
 ///
-/// None of the widgets may be deleted meanwhile.
+/// A widget that is given another sheet meanwhile keeps that one.
 class StyleSheetPause
 {
 public:
     explicit StyleSheetPause(QWidget& tree)
-        : m_widgets(tree.findChildren<QWidget*>())
+        : m_widgets{&tree}
     {
-        m_widgets.prepend(&tree);
+        const QList<QWidget*> descendants = tree.findChildren<QWidget*>();
+        m_widgets.insert(m_widgets.end(), descendants.begin(), descendants.end());
         // From the leaves to the root, so that no sheet is left below the one that is taken off.
-        for (int i = m_widgets.size() - 1; i >= 0; --i)
-            takeSheet(*m_widgets[i]);
+        for (auto widget = m_widgets.rbegin(); widget != m_widgets.rend(); ++widget)
+            takeSheet(**widget);
     }
 
     ~StyleSheetPause()
     {
         for (auto sheet = m_sheets.rbegin(); sheet != m_sheets.rend(); ++sheet)
-            sheet->first->setStyleSheet(sheet->second);
+            if (sheet->first && sheet->first->styleSheet().isEmpty())
+                sheet->first->setStyleSheet(sheet->second);
         // The toolkit styles a widget when it is first shown or measured; the others have missed the sheets.
-        for (QWidget* widget : std::as_const(m_widgets))
-            if (widget->testAttribute(Qt::WA_WState_Polished))
+        for (QWidget* widget : m_widgets)
+            if (widget && widget->testAttribute(Qt::WA_WState_Polished))
                 style(*widget);
     }
 
@@ -56,12 +57,11 @@ private:
     {
         widget.style()->unpolish(&widget);
         widget.style()->polish(&widget);
-        QEvent change(QEvent::StyleChange);
-        QCoreApplication::sendEvent(&widget, &change);
     }
 
-    QList<QWidget*> m_widgets;
-    std::vector<std::pair<QWidget*, QString>> m_sheets;
+    // Guarded, because a page may delete what it holds when it gets another parent.
+    std::vector<QPointer<QWidget>> m_widgets;
+    std::vector<std::pair<QPointer<QWidget>, QString>> m_sheets;
 };
 
 } // namespace zel

@@ -46,6 +46,18 @@ QMessageBox::StandardButton showMessage(const QString& text, QMessageBox::Standa
                                      QMap<QMessageBox::StandardButton, QString>(), false);
 }
 
+/// Styles a widget and all its descendants. A combo box, for one, learns only from a change which kind of
+/// list it is to open.
+void styleAll(QWidget& tree)
+{
+    tree.ensurePolished();
+    const QList<QWidget*> descendants = tree.findChildren<QWidget*>();
+    for (QWidget* widget : descendants) {
+        QEvent change(QEvent::StyleChange);
+        QCoreApplication::sendEvent(widget, &change);
+    }
+}
+
 } // namespace
 
 namespace zel {
@@ -145,6 +157,7 @@ void ZelControlCenter::registerSettingsPanel(ZelSettingsPanel* panel)
         const StyleSheetPause pause(*panel);
         m_ui->verticalLayout_8->addWidget(panel);
     }
+    styleAll(*panel);
     // The keyboard walks the column from top to bottom before any page.
     if (m_pageGroup->buttons().isEmpty()) {
         setTabOrder(button, m_ui->resetButton);
