@@ -2,6 +2,7 @@
 
 #include "ui_ControlCenter.h"
 
+#include "EnableButton.h"
 #include "StyleSheetPause.h"
 #include "ZelCCActionItem.h"
 #include "ZelSettingsFile.h"
@@ -97,6 +98,9 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     // Queued, because the scroll area itself shows and hides the bar only after the range has changed.
     connect(scrollBar, SIGNAL(rangeChanged(int, int)), this, SLOT(onScrollBarRangeChanged()),
             Qt::QueuedConnection);
+
+    // The scroll area itself follows the focus only within it.
+    connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
 
     m_pageGroup->setExclusive(true);
     openMenu(false);
@@ -433,10 +437,10 @@ void ZelControlCenter::onPanelClicked(const QString& pPanelName)
 
 void ZelControlCenter::onStateChanged()
 {
-    m_ui->resetButton->setEnabled(
-        std::any_of(m_panels.begin(), m_panels.end(),
-                    [](const ZelSettingsPanel* panel) { return panel->canResetContent(); }));
-    m_ui->applyButton->setEnabled(hasModifications());
+    enableButton(*m_ui->resetButton,
+                 std::any_of(m_panels.begin(), m_panels.end(),
+                             [](const ZelSettingsPanel* panel) { return panel->canResetContent(); }));
+    enableButton(*m_ui->applyButton, hasModifications());
 }
 
 void ZelControlCenter::onControlCenterWidthFinished()
@@ -485,6 +489,15 @@ void ZelControlCenter::onPanelDestroyed(QObject* panel)
     // Only its address is left to compare.
     m_panels.erase(std::remove(m_panels.begin(), m_panels.end(), panel), m_panels.end());
     onStateChanged();
+}
+
+void ZelControlCenter::onFocusChanged(QWidget* former, QWidget* current)
+{
+    if (!m_drawer || !m_drawer->isAncestorOf(current) || m_drawer->isAncestorOf(former))
+        return;
+    // A page must not move under a mouse button that is held down.
+    if (QApplication::mouseButtons() == Qt::NoButton)
+        m_drawer->ensureWidgetVisible(current, 0);
 }
 
 void ZelControlCenter::openSettingsPanel(bool open)

@@ -133,6 +133,8 @@ protected Q_SLOTS:
     /// Gives the pages the width that the scroll bar leaves them.
     void onScrollBarRangeChanged();
     void onPanelDestroyed(QObject* panel);
+    /// Brings a field into view that the keyboard enters the drawer at.
+    void onFocusChanged(QWidget* former, QWidget* current);
 
 protected:
     void openSettingsPanel(bool open);

@@ -1,11 +1,11 @@
 #ifndef ZEL_ZELEDITABLEPANEL_H
 #define ZEL_ZELEDITABLEPANEL_H
 
+#include "EnableButton.h"
 #include "ZelSettingsField.h"
 #include "ZelSettingsPanel.h"
 #include "ZelSettingsRegistry.h"
 
-#include <QPushButton>
 #include <QSettings>
 
 #include <utility>
@@ -121,15 +121,7 @@ protected:
     virtual void notifyStateChanged() = 0;
 
     /// Refreshes the reset button.
-    void checkContent() const
-    {
-        auto* button = findChild<QPushButton*>("resetButton");
-        const bool enabled = canResetContent();
-        // A disabled button that kept the focus would hand it on to a neighbour.
-        if (!enabled && button->hasFocus())
-            button->clearFocus();
-        button->setEnabled(enabled);
-    }
+    void checkContent() const { enableButton(*findChild<QPushButton*>("resetButton"), canResetContent()); }
 
     /// What every edit ends with.
     void onEdited()

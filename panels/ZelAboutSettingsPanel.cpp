@@ -99,8 +99,10 @@ void ZelAboutSettingsPanel::initializeWidget()
 
 void ZelAboutSettingsPanel::resizeEvent(QResizeEvent* event)
 {
-    // How many lines a row needs depends on the width that the page has got.
+    // How many lines the texts need depends on the width that the page has got.
     showAllRows(*m_ui->tableWidget);
+    m_ui->scrollArea->setFixedHeight(
+        m_ui->scrollAreaWidgetContents->heightForWidth(m_ui->scrollArea->viewport()->width()));
     QWidget::resizeEvent(event);
 }
 
