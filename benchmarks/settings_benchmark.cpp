@@ -117,6 +117,14 @@ void pass(QSettings& settings)
         qFatal("the validation pass fails");
 }
 
+/// What a start does: the pass, and all that protects the file.
+void repair(QSettings& settings)
+{
+    QString error;
+    if (!ZelSettingsFile::Repair(settings, error))
+        qFatal("the file cannot be repaired");
+}
+
 /// All five pages in an open control center.
 class OpenControlCenter
 {
@@ -186,6 +194,7 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     for (const int keys : {10, 1000, 100000}) {
         benchmark::RegisterBenchmark("pass", readAndWrite<pass>)->Arg(keys)->UseManualTime();
+        benchmark::RegisterBenchmark("repair", readAndWrite<repair>)->Arg(keys)->UseManualTime();
         benchmark::RegisterBenchmark("plain", readAndWrite<plain>)->Arg(keys)->UseManualTime();
     }
     benchmark::RegisterBenchmark("edit", editOnPage);

@@ -112,8 +112,10 @@ void measure(QWidget& window, QScrollArea& drawer, const QSize& size,
         if (repetition == 0)
             print("opening", watch.drawerSeen);
         printFrames(watch.frames);
+        FrameWatch closing(drawer);
         slide(false);
         processEventsFor(SlideTime + RestTime);
+        printFrames(closing.frames);
     }
 }
 

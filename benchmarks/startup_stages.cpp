@@ -139,8 +139,7 @@ int main(int argc, char** argv)
     ZelControlCenter::InitDefaultSettingsValues("TorvaneBoundlessX64");
     QSettings& settings = application.getSettings();
     QString error;
-    if (!ZelSettingsFile::PrepareWriting(settings.fileName(), error) ||
-        !ZelControlCenter::EnsureSettings(settings, error) || !ZelSettingsFile::Sync(settings, error))
+    if (!ZelSettingsFile::Repair(settings, error))
         qFatal("%s", qPrintable(error));
     stages.end("settings and validation pass");
 

@@ -204,6 +204,9 @@ void testInput(const uint8_t* data, size_t size)
     const QString once = writeInput(data, size);
     const bool damaged = !settingsDamage(bytes(once)).isEmpty();
     const Content unknown = unknownContent(once);
+    const bool namesKept = !hasUnkeptName(unknown);
+    if (!namesKept)
+        runPass(once); // Gives them the names that the toolkit writes.
     // Each pass takes one slash off the end of a folder, so one that ends in several takes as many passes.
     do
         runPass(once);

@@ -1,10 +1,25 @@
 #include "FileCopy.h"
 
 #include "Announcement.h"
+#include "ReplacedFile.h"
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryFile>
+
+#include <system_error>
+
+std::filesystem::path zel::nativePath(const QString& path)
+{
+    return std::filesystem::u8path(path.toUtf8().constData());
+}
+
+QByteArray zel::contentOfFile(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
 
 QString zel::mishapOfWritingBeside(const QString& path, qint64 size)
 {
@@ -16,8 +31,10 @@ QString zel::mishapOfWritingBeside(const QString& path, qint64 size)
 bool zel::copySettingsFile(const QString& path, const QString& copy, QString& error)
 {
     QFile file(path);
-    if (file.copy(copy))
+    if (file.copy(copy)) {
+        ReplacedFile(path).giveToOwner(copy); // Where that is not allowed, the copy still holds the content.
         return true;
+    }
     // The toolkit tells what it could not do, but not why.
     const QString reason = mishapOfWritingBeside(copy, file.size());
     error = QCoreApplication::translate("ZelControlCenter",
@@ -25,4 +42,30 @@ bool zel::copySettingsFile(const QString& path, const QString& copy, QString& er
                 .arg(path, reason.isEmpty() ? file.errorString() : reason);
     announce("error", error);
     return false;
+}
+
+bool zel::dropByteOrderMark(const QString& path)
+{
+    const QByteArray mark("\xEF\xBB\xBF");
+    const QByteArray former = contentOfFile(path);
+    int begin = 0;
+    while (former.mid(begin, mark.size()) == mark)
+        begin += mark.size();
+    if (begin == 0)
+        return true;
+    const QString replaced = QFileInfo(path).canonicalFilePath();
+    QString name;
+    {
+        QTemporaryFile file(replaced + ".XXXXXX");
+        if (!file.open() || file.write(former.mid(begin)) != former.size() - begin || !file.flush() ||
+            !file.setPermissions(QFileInfo(path).permissions()))
+            return false;
+        file.setAutoRemove(false);
+        name = file.fileName();
+    }
+    std::error_code error;
+    // Unless others have written it meanwhile.
+    if (ReplacedFile(path).giveToOwner(name) && contentOfFile(path) == former)
+        std::filesystem::rename(nativePath(name), nativePath(replaced), error);
+    return !QFile::remove(name) && !error; // What is left has not been moved.
 }

@@ -6,12 +6,15 @@
 
 namespace zel {
 
+/// True for a folder that exists, or would exist by now if this were no rehearsal. Every validator asks here.
+bool isFolder(const QString& path);
+
 /// Creates a folder with all missing parents; true when it exists afterwards. Every folder that a validator
 /// needs is created here.
 bool createFolder(const QString& path);
 
-/// While one of these lives, createFolder creates nothing: it notes the folder, and tells whether it could be
-/// created.
+/// While one of these lives, createFolder creates nothing: it tells whether the folder could be created, and
+/// from then on isFolder takes it for one.
 class FolderRehearsal
 {
 public:
@@ -25,7 +28,10 @@ public:
     const QStringList& folders() const { return m_folders; }
 
 private:
+    friend bool isFolder(const QString& path);
     friend bool createFolder(const QString& path);
+
+    bool wouldExist(const QString& path) const;
 
     static FolderRehearsal* s_current;
     QStringList m_folders;

@@ -18,12 +18,6 @@ const int KeptCopies = 3;
 // The order of the names is the order of the copies, also when summer time ends.
 const char* const NameFormat = "yyyy-MM-dd'T'hh-mm-ss.zzz'Z.bak'";
 
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /// The copies that there are, the oldest first.
 QStringList copiesOf(const QString& path)
 {
@@ -50,20 +44,22 @@ QString newName(const QString& path)
 
 } // namespace
 
-bool SettingsBackup::keep(const QString& path, const QString& reason, QString& copy, QString& error)
+bool SettingsBackup::keep(const QString& path, const QString& reason, QString& copy, QString& error,
+                          const QString& source)
 {
     copy.clear();
-    const QByteArray content = contentOf(path);
+    const QString givenUp = source.isEmpty() ? path : source;
+    const QByteArray content = contentOfFile(givenUp);
     if (content.isEmpty())
         return true;
     QStringList former = copiesOf(path);
     for (const QString& kept : former) {
-        if (contentOf(kept) == content)
+        if (contentOfFile(kept) == content)
             copy = kept;
     }
     if (copy.isEmpty()) {
         const QString name = newName(path);
-        if (!copySettingsFile(path, name, error))
+        if (!copySettingsFile(givenUp, name, error))
             return false;
         copy = name;
         while (former.size() >= KeptCopies)
@@ -71,14 +67,14 @@ bool SettingsBackup::keep(const QString& path, const QString& reason, QString& c
     }
     announce("warning",
              QString("The settings file \"%1\" will be replaced: %2. A copy of it is kept as \"%3\".")
-                 .arg(path, reason, copy));
+                 .arg(givenUp, reason, copy));
     return true;
 }
 
 bool SettingsBackup::keepIfDamaged(const QString& path, QString& copy, QString& error)
 {
     copy.clear();
-    const QString damage = settingsDamage(contentOf(path));
+    const QString damage = settingsDamage(contentOfFile(path));
     return damage.isEmpty() || keep(path, damage, copy, error);
 }
 

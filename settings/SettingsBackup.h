@@ -15,7 +15,9 @@ public:
     /// is. A file without content needs no copy, and one that is kept already gets no second one.
     /// @param reason  why the content is given up, as in "it is too old"
     /// @param copy    becomes the copy's path; empty when none is needed
-    static bool keep(const QString& path, const QString& reason, QString& copy, QString& error);
+    /// @param source  the file that holds the content, where it is not the settings file itself
+    static bool keep(const QString& path, const QString& reason, QString& copy, QString& error,
+                     const QString& source = QString());
 
     /// Keeps a copy of a file that is damaged.
     static bool keepIfDamaged(const QString& path, QString& copy, QString& error);

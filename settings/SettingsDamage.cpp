@@ -2,11 +2,15 @@
 
 #include <QTextCodec>
 
+#include <cctype>
+#include <cstring>
+
 namespace zel {
 
 namespace {
 
 const char* const ByteOrderMark = "\xEF\xBB\xBF";
+const int LongestEscape = 6; // "x1F60", and a digit too many.
 
 bool isUtf8(const QByteArray& text)
 {
@@ -27,7 +31,11 @@ public:
     void take(char character)
     {
         const bool blank = character == ' ' || character == '\t';
-        m_comment = m_comment || (character == ';' && !m_quoted);
+        if (character == ';' && !m_quoted && !m_comment) {
+            m_comment = true;
+            m_lossy = m_lossy || (m_assigned && !m_blank);
+        }
+        m_blank = blank;
         if (blank || m_comment)
             return;
         m_garbled = m_garbled || m_closed; // Whatever follows the name of a group.
@@ -38,16 +46,42 @@ public:
             m_first = character;
     }
 
+    /// What stands behind a backslash, up to the end of the text.
+    void takeEscaped(const QByteArray& text)
+    {
+        take('\\');
+        m_lossy = m_lossy || (m_assigned && !isEscape(text));
+    }
+
     bool isComment() const { return m_comment; }
 
     bool isReadable() const
     {
-        return !m_first || (!m_garbled && !m_quoted && (m_first == '[' ? m_closed : m_assigned));
+        return !m_lossy &&
+               (!m_first || (!m_garbled && !m_quoted && (m_first == '[' ? m_closed : m_assigned)));
     }
 
 private:
+    /// Of those that the toolkit understands, the ones that it writes, or writes as the same again.
+    bool isEscape(const QByteArray& text) const
+    {
+        const char character = text.isEmpty() ? ' ' : text.at(0);
+        if (isLineEnd(character))
+            return m_quoted;
+        int digits = 1;
+        while (digits < text.size() && std::isxdigit(uchar(text.at(digits))))
+            ++digits;
+        if (character == 'x')
+            return digits > 1 && digits <= 5;
+        if (character == '0')
+            return text.size() < 2 || text.at(1) < '0' || text.at(1) > '7';
+        return std::strchr("abfnrtv\"?'\\", character) != nullptr;
+    }
+
     char m_first = 0;
+    bool m_blank = false;
     bool m_comment = false;
+    bool m_lossy = false;
     bool m_quoted = false;
     bool m_closed = false;
     bool m_assigned = false;
@@ -61,7 +95,7 @@ int unreadableLine(const QByteArray& text)
     int number = 1;
     for (int at = text.startsWith(ByteOrderMark) ? 3 : 0; at < text.size(); ++at) {
         if (text.at(at) == '\\' && !line.isComment()) {
-            line.take('\\');
+            line.takeEscaped(text.mid(at + 1, LongestEscape));
             ++at; // What follows has lost its own meaning, and a line end lets the line go on.
         } else if (!isLineEnd(text.at(at))) {
             line.take(text.at(at));

@@ -2,13 +2,12 @@
 
 #include "FolderCreation.h"
 #include "SettingsDamage.h"
+#include "SettingsKeys.h"
+#include "SettingsValidation.h"
 #include "ZelSettingsFile.h"
-#include "ZelSettingsRegistry.h"
 #include "ZelSettingsValidators.h"
 
 #include <QFile>
-#include <QSettings>
-#include <QVariant>
 
 #include <algorithm>
 #include <iterator>
@@ -17,12 +16,12 @@ namespace zel {
 
 namespace {
 
-typedef ZelSettingsRegistry::Validator Validator;
+typedef ZelSettingsRegistry::Settings::value_type Registered;
 
 /// Why the validators replace a value by the default.
 const struct
 {
-    Validator validator;
+    ZelSettingsRegistry::Validator validator;
     const char* reason;
 } Reasons[] = {
     {&ZelSettingsValidators::ensureSettingsVersion, "is not the current version"},
@@ -49,17 +48,18 @@ QString shown(const QVariant& value)
     return isList(value) ? value.toStringList().join(", ") : value.toString();
 }
 
-QString reasonFor(const QVariant& oldValue, const QString& newText, const QString& defaultValue,
-                  Validator validator)
+QString reasonFor(const Registered& entry, const QVariant& oldValue, const QString& newText)
 {
+    const auto& defaultValue = entry.second.first;
     if (isList(oldValue))
         return "is a list: a text with a comma needs quotation marks";
     if (cleanedUp(oldValue.toString()) == newText)
         return "is not written the usual way";
     if (newText != defaultValue && newText != cleanedUp(defaultValue))
         return "is out of range, or not written the usual way";
-    const auto* found = std::find_if(std::begin(Reasons), std::end(Reasons),
-                                     [validator](const auto& row) { return row.validator == validator; });
+    const auto* found = std::find_if(std::begin(Reasons), std::end(Reasons), [&entry](const auto& row) {
+        return row.validator == entry.second.second;
+    });
     return found == std::end(Reasons) ? "is not valid" : found->reason;
 }
 
@@ -82,23 +82,21 @@ void SettingsInspection::inspectValues(const QString& path)
 {
     QSettings settings(path, QSettings::IniFormat);
     ZelSettingsFile::UseFileEncoding(settings);
+    const int version = settings.value(keys::SettingsVersion, 0).toInt();
+    m_isOlderVersion = version > 0 && version < CurrentSettingsVersion;
     const FolderRehearsal rehearsal;
-    for (const auto& [key, rule] : ZelSettingsRegistry::GetDefaultSettingsValues()) {
-        const auto& [defaultValue, validator] = rule;
-        const bool missing = !settings.contains(key);
-        const QVariant stored = settings.value(key, defaultValue);
-        QString text = stored.toString();
-        if (!validator(key, defaultValue, text, m_error)) {
-            if (m_error.isEmpty())
-                m_error = QString("The default of \"%1\" is not valid").arg(key);
-            break;
-        }
-        if (missing)
+    const auto foretell = [&](const Registered& entry, const QVariant& stored, const QString& text) {
+        const QString& key = entry.first;
+        if (!settings.contains(key))
             m_changes.push_back({key, true, QString(), text, "is missing"});
+        else if (m_isOlderVersion && key == keys::Engine && text != engines::Deferred)
+            m_changes.push_back({key, false, shown(stored), engines::Deferred,
+                                 "is of an older version, whose engine is not kept"});
         else if (isList(stored) || text != stored.toString())
-            m_changes.push_back(
-                {key, false, shown(stored), text, reasonFor(stored, text, defaultValue, validator)});
-    }
+            m_changes.push_back({key, false, shown(stored), text, reasonFor(entry, stored, text)});
+    };
+    if (!validateSettings(settings, m_error, foretell) && m_error.isEmpty())
+        m_error = "The default of a setting is not valid";
     m_folders = rehearsal.folders();
 }
 

@@ -18,8 +18,9 @@ struct SettingsChange
     QString reason; ///< In English, to follow the old value: "is out of range".
 };
 
-/// What the validation pass would do with a settings file. Looking changes nothing: neither the file, nor any
-/// folder that the pass would create. End checks of an application are not run, because they may write.
+/// What the migration of an older version and the validation pass would do with a settings file. Looking
+/// changes nothing: neither the file, nor any folder that the pass would create. End checks of an application
+/// are not run, because they may write.
 class SettingsInspection
 {
 public:
@@ -28,6 +29,9 @@ public:
 
     /// True when the pass would leave everything as it is.
     bool isClean() const;
+
+    /// True for a file of an older version that is kept: migrateSettings comes before the pass.
+    bool isOlderVersion() const { return m_isOlderVersion; }
 
     /// What the pass would lose of the file, as settingsDamage tells it; empty when nothing.
     const QString& damage() const { return m_damage; }
@@ -40,6 +44,7 @@ public:
 private:
     void inspectValues(const QString& path);
 
+    bool m_isOlderVersion = false;
     QString m_damage;
     std::vector<SettingsChange> m_changes;
     QStringList m_folders;

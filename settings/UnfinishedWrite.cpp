@@ -2,6 +2,7 @@
 
 #include "Announcement.h"
 #include "FileCopy.h"
+#include "SettingsBackup.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -37,13 +38,20 @@ QDateTime writtenAt(const QString& path)
     return QFileInfo(path).lastModified();
 }
 
+/// Leaves the copy where it is when that cannot be done.
 void putBack(const QString& path)
 {
-    // Unlike the toolkit's, this one replaces the file in one step.
+    const std::filesystem::path copy = nativePath(copyOf(path)), file = nativePath(fileBehind(path));
     std::error_code error;
-    std::filesystem::rename(std::filesystem::u8path(copyOf(path).toUtf8().constData()),
-                            std::filesystem::u8path(fileBehind(path).toUtf8().constData()), error);
-    if (!error)
+    // Unlike the toolkit, in one step, unless the file cannot be replaced.
+    std::filesystem::rename(copy, file, error);
+    if (error &&
+        std::filesystem::copy_file(copy, file, std::filesystem::copy_options::overwrite_existing, error))
+        QFile::remove(copyOf(path));
+    if (error)
+        announce("error", QString("Writing \"%1\" was cut short; \"%2\" holds its former content: %3")
+                              .arg(path, copyOf(path), QString::fromLocal8Bit(error.message().c_str())));
+    else
         announce("warning", QString("Writing \"%1\" was cut short; its former content is back.").arg(path));
 }
 
@@ -57,9 +65,10 @@ bool UnfinishedWrite::begin(const QString& path, QString& error)
 
 void UnfinishedWrite::end(const QString& path, bool written)
 {
-    if (!written && QFile::exists(copyOf(path)))
+    if (written || contentOfFile(path) == contentOfFile(copyOf(path)))
+        QFile::remove(copyOf(path));
+    else if (QFile::exists(copyOf(path)))
         putBack(path);
-    QFile::remove(copyOf(path));
 }
 
 void UnfinishedWrite::recover(const QString& path)
@@ -72,10 +81,19 @@ void UnfinishedWrite::recover(const QString& path)
     }
     if (!QFile::exists(copy))
         return;
-    // A file that has been written later than that is whole: another program has done it.
-    if (writtenAt(path) <= writtenAt(copy).addMSecs(LongestWrite))
+    // A file that has been written later is whole: another program has done it. But clocks are set, and
+    // machines fall asleep: what is given up is kept.
+    const bool isWhole = writtenAt(path) > writtenAt(copy).addMSecs(LongestWrite);
+    const QString givenUp = isWhole ? copy : path;
+    QString kept, error;
+    if (contentOfFile(path) == contentOfFile(copy))
+        QFile::remove(copy);
+    else if (!SettingsBackup::keep(path, "its writing was cut short", kept, error, givenUp))
+        return;
+    else if (isWhole)
+        QFile::remove(copy);
+    else
         putBack(path);
-    QFile::remove(copy);
 }
 
 } // namespace zel

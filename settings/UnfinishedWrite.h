@@ -6,7 +6,8 @@
 namespace zel {
 
 /// Guards a file while it is rewritten in place: a copy of the old content stands beside it from begin to
-/// end. If the process dies in between, whoever comes next puts the copy back.
+/// end. If the process dies in between, whoever comes next puts the copy back. A copy goes only when its
+/// content is elsewhere, or the new one has been written.
 class UnfinishedWrite
 {
 public:
@@ -17,7 +18,7 @@ public:
     static void end(const QString& path, bool written);
 
     /// Puts the content back that a write of a dead process has left unfinished; waits for one of a living
-    /// process.
+    /// process. What is given up for it is kept as a dated copy.
     static void recover(const QString& path);
 };
 

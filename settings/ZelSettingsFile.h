@@ -23,14 +23,21 @@ public:
     /// read.
     static bool IsUsable(const QString& path, QString& error);
 
-    /// Makes the file ready for what the toolkit is about to write on its own, as the validation pass lets
-    /// it; Sync is to follow. Keeps a dated copy beside a damaged file, because the toolkit drops what it
-    /// cannot read. False when it cannot: then nothing should be written.
-    static bool PrepareWriting(const QString& path, QString& error);
+    /// Brings the file into the form that the registry asks for: ZelSettingsRegistry::EnsureSettings, with
+    /// all that Sync does. False also when a validator or an end check gives up; the error text is then
+    /// theirs.
+    static bool Repair(QSettings& settings, QString& error);
 
-    /// Writes what has been changed to the file, prepared for it before. What other processes have written in
-    /// the meantime stays. False when the file could not be written; the changes are then still pending.
+    /// Writes what has been changed to the file. What other processes have written in the meantime stays, and
+    /// so do the file's owner and group. False when the file could not be written; the changes are then still
+    /// pending.
     static bool Sync(QSettings& settings, QString& error);
+
+    /// Makes the file ready to be written: keeps a dated copy beside a damaged one, because the toolkit drops
+    /// what it cannot read. Repair and Sync do so on their own; before that it is only needed for a value
+    /// that must not be set otherwise, because the toolkit writes it in the end even after they have failed.
+    /// False when nothing should be written.
+    static bool PrepareWriting(const QString& path, QString& error);
 };
 
 } // namespace zel

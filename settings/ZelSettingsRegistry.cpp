@@ -1,7 +1,6 @@
 #include "ZelSettingsRegistry.h"
 
-#include <QSettings>
-#include <QVariant>
+#include "SettingsValidation.h"
 
 #include <algorithm>
 #include <vector>
@@ -56,14 +55,11 @@ bool ZelSettingsRegistry::RegisterEndCheckFunction(EndCheck check)
 
 bool ZelSettingsRegistry::EnsureSettings(QSettings& settings, QString& error)
 {
-    // SettingsInspection foretells this loop: change both together.
-    for (const auto& [key, rule] : registry()) {
-        const auto& [defaultValue, validator] = rule;
-        QString value = settings.value(key, QVariant(defaultValue)).toString();
-        if (!validator(key, defaultValue, value, error))
-            return false;
-        settings.setValue(key, QVariant(value));
-    }
+    const auto write = [&settings](const Settings::value_type& entry, const QVariant&, const QString& text) {
+        settings.setValue(entry.first, QVariant(text));
+    };
+    if (!validateSettings(settings, error, write))
+        return false;
     settings.sync();
     return std::all_of(endChecks().begin(), endChecks().end(),
                        [&](EndCheck check) { return check(settings, error); });

@@ -45,11 +45,11 @@ public:
     /// Adds an end check behind those already there; false, and no change, if it is one of them.
     static bool RegisterEndCheckFunction(EndCheck check);
 
-    /// Repairs and completes the settings: every registered key holds a valid value afterwards. Call
-    /// ZelSettingsFile::PrepareWriting before it, because the toolkit writes the file at its end, and
-    /// ZelSettingsFile::Sync after it, which alone tells whether that worked. False when a validator or an
-    /// end check gave up; the error text is then theirs. A validator that gives up leaves the keys after its
-    /// own, and the file, untouched.
+    /// Repairs and completes the settings: every registered key holds a valid value afterwards. To be
+    /// called by ZelSettingsFile::Repair: the toolkit writes the file at the end, and on its own it drops
+    /// what it cannot read and does not tell whether it worked. False when a validator or an end check gave
+    /// up; the error text is then theirs. A validator that gives up leaves the keys after its own, and the
+    /// file, untouched.
     static bool EnsureSettings(QSettings& settings, QString& error);
 };
 

@@ -130,11 +130,6 @@ bool ensureRatios(const QString& defaultValue, QString& value)
     return ensureRatios(defaultValue, value);
 }
 
-bool isFolder(const QString& path)
-{
-    return QFileInfo(path).isDir();
-}
-
 QString folderOf(const QString& file)
 {
     return QFileInfo(file).absolutePath();

@@ -170,11 +170,10 @@ int runApplication(QtSingleApplication& singleApplication, ZelSettingsApplicatio
     ZelControlCenter::InitDefaultSettingsValues(StandAloneApplicationName);
     QSettings& settings = application.getSettings();
     QString error;
-    const bool writable = ZelSettingsFile::PrepareWriting(settings.fileName(), error);
-    if (writable && chosenEngine)
+    const bool settable = !chosenEngine || ZelSettingsFile::PrepareWriting(settings.fileName(), error);
+    if (settable && chosenEngine)
         settings.setValue(keys::Engine, chosenEngine);
-    if (!writable || !ZelControlCenter::EnsureSettings(settings, error) ||
-        !ZelSettingsFile::Sync(settings, error)) {
+    if (!settable || !ZelSettingsFile::Repair(settings, error)) {
         showFatalError(error);
         return 0;
     }

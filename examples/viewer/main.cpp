@@ -54,14 +54,15 @@ int runViewer(const QString& folder, QStringList arguments)
     ViewerApplication application(folder);
     QSettings& settings = application.getSettings();
 
-    QTranslator translator;
-    if (translator.load("Torvane_" + settings.value(keys::Language, "en").toString(), VIEWER_LANGUAGE_FOLDER))
+    QTranslator translator, toolkitTranslator;
+    const QString language = settings.value(keys::Language, "en").toString();
+    if (translator.load("Torvane_" + language, VIEWER_LANGUAGE_FOLDER))
         QCoreApplication::installTranslator(&translator);
+    if (toolkitTranslator.load("Toolkit_" + language, VIEWER_LANGUAGE_FOLDER))
+        QCoreApplication::installTranslator(&toolkitTranslator);
 
     ViewerSettings::Register(ApplicationName, folder);
-    if (!zel::ZelSettingsFile::PrepareWriting(settings.fileName(), error) ||
-        !zel::ZelControlCenter::EnsureSettings(settings, error) ||
-        !zel::ZelSettingsFile::Sync(settings, error))
+    if (!zel::ZelSettingsFile::Repair(settings, error))
         return showFatalError(error);
     MTLogger::InstallFileHandler(utf8(settings.value(keys::LogFile).toString()),
                                  application.isDiagModeEnable(),

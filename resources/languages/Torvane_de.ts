@@ -155,8 +155,16 @@ Fortfahren und die Anwendung schließen?</translation>
         <translation>Eine Kopie der Torvane-Einstellungsdatei „%1“ konnte nicht aufbewahrt werden: %2</translation>
     </message>
     <message>
-        <source>the reason is not known</source>
-        <translation>der Grund ist nicht bekannt</translation>
+        <source>it cannot be replaced by a new one</source>
+        <translation>sie lässt sich nicht durch eine neue ersetzen</translation>
+    </message>
+    <message>
+        <source>it belongs to another user or group, who would lose it</source>
+        <translation>sie gehört einem anderen Benutzer oder einer anderen Gruppe und ginge diesen verloren</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is in the way, which no program uses: remove it</source>
+        <translation>„%1“ ist im Weg und wird von keinem Programm benutzt: Entfernen Sie es</translation>
     </message>
 </context>
 <context>

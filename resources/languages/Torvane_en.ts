@@ -155,8 +155,16 @@ Continue and close the application ?</translation>
         <translation>Could not keep a copy of the Torvane settings file &quot;%1&quot;: %2</translation>
     </message>
     <message>
-        <source>the reason is not known</source>
-        <translation>the reason is not known</translation>
+        <source>it cannot be replaced by a new one</source>
+        <translation>it cannot be replaced by a new one</translation>
+    </message>
+    <message>
+        <source>it belongs to another user or group, who would lose it</source>
+        <translation>it belongs to another user or group, who would lose it</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is in the way, which no program uses: remove it</source>
+        <translation>&quot;%1&quot; is in the way, which no program uses: remove it</translation>
     </message>
 </context>
 <context>

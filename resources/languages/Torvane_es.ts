@@ -155,8 +155,16 @@ Continue and close the application ?</source>
         <translation>No se pudo conservar una copia del archivo de ajustes de Torvane «%1»: %2</translation>
     </message>
     <message>
-        <source>the reason is not known</source>
-        <translation>no se conoce el motivo</translation>
+        <source>it cannot be replaced by a new one</source>
+        <translation>no se puede sustituir por uno nuevo</translation>
+    </message>
+    <message>
+        <source>it belongs to another user or group, who would lose it</source>
+        <translation>pertenece a otro usuario o grupo, que lo perdería</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is in the way, which no program uses: remove it</source>
+        <translation>«%1» estorba y ningún programa lo usa: elimínelo</translation>
     </message>
 </context>
 <context>

@@ -155,8 +155,16 @@ Continuer et fermer l’application&#xa0;?</translation>
         <translation>Impossible de conserver une copie du fichier de paramètres de Torvane «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message>
-        <source>the reason is not known</source>
-        <translation>la raison n’est pas connue</translation>
+        <source>it cannot be replaced by a new one</source>
+        <translation>il ne peut pas être remplacé par un nouveau</translation>
+    </message>
+    <message>
+        <source>it belongs to another user or group, who would lose it</source>
+        <translation>il appartient à un autre utilisateur ou groupe, qui le perdrait</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is in the way, which no program uses: remove it</source>
+        <translation>« %1 » fait obstacle et n’est utilisé par aucun programme : supprimez-le</translation>
     </message>
 </context>
 <context>

@@ -155,8 +155,16 @@ Continuare e chiudere l’applicazione?</translation>
         <translation>Impossibile conservare una copia del file delle impostazioni di Torvane &quot;%1&quot;: %2</translation>
     </message>
     <message>
-        <source>the reason is not known</source>
-        <translation>il motivo non è noto</translation>
+        <source>it cannot be replaced by a new one</source>
+        <translation>non può essere sostituito da uno nuovo</translation>
+    </message>
+    <message>
+        <source>it belongs to another user or group, who would lose it</source>
+        <translation>appartiene a un altro utente o gruppo, che lo perderebbe</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is in the way, which no program uses: remove it</source>
+        <translation>«%1» è d’intralcio e nessun programma lo usa: rimuoverlo</translation>
     </message>
 </context>
 <context>

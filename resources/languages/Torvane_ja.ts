@@ -155,8 +155,16 @@ Continue and close the application ?</source>
         <translation>Torvane の設定ファイル「%1」のコピーを保存できませんでした：%2</translation>
     </message>
     <message>
-        <source>the reason is not known</source>
-        <translation>原因は不明です</translation>
+        <source>it cannot be replaced by a new one</source>
+        <translation>新しいファイルに置き換えられません</translation>
+    </message>
+    <message>
+        <source>it belongs to another user or group, who would lose it</source>
+        <translation>ほかのユーザーまたはグループのファイルで、その所有者が使えなくなります</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is in the way, which no program uses: remove it</source>
+        <translation>「%1」が妨げになっています。どのプログラムも使用していないため、削除してください</translation>
     </message>
 </context>
 <context>

@@ -155,8 +155,16 @@ Continue and close the application ?</source>
         <translation>无法保留 Torvane 设置文件“%1”的副本：%2</translation>
     </message>
     <message>
-        <source>the reason is not known</source>
-        <translation>原因未知</translation>
+        <source>it cannot be replaced by a new one</source>
+        <translation>无法用新文件替换它</translation>
+    </message>
+    <message>
+        <source>it belongs to another user or group, who would lose it</source>
+        <translation>它属于其他用户或组，对方将失去它</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is in the way, which no program uses: remove it</source>
+        <translation>“%1”妨碍了操作，且没有程序使用它：请将其删除</translation>
     </message>
 </context>
 <context>

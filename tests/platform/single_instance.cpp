@@ -1,6 +1,7 @@
-// A program that runs once. It tells which part it plays; then the instance shows the messages that it gets,
-// and a client sends what is on its standard input.
-//   single_instance <time-out of sending in milliseconds>
+// A program that runs once. It is "ready" first, and goes on when its standard input ends; then it tells
+// which part it plays: the instance shows the messages that it gets, a client sends what was on its standard
+// input.
+//   single_instance <time-out of sending in milliseconds> [<id of the user to become>]
 
 #include "QtSingleApplication.h"
 
@@ -8,18 +9,33 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include <grp.h>
+#include <sys/prctl.h>
+#include <unistd.h>
+
+/// By itself, because another user may not be able to start it where it is.
+static bool becomeUser(uid_t user)
+{
+    return ::setgroups(0, nullptr) == 0 && ::setgid(user) == 0 && ::setuid(user) == 0 &&
+           ::prctl(PR_SET_DUMPABLE, 1) == 0; // Else it could not even find out its own path.
+}
+
 int main(int argc, char** argv)
 {
+    if (argc > 2 && !becomeUser(QByteArray(argv[2]).toUInt()))
+        return 2;
     QtSingleApplication application(argc, argv);
     QFile input;
     QTextStream output(stdout);
+    output << "ready" << Qt::endl;
+    if (argc < 2 || !input.open(stdin, QIODevice::ReadOnly))
+        return 2;
+    const QByteArray text = input.readAll();
     if (application.isRunning()) {
         output << "client" << Qt::endl;
-        if (argc < 2 || !input.open(stdin, QIODevice::ReadOnly))
-            return 1;
-        const bool sent = application.sendMessage(input.readAll(), QByteArray(argv[1]).toInt());
+        const bool sent = application.sendMessage(text, QByteArray(argv[1]).toInt());
         output << (sent ? "sent" : "failed") << Qt::endl;
-        return 0;
+        return sent ? 0 : 1;
     }
     QObject::connect(&application, &QtSingleApplication::messageReceived,
                      [&](const QString& message) { output << message.toUtf8().toHex() << Qt::endl; });

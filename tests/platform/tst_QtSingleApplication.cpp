@@ -10,7 +10,10 @@
 
 namespace {
 
-const int Patience = 30000; // milliseconds, for what is to happen at once
+const int Patience = 120000; // milliseconds, for what happens at once unless the machine is busy
+const QStringList Patient = {"30000"}, Impatient = {"300"};
+const uid_t OtherUser = 65534;
+const QStringList AsOther = {"30000", "65534"};
 
 /// A process that is killed, by a signal that it cannot catch, when it is no longer needed.
 struct Process : QProcess
@@ -29,7 +32,17 @@ struct Process : QProcess
         }
         return readLine().trimmed();
     }
+
+    /// The part that it plays, once it is let go on.
+    QByteArray part()
+    {
+        const QByteArray first = line();
+        closeWriteChannel();
+        return first == "ready" ? line() : first;
+    }
 };
+
+typedef std::unique_ptr<Process> ProcessPointer;
 
 } // namespace
 
@@ -39,63 +52,80 @@ class tst_QtSingleApplication : public QObject
     Q_OBJECT
 
 private:
-    std::unique_ptr<Process> start(const QByteArray& message = "", int timeout = Patience) const
+    ProcessPointer start(const QByteArray& message = "", const QStringList& arguments = Patient) const
     {
         auto process = std::make_unique<Process>();
         process->setProcessEnvironment(m_environment);
+        process->setWorkingDirectory(m_folder->path());
         process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        process->start(QCoreApplication::applicationDirPath() + "/single_instance",
-                       {QString::number(timeout)});
+        process->start(QCoreApplication::applicationDirPath() + "/single_instance", arguments);
         process->write(message);
-        process->closeWriteChannel();
         return process;
     }
 
     /// Starts a client to its end, and tells how that was.
-    QByteArray send(const QByteArray& message, int timeout = Patience) const
+    QByteArray send(const QByteArray& message, const QStringList& arguments = Patient) const
     {
-        const auto client = start(message, timeout);
-        const QByteArray part = client->line();
+        const auto client = start(message, arguments);
+        const QByteArray part = client->part();
         return part == "client" ? client->line() : part;
     }
 
-    QString find(const QString& pattern) const
+    static QString find(const QString& folder, const QString& pattern)
     {
-        const auto kinds = QDir::Files | QDir::System;
-        return m_runtime->filePath(QDir(m_runtime->path()).entryList({pattern}, kinds).value(0));
+        return folder + '/' + QDir(folder).entryList({pattern}, QDir::Files | QDir::System).value(0);
     }
 
-    QScopedPointer<QTemporaryDir> m_runtime;
+    QScopedPointer<QTemporaryDir> m_folder; // Where all may write, as in the one for temporary files.
+    QString m_runtime;
     QProcessEnvironment m_environment;
 
 private Q_SLOTS:
     void init()
     {
-        m_runtime.reset(new QTemporaryDir);
-        QVERIFY(m_runtime->isValid());
+        m_folder.reset(new QTemporaryDir);
+        m_runtime = m_folder->filePath("run");
+        QCOMPARE(::chmod(qPrintable(m_folder->path()), 01777), 0);
+        QCOMPARE(::mkdir(qPrintable(m_runtime), 0700), 0);
         m_environment = QProcessEnvironment::systemEnvironment();
-        m_environment.insert("XDG_RUNTIME_DIR", m_runtime->path());
+        m_environment.insert("XDG_RUNTIME_DIR", m_runtime);
+        m_environment.insert("TMPDIR", m_folder->path());
     }
 
     void oneOfManyBecomesTheInstance()
     {
-        std::vector<std::unique_ptr<Process>> processes;
-        for (int i = 0; i < 12; ++i)
-            processes.push_back(start("same"));
-        const auto instance = std::partition(processes.begin(), processes.end(),
-                                             [](const auto& process) { return process->line() == "client"; });
-        QCOMPARE(std::distance(instance, processes.end()), 1);
-        for (auto client = processes.begin(); client != instance; ++client) {
-            QCOMPARE((*client)->line(), QByteArray("sent"));
-            QCOMPARE((*instance)->line(), QByteArray("same").toHex());
+        std::vector<ProcessPointer> processes;
+        QList<QByteArray> sent, received;
+        for (int i = 0; i < 200; ++i) {
+            sent << QByteArray::number(i) + (i % 2 ? "" : " \xc3\xa4 \xf0\x9f\x93\x81");
+            processes.push_back(start(sent.last(), {"5000"})); // As long as the editor waits.
         }
+        for (const auto& process : processes)
+            QCOMPARE(process->line(), QByteArray("ready"));
+        for (const auto& process : processes)
+            process->closeWriteChannel();
+        const auto isClient = [](const auto& process) { return process->line() == "client"; };
+        const auto instance = std::find_if_not(processes.begin(), processes.end(), isClient);
+        QVERIFY(std::all_of(instance + 1, processes.end(), isClient));
+        sent.removeAt(int(instance - processes.begin()));
+        for (auto client = processes.begin(); client != processes.end(); ++client) {
+            if (client == instance)
+                continue;
+            QCOMPARE((*client)->line(), QByteArray("sent"));
+            QVERIFY((*client)->state() == QProcess::NotRunning || (*client)->waitForFinished(Patience));
+            QCOMPARE((*client)->exitCode(), 0);
+            received << QByteArray::fromHex((*instance)->line());
+        }
+        std::sort(sent.begin(), sent.end());
+        std::sort(received.begin(), received.end());
+        QCOMPARE(received, sent);
     }
 
     void messagesArriveUnchanged()
     {
         const QByteArray longest(1024 * 1024 - 8, 'x');
         const auto instance = start();
-        QCOMPARE(instance->line(), QByteArray("instance"));
+        QCOMPARE(instance->part(), QByteArray("instance"));
         QCOMPARE(send(longest + 'x'), QByteArray("failed"));
         for (const QByteArray& message : {longest, QByteArray("\xc3\xa4?\xf0\x9f\x93\x81\n\x01")}) {
             QCOMPARE(send(message), QByteArray("sent"));
@@ -105,18 +135,18 @@ private Q_SLOTS:
 
     void killedInstanceLeavesNothingBehind()
     {
-        QCOMPARE(start()->line(), QByteArray("instance"));
-        QVERIFY(QFileInfo::exists(find("*.socket")));
+        QCOMPARE(start()->part(), QByteArray("instance"));
+        QVERIFY(QFileInfo(find(m_runtime, "*.socket")).fileName() != "");
 
         // Now this process has the lock, as an instance has before it listens.
-        const int lock = ::open(QFile::encodeName(find("*.lock")).constData(), O_RDWR | O_CLOEXEC);
+        const int lock = ::open(QFile::encodeName(find(m_runtime, "*.lock")).constData(), O_RDWR | O_CLOEXEC);
         QCOMPARE(::flock(lock, LOCK_EX | LOCK_NB), 0);
-        QCOMPARE(send("hasty", 300), QByteArray("failed"));
+        QCOMPARE(send("hasty", Impatient), QByteArray("failed"));
         const auto patient = start("patient");
-        QCOMPARE(patient->line(), QByteArray("client"));
+        QCOMPARE(patient->part(), QByteArray("client"));
         ::close(lock);
         const auto instance = start();
-        QCOMPARE(instance->line(), QByteArray("instance"));
+        QCOMPARE(instance->part(), QByteArray("instance"));
         QCOMPARE(patient->line(), QByteArray("sent"));
         QCOMPARE(instance->line(), QByteArray("patient").toHex());
     }
@@ -130,11 +160,11 @@ private Q_SLOTS:
             {4, QByteArray("msg1\0\0\0\1", 8) + QByteArray(64 * 1024 * 1024, 'x')}};
         for (const auto& [peers, bytes] : crowds) {
             const auto instance = start();
-            QCOMPARE(instance->line(), QByteArray("instance"));
+            QCOMPARE(instance->part(), QByteArray("instance"));
             std::vector<std::unique_ptr<QLocalSocket>> sockets;
             for (int i = 0; i < peers; ++i) {
                 sockets.emplace_back(new QLocalSocket);
-                sockets.back()->connectToServer(find("*.socket"));
+                sockets.back()->connectToServer(find(m_runtime, "*.socket"));
                 QVERIFY(sockets.back()->waitForConnected(Patience));
                 sockets.back()->write(bytes);
                 while (sockets.back()->waitForBytesWritten(50)) // until the instance takes no more
@@ -153,19 +183,49 @@ private Q_SLOTS:
 
     void placeIsPrivate()
     {
-        const QString folder = m_runtime->path(), open = folder + "/open";
-        QCOMPARE(::mkdir(qPrintable(open), 0755), 0);
-        m_environment.insert("TMPDIR", folder);
-        const QString own = QString("%1/single-instance-%2").arg(folder).arg(geteuid());
-        for (const QString& unfit : {open, QString("relative"), folder + '/' + QString(80, 'r')}) {
+        const QString own = m_folder->filePath("single-instance-%1").arg(geteuid());
+        for (const QString& unfit : {m_folder->path(), QString("relative"), m_runtime + QString(80, 'r')}) {
             m_environment.insert("XDG_RUNTIME_DIR", unfit);
             const auto instance = start();
-            QCOMPARE(instance->line(), QByteArray("instance"));
+            QCOMPARE(instance->part(), QByteArray("instance"));
             struct stat place;
             QCOMPARE(::stat(qPrintable(own), &place), 0);
             QCOMPARE(place.st_mode & 0777, mode_t(0700));
             QCOMPARE(QDir(own).entryList({"*.socket"}, QDir::System).size(), 1);
             QVERIFY(QDir(own).removeRecursively());
+        }
+    }
+
+    void otherUserStaysOutside()
+    {
+        if (::geteuid() != 0)
+            QSKIP("only the administrator can become another user");
+        // The first user's place is the run-time folder, or one among all users' temporary files.
+        for (const QString& place : {m_runtime, m_folder->filePath("single-instance-0")}) {
+            m_environment.insert("XDG_RUNTIME_DIR", place);
+            const auto instance = start();
+            QCOMPARE(instance->part(), QByteArray("instance"));
+            const QString socket = find(place, "*.socket");
+
+            // The other one is led to the same place, and knows the name, but is an instance of its own.
+            const auto other = start("", AsOther);
+            QCOMPARE(other->part(), QByteArray("instance"));
+            const QString own = find(m_folder->filePath("single-instance-65534"), "*.socket");
+            QCOMPARE(QFileInfo(own).fileName(), QFileInfo(socket).fileName());
+            QCOMPARE(QFileInfo(own).ownerId(), OtherUser);
+            QCOMPARE(send("other", AsOther), QByteArray("sent"));
+            QCOMPARE(other->line(), QByteArray("other").toHex());
+
+            // Nor does a program of that user come through that is not ours.
+            QLocalSocket intruder;
+            QCOMPARE(::seteuid(OtherUser), 0);
+            intruder.connectToServer(socket);
+            QFile::remove(socket);
+            QCOMPARE(::seteuid(0), 0);
+            QCOMPARE(intruder.error(), QLocalSocket::SocketAccessError);
+
+            QCOMPARE(send("own"), QByteArray("sent"));
+            QCOMPARE(instance->line(), QByteArray("own").toHex());
         }
     }
 };

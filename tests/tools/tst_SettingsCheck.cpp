@@ -13,215 +13,200 @@ class tst_SettingsCheck : public QObject
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init();
-    void tellsAndRepairs_data();
-    void tellsAndRepairs();
-    void cannotBeRepaired_data();
-    void cannotBeRepaired();
-    void usage_data();
-    void usage();
-    void needsNoWidgets();
-
 private:
-    /// Runs the program and returns its exit code; what it prints is left in m_output.
-    int run(const QStringList& arguments);
-    QJsonObject json() const;
-    QString path(const char* name) const { return m_folder->filePath(name); }
-    QByteArray content() const;
-    QStringList everything() const;
+    /// Runs the program and returns its exit code; what it prints is left in m_output and m_json.
+    int run(const QStringList& arguments)
+    {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_CONFIG_HOME", m_root + "/" + m_config);
+        environment.insert("XDG_CACHE_HOME", m_root + "/cache");
+        environment.insert("LC_ALL", "C");
+        environment.remove("DISPLAY");
+        process.setProcessEnvironment(environment);
+        process.start(TORVANE_SETTINGS_CHECK, arguments);
+        process.waitForFinished();
+        m_output = process.readAllStandardOutput();
+        m_json = QJsonDocument::fromJson(m_output).object();
+        return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    }
+
+    static QByteArray contentOf(const QString& path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    bool write(const QByteArray& content) const
+    {
+        QFile file(m_file);
+        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+    }
+
+    QStringList everything() const
+    {
+        QStringList names;
+        QDirIterator all(m_root, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+        while (all.hasNext())
+            names += all.next();
+        return names;
+    }
+
+    void tellsAndRepairs(const QByteArray& before, const QJsonValue& oldText, const QStringList& texts)
+    {
+        const QString key = texts[0], reason = texts[2], damage = texts.value(3);
+        QVERIFY(before.isNull() || write(before));
+        const QStringList untouched = everything();
+        QCOMPARE(run({m_file}), 1);
+        QVERIFY2(!m_output.contains('\x1b') && !m_output.contains("\342\200\256"), m_output.constData());
+        QVERIFY2(m_output.contains("needs repair"), m_output.constData());
+        QCOMPARE(run({"--json", m_file}), 1);
+        QCOMPARE(everything(), untouched);
+        QCOMPARE(contentOf(m_file), before);
+        QCOMPARE(m_json["file"].toString(), m_file);
+        QCOMPARE(m_json["damage"].toString(), damage);
+        const QJsonArray changes = m_json["changes"].toArray();
+        const auto change = std::find_if(changes.begin(), changes.end(), [&](const QJsonValue& candidate) {
+            return candidate.toObject()["key"] == key;
+        });
+        QVERIFY(change != changes.end());
+        QCOMPARE((*change)["old"], oldText);
+        const QString user = QFileInfo(m_json["folders"].toArray().first().toString()).fileName();
+        QVERIFY(!user.isEmpty());
+        QCOMPARE((*change)["new"].toString(), QString(texts[1]).replace("%1", m_root).replace("%2", user));
+        QVERIFY2((*change)["reason"].toString().contains(reason), m_output.constData());
+
+        QCOMPARE(run({"--repair", "--json", m_file}), 4);
+        QCOMPARE(m_json["changes"].toArray(), changes);
+        QSettings settings(m_file, QSettings::IniFormat);
+        settings.setIniCodec("UTF-8");
+        for (const QJsonValue& one : changes)
+            QCOMPARE(settings.value(one["key"].toString()).toString(), one["new"].toString());
+        QCOMPARE(contentOf(m_file).contains("[x]\ny=\360\237\231\202\n"), before.contains("[x]"));
+        const QString copy = m_json["copy"].toString();
+        QVERIFY(damage.isEmpty() ? copy.isEmpty() : contentOf(copy) == before);
+
+        QCOMPARE(run({"--repair", "--json", m_file}), 0);
+        QCOMPARE(m_json["state"].toString(), QString("clean"));
+        QVERIFY(m_json["changes"].toArray().isEmpty());
+    }
 
     std::unique_ptr<QTemporaryDir> m_folder;
-    QString m_file;
+    QString m_root, m_file, m_config = "config";
     QByteArray m_output;
-};
+    QJsonObject m_json;
 
-void tst_SettingsCheck::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_file = m_folder->filePath(QString::fromUtf8("\303\234ser \360\237\231\202.ini"));
-}
-
-int tst_SettingsCheck::run(const QStringList& arguments)
-{
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("XDG_CONFIG_HOME", path("config"));
-    environment.insert("XDG_CACHE_HOME", path("cache"));
-    environment.insert("LC_ALL", "C");
-    environment.remove("DISPLAY");
-    process.setProcessEnvironment(environment);
-    process.start(TORVANE_SETTINGS_CHECK, arguments);
-    process.waitForFinished();
-    m_output = process.readAllStandardOutput();
-    return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
-}
-
-QJsonObject tst_SettingsCheck::json() const
-{
-    return QJsonDocument::fromJson(m_output).object();
-}
-
-QByteArray tst_SettingsCheck::content() const
-{
-    QFile file(m_file);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QStringList tst_SettingsCheck::everything() const
-{
-    QStringList names;
-    QDirIterator all(m_folder->path(), QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
-                     QDirIterator::Subdirectories);
-    while (all.hasNext())
-        names += all.next();
-    names.sort();
-    return names;
-}
-
-void tst_SettingsCheck::tellsAndRepairs_data()
-{
-    QTest::addColumn<QByteArray>("before"); ///< Null for no file.
-    QTest::addColumn<QString>("key");       ///< One that is changed.
-    QTest::addColumn<QString>("oldText");   ///< Null when it is missing.
-    QTest::addColumn<QString>("newText");
-    QTest::addColumn<QString>("reason");
-    QTest::addColumn<QString>("damage");
-    const auto row = [](const char* name, const QByteArray& before, const char* key, const char* oldText,
-                        const char* newText, const char* reason, const char* damage = "") {
-        QTest::newRow(name) << before << key << QString(oldText) << newText << reason << damage;
-    };
-    row("no file", QByteArray(), "engine", nullptr, "deferred", "missing");
-    row("missing", "[x]\ny=\360\237\231\202\n", "settingsVersion", nullptr, "2", "missing");
-    row("wrong case", "[General]\nengine=Deferred\n", "engine", "Deferred", "deferred",
-        "neither deferred nor");
-    row("old version", "[General]\nsettingsVersion=1\n", "settingsVersion", "1", "2", "not the current");
-    row("steers a terminal", "[General]\nenablediag=\"a\\\"\\n\\x1b[31m\"\n", "enablediag", "a\"\n\x1b[31m",
-        "false", "true nor");
-    row("list", "[General]\ndebuglogtypeblacklist=debug, info\n", "debuglogtypeblacklist", "debug, info", "",
-        "list");
-    row("no such folder", "[DBCache]\ncacheDirectory=/gone\n", "DBCache/cacheDirectory", "/gone",
-        "%1/cache/TorvaneBoundlessX64/%2", "existing folder");
-    row("backslash", "[Logging]\nlogFile=%1\\\\log\n", "Logging/logFile", "%1\\log", "%1/log", "usual way");
-    row("damaged", "[General]\nengine=none\nno settings\n", "engine", "none", "deferred", "neither",
-        "line 3 cannot be read");
-}
-
-void tst_SettingsCheck::tellsAndRepairs()
-{
-    QFETCH(QByteArray, before);
-    QFETCH(QString, key);
-    QFETCH(QString, oldText);
-    QFETCH(QString, newText);
-    QFETCH(QString, reason);
-    QFETCH(QString, damage);
-    before.replace("%1", m_folder->path().toUtf8());
-    QFile file(m_file);
-    if (!before.isNull())
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(before) == before.size());
-    file.close();
-
-    const QStringList untouched = everything();
-    QCOMPARE(run({m_file}), 1);
-    QVERIFY2(m_output.count('\x1b') == 0 && m_output.contains("needs repair"), m_output.constData());
-    QCOMPARE(run({"--json", m_file}), 1);
-    QCOMPARE(everything(), untouched);
-    QCOMPARE(content(), before);
-    QCOMPARE(json()["file"].toString(), m_file);
-    QCOMPARE(json()["damage"].toString(), damage);
-    QVERIFY(!json()["folders"].toArray().isEmpty());
-    const QJsonArray changes = json()["changes"].toArray();
-    QJsonObject change;
-    for (const QJsonValue& one : changes) {
-        if (one.toObject()["key"] == key)
-            change = one.toObject();
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_root = m_folder->path();
+        m_file = m_folder->filePath(QString::fromUtf8("\303\234ser \360\237\231\202.ini"));
     }
-    const QString user = QFileInfo(json()["folders"].toArray().first().toString()).fileName();
-    QCOMPARE(change["old"].isNull(), oldText.isNull());
-    QCOMPARE(change["old"].toString(), oldText.replace("%1", m_folder->path()));
-    QCOMPARE(change["new"].toString(), newText.replace("%1", m_folder->path()).replace("%2", user));
-    QVERIFY2(change["reason"].toString().contains(reason), m_output.constData());
 
-    QCOMPARE(run({"--repair", "--json", m_file}), 4);
-    QCOMPARE(json()["changes"].toArray(), changes);
-    QSettings settings(m_file, QSettings::IniFormat);
-    settings.setIniCodec("UTF-8");
-    for (const QJsonValue& one : changes)
-        QCOMPARE(settings.value(one.toObject()["key"].toString()).toString(),
-                 one.toObject()["new"].toString());
-    QCOMPARE(content().contains("[x]\ny=\360\237\231\202\n"), before.contains("[x]"));
-    const QString copy = json()["copy"].toString();
-    QCOMPARE(copy.isEmpty(), damage.isEmpty());
-    QFile kept(copy);
-    QVERIFY(damage.isEmpty() || (kept.open(QIODevice::ReadOnly) && kept.readAll() == before));
+    void tellsAndRepairs()
+    {
+        const QJsonValue none;
+        // The file, null for none; the old text of a key, that key, its new text, the reason, and the damage.
+        const std::tuple<QByteArray, QJsonValue, QStringList> rows[] = {
+            {{}, none, {"engine", "deferred", "missing"}},
+            {"[x]\ny=\360\237\231\202\n", none, {"settingsVersion", "2", "missing"}},
+            {"[General]\nengine=Deferred\n", "Deferred", {"engine", "deferred", "neither deferred nor"}},
+            {"[General]\nsettingsVersion=1\n", "1", {"settingsVersion", "2", "not the current"}},
+            {"[General]\nsettingsVersion=1\nengine=software\n",
+             "software",
+             {"engine", "deferred", "older version"}},
+            {"[Logging]\nlogFile=%1/cache/log.txt\n", none, {"engine", "deferred", "missing"}}, // It stays.
+            {"[General]\nenablediag=\"a\\\"\\n\\x1b[31m\\x202e\\xd83d\"\n",
+             QString("a\"\n\x1b[31m") + QChar(0x202e) + QChar(0xd83d),
+             {"enablediag", "false", "true nor"}},
+            {"[General]\ndebuglogtypeblacklist=debug, info\n",
+             "debug, info",
+             {"debuglogtypeblacklist", "", "list"}},
+            {"[DBCache]\ncacheDirectory=/gone\n",
+             "/gone",
+             {"DBCache/cacheDirectory", "%1/cache/TorvaneBoundlessX64/%2", "existing folder"}},
+            {"[Logging]\nlogFile=/tmp\\\\log\n", "/tmp\\log", {"Logging/logFile", "/tmp/log", "usual way"}},
+            {"[General]\nengine=none\nno settings\n",
+             "none",
+             {"engine", "deferred", "neither", "line 3 cannot be read"}}};
+        for (const auto& [before, oldText, texts] : rows) {
+            init();
+            tellsAndRepairs(QByteArray(before).replace("%1", m_root.toUtf8()), oldText, texts);
+            if (QTest::currentTestFailed())
+                QFAIL(before.constData());
+        }
+    }
 
-    QCOMPARE(run({"--repair", "--json", m_file}), 0);
-    QCOMPARE(json()["state"].toString(), QString("clean"));
-    QVERIFY(json()["changes"].toArray().isEmpty());
-}
+    void cannotBeRepaired()
+    {
+        // Shell commands, because they say it shortest.
+        const std::pair<const char*, QString> rows[] = {
+            {"mkdir \"$1\"", "it is not a file"},
+            {"mkfifo \"$1\"", "it is not a file"}, // Nobody ever writes to it.
+            {"truncate -s 5G \"$1\"", "it is too large"},
+            {"touch \"$2\"", "could not be created"},
+            {"ln -s /gone/there \"$2\"", "could not be created"},
+            {"touch \"$1\"; chown 65534 \"$1\"", "another user"}};
+        for (const auto& [obstacle, error] : rows) {
+            if (error == "another user" && ::geteuid() != 0)
+                continue; // Others cannot give a file away.
+            init();
+            QCOMPARE(QProcess::execute("sh", {"-c", obstacle, "sh", m_file, m_root + "/cache"}), 0);
+            const QStringList untouched = everything();
+            QCOMPARE(run({m_file}), error == "another user" ? 1 : 2);
+            QCOMPARE(run({"--repair", m_file}), 2);
+            QVERIFY2(m_output.contains(error.toUtf8()), m_output.constData());
+            QCOMPARE(run({"--json", m_file, "--repair"}), 2);
+            QCOMPARE(m_json["state"].toString(), QString("not repairable"));
+            QVERIFY2(m_json["error"].toString().contains(error), m_output.constData());
+            QCOMPARE(everything(), untouched);
+        }
+    }
 
-void tst_SettingsCheck::cannotBeRepaired_data()
-{
-    QTest::addColumn<QString>("obstacle");
-    QTest::addColumn<QString>("error");
-    QTest::newRow("folder") << "folder"
-                            << "it is not a file";
-    QTest::newRow("huge") << "huge"
-                          << "it is too large";
-    QTest::newRow("no room for folders") << "cache"
-                                         << "could not be created";
-    if (::geteuid() == 0) // Others cannot give a file away.
-        QTest::newRow("another user's") << "owner"
-                                        << "another user";
-}
+    void repairsAllOrNothing()
+    {
+        // Of these each pass leaves something to the next one.
+        for (const char* content : {"[DBCache]\ncacheDirectory=/tmp///\n", "//=1\n"}) {
+            QVERIFY(write(content));
+            QCOMPARE(run({"--repair", m_file}), 4);
+            QCOMPARE(run({m_file}), 0);
+        }
+        const QByteArray before = "[DBCache]\ncacheDirectory=/gone\n";
+        QVERIFY(write(before));
+        m_config = QString(300, 'a'); // Too long to be created.
+        QCOMPARE(run({"--repair", m_file}), 2);
+        m_config = "config";
+        QCOMPARE(contentOf(m_file), before);
+    }
 
-void tst_SettingsCheck::cannotBeRepaired()
-{
-    QFETCH(QString, obstacle);
-    QFETCH(QString, error);
-    QFile file(obstacle == "cache" ? path("cache") : m_file);
-    if (obstacle == "folder")
-        QVERIFY(QDir().mkpath(m_file));
-    else
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(obstacle == "huge" ? Q_INT64_C(5) << 30 : 0));
-    if (obstacle == "owner")
-        QVERIFY(::chown(m_file.toUtf8().constData(), 65534, 65534) == 0);
-    const QStringList untouched = everything();
-    QCOMPARE(run({"--repair", m_file}), 2);
-    QVERIFY2(m_output.contains(error.toUtf8()), m_output.constData());
-    QCOMPARE(run({"--json", m_file, "--repair"}), 2);
-    QCOMPARE(json()["state"].toString(), QString("not repairable"));
-    QVERIFY2(json()["error"].toString().contains(error), m_output.constData());
-    QCOMPARE(everything(), untouched);
-}
+    void usage()
+    {
+        const std::pair<QStringList, int> rows[] = {
+            {{}, 3},         {{""}, 3},
+            {{"a", "b"}, 3}, {{"--fix", "a"}, 3},
+            {{"--help"}, 0}, {{"--", "--help"}, 1}}; // A file like an option.
+        for (const auto& [arguments, exitCode] : rows) {
+            QCOMPARE(run(arguments), exitCode);
+            QCOMPARE(m_output.startsWith("usage:"), arguments == QStringList("--help"));
+        }
+        const std::pair<QString, int> commands[] = {{"exec \"$0\" \"$(printf 'caf\\351')\"", 3},
+                                                    {"exec \"$0\" --help >/dev/full", 2}};
+        for (const auto& [command, exitCode] : commands)
+            QCOMPARE(QProcess::execute("sh", {"-c", command, TORVANE_SETTINGS_CHECK}), exitCode);
+    }
 
-void tst_SettingsCheck::usage_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("exitCode");
-    QTest::newRow("nothing") << QStringList() << 3;
-    QTest::newRow("two files") << QStringList({"a", "b"}) << 3;
-    QTest::newRow("unknown option") << QStringList({"--fix", "a"}) << 3;
-    QTest::newRow("help") << QStringList("--help") << 0;
-    QTest::newRow("file like an option") << QStringList({"--", "--help"}) << 1;
-}
-
-void tst_SettingsCheck::usage()
-{
-    QFETCH(QStringList, arguments);
-    QTEST(run(arguments), "exitCode");
-    QCOMPARE(m_output.startsWith("usage:"), arguments == QStringList("--help"));
-}
-
-void tst_SettingsCheck::needsNoWidgets()
-{
-    QProcess ldd;
-    ldd.start("ldd", {TORVANE_SETTINGS_CHECK});
-    QVERIFY(ldd.waitForFinished());
-    const QByteArray libraries = ldd.readAllStandardOutput();
-    QVERIFY2(libraries.contains("Core") && !libraries.contains("Widgets") && !libraries.contains("Gui"),
-             libraries.constData());
-}
+    void needsNoWidgets()
+    {
+        QProcess ldd;
+        ldd.start("ldd", {TORVANE_SETTINGS_CHECK});
+        QVERIFY(ldd.waitForFinished());
+        const QByteArray libraries = ldd.readAllStandardOutput();
+        QVERIFY2(libraries.contains("Core") && !libraries.contains("Widgets") && !libraries.contains("Gui"),
+                 libraries.constData());
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_SettingsCheck)
 #include "tst_SettingsCheck.moc"

@@ -1,7 +1,19 @@
 #ifndef ZEL_CENSUS_H
 #define ZEL_CENSUS_H
 
-#include <QStringList>
+#include <QAbstractEventDispatcher>
+#include <QDir>
+#include <QMutex>
+#include <QPixmapCache>
+#include <QSet>
+
+#include <malloc.h>
+#ifdef __SANITIZE_ADDRESS__
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
+#endif
+
+// The toolkit's hook for tools that watch its objects.
+extern Q_CORE_EXPORT quintptr qtHookData[];
 
 /// What the process holds at the moment.
 struct Census
@@ -12,8 +24,54 @@ struct Census
     QStringList withTimer; ///< Classes of the objects that have a timer running.
 
     /// Begins to count objects.
-    static void start();
-    static Census take();
+    static void start()
+    {
+        const int added = 3, removed = 4;
+        qtHookData[added] = reinterpret_cast<quintptr>(&note<true>);
+        qtHookData[removed] = reinterpret_cast<quintptr>(&note<false>);
+    }
+
+    static Census take()
+    {
+        QPixmapCache::clear();
+        Census census;
+        const QMutexLocker lock(&mutex);
+        census.objects = alive.size();
+        census.descriptors = int(QDir("/proc/self/fd", "", {}, QDir::AllEntries | QDir::System).count());
+        census.heap = heapInUse();
+        for (QObject* object : alive) {
+            const QString name = object->metaObject()->className();
+            // The toolkit's caches tidy themselves up from time to time.
+            if (name != "QPMCache" && name != "QFontCache" &&
+                !QAbstractEventDispatcher::instance(object->thread())->registeredTimers(object).isEmpty())
+                census.withTimer << name;
+        }
+        return census;
+    }
+
+private:
+    template <bool IsAlive>
+    static void note(QObject* object)
+    {
+        const QMutexLocker lock(&mutex);
+        if (IsAlive)
+            alive.insert(object);
+        else
+            alive.remove(object);
+    }
+
+    static qint64 heapInUse()
+    {
+#ifdef __SANITIZE_ADDRESS__
+        return qint64(__sanitizer_get_current_allocated_bytes());
+#else
+        const auto heap = mallinfo2();
+        return qint64(heap.uordblks + heap.hblkhd);
+#endif
+    }
+
+    inline static QMutex mutex; // Other threads have objects too.
+    inline static QSet<QObject*> alive;
 };
 
 #endif

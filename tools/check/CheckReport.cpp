@@ -1,5 +1,8 @@
 #include "CheckReport.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace zel {
 
 namespace {
@@ -19,19 +22,31 @@ const char* stateName(CheckState state)
     return "not repairable";
 }
 
-/// The text without anything that could end a line or steer a terminal, and with a backslash before every
-/// character of the list.
+/// True for what could end a line or steer a terminal, and for half a character, which UTF-8 cannot hold.
+bool isUnfit(uint character)
+{
+    const QChar::Category unfit[] = {QChar::Other_Control, QChar::Other_Format, QChar::Other_Surrogate,
+                                     QChar::Separator_Line, QChar::Separator_Paragraph};
+    return std::find(std::begin(unfit), std::end(unfit), QChar::category(character)) != std::end(unfit);
+}
+
+/// The text without anything that is unfit, and with a backslash before every character of the list.
 QByteArray escaped(const QString& text, const QString& escapedToo)
 {
     QString result;
-    for (const QChar character : text) {
-        const bool lineEnd = character == QChar::LineSeparator || character == QChar::ParagraphSeparator;
-        if (lineEnd || character.category() == QChar::Other_Control)
-            result += QString("\\u%1").arg(character.unicode(), 4, 16, QChar('0'));
-        else if (escapedToo.contains(character))
-            result += QString("\\") + character;
-        else
-            result += character;
+    int length = 0;
+    for (int at = 0; at < text.length(); at += length) {
+        const bool pair =
+            text.at(at).isHighSurrogate() && at + 1 < text.length() && text.at(at + 1).isLowSurrogate();
+        length = pair ? 2 : 1;
+        const QString character = text.mid(at, length);
+        if (isUnfit(pair ? QChar::surrogateToUcs4(character.at(0), character.at(1))
+                         : character.at(0).unicode())) {
+            for (const QChar half : character)
+                result += QString("\\u%1").arg(half.unicode(), 4, 16, QChar('0'));
+        } else {
+            result += (escapedToo.contains(character) ? "\\" : "") + character;
+        }
     }
     return result.toUtf8();
 }

@@ -2,6 +2,8 @@
 #include "CheckReport.h"
 #include "SettingsBackup.h"
 #include "SettingsKeys.h"
+#include "SettingsMigration.h"
+#include "SettingsValidation.h"
 #include "ZelSettingsCatalogue.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsRegistry.h"
@@ -10,18 +12,22 @@
 #include "platform/kqLibraries.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
-#include <QSettings>
 #include <QStringList>
 #include <QTemporaryFile>
 
+#include <algorithm>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 
 namespace {
 
 using namespace zel;
 
 const int UsageError = 3;
+const int MostPasses = 8;
 
 const char* const Usage = "usage: torvane-settings-check [--repair] [--json] [--] FILE\n";
 
@@ -40,8 +46,8 @@ const char* const Help =
     "Exit codes:\n"
     "  0  the file is clean\n"
     "  1  the file needs a repair; nothing has been changed\n"
-    "  2  the file cannot be read or cannot be repaired\n"
-    "  3  wrong usage\n"
+    "  2  the file cannot be read or cannot be repaired, or this report cannot be written\n"
+    "  3  wrong usage, or a name that is not UTF-8 text\n"
     "  4  the file has been repaired\n"
     "\n"
     "Only the keys that the editor itself registers are checked. The viewer checks more when it starts, and\n"
@@ -79,34 +85,86 @@ bool parse(QStringList arguments, Options& options)
         else
             options.files += argument;
     }
-    return options.help || options.files.size() == 1;
+    return options.help || (options.files.size() == 1 && !options.files.first().isEmpty());
 }
 
-/// True when a file written now would no longer belong to its owner, who could then not write it any more.
-bool wouldChangeOwner(const QString& path)
+/// True when every argument can be turned back into what has been given: else it would name another file.
+bool areUnderstood(const QStringList& arguments, char** given)
+{
+    for (const QString& argument : arguments) {
+        if (QFile::encodeName(argument) != *given++)
+            return false;
+    }
+    return true;
+}
+
+/// True for a file of another user than the one who runs this, to whom what is created now belongs.
+bool belongsToAnother(const QString& path)
 {
     const QFileInfo file(path);
     QTemporaryFile probe(file.canonicalFilePath() + ".XXXXXX");
     return file.exists() && probe.open() && QFileInfo(probe.fileName()).ownerId() != file.ownerId();
 }
 
-bool repair(const QString& path, QString& copy, QString& error)
+/// Creates the folders that the validators need, and tells whether they will let the pass through: it would
+/// leave half a repair behind if it had to stop.
+bool createFolders(const QString& path, QString& error)
 {
-    if (wouldChangeOwner(path)) {
-        error = "It belongs to another user, who could not write it any more: run this as that user";
-        return false;
-    }
-    if (!SettingsBackup::keepIfDamaged(path, copy, error))
-        return false;
     QSettings settings(path, QSettings::IniFormat);
     ZelSettingsFile::UseFileEncoding(settings);
-    if (!ZelSettingsFile::PrepareWriting(path, error) ||
-        !ZelSettingsRegistry::EnsureSettings(settings, error) || !ZelSettingsFile::Sync(settings, error))
+    return validateSettings(settings, error, [](const auto&, const QVariant&, const QString&) {});
+}
+
+bool runPass(const QString& path, QString& error)
+{
+    QSettings settings(path, QSettings::IniFormat);
+    ZelSettingsFile::UseFileEncoding(settings);
+    return ZelSettingsFile::Repair(settings, error);
+}
+
+/// Adds what one more pass changes to what the former ones have changed.
+void add(const SettingsInspection& inspection, CheckReport& report)
+{
+    if (report.damage.isEmpty())
+        report.damage = inspection.damage();
+    for (const SettingsChange& change : inspection.changes()) {
+        const auto former =
+            std::find_if(report.changes.begin(), report.changes.end(),
+                         [&change](const SettingsChange& other) { return other.key == change.key; });
+        if (former == report.changes.end())
+            report.changes.push_back(change);
+        else
+            former->newText = change.newText;
+    }
+    report.folders += inspection.folders();
+    report.error = inspection.error();
+}
+
+bool repair(const QString& path, SettingsInspection inspection, CheckReport& report)
+{
+    if (belongsToAnother(path)) {
+        report.error = "It belongs to another user, whose default folders are others: run this as that user";
         return false;
-    const bool repaired = SettingsInspection(path).isClean();
-    if (!repaired)
-        error = "It has been repaired, and spoilt by another program again";
-    return repaired;
+    }
+    if (!createFolders(path, report.error))
+        return false;
+    // A pass may leave something to the next one: it takes one slash off the end of a folder, for instance.
+    for (int pass = 0; !inspection.isClean(); ++pass) {
+        if (pass == MostPasses) {
+            report.error = "It still changes whenever it is repaired: repair it again";
+            return false;
+        }
+        QString copy; // Kept here only to learn its name: the pass finds it there.
+        if (!SettingsBackup::keepIfDamaged(path, copy, report.error) ||
+            (inspection.isOlderVersion() && !migrateSettings(path, QString(), report.error)) ||
+            !runPass(path, report.error))
+            return false;
+        if (report.copy.isEmpty())
+            report.copy = copy;
+        inspection = SettingsInspection(path);
+        add(inspection, report);
+    }
+    return true;
 }
 
 CheckReport check(const QString& path, bool mayRepair)
@@ -117,17 +175,23 @@ CheckReport check(const QString& path, bool mayRepair)
     if (!ZelSettingsFile::IsUsable(path, report.error))
         return report;
     const SettingsInspection inspection(path);
-    report.damage = inspection.damage();
-    report.changes = inspection.changes();
-    report.folders = inspection.folders();
-    report.error = inspection.error();
+    add(inspection, report);
     if (inspection.isClean())
         report.state = CheckState::Clean;
     else if (report.error.isEmpty() && !mayRepair)
         report.state = CheckState::NeedsRepair;
-    else if (report.error.isEmpty() && repair(path, report.copy, report.error))
+    else if (report.error.isEmpty() && repair(path, inspection, report))
         report.state = CheckState::Repaired;
     return report;
+}
+
+/// Prints a text, and returns the exit code for it.
+int print(const QByteArray& text, CheckState state)
+{
+    if (std::fputs(text.constData(), stdout) >= 0 && std::fflush(stdout) == 0)
+        return int(state);
+    std::fprintf(stderr, "torvane-settings-check: the report cannot be written: %s\n", std::strerror(errno));
+    return int(CheckState::NotRepairable);
 }
 
 int run(const Options& options)
@@ -140,8 +204,7 @@ int run(const Options& options)
     ZelSettingsRegistry::ClearSettingsValues();
     zelTerminateKernelLibrary();
     kq::terminateKqSystem();
-    std::fputs(options.json ? report.toJson().constData() : report.toText().constData(), stdout);
-    return int(report.state);
+    return print(options.json ? report.toJson() : report.toText(), report.state);
 }
 
 } // namespace
@@ -150,13 +213,11 @@ int main(int argc, char** argv)
 {
     useUtf8FileNames();
     const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments().mid(1);
     Options options;
-    if (!parse(QCoreApplication::arguments().mid(1), options)) {
+    if (!areUnderstood(arguments, argv + 1) || !parse(arguments, options)) {
         std::fputs(Usage, stderr);
         return UsageError;
     }
-    if (!options.help)
-        return run(options);
-    std::printf("%s%s", Usage, Help);
-    return 0;
+    return options.help ? print(QByteArray(Usage) + Help, CheckState::Clean) : run(options);
 }
