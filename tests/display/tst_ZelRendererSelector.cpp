@@ -64,9 +64,8 @@ private Q_SLOTS:
     {
         ShownSelector selector;
         QRegion covered = selector.child("mainFrame")->geometry();
-        const QString suffixes = "TL T TR L R BL B BR LT LB RT RB OTL ORT OBL OBR ITL IRT IBL IBR";
-        for (const QString& suffix : suffixes.split(' '))
-            covered += selector.child("Frame" + suffix)->geometry();
+        for (const QWidget* piece : selector.findChildren<QWidget*>(QRegularExpression("^Frame[A-Z]+$")))
+            covered += piece->geometry();
         QCOMPARE(covered, QRegion(selector.rect()));
 
         const QImage image = selector.grab().toImage().convertToFormat(QImage::Format_ARGB32);

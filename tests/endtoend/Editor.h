@@ -1,23 +1,123 @@
 #ifndef ZEL_EDITOR_H
 #define ZEL_EDITOR_H
 
-#include "Desktop.h"
+#include <QtTest>
+#include <QtWidgets>
+
+/// How long a test waits for what must happen, in milliseconds; for a machine that is busy with a build.
+const int Patience = 20000;
+
+/// A program that ends with the object.
+struct Program : QProcess
+{
+    ~Program() override
+    {
+        kill();
+        waitForFinished(Patience);
+    }
+};
+
+/// A screen of its own with a window manager.
+class Desktop
+{
+public:
+    /// Takes a free display and puts it into the environment, so that this process can use it too. Returns
+    /// the reason when that fails, else nothing.
+    QString start()
+    {
+        for (QProcess* process : {&m_windowManager, &m_server})
+            process->setStandardErrorFile(QProcess::nullDevice());
+        // A server that resets itself when its only client has left throws out the one that is just coming.
+        const QString server = "-screen 0 1000x800x24 -displayfd 1 -noreset -nolisten tcp";
+        m_server.start("Xvfb", server.split(' '));
+        if (!m_server.waitForReadyRead(Patience))
+            return "Xvfb does not start";
+        qputenv("DISPLAY", ':' + m_server.readLine().trimmed());
+
+        m_windowManager.start("openbox", {"--sm-disable"});
+        const auto manages = [this] {
+            return ask("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains("window id");
+        };
+        return QTest::qWaitFor(manages, Patience) ? QString() : "openbox does not start";
+    }
+
+    /// What a tool that sees the screen writes, without white space around it.
+    QString ask(const QString& tool, const QStringList& arguments) const
+    {
+        QProcess process;
+        process.start(tool, arguments);
+        process.waitForFinished(Patience);
+        return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+    }
+
+    /// What a window shows as soon as nothing in it moves any more. Windows go by the numbers of the X tools.
+    QImage picture(const QString& window) const
+    {
+        const int stillTime = 250; // Milliseconds. Even a slow animation shows something new within them.
+        QImage now;
+        const auto rests = [&] {
+            const QImage before = now;
+            QTest::qWait(stillTime);
+            now = QGuiApplication::primaryScreen()->grabWindow(window.toUInt()).toImage();
+            return now == before;
+        };
+        return QTest::qWaitFor(rests, Patience) ? now : QImage();
+    }
+
+private:
+    Program m_server, m_windowManager;
+};
 
 /// The editor's executable, as a user runs it who has nothing but a home folder. Killed with the object.
 class Editor
 {
 public:
-    Editor(const Desktop& desktop, const QString& home);
-    ~Editor();
+    Editor(const Desktop& desktop, const QString& home)
+        : m_desktop(desktop)
+    {
+        // What a sanitizer finds must not look like a first start.
+        QStringList environment = {"LC_ALL=C",
+                                   "ASAN_OPTIONS=exitcode=99",
+                                   "HOME=" + home,
+                                   "XDG_CONFIG_HOME=" + home + "/config",
+                                   "XDG_CACHE_HOME=" + home + "/cache",
+                                   "XDG_RUNTIME_DIR=" + home + "/runtime"};
+        for (const char* variable :
+             {"PATH", "DISPLAY", "LSAN_OPTIONS", "QT_XCB_GL_INTEGRATION", "DBUS_SESSION_BUS_ADDRESS"})
+            environment << variable + ('=' + qEnvironmentVariable(variable));
+        QDir().mkpath(home + "/runtime");
+        // The single instance takes no folder that others can enter.
+        QFile::setPermissions(home + "/runtime", QFile::ReadUser | QFile::WriteUser | QFile::ExeUser);
+        m_process.setEnvironment(environment);
+        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        m_process.setStandardInputFile(QProcess::nullDevice());
+    }
 
-    void start(const QStringList& arguments = QStringList());
+    void start(const QStringList& arguments = QStringList()) { m_process.start(TORVANE_SETTINGS, arguments); }
+
     /// Waits for the end; -1 when it does not come in time or is a crash.
-    int exitCode();
+    int exitCode()
+    {
+        const bool ended = m_process.state() == QProcess::NotRunning || m_process.waitForFinished(Patience);
+        return ended && m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
+    }
 
     /// Waits for a window whose title matches to have the keyboard; it is the one that what follows is about.
-    bool shows(const QString& title);
+    bool shows(const QString& title)
+    {
+        const QString process = QString::number(m_process.processId());
+        const QStringList search = {"search", "--all",  "--onlyvisible",  "--pid",
+                                    process,  "--name", '^' + title + '$'};
+        const auto appears = [&] {
+            m_window = m_desktop.ask("xdotool", {"getactivewindow"});
+            return !m_window.isEmpty() && m_desktop.ask("xdotool", search).split('\n').contains(m_window);
+        };
+        return m_process.waitForStarted(Patience) && QTest::qWaitFor(appears, Patience);
+    }
+
     /// Moves the mouse, clicks and types, in the words of xdotool; %1 stands for the window.
     void act(QString action) const { m_desktop.ask("xdotool", action.replace("%1", m_window).split(' ')); }
+
     /// Waits for a window, then does something that closes it.
     bool isAnswered(const QString& title, const QString& action)
     {
@@ -25,13 +125,36 @@ public:
         act(action);
         return shown;
     }
-    bool has(const QString& property, const QString& state) const;
+
+    bool has(const QString& property, const QString& state) const
+    {
+        return m_desktop.ask("xprop", {"-id", m_window, property}).contains(state);
+    }
+
     QImage picture() const { return m_desktop.picture(m_window); }
 
 private:
     const Desktop& m_desktop;
     QString m_window;
-    QProcess m_process;
+    Program m_process;
 };
+
+/// The main function of a test that is made with a desktop.
+template <class Test>
+int runOnDesktop(int argc, char** argv)
+{
+    qputenv("LC_ALL", "C.UTF-8");
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    // Neither a bus, because one would be started, nor the graphics driver, which leaks.
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+    qputenv("QT_XCB_GL_INTEGRATION", "none");
+    Desktop desktop;
+    const QString mishap = desktop.start();
+    if (!mishap.isEmpty())
+        return qWarning("%s", qPrintable(mishap)), 1;
+    QApplication application(argc, argv);
+    Test test(desktop);
+    return QTest::qExec(&test, argc, argv);
+}
 
 #endif

@@ -2,12 +2,6 @@
 
 #include "platform/kqDMIApplication.h"
 
-#include <QDir>
-#include <QElapsedTimer>
-#include <QMessageBox>
-#include <QSettings>
-#include <QTemporaryDir>
-
 #include <pwd.h>
 #include <unistd.h>
 
@@ -25,8 +19,34 @@ const char* const CloseSelector = "mousemove --window %1 489 28 click 1";
 const char* const Minimize = "mousemove --window %1 749 15 click 1";
 const char* const Close = "mousemove --window %1 785 15 click 1";
 const char* const OpenFolders = "mousemove --window %1 50 117 click 1";
-const QString TypeCacheSize = "mousemove --window %1 530 248 click 1 key ctrl+a type ";
+const QString TypeCacheSize = "mousemove --window %1 530 304 click 1 key ctrl+a type ";
 const char* const Apply = "mousemove --window %1 184 265 click 1";
+
+const char* const Version1 = "[General]\nengine=gl\nsettingsVersion=1\nlanguage=xx\n[Own]\nthing=\303\274\n";
+const char* const NoVersion = "[General]\nengine=software\nlanguage=fr\n[Own]\nthing=1\n";
+const char* const Newer = "[General]\nsettingsVersion=7\nengine=software\n[DBCache]\ncacheSize=77\n";
+const QByteArray Binary = QByteArray("\0\xFF[\xFE]\n=\x01\0=[[%\\x\n\"", 18).repeated(500);
+const char* const FrenchSelector = "Torvane - Veuillez choisir .*";
+const char* const FrenchWindow = "Torvane - Centre de contr.*le";
+
+const struct Start
+{
+    const char* name;
+    QByteArray before;   ///< The settings file; none when empty.
+    QString selector;    ///< The window in which a first start asks, if it does.
+    QStringList actions; ///< What the user does there.
+    QString window;      ///< The next one that is shown.
+    QStringList kept;    ///< Beside, or instead of, what a new file holds.
+} Starts[] = {
+    {"Enter", "", Selector, {"key Return"}, Window, {"engine=deferred"}},
+    {"Low", "", Selector, {ChooseLow, ClickOk}, Window, {"engine=software"}},
+    {"Escape", "", Selector, {ChooseLow, "key Escape"}, Selector, {}},
+    {"close button", "", Selector, {CloseSelector}, Selector, {}},
+    {"version 1", Version1, "", {}, Window, {"language=xx", "Own/thing=\303\274"}},
+    {"no version", NoVersion, FrenchSelector, {"key Return"}, FrenchWindow, {"language=fr"}},
+    {"newer version", Newer, "", {}, Window, {"engine=software", "DBCache/cacheSize=77"}},
+    {"binary", Binary, Selector, {"key Return"}, Window, {"language=en"}},
+};
 
 QString userName()
 {
@@ -50,118 +70,69 @@ private Q_SLOTS:
     void init()
     {
         m_temporary = std::make_unique<QTemporaryDir>();
-        m_home = m_temporary->path();
+        m_home = m_temporary->path() + "/Gr\303\274\303\237e, \350\250\255\345\256\232 & \360\237\231\202";
     }
 
-    void firstStart_data()
+    void starts_data()
     {
-        QTest::addColumn<QStringList>("actions");
-        QTest::addColumn<QString>("engine"); // Nothing when no choice is made.
-        QTest::addColumn<QString>("folder");
-        const auto row = [](const char* name, const QStringList& actions, const char* engine,
-                            const char* folder = "") {
-            QTest::newRow(name) << actions << QString(engine) << QString::fromUtf8(folder);
-        };
-        row("Enter", {"key Return"}, "deferred");
-        row("Low", {ChooseLow, ClickOk}, "software");
-        row("Escape", {ChooseLow, "key Escape"}, "");
-        row("close button", {CloseSelector}, "");
-        row("Unicode", {"key Return"}, "deferred",
-            "/Gr\303\274\303\237e, \350\250\255\345\256\232 & \360\237\231\202");
+        QTest::addColumn<int>("row");
+        for (int row = 0; row < int(std::size(Starts)); ++row)
+            QTest::newRow(Starts[row].name) << row;
     }
 
-    void firstStart()
+    void starts()
     {
-        QFETCH(QStringList, actions);
-        QFETCH(QString, engine);
-        QFETCH(QString, folder);
-        m_home += folder;
+        QFETCH(int, row);
+        const Start& start = Starts[row];
+        if (!start.before.isEmpty())
+            store(start.before);
         Editor editor(m_desktop, m_home);
         editor.start();
-        QVERIFY(editor.shows(Selector));
-        for (const QString& action : actions)
-            editor.act(action);
-        const bool chosen = !engine.isEmpty();
-        QCOMPARE(editor.exitCode(), chosen ? 1 : 0);
-        QCOMPARE(stored(), chosen ? completed({"engine=" + engine}) : QStringList());
-        QCOMPARE(QDir(m_home + "/cache/TorvaneBoundlessX64/" + userName()).exists(), chosen);
-        QCOMPARE(QFile::exists(settingsFolder() + "/log.txt"), chosen);
-
-        editor.start();
-        QVERIFY(editor.shows(chosen ? Window : Selector));
-    }
-
-    void migration_data()
-    {
-        QTest::addColumn<QByteArray>("before");
-        QTest::addColumn<QStringList>("windows"); // Those that are shown, one after the other.
-        QTest::addColumn<QStringList>("kept");    // Beside, or instead of, what a new file holds.
-        const QStringList both = {Selector, Window};
-        const auto file = [](const char* name, const QByteArray& before, const QStringList& windows,
-                             const QStringList& kept) { QTest::newRow(name) << before << windows << kept; };
-        file("version 1", "[General]\nengine=gl\nsettingsVersion=1\nlanguage=xx\n[Own]\nthing=\303\274\n",
-             {Window}, {"language=xx", "Own/thing=\303\274"});
-        file("no version", "[General]\nengine=software\nlanguage=fr\n[Own]\nthing=1\n",
-             {"Torvane - Veuillez choisir .*", "Torvane - Centre de contr.*le"}, {"language=fr"});
-        file("newer version", "[General]\nsettingsVersion=7\nengine=software\n[DBCache]\ncacheSize=77\n",
-             {Window}, {"engine=software", "DBCache/cacheSize=77"});
-        file("binary", QByteArray("\0\xFF[\xFE]\n=\x01\0=[[%\\x\n\"", 18).repeated(500), both,
-             {"language=en"});
-    }
-
-    void migration()
-    {
-        QFETCH(QByteArray, before);
-        QFETCH(QStringList, windows);
-        QFETCH(QStringList, kept);
-        store(before);
-        Editor editor(m_desktop, m_home);
-        editor.start();
-        if (windows.size() > 1) {
-            QVERIFY(editor.isAnswered(windows.first(), "key Return"));
-            QCOMPARE(editor.exitCode(), 1);
+        const bool used = start.window != Selector;
+        if (!start.selector.isEmpty()) {
+            QVERIFY(editor.shows(start.selector));
+            for (const QString& action : start.actions)
+                editor.act(action);
+            QCOMPARE(editor.exitCode(), used ? 1 : 0);
+            QCOMPARE(QFile::exists(settingsFile()), used);
             editor.start();
         }
-        QVERIFY(editor.shows(windows.last()));
-        QCOMPARE(stored(), completed(kept));
-    }
-
-    void fatalError_data()
-    {
-        QTest::addColumn<QString>("obstacle"); // A folder or a file below the home folder.
-        QTest::addColumn<QString>("text");
-        QTest::newRow("unusable settings")
-            << "config/TorvaneBoundlessX64/Settings.ini/"
-            << "Could not read the Torvane settings file "
-               "\"%1/config/TorvaneBoundlessX64/Settings.ini\": it is not a file";
-        QTest::newRow("no cache folder") << "cache"
-                                         << "Could not use the 3D database cache, folder "
-                                            "\"%1/cache/TorvaneBoundlessX64/%2\" could not be created";
+        QVERIFY(editor.shows(start.window));
+        QCOMPARE(stored(), used ? completed(start.kept) : QStringList());
+        QCOMPARE(QDir(m_home + "/cache/TorvaneBoundlessX64/" + userName()).exists(), used);
+        QCOMPARE(QFile::exists(settingsFolder() + "/log.txt"), used);
     }
 
     void fatalError()
     {
-        QFETCH(QString, obstacle);
-        QFETCH(QString, text);
-        QDir(m_home).mkpath(obstacle.section('/', 0, -2));
-        const bool readable = QFile(m_home + '/' + obstacle).open(QIODevice::WriteOnly);
-        Editor editor(m_desktop, m_home);
-        editor.start();
-        if (readable) {
-            QVERIFY(editor.isAnswered(Selector, "key Return"));
-        }
-        QVERIFY(editor.shows(FatalError));
-        editor.act("mousemove 0 0");
-        const QImage box = editor.picture();
-        editor.act("key Return");
-        QCOMPARE(editor.exitCode(), 0);
+        const std::pair<QString, QString> obstacles[] = {
+            {"config/TorvaneBoundlessX64/Settings.ini/",
+             "Could not read the Torvane settings file "
+             "\"%1/config/TorvaneBoundlessX64/Settings.ini\": it is not a file"},
+            {"cache", "Could not use the 3D database cache, folder "
+                      "\"%1/cache/TorvaneBoundlessX64/%2\" could not be created"}};
+        for (const auto& [path, text] : obstacles) {
+            init();
+            const QString obstacle = m_home + '/' + path;
+            QDir().mkpath(obstacle.section('/', 0, -2));
+            const bool readable = QFile(obstacle).open(QIODevice::WriteOnly);
+            Editor editor(m_desktop, m_home);
+            editor.start();
+            QVERIFY(!readable || editor.isAnswered(Selector, "key Return"));
+            QVERIFY(editor.shows(FatalError));
+            editor.act("mousemove 0 0");
+            const QImage box = editor.picture();
+            editor.act("key Return");
+            QCOMPARE(editor.exitCode(), 0);
 
-        text.replace("%1", m_home).replace("%2", userName());
-        QMessageBox expected(QMessageBox::Information, FatalError, text, QMessageBox::Ok);
-        expected.setStyleSheet(kqDMIApplication::GetStylesheet("kqMessageBox"));
-        expected.show();
-        QVERIFY(QTest::qWaitForWindowActive(&expected));
-        QVERIFY2(m_desktop.picture(QString::number(expected.winId())) == box, "the box has another text");
+            const QString whole = QString(text).replace("%1", m_home).replace("%2", userName());
+            QMessageBox expected(QMessageBox::Information, FatalError, whole, QMessageBox::Ok);
+            expected.setStyleSheet(kqDMIApplication::GetStylesheet("kqMessageBox"));
+            expected.show();
+            QVERIFY(QTest::qWaitForWindowActive(&expected));
+            const QImage picture = m_desktop.picture(QString::number(expected.winId()));
+            QVERIFY2(picture == box, qPrintable("the box does not say " + whole));
+        }
     }
 
     void appliesAndDiscardsEdits()
@@ -262,5 +233,4 @@ int main(int argc, char** argv)
 {
     return runOnDesktop<tst_EndToEnd>(argc, argv);
 }
-
 #include "tst_EndToEnd.moc"

@@ -1,9 +1,5 @@
 #include "../endtoend/Editor.h"
 
-#include <QDir>
-#include <QSettings>
-#include <QTemporaryDir>
-
 namespace {
 
 const char* const Window = "Torvane Viewer";
@@ -13,7 +9,7 @@ const char* const Box = "Settings Modification";
 const char* const ClickButton = "mousemove --window %1 24 24 click 1";
 const char* const ClickSettings = "mousemove --window %1 150 158 click 1";
 const char* const ClickEdgeDetect = "mousemove --window %1 320 292 click 1";
-const char* const TypeTriangles = "mousemove --window %1 600 400 click 1 key ctrl+a type 50000";
+const char* const TypeTriangles = "mousemove --window %1 650 395 click 1 key ctrl+a type 50000";
 const char* const ClickApply = "mousemove --window %1 231 267 click 1";
 const char* const ClickView = "mousemove --window %1 900 600 click 1";
 const int ClickGuard = 500; // Milliseconds in which another click does not close the menu.
@@ -119,5 +115,4 @@ int main(int argc, char** argv)
 {
     return runOnDesktop<tst_Viewer>(argc, argv);
 }
-
 #include "tst_Viewer.moc"

@@ -1,10 +1,7 @@
 #ifndef ZEL_BOXANSWER_H
 #define ZEL_BOXANSWER_H
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QMessageBox>
-#include <QTimer>
+#include <QtWidgets>
 
 /// Answers the message boxes that open while it lives, as a user would: by a click on one of their buttons,
 /// or by Escape where that is to be. Keeps what they said.
@@ -17,7 +14,7 @@ public:
         start(20);
     }
 
-    QStringList titles, texts;
+    QStringList texts;
 
 private:
     void answer(QMessageBox::StandardButton wanted)
@@ -25,7 +22,6 @@ private:
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (!box || !box->isVisible())
             return;
-        titles << box->windowTitle();
         texts << box->text();
         if (QAbstractButton* button = box->button(wanted))
             button->click();

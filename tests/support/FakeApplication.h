@@ -33,15 +33,10 @@ struct FakeRenderer : kqDMRenderer
 
 struct FakePlugin : kqDMPlugin
 {
-    FakePlugin(const QString& pluginName, const QString& pluginVersion)
-        : name(pluginName)
-        , version(pluginVersion)
-    {
-    }
     QString getName() const override { return name; }
-    QString getVersion() const override { return version; }
+    QString getVersion() const override { return "1.2"; }
 
-    QString name, version;
+    QString name = "Reader";
 };
 
 struct FakeGuiPlugin : kqDMGuiPlugin
@@ -69,16 +64,16 @@ public:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
-    kqDMManager* manager = nullptr;
-    kqDMRenderer* renderer = nullptr;
+    mutable FakeManager manager;
+    mutable FakeRenderer renderer;
     kqDMGuiPlugin* guiPlugin = nullptr;
     zelActionManager* actionManager = nullptr;
     std::vector<kqDMPlugin*> plugins;
     QList<bool> engineUpdates;   ///< Calls of setUpdateEngineEnabled().
     QList<QString> imageFolders; ///< Calls of setScreenshotImageFolder().
 
-    kqDMManager* getDMManager() const override { return manager; }
-    kqDMRenderer* getDMRenderer() const override { return renderer; }
+    kqDMManager* getDMManager() const override { return &manager; }
+    kqDMRenderer* getDMRenderer() const override { return &renderer; }
     kqDMGuiPlugin* getGuiPlugin() const override { return guiPlugin; }
     zelActionManager* getActionManager() const override { return actionManager; }
     const std::vector<kqDMPlugin*>& getPluginsList() const override { return plugins; }

@@ -8,64 +8,25 @@
 #include "ZelRendererSettingsPanel.h"
 #include "ZelSimplificationSettingsPanel.h"
 
-#include <QDebug>
-#include <QFontDatabase>
-#include <QLabel>
-#include <QMessageBox>
-#include <QProcess>
-#include <QRegularExpression>
-#include <QSlider>
-#include <QStyleOptionButton>
-#include <QTranslator>
-#include <QXmlStreamReader>
+#include <QtWidgets>
 
 using namespace zel;
 
 namespace {
 
-struct Text
+QString readAll(const QString& path)
 {
-    QString context, source, translation;
-    bool finished;
-};
-
-QList<Text> readTexts(const QString& path)
-{
-    QList<Text> texts;
-    QString context;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         qFatal("%s cannot be read", qPrintable(path));
-    QXmlStreamReader xml(&file);
-    while (!xml.atEnd()) {
-        if (xml.readNext() != QXmlStreamReader::StartElement)
-            continue;
-        if (xml.name() == "name")
-            context = xml.readElementText();
-        else if (xml.name() == "source")
-            texts << Text{context, xml.readElementText(), QString(), false};
-        else if (xml.name() == "translation") {
-            texts.last().finished = !xml.attributes().hasAttribute("type");
-            texts.last().translation = xml.readElementText();
-        }
-    }
-    return texts;
-}
-
-QStringList sources(const QString& path)
-{
-    QStringList found;
-    for (const Text& text : readTexts(path))
-        found << text.context + ": " + text.source;
-    found.sort();
-    return found;
+    return QString::fromUtf8(file.readAll());
 }
 
 /// What a translation has to keep: place markers, tags, line breaks, and the blanks at both ends.
 QStringList marks(const QString& text)
 {
     QStringList found;
-    auto mark = QRegularExpression("%\\d|<[^>]*>|\\n|^ +| +$").globalMatch(text);
+    auto mark = QRegularExpression("%\\d|&lt;.*?&gt;|\\n|^ +| +$").globalMatch(text);
     while (mark.hasNext())
         found << mark.next().captured();
     found.sort();
@@ -84,19 +45,15 @@ QSize neededSize(const QAbstractButton& button)
            button.fontMetrics().size(0, button.text());
 }
 
-QSize neededSize(const QLabel& label)
-{
-    return label.wordWrap() ? QSize(label.minimumSizeHint().width(), label.heightForWidth(label.width()))
-                            : label.sizeHint();
-}
-
 /// Not valid for a widget without a text of its own.
 QSize neededSize(const QWidget& widget)
 {
     if (auto* button = qobject_cast<const QAbstractButton*>(&widget))
         return button->text().isEmpty() ? QSize() : neededSize(*button);
     if (auto* label = qobject_cast<const QLabel*>(&widget))
-        return neededSize(*label);
+        return label->wordWrap()
+                   ? QSize(label->minimumSizeHint().width(), label->heightForWidth(label->width()))
+                   : label->sizeHint();
     if (widget.inherits("QAbstractSpinBox") || widget.inherits("QComboBox"))
         return widget.sizeHint();
     return widget.inherits("QGroupBox") ? widget.minimumSizeHint() : QSize();
@@ -135,7 +92,7 @@ private:
     }
 
     FakeApplication m_application;
-    FakePlugin m_plugin{"Reader", "1.2"};
+    FakePlugin m_plugin;
     QTemporaryDir m_updated;
     QString m_language;
     QTranslator m_translator, m_toolkitTranslator;
@@ -176,14 +133,18 @@ private Q_SLOTS:
 
     void hasEveryTextOfTheSources()
     {
-        const QString name = "Torvane_" + m_language + ".ts";
-        const QString path = ZEL_SOURCES "/resources/languages/" + name;
-        QCOMPARE(sources(path), sources(m_updated.filePath(name)));
-        for (const Text& text : readTexts(path)) {
-            QVERIFY2(text.finished && !text.translation.trimmed().isEmpty(), qPrintable(text.source));
-            QCOMPARE(marks(text.translation), marks(text.source));
-            QVERIFY2(m_language != "en" || text.translation == text.source, qPrintable(text.source));
+        const QString name = "/Torvane_" + m_language + ".ts";
+        const QString all = readAll(ZEL_SOURCES "/resources/languages" + name);
+        QVERIFY2(all == readAll(m_updated.path() + name), "scripts/update-translations would change it");
+        const QRegularExpression pattern(
+            "<source>([^<]*)</source>\\s*<translation>([^<]*[^<\\s][^<]*)</translation>");
+        int complete = 0;
+        for (auto each = pattern.globalMatch(all); each.hasNext(); ++complete) {
+            const QStringList text = each.next().capturedTexts();
+            QCOMPARE(marks(text[2]), marks(text[1]));
+            QVERIFY2(m_language != "en" || text[2] == text[1], qPrintable(text[1]));
         }
+        QCOMPARE(complete, all.count("<message>"));
     }
 
     void toolkitTextsFollow()

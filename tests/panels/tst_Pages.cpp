@@ -1,0 +1,235 @@
+#include "SettingsKeys.h"
+#include "ShownPage.h"
+#include "ZelAboutSettingsPanel.h"
+#include "ZelGeneralSettingsPanel.h"
+#include "ZelImportSettingsPanel.h"
+#include "ZelSimplificationSettingsPanel.h"
+
+#include <QtWidgets>
+
+using namespace zel;
+
+typedef ShownPage<ZelAboutSettingsPanel> About;
+typedef ShownPage<ZelGeneralSettingsPanel> General;
+typedef ShownPage<ZelImportSettingsPanel> Import;
+typedef ShownPage<ZelSimplificationSettingsPanel> Simplification;
+
+namespace {
+
+// What is stored, and what a page makes of it; null: the same.
+const SettingsTexts Reals = {{"0", {}},   {"0.123", {}},        {"99.99", {}},   {"250", "99.99"},
+                             {"-1", "0"}, {"1.23456", "1.235"}, {"nan", "99.99"}};
+const SettingsTexts Angles = {{"0", {}}, {"359", {}}, {"360", "359"}, {"-1", "0"}};
+const SettingsTexts Sizes = {{"10", {}}, {"4096", {}}, {"-1", "10"}, {"4097", "4096"}, {"many", "10"}};
+const char* const DefaultRatios = "1/0.75/0.5/0.25/0.1";
+const SettingsTexts Ratios = {{"1/0.1/0.9/0.1/0.9", {}},
+                              {"1//0.8/0.6/0.4/0.2/", {}},
+                              {"1/0.755/0.333/0.1/0.1", "1/0.76/0.33/0.1/0.1"},
+                              {"0.9/7/0.5/-1/0", "1/1/0.5/0.01/0.01"},
+                              {"1/x/nan/0.2/0.1", "1/0.01/0.01/0.2/0.1"},
+                              {"1/0.9/0.8/0.7", DefaultRatios},
+                              {"1/0.9/0.8/0.7/0.6/0.5", DefaultRatios}};
+
+const struct
+{
+    const char *byDefault, *byValue, *spinBox, *set, *key;
+    SettingsTexts texts;
+} Limits[] = {
+    {"defaultSag", "sag", "faceSagSpin", keys::MaxFaceSagSet, keys::MaxFaceSag, Reals},
+    {"defaultLength", "length", "faceLengthSpin", keys::MaxFaceLengthSet, keys::MaxFaceLength, Reals},
+    {"defaultAngle", "angle", "faceAngleSpin", keys::MaxFaceAngleSet, keys::MaxFaceAngle, Angles},
+};
+
+} // namespace
+
+/// The pages, but for the display's.
+class tst_Pages : public QObject
+{
+    Q_OBJECT
+
+private:
+    template <class Page>
+    void checkUntouched(const char* key, const SettingsTexts& texts)
+    {
+        for (const QString& text : texts.keys())
+            QCOMPARE(writtenUntouched<Page>(*m_application, {{key, text}}, key), texts[text]);
+    }
+
+    /// Answers the folder dialog of a button; an empty folder cancels it.
+    static void choose(General& page, const char* button, const QString& folder)
+    {
+        QTimer::singleShot(10, [folder] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(folder);
+            QTest::keyClick(dialog, folder.isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
+        });
+        page.click(button);
+    }
+
+    QString folder(const QString& name)
+    {
+        QDir(m_application->getApplicationFolder()).mkpath(name);
+        return m_application->getApplicationFolder() + "/" + name;
+    }
+
+    QSettings& settings() { return m_application->getSettings(); }
+    QString stored(const char* key) { return settings().value(key).toString(); }
+
+    QStringList m_openedHosts;
+    std::unique_ptr<FakeApplication> m_application;
+
+public Q_SLOTS:
+    void open(const QUrl& url) { m_openedHosts << url.host(); }
+
+private Q_SLOTS:
+    /// A file in which no limit is in force.
+    void init()
+    {
+        SettingsTexts defaults = {{keys::TessellationQualitySet, "false"},
+                                  {keys::TessellationHighQuality, "true"},
+                                  {keys::SimplificationRatios, DefaultRatios}};
+        for (const auto& limit : Limits)
+            defaults.insert({{limit.set, "false"}, {limit.key, "5"}});
+        registerDefaults(defaults);
+        m_application.reset(new FakeApplication);
+        store(settings(), defaults);
+        store(settings(), {{keys::CacheDirectory, folder("cache")}, {keys::CacheSize, "500"}});
+    }
+
+    void untouchedPagesWriteOnlyWhatTheyCannotShow()
+    {
+        checkUntouched<ZelGeneralSettingsPanel>(keys::CacheSize, Sizes);
+        checkUntouched<ZelSimplificationSettingsPanel>(keys::SimplificationRatios, Ratios);
+        for (int percentage = 1; percentage <= 100; ++percentage) {
+            const QString equal = "1" + ("/" + QString::number(percentage / 100.0)).repeated(3);
+            checkUntouched<ZelSimplificationSettingsPanel>(keys::SimplificationRatios,
+                                                           {{equal + "/0.0149", equal + "/0.01"}});
+        }
+        for (const auto& limit : Limits) {
+            checkUntouched<ZelImportSettingsPanel>(limit.key, {{limit.texts.lastKey(), {}}}); // Not in force.
+            store(settings(), {{limit.set, "true"}});
+            checkUntouched<ZelImportSettingsPanel>(limit.key, limit.texts);
+        }
+    }
+
+    void foldersAndCacheSizeReachTheApplication()
+    {
+        General page(m_application.get(), settings());
+        const QString shots = folder("other");
+        page.type("databaseSpinBox", "2048");
+        choose(page, "screenshotFolderButton", shots);
+        QVERIFY(m_application->manager.cacheSizes.isEmpty() && m_application->imageFolders.isEmpty());
+        QVERIFY(!page.page.applyModifications());
+        QCOMPARE(m_application->manager.cacheSizes, QList<unsigned int>{2048});
+        QCOMPARE(m_application->imageFolders, QList<QString>({shots, shots}));
+    }
+
+    void onlyAnotherCacheFolderThanTheRunningOneAsksForARestart()
+    {
+        General page(m_application.get(), settings());
+        choose(page, "databaseButton", QString());
+        QVERIFY(page.changes.isEmpty() && !page.page.hasModifications());
+        for (const QString step : {"b!", "c!", "cache", "cache", "b!", "b"}) { // "!": needs a restart.
+            const QString chosen = folder(step.section('!', 0, 0));
+            choose(page, "databaseButton", chosen);
+            QCOMPARE(page.page.applyModifications(), step.endsWith('!'));
+            QCOMPARE(stored(keys::CacheDirectory), chosen);
+        }
+        QCOMPARE(page.changes.count(), 6);
+    }
+
+    void longFoldersAreElided()
+    {
+        const QString cache = "/" + QString("long/").repeated(30) + "end";
+        registerDefaults(
+            {{keys::CacheDirectory, cache}, {keys::CacheSize, "10"}, {keys::ScreenshotFolder, "/shots"}});
+        General page(m_application.get(), settings());
+        QCOMPARE(page.reset(), 1);
+        const QString shown = page.find<QPushButton>("databaseButton")->text();
+        QVERIFY(shown.startsWith(QChar(0x2026)) && shown.endsWith("/end"));
+        QVERIFY(page.page.applyModifications());
+        QCOMPARE(stored(keys::CacheDirectory), cache);
+        QCOMPARE(m_application->imageFolders.last(), QString("/shots"));
+    }
+
+    void eachLimitIsLeftOrSet()
+    {
+        Import page(m_application.get(), settings());
+        for (const auto& limit : Limits) {
+            page.changes.clear();
+            page.click(limit.byValue);
+            QVERIFY(page.find(limit.spinBox)->isEnabled() && page.canClickReset());
+            page.type(limit.spinBox, "42");
+            QCOMPARE(page.changes.count(), 1); // Numbers are not announced.
+            page.click(limit.byDefault);
+            QVERIFY(!page.find(limit.spinBox)->isEnabled() && !page.canClickReset());
+        }
+    }
+
+    void lowQualityLeavesTheResetButtonAlone()
+    {
+        Import page(m_application.get(), settings());
+        const std::pair<const char*, bool> clicks[] = {
+            {"lowQuality", false}, {"highQuality", true}, {"lowQuality", true}, {"defaultQuality", false}};
+        for (const auto& [button, canClickReset] : clicks) {
+            page.click(button);
+            QCOMPARE(page.canClickReset(), canClickReset);
+        }
+        QCOMPARE(page.changes.count(), 4);
+    }
+
+    void ratiosReachTheSimplifier()
+    {
+        Simplification page(m_application.get(), settings());
+        page.type("ratio2", "70");
+        QVERIFY(page.changes.count() == 1 && page.canClickReset() && m_application->manager.ratios.isEmpty());
+        QVERIFY(!page.page.applyModifications());
+        QCOMPARE(stored(keys::SimplificationRatios), QString("1/0.7/0.5/0.25/0.1"));
+        QCOMPARE(m_application->manager.ratios, (QList<std::vector<float>>{{1.f, .7f, .5f, .25f, .1f}}));
+    }
+
+    void withoutDefaultsThePageKeepsWhatItShows()
+    {
+        registerDefaults({});
+        settings().remove(keys::SimplificationRatios);
+        Simplification page(nullptr, settings());
+        QVERIFY(page.reset() == 1 && page.canClickReset() && !page.page.applyModifications());
+        QCOMPARE(stored(keys::SimplificationRatios), QString("1/0.75/0.5/0.25/0.01"));
+    }
+
+    void pluginsAreThoseOfTheFirstOpening()
+    {
+        FakePlugin first, second;
+        second.name = QString("A long name ").repeated(9);
+        m_application->plugins = {&first, &second};
+        About page(m_application.get(), settings());
+        m_application->plugins.clear();
+        page.page.initializeWidget();
+
+        auto* table = page.find<QTableWidget>("tableWidget");
+        QCOMPARE(table->rowCount(), 2);
+        const QStringList texts = {"Reader", "v. 1.2", second.name, "v. 1.2"};
+        for (int cell = 0; cell < texts.size(); ++cell)
+            QCOMPARE(table->item(cell / 2, cell % 2)->text(), texts[cell]);
+        // Nothing of the table is out of view.
+        QVERIFY(table->isVisible() && table->rowHeight(1) > table->rowHeight(0));
+        QVERIFY(table->viewport()->rect().contains(table->visualItemRect(table->item(1, 1))));
+    }
+
+    void linksOpenFromTheKeyboard()
+    {
+        QDesktopServices::setUrlHandler("https", this, "open");
+        About page(nullptr, settings());
+        QVERIFY(!page.find("pluginsFrame")->isVisible());
+        auto* components = page.find<QLabel>("libUseLabel_2");
+        components->setFocus(Qt::TabFocusReason);
+        for (int link = 0; link < 3; ++link)
+            for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Return})
+                QTest::keyClick(components, key);
+        QDesktopServices::unsetUrlHandler("https");
+        QCOMPARE(m_openedHosts.join(' '), QString("www.qt.io github.com fonts.google.com"));
+    }
+};
+
+QTEST_MAIN(tst_Pages)
+#include "tst_Pages.moc"
