@@ -8,8 +8,9 @@ set(zel_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ZelControlCenter)
 get_property(zel_public_headers GLOBAL PROPERTY ZEL_PUBLIC_HEADERS)
 get_property(zel_platform_libraries GLOBAL PROPERTY ZEL_PLATFORM_LIBRARIES)
 file(GLOB zel_platform_headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/platform/*.h)
-# The host's own.
-list(REMOVE_ITEM zel_platform_headers ${PROJECT_SOURCE_DIR}/platform/ApplicationRoot.h)
+# What only the host and the library need.
+list(REMOVE_ITEM zel_platform_headers ${PROJECT_SOURCE_DIR}/platform/ApplicationRoot.h
+                                      ${PROJECT_SOURCE_DIR}/platform/FileOwner.h)
 
 install(FILES ${zel_public_headers} DESTINATION include/zel COMPONENT headers)
 install(FILES ${zel_platform_headers} DESTINATION include/zel/platform COMPONENT headers)

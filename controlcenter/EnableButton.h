@@ -9,7 +9,8 @@ namespace zel {
 /// hand on to a neighbour.
 inline void enableButton(QPushButton& button, bool enabled)
 {
-    if (!enabled && button.hasFocus())
+    // Asked of the window, which has it also while a box lies over it.
+    if (!enabled && button.window()->focusWidget() == &button)
         button.clearFocus();
     button.setEnabled(enabled);
 }

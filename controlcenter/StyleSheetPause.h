@@ -27,7 +27,8 @@ public:
         m_widgets.insert(m_widgets.end(), descendants.begin(), descendants.end());
         // From the leaves to the root, so that no sheet is left below the one that is taken off.
         for (auto widget = m_widgets.rbegin(); widget != m_widgets.rend(); ++widget)
-            takeSheet(**widget);
+            if (*widget)
+                takeSheet(**widget);
     }
 
     ~StyleSheetPause()

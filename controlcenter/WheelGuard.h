@@ -26,7 +26,7 @@ public:
     {
         // Mouse moves too: an unfocused field does not track the pointer.
         if (event->type() != QEvent::Wheel && event->type() != QEvent::MouseMove)
-            return QObject::eventFilter(watched, event);
+            return Field::eventFilter(watched, event);
         const bool guarded = this->focusPolicy() != Qt::WheelFocus;
         event->setAccepted(!guarded);
         return guarded;

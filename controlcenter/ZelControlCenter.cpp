@@ -21,9 +21,11 @@
 #include <QMouseEvent>
 #include <QPropertyAnimation>
 #include <QScrollBar>
+#include <QSettings>
 #include <QSignalMapper>
 
 #include <algorithm>
+#include <vector>
 
 // The resource initialiser is declared in the namespace that names it, so this stands outside any.
 static void cleanupResources()
@@ -53,9 +55,11 @@ void styleAll(QWidget& tree)
 {
     tree.ensurePolished();
     const QList<QWidget*> descendants = tree.findChildren<QWidget*>();
-    for (QWidget* widget : descendants) {
+    const std::vector<QPointer<QWidget>> guarded(descendants.begin(), descendants.end());
+    for (const QPointer<QWidget>& widget : guarded) {
         QEvent change(QEvent::StyleChange);
-        QCoreApplication::sendEvent(widget, &change);
+        if (widget)
+            QCoreApplication::sendEvent(widget, &change);
     }
 }
 
@@ -212,10 +216,14 @@ bool ZelControlCenter::hasModifications() const
 
 bool ZelControlCenter::applyModifications()
 {
+    QString error;
+    // The toolkit keeps what the pages hand over, and writes it in the end even where that was refused.
+    if (hasModifications() &&
+        !ZelSettingsFile::PrepareWriting(m_application->getSettings().fileName(), error))
+        return false;
     bool restart = false;
     forEachPanel([&restart](ZelSettingsPanel* panel) { restart = panel->applyModifications() || restart; });
     // One write for all pages, so that the file never holds half of an Apply. A failure is reported there.
-    QString error;
     ZelSettingsFile::Sync(m_application->getSettings(), error);
     return restart;
 }

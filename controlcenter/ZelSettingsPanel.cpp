@@ -64,6 +64,7 @@ void ZelSettingsPanel::unregisterCCActionByName(const QString&)
 
 void ZelSettingsPanel::setNamedStyleSheet(const QString& name)
 {
+    setStyleSheet(QString()); // A sheet of its own would come back in place of an empty one.
     const StyleSheetPause pause(*this);
     setStyleSheet(kqDMIApplication::GetStylesheet(name));
 }

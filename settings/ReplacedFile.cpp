@@ -38,7 +38,13 @@ bool ReplacedFile::canKeepOwner() const
     if (m_path.isEmpty())
         return true;
     QTemporaryFile probe(m_path + ".XXXXXX");
-    return !probe.open() || giveToOwner(probe.fileName()); // Without room for it nothing will be replaced.
+    if (!probe.open() || giveToOwner(probe.fileName())) // Without room for it nothing will be replaced.
+        return true;
+    // A group loses nothing that all others may do as well.
+    const QFile::Permissions allowed = QFile::permissions(m_path);
+    const bool groupMatters = ((allowed & QFile::ReadGroup) && !(allowed & QFile::ReadOther)) ||
+                              ((allowed & QFile::WriteGroup) && !(allowed & QFile::WriteOther));
+    return !groupMatters && QFileInfo(probe.fileName()).ownerId() == m_owner;
 }
 
 bool ReplacedFile::giveToOwner(const QString& path) const

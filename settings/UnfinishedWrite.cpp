@@ -60,7 +60,15 @@ void putBack(const QString& path)
 bool UnfinishedWrite::begin(const QString& path, QString& error)
 {
     recover(path);
-    return !QFile::exists(path) || copySettingsFile(path, copyOf(path), error);
+    if (!QFile::exists(path))
+        return true;
+    if (!copySettingsFile(path, copyOf(path), error))
+        return false;
+    // A copy that kept the old file's time would look like one that was left behind.
+    std::error_code mishap;
+    std::filesystem::last_write_time(nativePath(copyOf(path)), std::filesystem::file_time_type::clock::now(),
+                                     mishap);
+    return true;
 }
 
 void UnfinishedWrite::end(const QString& path, bool written)

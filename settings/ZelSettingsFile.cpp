@@ -195,16 +195,13 @@ bool write(QSettings& settings, QString& error)
 
 typedef bool (*Change)(QSettings& settings, QString& error);
 
-/// Makes the change, if there is one, and writes it.
-bool writeGuarded(QSettings& settings, Change change, QString& error)
+/// Makes the change, if there is one, and writes it under all protection.
+bool changeAndWrite(QSettings& settings, Change change, QString& error)
 {
     const QString path = settings.fileName();
     if (!ZelSettingsFile::PrepareWriting(path, error) ||
-        (!SettingsReplaceTheirFile && !UnfinishedWrite::begin(path, error))) {
-        // Else the toolkit would write on its own as soon as it comes to events, and lose what is not kept.
-        QCoreApplication::removePostedEvents(&settings, QEvent::UpdateRequest);
+        (!SettingsReplaceTheirFile && !UnfinishedWrite::begin(path, error)))
         return false;
-    }
     ZelSettingsFile::UseFileEncoding(settings); // A mark that has been read may have brought the other back.
     if (QFileInfo(path).size() == 0)
         setAll(settings);
@@ -215,9 +212,18 @@ bool writeGuarded(QSettings& settings, Change change, QString& error)
         written = (!change || change(settings, error)) && write(settings, error);
     }
     if (!SettingsReplaceTheirFile)
-        UnfinishedWrite::end(path, written);
+        UnfinishedWrite::end(path, written || settings.status() == QSettings::NoError);
     former.restore();
     return written;
+}
+
+bool writeGuarded(QSettings& settings, Change change, QString& error)
+{
+    if (changeAndWrite(settings, change, error))
+        return true;
+    // Else the toolkit would write what is left on its own, unprotected, as soon as it comes to events.
+    QCoreApplication::removePostedEvents(&settings, QEvent::UpdateRequest);
+    return false;
 }
 
 } // namespace

@@ -146,6 +146,20 @@ private Q_SLOTS:
                  QString("You need to restart your application to turn settings modification effective."));
     }
 
+    void editsStayWhereNothingMayBeWritten()
+    {
+        addPages(1);
+        m_pages[0]->edit();
+        const QString file = m_application->getSettings().fileName();
+        QVERIFY(QDir().mkpath(file + ".lock"));
+        m_calls.clear();
+        QTest::mouseClick(button("applyButton"), Qt::LeftButton);
+        QVERIFY(m_calls.isEmpty() && canApply());
+        QVERIFY(QDir().rmdir(file + ".lock"));
+        QTest::mouseClick(button("applyButton"), Qt::LeftButton);
+        QCOMPARE(m_calls, QStringList("P0 apply"));
+    }
+
     void closingAsksInsideTheViewerOnly()
     {
         addPages(1);
