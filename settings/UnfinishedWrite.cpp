@@ -92,13 +92,12 @@ void UnfinishedWrite::recover(const QString& path)
     // A file that has been written later is whole: another program has done it. But clocks are set, and
     // machines fall asleep: what is given up is kept.
     const bool isWhole = writtenAt(path) > writtenAt(copy).addMSecs(LongestWrite);
-    const QString givenUp = isWhole ? copy : path;
+    const bool areAlike = contentOfFile(path) == contentOfFile(copy);
     QString kept, error;
-    if (contentOfFile(path) == contentOfFile(copy))
-        QFile::remove(copy);
-    else if (!SettingsBackup::keep(path, "its writing was cut short", kept, error, givenUp))
+    if (!areAlike &&
+        !SettingsBackup::keep(path, "its writing was cut short", kept, error, isWhole ? copy : path))
         return;
-    else if (isWhole)
+    if (areAlike || isWhole)
         QFile::remove(copy);
     else
         putBack(path);
