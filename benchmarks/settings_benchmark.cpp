@@ -70,13 +70,18 @@ public:
 
     QString path() const { return m_folder.filePath("Settings.ini"); }
 
-    /// Puts the file there anew, so that the toolkit cannot answer from what it remembers of it.
+    /// Puts the file there anew, so that the toolkit cannot answer from what it remembers of it. Its time is
+    /// another one each time, and past: with a file of this moment the library waits for the clock to move
+    /// on.
     void restore() const
     {
         QFile::remove(path());
         QFile file(path());
         file.open(QIODevice::WriteOnly);
         file.write(m_content);
+        file.flush();
+        static int second = 0;
+        file.setFileTime(QDate(2020, 1, 1).startOfDay().addSecs(++second), QFileDevice::FileModificationTime);
     }
 
 private:
