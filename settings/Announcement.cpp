@@ -20,6 +20,13 @@ void zel::announce(const char* type, const QString& text)
     std::fflush(stdout);
 }
 
+bool zel::fail(const QString& text, QString& error)
+{
+    error = text;
+    announce("error", error);
+    return false;
+}
+
 void zel::announceInLogOnly()
 {
     inLogOnly = true;

@@ -9,6 +9,9 @@ namespace zel {
 /// @param type  as MTLogger::Log takes it
 void announce(const char* type, const QString& text);
 
+/// Sets and announces the error text; false, for the caller to return.
+bool fail(const QString& text, QString& error);
+
 /// From now on announcements go to the log alone, because standard output is for something else.
 void announceInLogOnly();
 

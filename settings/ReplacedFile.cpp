@@ -1,6 +1,7 @@
 #include "ReplacedFile.h"
 
 #include "Announcement.h"
+#include "FileTools.h"
 
 #include "platform/FileOwner.h"
 
@@ -18,8 +19,7 @@ namespace {
 std::uintmax_t namesOf(const QString& path)
 {
     std::error_code error;
-    const auto names =
-        std::filesystem::hard_link_count(std::filesystem::u8path(path.toUtf8().constData()), error);
+    const auto names = std::filesystem::hard_link_count(nativePath(path), error);
     return error ? 0 : names;
 }
 

@@ -1,7 +1,7 @@
 #include "SettingsBackup.h"
 
 #include "Announcement.h"
-#include "FileCopy.h"
+#include "FileTools.h"
 #include "SettingsDamage.h"
 
 #include <QDateTime>
@@ -49,12 +49,12 @@ bool SettingsBackup::keep(const QString& path, const QString& reason, QString& c
 {
     copy.clear();
     const QString givenUp = source.isEmpty() ? path : source;
-    const QByteArray content = contentOfFile(givenUp);
-    if (content.isEmpty())
+    if (QFileInfo(givenUp).size() == 0)
         return true;
+    const QByteArray content = contentOfFile(givenUp);
     QStringList former = copiesOf(path);
     for (const QString& kept : former) {
-        if (contentOfFile(kept) == content)
+        if (!content.isEmpty() && contentOfFile(kept) == content)
             copy = kept;
     }
     if (copy.isEmpty()) {

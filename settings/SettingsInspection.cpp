@@ -1,13 +1,13 @@
 #include "SettingsInspection.h"
 
+#include "FileTools.h"
 #include "FolderCreation.h"
 #include "SettingsDamage.h"
 #include "SettingsKeys.h"
+#include "SettingsMigration.h"
 #include "SettingsValidation.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsValidators.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <iterator>
@@ -67,9 +67,7 @@ QString reasonFor(const Registered& entry, const QVariant& oldValue, const QStri
 
 SettingsInspection::SettingsInspection(const QString& path)
 {
-    QFile file(path);
-    if (file.open(QIODevice::ReadOnly))
-        m_damage = settingsDamage(file.readAll());
+    m_damage = settingsDamage(contentOfFile(path));
     inspectValues(path);
 }
 
@@ -83,7 +81,7 @@ void SettingsInspection::inspectValues(const QString& path)
     QSettings settings(path, QSettings::IniFormat);
     ZelSettingsFile::UseFileEncoding(settings);
     const int version = settings.value(keys::SettingsVersion, 0).toInt();
-    m_isOlderVersion = version > 0 && version < CurrentSettingsVersion;
+    m_isOlderVersion = isUpgradedInPlace(version);
     const FolderRehearsal rehearsal;
     const auto foretell = [&](const Registered& entry, const QVariant& stored, const QString& text) {
         const QString& key = entry.first;

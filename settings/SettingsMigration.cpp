@@ -11,8 +11,6 @@ namespace {
 
 using namespace zel;
 
-const int OldestKeptVersion = 1;
-
 bool startAfresh(QSettings& settings, const QString& language, QString& error)
 {
     QString copy;
@@ -25,6 +23,11 @@ bool startAfresh(QSettings& settings, const QString& language, QString& error)
 
 } // namespace
 
+bool zel::isUpgradedInPlace(int version)
+{
+    return version > 0 && version < CurrentSettingsVersion;
+}
+
 bool zel::migrateSettings(const QString& path, const QString& language, QString& error)
 {
     if (!QFile::exists(path))
@@ -36,7 +39,7 @@ bool zel::migrateSettings(const QString& path, const QString& language, QString&
         return true;
     if (!ZelSettingsFile::PrepareWriting(path, error))
         return false;
-    if (version < OldestKeptVersion)
+    if (!isUpgradedInPlace(version))
         return startAfresh(settings, language, error);
     settings.setValue(keys::SettingsVersion, CurrentSettingsVersion);
     settings.setValue(keys::Engine, engines::Deferred);

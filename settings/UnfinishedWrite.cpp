@@ -1,7 +1,7 @@
 #include "UnfinishedWrite.h"
 
 #include "Announcement.h"
-#include "FileCopy.h"
+#include "FileTools.h"
 #include "SettingsBackup.h"
 
 #include <QDateTime>
@@ -36,6 +36,14 @@ QString copyOf(const QString& path)
 QDateTime writtenAt(const QString& path)
 {
     return QFileInfo(path).lastModified();
+}
+
+/// False also when one of them cannot be read.
+bool areAlike(const QString& one, const QString& other)
+{
+    QFile file(one), second(other);
+    return file.open(QIODevice::ReadOnly) && second.open(QIODevice::ReadOnly) &&
+           file.readAll() == second.readAll();
 }
 
 /// Leaves the copy where it is when that cannot be done.
@@ -73,7 +81,7 @@ bool UnfinishedWrite::begin(const QString& path, QString& error)
 
 void UnfinishedWrite::end(const QString& path, bool written)
 {
-    if (written || contentOfFile(path) == contentOfFile(copyOf(path)))
+    if (written || areAlike(path, copyOf(path)))
         QFile::remove(copyOf(path));
     else if (QFile::exists(copyOf(path)))
         putBack(path);
@@ -92,12 +100,12 @@ void UnfinishedWrite::recover(const QString& path)
     // A file that has been written later is whole: another program has done it. But clocks are set, and
     // machines fall asleep: what is given up is kept.
     const bool isWhole = writtenAt(path) > writtenAt(copy).addMSecs(LongestWrite);
-    const bool areAlike = contentOfFile(path) == contentOfFile(copy);
+    const bool isSame = areAlike(path, copy);
     QString kept, error;
-    if (!areAlike &&
+    if (!isSame &&
         !SettingsBackup::keep(path, "its writing was cut short", kept, error, isWhole ? copy : path))
         return;
-    if (areAlike || isWhole)
+    if (isSame || isWhole)
         QFile::remove(copy);
     else
         putBack(path);

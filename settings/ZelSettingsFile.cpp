@@ -1,7 +1,7 @@
 #include "ZelSettingsFile.h"
 
 #include "Announcement.h"
-#include "FileCopy.h"
+#include "FileTools.h"
 #include "IniCodec.h"
 #include "ReplacedFile.h"
 #include "SettingsBackup.h"
@@ -178,11 +178,10 @@ bool writesOneValue(QSettings& settings)
 
 bool refuse(const QString& path, const QString& reason, QString& error)
 {
-    error = QCoreApplication::translate("ZelControlCenter",
-                                        "Could not write the Torvane settings file \"%1\": %2")
-                .arg(path, reason);
-    announce("error", error);
-    return false;
+    return fail(QCoreApplication::translate("ZelControlCenter",
+                                            "Could not write the Torvane settings file \"%1\": %2")
+                    .arg(path, reason),
+                error);
 }
 
 bool write(QSettings& settings, QString& error)
@@ -246,11 +245,10 @@ bool ZelSettingsFile::IsUsable(const QString& path, QString& error)
         reason = QString::fromLocal8Bit(mishap.message().c_str());
     if (reason.isEmpty())
         return true;
-    error =
+    return fail(
         QCoreApplication::translate("ZelControlCenter", "Could not read the Torvane settings file \"%1\": %2")
-            .arg(path, reason);
-    announce("error", error);
-    return false;
+            .arg(path, reason),
+        error);
 }
 
 bool ZelSettingsFile::PrepareWriting(const QString& path, QString& error)

@@ -48,8 +48,7 @@ public:
     /// Repairs and completes the settings: every registered key holds a valid value afterwards. To be
     /// called by ZelSettingsFile::Repair: the toolkit writes the file at the end, and on its own it drops
     /// what it cannot read and does not tell whether it worked. False when a validator or an end check gave
-    /// up; the error text is then theirs. A validator that gives up leaves the keys after its own, and the
-    /// file, untouched.
+    /// up; the error text is then theirs. A validator that gives up leaves the keys after its own untouched.
     static bool EnsureSettings(QSettings& settings, QString& error);
 };
 

@@ -1,4 +1,4 @@
-#include "FileCopy.h"
+#include "FileTools.h"
 
 #include "Announcement.h"
 #include "ReplacedFile.h"
@@ -37,11 +37,10 @@ bool zel::copySettingsFile(const QString& path, const QString& copy, QString& er
     }
     // The toolkit tells what it could not do, but not why.
     const QString reason = mishapOfWritingBeside(copy, file.size());
-    error = QCoreApplication::translate("ZelControlCenter",
-                                        "Could not keep a copy of the Torvane settings file \"%1\": %2")
-                .arg(path, reason.isEmpty() ? file.errorString() : reason);
-    announce("error", error);
-    return false;
+    return fail(QCoreApplication::translate("ZelControlCenter",
+                                            "Could not keep a copy of the Torvane settings file \"%1\": %2")
+                    .arg(path, reason.isEmpty() ? file.errorString() : reason),
+                error);
 }
 
 bool zel::dropByteOrderMark(const QString& path)

@@ -1,6 +1,7 @@
 #ifndef ZEL_FILECOPY_H
 #define ZEL_FILECOPY_H
 
+#include <QByteArray>
 #include <QString>
 
 #include <filesystem>
