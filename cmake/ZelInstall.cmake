@@ -8,12 +8,11 @@ set(zel_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ZelControlCenter)
 get_property(zel_public_headers GLOBAL PROPERTY ZEL_PUBLIC_HEADERS)
 get_property(zel_platform_libraries GLOBAL PROPERTY ZEL_PLATFORM_LIBRARIES)
 file(GLOB zel_platform_headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/platform/*.h)
-# What only the host and the library need.
-list(REMOVE_ITEM zel_platform_headers ${PROJECT_SOURCE_DIR}/platform/ApplicationRoot.h
-                                      ${PROJECT_SOURCE_DIR}/platform/FileOwner.h)
 
 install(FILES ${zel_public_headers} DESTINATION include/zel COMPONENT headers)
 install(FILES ${zel_platform_headers} DESTINATION include/zel/platform COMPONENT headers)
+install(FILES ${PROJECT_SOURCE_DIR}/base/ZelExport.h ${PROJECT_SOURCE_DIR}/base/ZelQtCompat.h
+        DESTINATION include/zel/base COMPONENT headers)
 install(TARGETS torvane-settings RUNTIME DESTINATION bin)
 install(TARGETS ZelControlCenter ZelPlatform ${zel_platform_libraries} EXPORT ZelTargets
         RUNTIME DESTINATION bin LIBRARY DESTINATION lib ARCHIVE DESTINATION lib)

@@ -1,7 +1,8 @@
 #ifndef ZEL_ZELCCACTIONITEM_H
 #define ZEL_ZELCCACTIONITEM_H
 
-#include "platform/ZelExport.h"
+#include "base/ZelExport.h"
+
 #include "platform/zelAction.h"
 
 #include <QPointer>

@@ -7,8 +7,8 @@
 #include "ZelCCActionItem.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsPanel.h"
+#include "base/ZelQtCompat.h"
 
-#include "platform/ZelQtCompat.h"
 #include "platform/kqDMGuiPlugin.h"
 #include "platform/kqDMIApplication.h"
 #include "platform/kqMessageBox.h"

@@ -4,8 +4,7 @@
 #include "ZelSettingsCatalogue.h"
 #include "ZelSettingsRegistry.h"
 #include "ZelSettingsValidators.h"
-
-#include "platform/ZelExport.h"
+#include "base/ZelExport.h"
 
 #include <QElapsedTimer>
 #include <QList>

@@ -1,7 +1,7 @@
 #ifndef ZEL_ZELSETTINGSPANEL_H
 #define ZEL_ZELSETTINGSPANEL_H
 
-#include "platform/ZelExport.h"
+#include "base/ZelExport.h"
 
 #include <QPointer>
 #include <QPushButton>

@@ -2,8 +2,7 @@
 #define ZEL_ZELSPINBOX_H
 
 #include "WheelGuard.h"
-
-#include "platform/ZelExport.h"
+#include "base/ZelExport.h"
 
 #include <QSpinBox>
 

@@ -1,7 +1,7 @@
 #ifndef ZEL_ZELRENDERERSELECTOR_H
 #define ZEL_ZELRENDERERSELECTOR_H
 
-#include "platform/ZelExport.h"
+#include "base/ZelExport.h"
 
 #include <QDialog>
 

@@ -2,8 +2,7 @@
 #define ZEL_ZELRENDERERSETTINGSPANEL_H
 
 #include "ZelEditablePanel.h"
-
-#include "platform/ZelExport.h"
+#include "base/ZelExport.h"
 
 #include <memory>
 

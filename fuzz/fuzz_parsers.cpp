@@ -4,8 +4,8 @@
 #include "NumberText.h"
 #include "SceneUnits.h"
 #include "ZelSettingsValidators.h"
+#include "base/ZelQtCompat.h"
 
-#include "platform/ZelQtCompat.h"
 #include "platform/kqDMManager.h"
 
 #include <QStringList>

@@ -1,6 +1,5 @@
+#include "base/ApplicationRoot.h"
 #include "launch.h"
-
-#include "platform/ApplicationRoot.h"
 
 #include <cstdio>
 

@@ -2,8 +2,7 @@
 #define ZEL_ZELABOUTSETTINGSPANEL_H
 
 #include "ZelSettingsPanel.h"
-
-#include "platform/ZelExport.h"
+#include "base/ZelExport.h"
 
 #include <memory>
 

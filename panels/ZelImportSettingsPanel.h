@@ -2,8 +2,7 @@
 #define ZEL_ZELIMPORTSETTINGSPANEL_H
 
 #include "ZelEditablePanel.h"
-
-#include "platform/ZelExport.h"
+#include "base/ZelExport.h"
 
 #include <array>
 #include <memory>

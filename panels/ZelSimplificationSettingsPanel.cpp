@@ -5,8 +5,8 @@
 #include "NumberText.h"
 #include "SettingsKeys.h"
 #include "SignalBlock.h"
+#include "base/ZelQtCompat.h"
 
-#include "platform/ZelQtCompat.h"
 #include "platform/kqDMIApplication.h"
 #include "platform/kqDMManager.h"
 

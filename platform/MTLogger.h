@@ -1,7 +1,7 @@
 #ifndef ZEL_MTLOGGER_H
 #define ZEL_MTLOGGER_H
 
-#include "ZelExport.h"
+#include "../base/ZelExport.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #ifndef ZEL_ZELDIRECTORY_H
 #define ZEL_ZELDIRECTORY_H
 
-#include "ZelExport.h"
+#include "../base/ZelExport.h"
 
 #include <string>
 

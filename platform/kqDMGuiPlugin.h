@@ -1,7 +1,7 @@
 #ifndef ZEL_KQDMGUIPLUGIN_H
 #define ZEL_KQDMGUIPLUGIN_H
 
-#include "ZelExport.h"
+#include "../base/ZelExport.h"
 
 class QWidget;
 

@@ -1,7 +1,7 @@
 #ifndef ZEL_KQDMIAPPLICATION_H
 #define ZEL_KQDMIAPPLICATION_H
 
-#include "ZelExport.h"
+#include "../base/ZelExport.h"
 
 #include <QObject>
 #include <QString>

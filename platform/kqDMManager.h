@@ -1,7 +1,7 @@
 #ifndef ZEL_KQDMMANAGER_H
 #define ZEL_KQDMMANAGER_H
 
-#include "ZelExport.h"
+#include "../base/ZelExport.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 #ifndef ZEL_KQDMPLUGIN_H
 #define ZEL_KQDMPLUGIN_H
 
-#include "ZelExport.h"
+#include "../base/ZelExport.h"
 
 #include <QString>
 

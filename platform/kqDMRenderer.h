@@ -1,7 +1,7 @@
 #ifndef ZEL_KQDMRENDERER_H
 #define ZEL_KQDMRENDERER_H
 
-#include "ZelExport.h"
+#include "../base/ZelExport.h"
 
 #include <QString>
 

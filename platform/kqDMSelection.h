@@ -1,7 +1,7 @@
 #ifndef ZEL_KQDMSELECTION_H
 #define ZEL_KQDMSELECTION_H
 
-#include "ZelExport.h"
+#include "../base/ZelExport.h"
 #include "kqDMIApplication.h"
 
 #include <QObject>

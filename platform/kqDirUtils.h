@@ -1,7 +1,7 @@
 #ifndef ZEL_KQDIRUTILS_H
 #define ZEL_KQDIRUTILS_H
 
-#include "ZelExport.h"
+#include "../base/ZelExport.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #ifndef ZEL_KQLIBRARIES_H
 #define ZEL_KQLIBRARIES_H
 
-#include "ZelExport.h"
+#include "../base/ZelExport.h"
 
 // Start and stop of the viewer's libraries. Each is started once, before anything else of it is used, and
 // stopped in reverse order.

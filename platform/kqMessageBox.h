@@ -1,7 +1,7 @@
 #ifndef ZEL_KQMESSAGEBOX_H
 #define ZEL_KQMESSAGEBOX_H
 
-#include "ZelExport.h"
+#include "../base/ZelExport.h"
 
 #include <QMap>
 #include <QMessageBox>

@@ -1,7 +1,7 @@
 #ifndef ZEL_KQMOVABLEOBJECT_H
 #define ZEL_KQMOVABLEOBJECT_H
 
-#include "ZelExport.h"
+#include "../base/ZelExport.h"
 
 #include <QObject>
 #include <QPoint>

@@ -1,7 +1,7 @@
 #ifndef ZEL_KQSYSTEMUTILS_H
 #define ZEL_KQSYSTEMUTILS_H
 
-#include "ZelExport.h"
+#include "../base/ZelExport.h"
 
 #include <string>
 

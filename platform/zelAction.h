@@ -1,7 +1,7 @@
 #ifndef ZEL_ZELACTION_H
 #define ZEL_ZELACTION_H
 
-#include "ZelExport.h"
+#include "../base/ZelExport.h"
 
 #include <QAction>
 #include <QPointer>

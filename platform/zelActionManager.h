@@ -1,7 +1,7 @@
 #ifndef ZEL_ZELACTIONMANAGER_H
 #define ZEL_ZELACTIONMANAGER_H
 
-#include "ZelExport.h"
+#include "../base/ZelExport.h"
 
 #include <QMap>
 #include <QObject>

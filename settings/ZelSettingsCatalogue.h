@@ -1,7 +1,7 @@
 #ifndef ZEL_ZELSETTINGSCATALOGUE_H
 #define ZEL_ZELSETTINGSCATALOGUE_H
 
-#include "platform/ZelExport.h"
+#include "base/ZelExport.h"
 
 #include <QString>
 

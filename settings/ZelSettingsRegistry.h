@@ -1,7 +1,7 @@
 #ifndef ZEL_ZELSETTINGSREGISTRY_H
 #define ZEL_ZELSETTINGSREGISTRY_H
 
-#include "platform/ZelExport.h"
+#include "base/ZelExport.h"
 
 #include <QString>
 

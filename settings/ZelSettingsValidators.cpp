@@ -4,8 +4,8 @@
 #include "NumberText.h"
 #include "SceneUnits.h"
 #include "SettingsKeys.h"
+#include "base/ZelQtCompat.h"
 
-#include "platform/ZelQtCompat.h"
 #include "platform/kqDMManager.h"
 #include "platform/kqDMRenderer.h"
 

@@ -1,7 +1,7 @@
 #ifndef ZEL_ZELSETTINGSVALIDATORS_H
 #define ZEL_ZELSETTINGSVALIDATORS_H
 
-#include "platform/ZelExport.h"
+#include "base/ZelExport.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 #ifndef ZEL_VERSION_H
 #define ZEL_VERSION_H
 
-#include "platform/ZelExport.h"
+#include "base/ZelExport.h"
 
 #include <QtGlobal>
 

@@ -1,7 +1,7 @@
 #ifndef ZEL_ZELCONTROLCENTERSTANDALONEWIDGET_H
 #define ZEL_ZELCONTROLCENTERSTANDALONEWIDGET_H
 
-#include "platform/ZelExport.h"
+#include "base/ZelExport.h"
 
 #include <QWidget>
 

@@ -1,7 +1,8 @@
 #ifndef ZEL_ZELSETTINGSAPPLICATION_H
 #define ZEL_ZELSETTINGSAPPLICATION_H
 
-#include "platform/ZelExport.h"
+#include "base/ZelExport.h"
+
 #include "platform/kqDMIApplication.h"
 #include "platform/kqDMSelection.h"
 

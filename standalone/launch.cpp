@@ -7,9 +7,9 @@
 #include "ZelRendererSelector.h"
 #include "ZelSettingsApplication.h"
 #include "ZelSettingsFile.h"
+#include "base/ZelQtCompat.h"
 
 #include "platform/MTLogger.h"
-#include "platform/ZelQtCompat.h"
 #include "platform/kqDMIApplication.h"
 #include "platform/kqDirUtils.h"
 #include "platform/kqLibraries.h"

@@ -1,7 +1,7 @@
 #ifndef ZEL_LAUNCH_H
 #define ZEL_LAUNCH_H
 
-#include "platform/ZelExport.h"
+#include "base/ZelExport.h"
 
 /// Runs the stand-alone settings editor with the command line of its host, whose working folder must be the
 /// root of the installed tree. Returns the exit code of the process: 0 when another instance runs, when the

@@ -13,8 +13,8 @@
 #include <zel/SettingsKeys.h>
 #include <zel/ZelControlCenter.h>
 #include <zel/ZelSettingsFile.h>
+#include <zel/base/ZelQtCompat.h>
 #include <zel/platform/MTLogger.h>
-#include <zel/platform/ZelQtCompat.h>
 #include <zel/platform/kqDirUtils.h>
 #include <zel/platform/kqLibraries.h>
 

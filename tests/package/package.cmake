@@ -45,7 +45,8 @@ endforeach()
 
 # Every public header compiles on its own; both ways to name it find it.
 file(GLOB headers RELATIVE ${SCRATCH}/moved/include/zel
-     ${SCRATCH}/moved/include/zel/*.h ${SCRATCH}/moved/include/zel/platform/*.h)
+     ${SCRATCH}/moved/include/zel/*.h ${SCRATCH}/moved/include/zel/platform/*.h
+     ${SCRATCH}/moved/include/zel/base/*.h)
 set(sources "")
 foreach(header IN LISTS headers)
     string(REGEX REPLACE "[/.]" "_" name ${header})

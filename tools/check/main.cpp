@@ -7,8 +7,8 @@
 #include "ZelSettingsCatalogue.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsRegistry.h"
+#include "base/ZelQtCompat.h"
 
-#include "platform/ZelQtCompat.h"
 #include "platform/kqLibraries.h"
 
 #include <QCoreApplication>

@@ -2,8 +2,7 @@
 
 #include "Announcement.h"
 #include "FileTools.h"
-
-#include "platform/FileOwner.h"
+#include "base/FileOwner.h"
 
 #include <QFileInfo>
 #include <QTemporaryFile>

@@ -1,7 +1,7 @@
 #ifndef ZEL_ZELSETTINGSFILE_H
 #define ZEL_ZELSETTINGSFILE_H
 
-#include "platform/ZelExport.h"
+#include "base/ZelExport.h"
 
 #include <QString>
 

@@ -7,8 +7,7 @@
 #include "SettingsBackup.h"
 #include "UnfinishedWrite.h"
 #include "ZelSettingsRegistry.h"
-
-#include "platform/ZelQtCompat.h"
+#include "base/ZelQtCompat.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
