@@ -590,6 +590,7 @@ kqDMGuiPlugin* ZelControlCenter::guiPlugin() const
 void ZelControlCenter::showWriteError(const QString& error)
 {
     m_ui->writeErrorLabel->setText(error);
+    m_ui->writeErrorLabel->setToolTip(error); // The column may be too narrow for a long path.
     m_ui->writeErrorLabel->setVisible(!error.isEmpty());
     if (!error.isEmpty())
         alertScreenReaders(*m_ui->writeErrorLabel);
