@@ -1,5 +1,7 @@
 #include "NumberText.h"
 
+#include <QStringList>
+
 #include <cmath>
 
 bool zel::parseFloat(const QString& text, float& number)
@@ -12,4 +14,12 @@ bool zel::parseFloat(const QString& text, float& number)
 QString zel::numberText(double number)
 {
     return QString::number(number, 'g', 6);
+}
+
+QString zel::ratiosText(const std::vector<float>& ratios)
+{
+    QStringList parts;
+    for (const float ratio : ratios)
+        parts << numberText(static_cast<double>(ratio));
+    return parts.join("/");
 }

@@ -100,14 +100,6 @@ std::vector<float> parseRatios(const QString& text)
     return ratios;
 }
 
-QString ratiosText(const std::vector<float>& ratios)
-{
-    QStringList parts;
-    std::transform(ratios.begin(), ratios.end(), std::back_inserter(parts),
-                   [](float ratio) { return numberText(double(ratio)); });
-    return parts.join("/");
-}
-
 bool ensureRatios(const QString& defaultValue, QString& value)
 {
     std::vector<float> ratios = parseRatios(value);
