@@ -34,6 +34,8 @@ static void cleanupResources()
     Q_CLEANUP_RESOURCE(ZelControlCenter);
 }
 
+namespace zel {
+
 namespace {
 
 const int SlideDuration = 350;   // ms
@@ -65,8 +67,6 @@ void styleAll(QWidget& tree)
 }
 
 } // namespace
-
-namespace zel {
 
 ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* parent, Qt::WindowFlags flags)
     : QWidget(parent, flags)

@@ -18,7 +18,7 @@ namespace zel {
 
 namespace {
 
-typedef std::vector<float> Ratios;
+using Ratios = std::vector<float>;
 
 const int FirstEditableLevel = 2;
 const int LastLevel = 5;
@@ -147,7 +147,7 @@ void ZelSimplificationSettingsPanel::getCurrentModel(SimplificationModel& model)
 {
     model.ratios.clear();
     for (const zelDoubleSpinBox* box : m_percentages)
-        model.ratios.push_back(float(box->value()) / 100);
+        model.ratios.push_back(static_cast<float>(box->value()) / 100);
 }
 
 void ZelSimplificationSettingsPanel::applyModel(const SimplificationModel& model)
@@ -168,7 +168,7 @@ void ZelSimplificationSettingsPanel::pushToApplication()
 
 void ZelSimplificationSettingsPanel::notifyStateChanged()
 {
-    emit stateChanged();
+    Q_EMIT stateChanged();
 }
 
 void ZelSimplificationSettingsPanel::setRatios()

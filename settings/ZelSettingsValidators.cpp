@@ -25,7 +25,7 @@ namespace zel {
 
 namespace {
 
-const quint64 MiB = quint64(1024) * 1024;
+const quint64 MiB = 1024 * 1024;
 const quint64 MaximumMemory = 8096 * MiB;
 const std::size_t RatioCount = 5;
 
@@ -66,8 +66,7 @@ bool clampInteger(int minimum, int maximum, const QString& defaultValue, QString
 bool clampFloat(float minimum, float maximum, const QString& defaultValue, QString& value)
 {
     float number = 0.F;
-    value =
-        parseFloat(value, number) ? numberText(double(std::clamp(number, minimum, maximum))) : defaultValue;
+    value = parseFloat(value, number) ? numberText(std::clamp(number, minimum, maximum)) : defaultValue;
     return true;
 }
 
@@ -262,7 +261,7 @@ bool ZelSettingsValidators::ensureSceneUnit(const QString&, const QString& defau
 {
     float factor = 0.F;
     const int unit = parseFloat(value, factor) ? sceneUnitIndex(factor) : -1;
-    value = unit < 0 ? defaultValue : numberText(double(SceneUnitFactors[unit]));
+    value = unit < 0 ? defaultValue : numberText(SceneUnitFactors[unit]);
     return true;
 }
 
