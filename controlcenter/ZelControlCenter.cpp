@@ -2,6 +2,7 @@
 
 #include "ui_ControlCenter.h"
 
+#include "DrawerLayout.h"
 #include "EnableButton.h"
 #include "StyleSheetPause.h"
 #include "ZelCCActionItem.h"
@@ -35,6 +36,8 @@ static void cleanupResources()
     Q_CLEANUP_RESOURCE(ZelControlCenter);
 }
 
+namespace zel {
+
 namespace {
 
 const int SlideDuration = 350;   // ms
@@ -67,8 +70,6 @@ void styleAll(QWidget& tree)
 
 } // namespace
 
-namespace zel {
-
 ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* parent, Qt::WindowFlags flags)
     : QWidget(parent, flags)
     , m_ui(new Ui::ControlCenter)
@@ -83,6 +84,7 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     setStyleSheet(kqDMIApplication::GetStylesheet("ZelControlCenter"));
     setObjectName("ZelControlCenter");
     m_ui->verticalLayout->setAlignment(Qt::AlignTop);
+    m_ui->verticalLayout_4 = m_drawerLayout = new DrawerLayout(m_ui->verticalLayout_4);
     // The sliding menu uncovers its buttons instead of squeezing them.
     m_ui->mainPanel->setMinimumWidth(MenuWidth);
 
@@ -279,7 +281,7 @@ void ZelControlCenter::setSettingsWidth(int width)
     m_drawer->setFixedWidth(width);
     const QScrollBar* scrollBar = m_drawer->verticalScrollBar();
     const int barWidth = scrollBar->isVisible() ? scrollBar->width() : 0;
-    m_ui->verticalLayout_4->setLeastWidth(DrawerWidth - barWidth);
+    m_drawerLayout->setLeastWidth(DrawerWidth - barWidth);
     m_ui->settingsContent->setFixedWidth(std::max(width - barWidth, 0));
     // Nothing has scrolled yet, so the page in view is marked as soon as it can be seen.
     if (m_settingsAnimation->state() == QAbstractAnimation::Running &&

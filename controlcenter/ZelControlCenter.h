@@ -32,6 +32,7 @@ class ControlCenter;
 
 namespace zel {
 
+class DrawerLayout;
 class ZelCCActionItem;
 class ZelSettingsPanel;
 
@@ -187,6 +188,7 @@ private:
     QPointer<QPushButton> m_controlCenterButton;
     QButtonGroup* const m_pageGroup;
     QPointer<QScrollArea> m_drawer;
+    DrawerLayout* m_drawerLayout;
     QPropertyAnimation* m_widthAnimation;
     QPropertyAnimation* m_settingsAnimation;
     QPropertyAnimation* m_scrollAnimation;

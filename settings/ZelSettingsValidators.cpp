@@ -26,7 +26,7 @@ namespace zel {
 
 namespace {
 
-const quint64 MiB = quint64(1024) * 1024;
+const quint64 MiB = 1024 * 1024;
 const quint64 MaximumMemory = 8096 * MiB;
 const std::size_t RatioCount = 5;
 
@@ -125,14 +125,6 @@ std::vector<float> parseRatios(const QString& text)
             ratios.push_back(ratio);
     }
     return ratios;
-}
-
-QString ratiosText(const std::vector<float>& ratios)
-{
-    QStringList parts;
-    std::transform(ratios.begin(), ratios.end(), std::back_inserter(parts),
-                   [](float ratio) { return numberText(double(ratio)); });
-    return parts.join("/");
 }
 
 bool ensureRatios(const QString& defaultValue, QString& value)

@@ -13,7 +13,7 @@ namespace zel {
 class ZEL_EXPORT ZelSettingsValidators
 {
 public:
-    typedef bool Validate(const QString& key, const QString& defaultValue, QString& value, QString& error);
+    using Validate = bool(const QString& key, const QString& defaultValue, QString& value, QString& error);
 
     /// Normalises a folder path: every "\" becomes "/", then one trailing "/" is dropped.
     static void CleanupFolder(QString& path);

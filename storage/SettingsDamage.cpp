@@ -33,7 +33,7 @@ bool isBlank(char character)
 int lineEnd(const QByteArray& text, int begin)
 {
     const auto isEnd = [](char character) { return character == '\n' || character == '\r'; };
-    return int(std::find_if(text.begin() + begin, text.end(), isEnd) - text.begin());
+    return static_cast<int>(std::find_if(text.begin() + begin, text.end(), isEnd) - text.begin());
 }
 
 /// The first character that is no blank; 0 when there is none.

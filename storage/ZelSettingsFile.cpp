@@ -36,7 +36,7 @@ namespace zel {
 
 namespace {
 
-typedef std::filesystem::file_time_type FileTime;
+using FileTime = std::filesystem::file_time_type;
 
 const std::chrono::milliseconds RetryPause(50);
 
