@@ -49,6 +49,20 @@ QMessageBox::StandardButton showMessage(const QString& text, QMessageBox::Standa
                                      QMap<QMessageBox::StandardButton, QString>(), false);
 }
 
+/// Marks the button of a page that has pending edits. The mark keeps its place while there are none.
+void markPending(QPushButton& button, bool pending)
+{
+    const QString tip = pending ? QCoreApplication::translate("ZelControlCenter",
+                                                              "This page has changes that are not applied.")
+                                : QCoreApplication::translate("ZelControlCenter", "Shows this page.");
+    if (button.toolTip() == tip)
+        return;
+    button.setIcon(QIcon(pending ? ":/controlCenter/controlCenter/pending.png"
+                                 : ":/controlCenter/controlCenter/pendingNone.png"));
+    button.setToolTip(tip);
+    button.setAccessibleDescription(tip);
+}
+
 /// Styles a widget and all its descendants. A combo box, for one, learns only from a change which kind of
 /// list it is to open.
 void styleAll(QWidget& tree)
@@ -448,7 +462,14 @@ void ZelControlCenter::onStateChanged()
     enableButton(*m_ui->resetButton,
                  std::any_of(m_panels.begin(), m_panels.end(),
                              [](const ZelSettingsPanel* panel) { return panel->canResetContent(); }));
-    enableButton(*m_ui->applyButton, hasModifications());
+    bool modified = false;
+    for (ZelSettingsPanel* panel : m_panels) {
+        const bool pending = panel->hasModifications();
+        markPending(*panel->getActionWidget(), pending);
+        modified = modified || pending;
+    }
+    enableButton(*m_ui->applyButton, modified);
+    emit evaluated();
 }
 
 void ZelControlCenter::onControlCenterWidthFinished()

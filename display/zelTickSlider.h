@@ -17,6 +17,9 @@ class zelTickSlider : public WheelGuard<QSlider>
 public:
     explicit zelTickSlider(QWidget* parent = nullptr);
 
+    /// What the value means, for those who cannot see the label beside the slider.
+    void setValueText(const QString& text);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 

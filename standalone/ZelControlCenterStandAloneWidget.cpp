@@ -55,6 +55,8 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
     m_panels.push_back(createPanel<ZelAboutSettingsPanel>(application));
     for (const auto& panel : m_panels)
         m_controlCenter->registerSettingsPanel(panel.get());
+    m_ui->helpArea->follow(m_controlCenter->settingsWidget());
+    connect(m_controlCenter.get(), SIGNAL(evaluated()), m_ui->helpArea, SLOT(refresh()));
 }
 
 ZelControlCenterStandAloneWidget::~ZelControlCenterStandAloneWidget()
