@@ -97,6 +97,13 @@ private:
     QSlider* const m_slider;
 };
 
+/// Setting up a form already makes interfaces, which are kept.
+void forgetInterface(QWidget& widget)
+{
+    QAccessibleInterface* kept = QAccessible::queryAccessibleInterface(&widget);
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(kept));
+}
+
 void tellValue(QWidget& widget)
 {
     QAccessibleEvent event(&widget, QAccessible::DescriptionChanged);
@@ -138,6 +145,10 @@ public:
     }
 };
 
+void forgetInterface(QWidget&)
+{
+}
+
 void tellValue(QWidget& widget)
 {
     QAccessible::updateAccessibility(&widget, 0, QAccessible::ValueChanged);
@@ -169,6 +180,8 @@ struct Factory
 void announce(QWidget& widget, const char* property, const QVariant& value)
 {
     static const Factory factory;
+    if (!widget.property(property).isValid())
+        forgetInterface(widget);
     widget.setProperty(property, value);
 }
 

@@ -35,7 +35,7 @@ QString ZelSettingHelp::summary() const
     QStringList parts(description);
     if (!range.isEmpty())
         parts << translated(QT_TRANSLATE_NOOP("ZelPageHelp", "Range: %1.")).arg(range);
-    if (!byDefault().isNull())
+    if (!byDefault().isEmpty())
         parts << translated(QT_TRANSLATE_NOOP("ZelPageHelp", "Default: %1.")).arg(byDefault());
     parts << translated(QT_TRANSLATE_NOOP("ZelPageHelp", "Takes effect: %1.")).arg(effect);
     return parts.join(" ");
@@ -110,7 +110,10 @@ QString ZelPageHelp::choiceText(const QList<QWidget*>& buttons)
 
 bool ZelPageHelp::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Enter || event->type() == QEvent::FocusIn)
+    const QEvent::Type type = event->type();
+    // Under a pointer that rests while the page scrolls, a field learns only from the tool tip that it is
+    // reached.
+    if (type == QEvent::Enter || type == QEvent::FocusIn || type == QEvent::ToolTip)
         emit reached(m_fields.value(watched));
     return false;
 }

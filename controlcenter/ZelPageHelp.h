@@ -29,7 +29,7 @@ struct ZelSettingHelp
     QString range;                            ///< Empty when there is none to tell.
     QString effect;                           ///< When an applied edit counts.
     bool tipIsValue;                          ///< The fields need their tool tips for their values.
-    std::function<QString()> byDefault;       ///< As a field would show it; null without a default.
+    std::function<QString()> byDefault;       ///< As a field would show it; empty without a default.
     std::function<QString()> stored;          ///< As a field would show it.
     std::function<bool()> differsFromDefault; ///< False also without a default.
     std::function<bool()> differsFromStored;

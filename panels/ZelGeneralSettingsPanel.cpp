@@ -165,11 +165,10 @@ void ZelGeneralSettingsPanel::elideText()
         // A button without a text must still say what a click does.
         const bool unset = button->toolTip().isEmpty();
         button->setIcon(unset ? QIcon(":/controlCenter/controlCenter/folder.png") : QIcon());
-        const QString description = button->statusTip();
-        button->setAccessibleDescription(
-            unset ? QCoreApplication::translate("ZelGeneralSettingsPanel", "No folder is set.") + ' ' +
-                        description
-                  : description);
+        const QString folder =
+            unset ? QCoreApplication::translate("ZelGeneralSettingsPanel", "No folder is set.")
+                  : button->toolTip();
+        button->setAccessibleDescription(folder + ' ' + button->statusTip());
     }
 }
 

@@ -25,6 +25,11 @@ ZelEditablePanel<ImportModel>::Fields importFields()
     };
 }
 
+QString ownChoiceText()
+{
+    return QCoreApplication::translate("ZelImportSettingsPanel", "chosen by Torvane");
+}
+
 // A choice is a switch and the value that matters while it is on.
 template <class T>
 bool sameChoice(const ImportModel& left, const ImportModel& right, bool ImportModel::*set,
@@ -71,7 +76,7 @@ ZelImportSettingsPanel::ZelImportSettingsPanel(kqDMIApplication* application, QS
           {keys::TessellationQualitySet, keys::TessellationHighQuality},
           [this](const ImportModel& model) {
               const QRadioButton* chosen = model.isHighQuality ? m_ui->highQuality : m_ui->lowQuality;
-              return (model.qualitySet ? chosen : m_ui->defaultQuality)->text();
+              return model.qualitySet ? chosen->text() : ownChoiceText();
           }},
          limitHelp(Sag, m_ui->faceSagSpin, &ImportModel::maxFaceSag,
                    QT_TRANSLATE_NOOP("ZelImportSettingsPanel",
@@ -195,7 +200,7 @@ ZelImportSettingsPanel::limitHelp(int index, const Box* box, Value ImportModel::
     help.effect = EffectWithNextImport;
     help.keys = keys;
     help.shown = [limit, box, value](const ImportModel& model) {
-        return model.*limit.set ? box->shownText(model.*value) : limit.byDefault->text();
+        return model.*limit.set ? box->shownText(model.*value) : ownChoiceText();
     };
     return help;
 }
