@@ -64,13 +64,13 @@ void ViewerSettings::Register(const QString& applicationName, const QString& fol
     for (const auto& setting : settings)
         Rules::RegisterSetting(setting.key, setting.defaultText, setting.validator);
 
-    // What the library's pages edit.
-    QSettings defaults(VIEWER_DEFAULTS, QSettings::IniFormat);
-    zel::ZelSettingsFile::UseFileEncoding(defaults);
-    zel::ZelPageDefaults::Register(defaults);
-
     // Before the library's own keys, because the first registration of a key wins.
     Rules::RegisterSetting(keys::CacheSize, "1024", &Rules::ensureCacheSize);
     Rules::InitDefaultSettingsValues(applicationName);
     Rules::RegisterEndCheckFunction(&foldersDiffer);
+
+    // What the library's pages edit.
+    QSettings defaults(VIEWER_DEFAULTS, QSettings::IniFormat);
+    zel::ZelSettingsFile::UseFileEncoding(defaults);
+    zel::ZelPageDefaults::Register(defaults);
 }
