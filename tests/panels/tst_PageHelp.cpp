@@ -115,6 +115,13 @@ private Q_SLOTS:
         const QRect drawer = m_window->findChild<ZelControlCenter*>()->settingsWidget()->geometry();
         m_window->resize(800, 600);
         QVERIFY(!find("helpFrame")->isVisible());
+        find("databaseSpinBox")->setFocus();
+        find<ZelHelpArea>("helpArea")->showHelpOfFocusedField();
+        const auto boxes = QApplication::topLevelWidgets();
+        QVERIFY(std::any_of(boxes.begin(), boxes.end(), [](const QWidget* box) {
+            return box->inherits("QWhatsThat") && box->isVisible();
+        }));
+        QWhatsThis::hideText();
         QCOMPARE(m_window->findChild<ZelControlCenter*>()->settingsWidget()->geometry().x(), drawer.x());
         QCOMPARE(m_window->width(), 800);
     }
