@@ -8,7 +8,7 @@
 #include "ZelCCActionItem.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsPanel.h"
-#include "base/Accessibility.h"
+#include "base/ZelAccessibility.h"
 #include "base/ZelQtCompat.h"
 
 #include "platform/kqDMGuiPlugin.h"
@@ -52,6 +52,20 @@ QMessageBox::StandardButton showMessage(const QString& text, QMessageBox::Standa
     return kqMessageBox::ShowMessage(QCoreApplication::translate("ZelControlCenter", "Settings Modification"),
                                      text, buttons, nullptr, Qt::WindowFlags(),
                                      QMap<QMessageBox::StandardButton, QString>(), false);
+}
+
+/// Marks the button of a page that has pending edits. The mark keeps its place while there are none.
+void markPending(QPushButton& button, bool pending)
+{
+    const QString tip = pending ? QCoreApplication::translate("ZelControlCenter",
+                                                              "This page has changes that are not applied.")
+                                : QCoreApplication::translate("ZelControlCenter", "Shows this page.");
+    if (button.toolTip() == tip)
+        return;
+    button.setIcon(QIcon(pending ? ":/controlCenter/controlCenter/pending.png"
+                                 : ":/controlCenter/controlCenter/pendingNone.png"));
+    button.setToolTip(tip);
+    button.setAccessibleDescription(tip);
 }
 
 /// Styles a widget and all its descendants. A combo box, for one, learns only from a change which kind of
@@ -468,7 +482,14 @@ void ZelControlCenter::onStateChanged()
     enableButton(*m_ui->resetButton,
                  std::any_of(m_panels.begin(), m_panels.end(),
                              [](const ZelSettingsPanel* panel) { return panel->canResetContent(); }));
-    enableButton(*m_ui->applyButton, hasModifications());
+    bool modified = false;
+    for (ZelSettingsPanel* panel : m_panels) {
+        const bool pending = panel->hasModifications();
+        markPending(*panel->getActionWidget(), pending);
+        modified = modified || pending;
+    }
+    enableButton(*m_ui->applyButton, modified);
+    emit evaluated();
 }
 
 void ZelControlCenter::onControlCenterWidthFinished()
@@ -632,7 +653,7 @@ void ZelControlCenter::showWriteError(const QString& error)
     m_ui->writeErrorLabel->setToolTip(error); // The column may be too narrow for a long path.
     m_ui->writeErrorLabel->setVisible(!error.isEmpty());
     if (!error.isEmpty())
-        alertScreenReaders(*m_ui->writeErrorLabel);
+        alertAbout(*m_ui->writeErrorLabel);
 }
 
 void ZelControlCenter::initializePanels()

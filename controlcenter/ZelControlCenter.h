@@ -121,11 +121,16 @@ public Q_SLOTS:
     /// Toggles the drawer.
     void openSettings();
 
+Q_SIGNALS:
+    /// What is stored, or what the pages show, may have changed: an edit, Apply, Reset, or a page that came
+    /// or went.
+    void evaluated();
+
 protected Q_SLOTS:
     void on_applyButton_clicked();
     void on_resetButton_clicked();
     void onPanelClicked(const QString& pPanelName);
-    /// Re-evaluates the Apply and Reset buttons.
+    /// Re-evaluates the Apply and Reset buttons and the marks of the pages.
     void onStateChanged();
     void onControlCenterWidthFinished();
     void onSettingsWidthFinished();

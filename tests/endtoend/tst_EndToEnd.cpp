@@ -143,6 +143,15 @@ private Q_SLOTS:
         }
     }
 
+    void closesUntouchedWithoutAQuestion()
+    {
+        Editor editor(m_desktop, m_home);
+        QVERIFY(opensWindow(editor));
+        editor.act(Close);
+        QCOMPARE(editor.exitCode(), 0);
+        QCOMPARE(stored(), completed({}));
+    }
+
     void appliesAndDiscardsEdits()
     {
         Editor editor(m_desktop, m_home);
@@ -260,6 +269,14 @@ private:
                              "enablediag=false",
                              "engine=deferred",
                              "settingsVersion=2"};
+        // The editor runs in the tree that it was staged in, with the defaults that lie there.
+        const QFileInfo editor(TORVANE_SETTINGS);
+        const QSettings defaults(editor.path() + "/../resources/Defaults.ini", QSettings::IniFormat);
+        for (const QString& key : defaults.allKeys())
+            lines << key + '=' + defaults.value(key).toString();
+        const QString cores = "raytracer/coreNumber=%1";
+        lines.replaceInStrings(QRegularExpression("^raytracer/coreNumber=.*"),
+                               cores.arg(QThread::idealThreadCount()));
         for (const QString& other : others)
             lines = lines.filter(QRegularExpression("^(?!" + other.section('=', 0, 0) + "=)")) << other;
         lines.sort();

@@ -37,6 +37,7 @@ private Q_SLOTS:
         QScrollArea* drawer = m_window.findChild<zel::ZelControlCenter*>()->settingsWidget();
         const QScrollBar* bar = drawer->verticalScrollBar();
         QSet<QString> turned;
+        m_window.findChild<QCheckBox*>("deferredSSAOCheckBox")->setChecked(true); // Enables the scene units.
         for (const char* engine : {"raytracerButton", "deferredButton"}) {
             m_window.findChild<QRadioButton*>(engine)->click();
             for (QWidget* field : m_window.findChildren<QWidget*>()) {
