@@ -485,11 +485,12 @@ void ZelControlCenter::onStateChanged()
     bool modified = false;
     for (ZelSettingsPanel* panel : m_panels) {
         const bool pending = panel->hasModifications();
-        markPending(*panel->getActionWidget(), pending);
+        if (QPushButton* button = panel->getActionWidget())
+            markPending(*button, pending);
         modified = modified || pending;
     }
     enableButton(*m_ui->applyButton, modified);
-    emit evaluated();
+    Q_EMIT evaluated();
 }
 
 void ZelControlCenter::onControlCenterWidthFinished()

@@ -114,7 +114,7 @@ bool ZelPageHelp::eventFilter(QObject* watched, QEvent* event)
     // Under a pointer that rests while the page scrolls, a field learns only from the tool tip that it is
     // reached.
     if (type == QEvent::Enter || type == QEvent::FocusIn || type == QEvent::ToolTip)
-        emit reached(m_fields.value(watched));
+        Q_EMIT reached(m_fields.value(watched));
     return false;
 }
 
