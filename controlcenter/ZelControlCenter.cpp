@@ -2,7 +2,9 @@
 
 #include "ui_ControlCenter.h"
 
+#include "ControlCenterActions.h"
 #include "EnableButton.h"
+#include "ReturnKey.h"
 #include "StyleSheetPause.h"
 #include "ZelCCActionItem.h"
 #include "ZelSettingsFile.h"
@@ -107,6 +109,11 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
 
     // The scroll area itself follows the focus only within it.
     connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
+
+    new ReturnKey(this);
+    new ReturnKey(m_drawer);
+    connect(new ControlCenterActions(this, m_drawer, m_ui->applyButton, m_ui->resetButton),
+            SIGNAL(helpRequested(QWidget*)), this, SIGNAL(helpRequested(QWidget*)));
 
     m_pageGroup->setExclusive(true);
     openMenu(false);
@@ -248,6 +255,11 @@ void ZelControlCenter::setControlCenterButton(QPushButton* button)
 QScrollArea* ZelControlCenter::settingsWidget() const
 {
     return m_drawer;
+}
+
+int ZelControlCenter::OpenWidth()
+{
+    return MenuWidth + DrawerWidth;
 }
 
 int ZelControlCenter::controlCenterWidth() const
@@ -460,8 +472,9 @@ void ZelControlCenter::onStateChanged()
 {
     enableButton(*m_ui->resetButton,
                  std::any_of(m_panels.begin(), m_panels.end(),
-                             [](const ZelSettingsPanel* panel) { return panel->canResetContent(); }));
-    enableButton(*m_ui->applyButton, hasModifications());
+                             [](const ZelSettingsPanel* panel) { return panel->canResetContent(); }),
+                 m_pageGroup->checkedButton());
+    enableButton(*m_ui->applyButton, hasModifications(), m_pageGroup->checkedButton());
 }
 
 void ZelControlCenter::onControlCenterWidthFinished()
@@ -546,6 +559,8 @@ void ZelControlCenter::slideDrawer(bool open, bool keepEdits)
     if (!m_drawer)
         return;
     const bool wasVisible = m_drawer->isVisible();
+    // While the drawer closes, the buttons of the pages are still there, and must not be pushed down.
+    setActionSpace(open);
     m_ui->actionFrame->setVisible(!open);
     m_application->setUpdateEngineEnabled(false);
     if (open) {
@@ -602,8 +617,15 @@ void ZelControlCenter::closeDrawer()
 {
     m_settingsOpen = false;
     m_ui->preferenceFrame->hide();
+    setActionSpace(true);
     if (m_drawer)
         m_drawer->hide();
+}
+
+void ZelControlCenter::setActionSpace(bool given)
+{
+    m_ui->actionFrame->setMaximumHeight(given ? QWIDGETSIZE_MAX : 0);
+    m_ui->verticalLayout_5->setStretchFactor(m_ui->actionFrame, given ? 1 : 0);
 }
 
 void ZelControlCenter::forEachPanel(const std::function<void(ZelSettingsPanel*)>& action) const

@@ -4,6 +4,7 @@
 #include "ZelCCActionItem.h"
 #include "ZelControlCenter.h"
 #include "ZelEditablePanel.h"
+#include "zelSpinBox.h"
 
 #include "platform/zelAction.h"
 
@@ -102,7 +103,12 @@ private Q_SLOTS:
         QCOMPARE(m_controlCenter->settingsWidth(), 450);
 
         m_controlCenter->setControlCenterVisible(false);
-        QTRY_VERIFY(!m_controlCenter->isSettingsOpen());
+        const auto* pages = m_controlCenter->findChild<QFrame*>("preferenceFrame");
+        while (m_controlCenter->isSettingsOpen()) {
+            QCOMPARE(pages->isVisible() ? pages->y() : 0, 0); // The column stands still.
+            QTest::qWait(10);
+        }
+        QVERIFY(column()->parentWidget()->height() > 100);
         QCOMPARE(m_controlCenter->settingsWidth(), 0);
         QVERIFY(showsActions(true));
 
@@ -215,7 +221,7 @@ private Q_SLOTS:
         for (const int answerAfter : {0, 200}) { // During the slide, and when it is over.
             openEverything();
             m_pages[0]->edit();
-            BoxAnswer answer(QMessageBox::Cancel);
+            BoxAnswer answer(QMessageBox::Cancel, Qt::Key_Return); // What is not destructive is the default.
             answer.setInterval(answerAfter);
             m_controlCenter->openMenu(false);
             QTRY_VERIFY(m_controlCenter->isSettingsOpen());
@@ -344,6 +350,97 @@ private Q_SLOTS:
                               inView.mapTo(m_window.get(), QPoint(10, 10)));
             QCOMPARE(answer.texts.size(), 1);
         }
+    }
+
+    void actionsHaveTheShortcutsOfTheApplication()
+    {
+        addPages(3);
+        QSpinBox box(m_pages[2].get());
+        box.setGeometry(0, 350, 100, 30);
+        openEverything();
+        QSignalSpy help(m_controlCenter.get(), SIGNAL(helpRequested(QWidget*)));
+        const QString keys[] = {"apply", "reset", "help", "putBack", "pageUp", "pageDown", "top", "bottom"};
+        for (int i = 0; i < int(std::size(keys)); ++i) {
+            auto* action = m_controlCenter->findChild<QAction*>(keys[i]);
+            QVERIFY(action && action->shortcuts().isEmpty() && !action->text().isEmpty());
+            action->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_1 + i));
+        }
+        const auto press = [this](int number) {
+            QTest::keyClick(m_window->windowHandle(), Qt::Key(Qt::Key_0 + number), Qt::ControlModifier);
+        };
+        QVERIFY(!m_controlCenter->findChild<QAction*>("apply")->isEnabled());
+        box.setFocus();
+        m_pages[0]->edit();
+        press(1);
+        press(2);
+        QCOMPARE(m_calls.join(","), QString("P0 apply,P1 apply,P2 apply,P0 reset,P1 reset,P2 reset"));
+        QVERIFY(box.hasFocus());
+        press(3);
+        QCOMPARE(help.value(0).value(0).value<QWidget*>(), &box);
+        press(8);
+        QCOMPARE(scrollBar()->value(), scrollBar()->maximum());
+        press(7);
+        QCOMPARE(scrollBar()->value(), 0);
+
+        // Elsewhere they are the application's own affair.
+        m_calls.clear();
+        m_pages[0]->edit();
+        m_view->setFocusPolicy(Qt::StrongFocus);
+        QDialog other(m_window.get(), Qt::Tool);
+        QLineEdit field(&other);
+        for (QWidget* elsewhere : {m_view, static_cast<QWidget*>(&field)}) {
+            elsewhere->window()->show();
+            QApplication::setActiveWindow(elsewhere->window());
+            elsewhere->setFocus();
+            QTRY_VERIFY(elsewhere->hasFocus());
+            QTest::keyClick(elsewhere->window()->windowHandle(), Qt::Key_1, Qt::ControlModifier);
+        }
+        QVERIFY(m_calls.isEmpty() && canApply());
+    }
+
+    void keysWorkWithoutAMouse()
+    {
+        addPages(3);
+        zel::zelSpinBox box(m_pages[0].get());
+        QCheckBox check(m_pages[0].get());
+        box.setRange(10, 4096);
+        box.setGeometry(0, 100, 100, 30);
+        openEverything();
+        box.setValue(20);
+        box.setFocus();
+        const auto type = [this](Qt::Key key) { QTest::keyClick(m_window->windowHandle(), key); };
+        // Escape puts back what is typed, and only that.
+        for (const Qt::Key end : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Escape}) {
+            const bool committed = box.value() == 33;
+            box.selectAll();
+            QTest::keyClicks(&box, committed ? "44" : "33");
+            type(end);
+            QCOMPARE(box.value(), committed || end == Qt::Key_Return ? 33 : 20);
+        }
+        check.setFocus();
+        for (const bool checked : {true, false}) {
+            type(checked ? Qt::Key_Return : Qt::Key_Enter);
+            QCOMPARE(check.isChecked(), checked);
+        }
+        m_pages[0]->getActionWidget()->setFocus();
+        const struct
+        {
+            Qt::Key key;
+            int place;
+        } scrolls[] = {{Qt::Key_End, scrollBar()->maximum()},
+                       {Qt::Key_PageUp, scrollBar()->maximum() - scrollBar()->pageStep()},
+                       {Qt::Key_Home, 0},
+                       {Qt::Key_PageDown, qMin(scrollBar()->pageStep(), scrollBar()->maximum())}};
+        for (const auto& scroll : scrolls) {
+            type(scroll.key);
+            QCOMPARE(scrollBar()->value(), qMax(0, scroll.place));
+        }
+        // A button that has been pressed hands the focus on to the page in view.
+        m_pages[0]->edit();
+        button("applyButton")->setFocus();
+        type(Qt::Key_Return);
+        QVERIFY(!canApply());
+        QVERIFY(qobject_cast<QPushButton*>(QApplication::focusWidget())->isChecked());
     }
 
     void pageKeepsItsStyle()

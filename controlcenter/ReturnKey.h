@@ -1,0 +1,38 @@
+#ifndef ZEL_RETURNKEY_H
+#define ZEL_RETURNKEY_H
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeyEvent>
+
+namespace zel {
+
+/// Makes Return and Enter press the button that has the focus, as Space does, in a widget and all that it
+/// contains. Fields that take Return themselves keep it. Belongs to the widget.
+class ReturnKey : public QObject
+{
+public:
+    explicit ReturnKey(QWidget* tree)
+        : QObject(tree)
+    {
+        tree->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::KeyPress)
+            return QObject::eventFilter(watched, event);
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const bool isReturn = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+        auto* button = qobject_cast<QAbstractButton*>(QApplication::focusWidget());
+        // A key that is held down must not switch a check box to and fro.
+        if (!isReturn || !button || key->isAutoRepeat() || (key->modifiers() & ~Qt::KeypadModifier))
+            return false;
+        button->click();
+        return true;
+    }
+};
+
+} // namespace zel
+
+#endif
