@@ -76,9 +76,11 @@ bool FrameResizer::release(const QMouseEvent& event)
 
 int FrameResizer::edgesAt(const QPoint& globalPosition) const
 {
-    if (m_window->isMaximized() || m_window->isFullScreen())
-        return NoEdge;
+    const bool frameless = m_window->windowFlags() & Qt::FramelessWindowHint;
     const QPoint position = m_window->mapFromGlobal(globalPosition);
+    if (!frameless || m_window->isMaximized() || m_window->isFullScreen() ||
+        !m_window->rect().contains(position))
+        return NoEdge;
     const int right = m_window->width() - 1 - position.x();
     const int bottom = m_window->height() - 1 - position.y();
     if (qMin(qMin(position.x(), position.y()), qMin(right, bottom)) >= EdgeWidth)

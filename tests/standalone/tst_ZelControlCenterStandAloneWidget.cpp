@@ -92,10 +92,18 @@ private Q_SLOTS:
     void tabReachesEveryControl()
     {
         QSet<const QWidget*> reached;
+        m_window.setMinimumSize(400, 250); // As on a screen that is too small.
+        m_window.resize(400, 250);
         for (int i = 0; i < 100; ++i) {
             QTest::keyClick(m_window.windowHandle(), Qt::Key_Tab);
-            reached << QApplication::focusWidget();
+            const QWidget* focused = QApplication::focusWidget();
+            QCoreApplication::processEvents();
+            QVERIFY2(focused->visibleRegion().contains(focused->rect().center()),
+                     qPrintable(focused->objectName() + " is out of sight"));
+            reached << focused;
         }
+        m_window.resize(800, 600);
+        m_window.setMinimumSize(702, 300);
         for (QWidget* widget : m_window.findChildren<QWidget*>()) {
             const auto* button = qobject_cast<QAbstractButton*>(widget);
             const bool arrowKeys = button && button->autoExclusive() && !button->isChecked();
