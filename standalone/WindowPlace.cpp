@@ -50,13 +50,12 @@ void WindowPlace::fitScreen()
     m_window->setMinimumSize(m_leastSize.boundedTo(area.size()));
     if (m_window->isMaximized() || m_window->isFullScreen())
         return;
-    m_window->resize(m_window->size().boundedTo(area.size()));
-    // A window that has not been given a place yet is given one by the system.
-    if (!m_window->testAttribute(Qt::WA_Moved))
-        return;
-    const QRect place = m_window->geometry();
-    m_window->move(qBound(area.left(), place.x(), area.right() - place.width() + 1),
-                   qBound(area.top(), place.y(), area.bottom() - place.height() + 1));
+    const QSize size = m_window->size().boundedTo(area.size());
+    m_window->resize(size);
+    // A window that has not been given a place before it is shown is given one by the system.
+    if (m_window->isVisible() || m_window->testAttribute(Qt::WA_Moved))
+        m_window->move(qBound(area.left(), m_window->x(), area.right() - size.width() + 1),
+                       qBound(area.top(), m_window->y(), area.bottom() - size.height() + 1));
 }
 
 } // namespace zel

@@ -352,95 +352,75 @@ private Q_SLOTS:
         }
     }
 
-    void actionsHaveTheShortcutsOfTheApplication()
-    {
-        addPages(3);
-        QSpinBox box(m_pages[2].get());
-        box.setGeometry(0, 350, 100, 30);
-        openEverything();
-        QSignalSpy help(m_controlCenter.get(), SIGNAL(helpRequested(QWidget*)));
-        const QString keys[] = {"apply", "reset", "help", "putBack", "pageUp", "pageDown", "top", "bottom"};
-        for (int i = 0; i < int(std::size(keys)); ++i) {
-            auto* action = m_controlCenter->findChild<QAction*>(keys[i]);
-            QVERIFY(action && action->shortcuts().isEmpty() && !action->text().isEmpty());
-            action->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_1 + i));
-        }
-        const auto press = [this](int number) {
-            QTest::keyClick(m_window->windowHandle(), Qt::Key(Qt::Key_0 + number), Qt::ControlModifier);
-        };
-        QVERIFY(!m_controlCenter->findChild<QAction*>("apply")->isEnabled());
-        box.setFocus();
-        m_pages[0]->edit();
-        press(1);
-        press(2);
-        QCOMPARE(m_calls.join(","), QString("P0 apply,P1 apply,P2 apply,P0 reset,P1 reset,P2 reset"));
-        QVERIFY(box.hasFocus());
-        press(3);
-        QCOMPARE(help.value(0).value(0).value<QWidget*>(), &box);
-        press(8);
-        QCOMPARE(scrollBar()->value(), scrollBar()->maximum());
-        press(7);
-        QCOMPARE(scrollBar()->value(), 0);
-
-        // Elsewhere they are the application's own affair.
-        m_calls.clear();
-        m_pages[0]->edit();
-        m_view->setFocusPolicy(Qt::StrongFocus);
-        QDialog other(m_window.get(), Qt::Tool);
-        QLineEdit field(&other);
-        for (QWidget* elsewhere : {m_view, static_cast<QWidget*>(&field)}) {
-            elsewhere->window()->show();
-            QApplication::setActiveWindow(elsewhere->window());
-            elsewhere->setFocus();
-            QTRY_VERIFY(elsewhere->hasFocus());
-            QTest::keyClick(elsewhere->window()->windowHandle(), Qt::Key_1, Qt::ControlModifier);
-        }
-        QVERIFY(m_calls.isEmpty() && canApply());
-    }
-
-    void keysWorkWithoutAMouse()
+    void keysDoWhatTheMouseDoes()
     {
         addPages(3);
         zel::zelSpinBox box(m_pages[0].get());
         QCheckBox check(m_pages[0].get());
         box.setRange(10, 4096);
-        box.setGeometry(0, 100, 100, 30);
         openEverything();
-        box.setValue(20);
         box.setFocus();
-        const auto type = [this](Qt::Key key) { QTest::keyClick(m_window->windowHandle(), key); };
         // Escape puts back what is typed, and only that.
-        for (const Qt::Key end : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Escape}) {
-            const bool committed = box.value() == 33;
+        const std::pair<Qt::Key, int> ends[] = {
+            {Qt::Key_Escape, 10}, {Qt::Key_Return, 33}, {Qt::Key_Escape, 33}};
+        for (const auto& [end, value] : ends) {
             box.selectAll();
-            QTest::keyClicks(&box, committed ? "44" : "33");
-            type(end);
-            QCOMPARE(box.value(), committed || end == Qt::Key_Return ? 33 : 20);
+            QTest::keyClicks(&box, value == box.value() ? "44" : "33");
+            press(end);
+            QCOMPARE(box.value(), value);
         }
         check.setFocus();
         for (const bool checked : {true, false}) {
-            type(checked ? Qt::Key_Return : Qt::Key_Enter);
+            press(checked ? Qt::Key_Return : Qt::Key_Enter);
             QCOMPARE(check.isChecked(), checked);
         }
         m_pages[0]->getActionWidget()->setFocus();
-        const struct
-        {
-            Qt::Key key;
-            int place;
-        } scrolls[] = {{Qt::Key_End, scrollBar()->maximum()},
-                       {Qt::Key_PageUp, scrollBar()->maximum() - scrollBar()->pageStep()},
-                       {Qt::Key_Home, 0},
-                       {Qt::Key_PageDown, qMin(scrollBar()->pageStep(), scrollBar()->maximum())}};
-        for (const auto& scroll : scrolls) {
-            type(scroll.key);
-            QCOMPARE(scrollBar()->value(), qMax(0, scroll.place));
+        const int bottom = scrollBar()->maximum(), page = scrollBar()->pageStep();
+        const std::pair<Qt::Key, int> scrolls[] = {{Qt::Key_End, bottom},
+                                                   {Qt::Key_PageUp, qMax(0, bottom - page)},
+                                                   {Qt::Key_Home, 0},
+                                                   {Qt::Key_PageDown, qMin(bottom, page)}};
+        for (const auto& [key, place] : scrolls) {
+            press(key);
+            QCOMPARE(scrollBar()->value(), place);
         }
         // A button that has been pressed hands the focus on to the page in view.
         m_pages[0]->edit();
         button("applyButton")->setFocus();
-        type(Qt::Key_Return);
-        QVERIFY(!canApply());
-        QVERIFY(qobject_cast<QPushButton*>(QApplication::focusWidget())->isChecked());
+        press(Qt::Key_Return);
+        QVERIFY(!canApply() && qobject_cast<QPushButton*>(QApplication::focusWidget())->isChecked());
+    }
+
+    void shortcutsAreTheApplications()
+    {
+        addPages(1);
+        QSpinBox box(m_pages[0].get());
+        openEverything();
+        int key = Qt::Key_1;
+        for (const char* name :
+             {"apply", "reset", "help", "putBack", "pageUp", "pageDown", "top", "bottom"}) {
+            auto* action = m_controlCenter->findChild<QAction*>(name);
+            QVERIFY(action && action->shortcuts().isEmpty() && !action->text().isEmpty());
+            action->setShortcut(QKeySequence(Qt::CTRL + key++));
+        }
+        QVERIFY(!m_controlCenter->findChild<QAction*>("apply")->isEnabled());
+        QSignalSpy help(m_controlCenter.get(), SIGNAL(helpRequested(QWidget*)));
+        QDialog other(m_window.get(), Qt::Tool);
+        QLineEdit field(&other);
+        m_view->setFocusPolicy(Qt::StrongFocus);
+        m_pages[0]->edit();
+        // They do not work in its other widgets and windows.
+        for (QWidget* widget : std::initializer_list<QWidget*>{m_view, &field, &box}) {
+            QVERIFY(m_calls.isEmpty());
+            widget->window()->show();
+            QApplication::setActiveWindow(widget->window());
+            widget->setFocus();
+            for (key = Qt::Key_1; key <= Qt::Key_3; ++key)
+                press(key, Qt::ControlModifier);
+        }
+        QCOMPARE(m_calls.join(","), QString("P0 apply,P0 reset"));
+        QCOMPARE(help.value(0).value(0).value<QWidget*>(), &box);
+        QVERIFY(box.hasFocus());
     }
 
     void pageKeepsItsStyle()
@@ -526,23 +506,19 @@ private Q_SLOTS:
     {
         QPushButton external;
         m_controlCenter->setControlCenterButton(&external);
-        const QTemporaryDir folder;
-        const QString icons[] = {folder.filePath("off.png"), folder.filePath("on.png")};
-        const QColor colors[] = {Qt::red, Qt::green};
-        for (const int on : {0, 1}) {
-            QPixmap picture(40, 40);
-            picture.fill(colors[on]);
-            QVERIFY(picture.save(icons[on]));
-        }
-        m_controlCenter->setInterfaceColor(QColor(10, 20, 30, 128), icons[1], icons[0]);
+        const QString on(":/controlCenter/controlCenter/controlCenterOn.png");
+        const QString off(":/controlCenter/controlCenter/controlCenterOff.png");
+        m_controlCenter->setInterfaceColor(QColor(10, 20, 30, 128), on, off);
         m_controlCenter->show();
         const QImage column = m_controlCenter->grab().toImage();
         QCOMPARE(column.pixelColor(100, column.height() - 10), QColor(10, 20, 30));
         QCOMPARE(external.iconSize(), QSize(40, 40));
-        for (const int on : {0, 1}) {
-            const QPixmap shown = external.icon().pixmap(40, QIcon::Normal, on ? QIcon::On : QIcon::Off);
-            QCOMPARE(shown.toImage().pixelColor(20, 20), colors[on]);
-        }
+        const auto picture = [](const QIcon& icon, QIcon::State state) {
+            return icon.pixmap(40, QIcon::Normal, state).toImage();
+        };
+        QCOMPARE(picture(external.icon(), QIcon::On), picture(QIcon(on), QIcon::On));
+        QCOMPARE(picture(external.icon(), QIcon::Off), picture(QIcon(off), QIcon::Off));
+        QVERIFY(picture(QIcon(on), QIcon::On) != picture(QIcon(off), QIcon::Off));
     }
 
 private:
@@ -567,6 +543,11 @@ private:
             m_pages.emplace_back(new FakePage(QString("P%1").arg(i), m_application->getSettings(), m_calls));
             m_controlCenter->registerSettingsPanel(m_pages.back().get());
         }
+    }
+
+    static void press(int key, Qt::KeyboardModifier modifier = Qt::NoModifier)
+    {
+        QTest::keyClick(QApplication::activeWindow()->windowHandle(), Qt::Key(key), modifier);
     }
 
     /// Without a slide that is worth a wait.

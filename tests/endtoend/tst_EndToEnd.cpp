@@ -158,6 +158,7 @@ private Q_SLOTS:
         editor.act("key Tab Return");
         QCOMPARE(editor.exitCode(), 0);
         QCOMPARE(cacheSize(), QString("512"));
+        QCOMPARE(editor.output(), QByteArray());
     }
 
     void runsOnce()
