@@ -113,6 +113,10 @@ private Q_SLOTS:
             QTRY_COMPARE(button->toolTip() + button->accessibleName(), QString(tip) + tip);
         }
         QVERIFY(!m_window.isMaximized() && !m_window.windowIcon().isNull());
+        QString product; // Is read as one name, although one half of it is bold.
+        for (const QLabel* label : m_window.findChild<QFrame*>("appFrame")->findChildren<QLabel*>())
+            product += label->accessibleName().isEmpty() ? label->text() : label->accessibleName();
+        QCOMPARE(product.trimmed(), QString("Torvane"));
     }
 
     void shortcuts()
