@@ -3,12 +3,14 @@
 #include "ui_ControlCenter.h"
 
 #include "ControlCenterActions.h"
+#include "DrawerLayout.h"
 #include "EnableButton.h"
 #include "ReturnKey.h"
 #include "StyleSheetPause.h"
 #include "ZelCCActionItem.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsPanel.h"
+#include "base/Accessibility.h"
 #include "base/ZelQtCompat.h"
 
 #include "platform/kqDMGuiPlugin.h"
@@ -35,6 +37,8 @@ static void cleanupResources()
 {
     Q_CLEANUP_RESOURCE(ZelControlCenter);
 }
+
+namespace zel {
 
 namespace {
 
@@ -68,8 +72,6 @@ void styleAll(QWidget& tree)
 
 } // namespace
 
-namespace zel {
-
 ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* parent, Qt::WindowFlags flags)
     : QWidget(parent, flags)
     , m_ui(new Ui::ControlCenter)
@@ -84,6 +86,7 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     setStyleSheet(kqDMIApplication::GetStylesheet("ZelControlCenter"));
     setObjectName("ZelControlCenter");
     m_ui->verticalLayout->setAlignment(Qt::AlignTop);
+    m_ui->verticalLayout_4 = m_drawerLayout = new DrawerLayout(m_ui->verticalLayout_4);
     // The sliding menu uncovers its buttons instead of squeezing them.
     m_ui->mainPanel->setMinimumWidth(MenuWidth);
 
@@ -116,6 +119,7 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
             SIGNAL(helpRequested(QWidget*)), this, SIGNAL(helpRequested(QWidget*)));
 
     m_pageGroup->setExclusive(true);
+    showWriteError(QString());
     openMenu(false);
     createSettingsAction();
     m_clickTimer.start();
@@ -230,16 +234,19 @@ bool ZelControlCenter::hasModifications() const
 
 bool ZelControlCenter::applyModifications()
 {
-    QString error;
-    // The toolkit keeps what the pages hand over, and writes it in the end even where that was refused.
-    if (hasModifications() &&
-        !ZelSettingsFile::PrepareWriting(m_application->getSettings().fileName(), error))
-        return false;
     bool restart = false;
-    forEachPanel([&restart](ZelSettingsPanel* panel) { restart = panel->applyModifications() || restart; });
-    // One write for all pages, so that the file never holds half of an Apply. A failure is reported there.
-    ZelSettingsFile::Sync(m_application->getSettings(), error);
-    return restart;
+    const auto apply = [&](QSettings&, QString&) {
+        forEachPanel([&](ZelSettingsPanel* panel) { restart = panel->applyModifications() || restart; });
+        return true;
+    };
+    QSettings& settings = m_application->getSettings();
+    QString error;
+    if (!hasModifications())
+        return apply(settings, error) && restart;
+    // One write for all pages, so that the file never holds half of an Apply.
+    const bool written = ZelSettingsFile::Write(settings, apply, error);
+    showWriteError(error);
+    return written && restart;
 }
 
 void ZelControlCenter::setGUIHandler(QWidget* handler)
@@ -286,7 +293,7 @@ void ZelControlCenter::setSettingsWidth(int width)
     m_drawer->setFixedWidth(width);
     const QScrollBar* scrollBar = m_drawer->verticalScrollBar();
     const int barWidth = scrollBar->isVisible() ? scrollBar->width() : 0;
-    m_ui->verticalLayout_4->setLeastWidth(DrawerWidth - barWidth);
+    m_drawerLayout->setLeastWidth(DrawerWidth - barWidth);
     m_ui->settingsContent->setFixedWidth(std::max(width - barWidth, 0));
     // Nothing has scrolled yet, so the page in view is marked as soon as it can be seen.
     if (m_settingsAnimation->state() == QAbstractAnimation::Running &&
@@ -641,8 +648,21 @@ kqDMGuiPlugin* ZelControlCenter::guiPlugin() const
     return m_application ? m_application->getGuiPlugin() : nullptr;
 }
 
+void ZelControlCenter::showWriteError(const QString& error)
+{
+    m_ui->writeErrorLabel->setText(error);
+    m_ui->writeErrorLabel->setToolTip(error); // The column may be too narrow for a long path.
+    m_ui->writeErrorLabel->setVisible(!error.isEmpty());
+    if (!error.isEmpty())
+        alertScreenReaders(*m_ui->writeErrorLabel);
+}
+
 void ZelControlCenter::initializePanels()
 {
+    QString error;
+    if (m_application)
+        ZelSettingsFile::IsWritable(m_application->getSettings().fileName(), error);
+    showWriteError(error);
     forEachPanel([](ZelSettingsPanel* panel) { panel->initializeWidget(); });
     onStateChanged();
 }

@@ -22,7 +22,7 @@ template <class Model>
 class ZelEditablePanel : public ZelSettingsPanel
 {
 public:
-    typedef std::vector<ZelSettingsField<Model>> Fields;
+    using Fields = std::vector<ZelSettingsField<Model>>;
 
     ZelEditablePanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
                      Qt::WindowFlags flags, Fields fields)
