@@ -70,8 +70,8 @@ public:
 
     QString path() const { return m_folder.filePath("Settings.ini"); }
 
-    /// Writes the file again, so that QSettings cannot answer from its cache. The file's time is different
-    /// each time, and past: for a file of this moment the library waits for the next clock tick.
+    /// Writes the file again, with another time each time, so that QSettings cannot answer from what it
+    /// remembers of it.
     void restore() const
     {
         QFile::remove(path());
@@ -96,9 +96,8 @@ void readAndWrite(benchmark::State& state)
         many.restore();
         const auto start = std::chrono::steady_clock::now();
         {
-            QSettings settings(many.path(), QSettings::IniFormat);
-            ZelSettingsFile::UseFileEncoding(settings);
-            Run(settings);
+            const auto settings = ZelSettingsFile::Open(many.path());
+            Run(*settings);
         }
         state.SetIterationTime(
             std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());

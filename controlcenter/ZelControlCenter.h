@@ -75,6 +75,7 @@ public:
     /// True when any page has pending edits.
     bool hasModifications() const;
     /// Applies the pending edits of every page and writes the settings file; true when a restart is needed.
+    /// When the file cannot be written the edits stay pending, and the reason stands below the Apply button.
     bool applyModifications();
 
     /// The widget outside of which a click never closes the menu. Not owned; null, as at first, for any.
@@ -135,6 +136,8 @@ protected Q_SLOTS:
     void onPanelDestroyed(QObject* panel);
     /// Brings a field into view that the keyboard enters the drawer at.
     void onFocusChanged(QWidget* former, QWidget* current);
+    /// Every widget that a press is offered to has seen it.
+    void onPressDelivered();
 
 protected:
     void openSettingsPanel(bool open);
@@ -152,11 +155,19 @@ private:
     kqDMGuiPlugin* guiPlugin() const;
     QPropertyAnimation* createSlide(const char* property, int openWidth, const char* finishedSlot);
     void createSettingsAction();
+    void addPageButton(QPushButton* button, const QString& panelName);
     bool isSliding() const;
+    void showDrawer(bool keepEdits);
+    /// Pauses the engine and slides the drawer if there is anything to see of it. One that opens from closed
+    /// loads its pages first, unless their edits are to stay.
+    void slideDrawer(bool open, bool keepEdits);
+    void resumeEngineAtRest();
     void closeDrawer();
     /// Calls a function for each page, in the order of registration. A page may register or unregister others
     /// meanwhile.
     void forEachPanel(const std::function<void(ZelSettingsPanel*)>& action) const;
+    /// Shows below the Apply button why the settings file cannot be written; an empty text hides the last.
+    void showWriteError(const QString& error);
     void initializePanels();
     /// Drops pending edits, after asking where that is possible; false when the user keeps them.
     bool discardModifications();
@@ -183,6 +194,7 @@ private:
     QPropertyAnimation* m_scrollAnimation;
     bool m_menuOpen;
     bool m_settingsOpen;
+    bool m_pressHandled; ///< The press that is being delivered has been a click outside already.
 };
 
 } // namespace zel

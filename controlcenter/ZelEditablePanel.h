@@ -121,7 +121,14 @@ protected:
     virtual void notifyStateChanged() = 0;
 
     /// Refreshes the reset button.
-    void checkContent() const { enableButton(*findChild<QPushButton*>("resetButton"), canResetContent()); }
+    void checkContent() const
+    {
+        if (auto* resetButton = findChild<QPushButton*>("resetButton"))
+            enableButton(*resetButton, canResetContent());
+        else
+            qWarning("The form of the page \"%s\" has no push button named \"resetButton\"",
+                     qPrintable(getPanelName()));
+    }
 
     /// What every edit ends with.
     void onEdited()
