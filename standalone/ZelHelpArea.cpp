@@ -15,7 +15,19 @@ namespace zel {
 
 namespace {
 
-const int LeastWidth = 250; // In pixels; narrower than this, texts are hard to read.
+// In pixels.
+const int LeastWidth = 310;   // What the longest words of all languages need.
+const int ScrollBarRoom = 20; // So that a bar which the help brings does not make it go again.
+
+/// A text in which the words of a path can be broken anywhere, because one may be wider than the area.
+QString breakable(const QString& text)
+{
+    QStringList words = text.split(' ');
+    for (QString& word : words)
+        if (word.size() > 1 && word.contains('/'))
+            word = word.split(QString()).join(QString(QChar(0x200B)));
+    return words.join(" ");
+}
 
 QString stateText(const ZelSettingHelp& help)
 {
@@ -86,7 +98,7 @@ void ZelHelpArea::refresh()
         {m_ui->effectTitle, m_ui->effectLabel, help->effect},
     };
     for (const auto& each : facts) {
-        each.fact->setText(each.text);
+        each.fact->setText(breakable(each.text));
         each.title->setVisible(!each.text.isEmpty());
         each.fact->setVisible(!each.text.isEmpty());
     }
@@ -97,7 +109,8 @@ void ZelHelpArea::refresh()
 
 void ZelHelpArea::resizeEvent(QResizeEvent* event)
 {
-    m_ui->helpFrame->setVisible(width() >= LeastWidth);
+    const bool shown = !m_ui->helpFrame->isHidden();
+    m_ui->helpFrame->setVisible(width() >= LeastWidth + (shown ? 0 : ScrollBarRoom));
     QWidget::resizeEvent(event);
 }
 
