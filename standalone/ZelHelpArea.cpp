@@ -57,6 +57,8 @@ void ZelHelpArea::follow(QWidget* tree)
     for (ZelPageHelp* page : pages) {
         connect(page, SIGNAL(reached(QWidget*)), this, SLOT(showField(QWidget*)));
         connect(page, SIGNAL(edited()), this, SLOT(refresh()));
+        page->setShown(!m_ui->helpFrame->isHidden());
+        m_pages << page;
         // A page may also change by its buttons.
         connect(page->parent(), SIGNAL(stateChanged()), this, SLOT(refresh()));
     }
@@ -109,8 +111,11 @@ void ZelHelpArea::refresh()
 
 void ZelHelpArea::resizeEvent(QResizeEvent* event)
 {
-    const bool shown = !m_ui->helpFrame->isHidden();
-    m_ui->helpFrame->setVisible(width() >= LeastWidth + (shown ? 0 : ScrollBarRoom));
+    const bool fits = width() >= LeastWidth + (m_ui->helpFrame->isHidden() ? ScrollBarRoom : 0);
+    m_ui->helpFrame->setVisible(fits);
+    for (const QPointer<ZelPageHelp>& page : m_pages)
+        if (page)
+            page->setShown(fits);
     QWidget::resizeEvent(event);
 }
 
