@@ -104,7 +104,7 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     // The sliding menu uncovers its buttons instead of squeezing them.
     m_ui->mainPanel->setMinimumWidth(MenuWidth);
 
-    // The drawer is placed by its width, not by the form's layout; whoever embeds it may lay it out.
+    // The drawer is placed by its width, not by the form's layout; an application may lay it out.
     m_drawer = m_ui->settingsScrollArea;
     m_ui->horizontalLayout_30->removeWidget(m_drawer);
     m_drawer->setParent(this);
@@ -385,7 +385,7 @@ bool ZelControlCenter::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Resize)
         m_clickTimer.restart();
-    // A press into a modal box is an answer, not a click outside. Presses that the toolkit first hands to its
+    // A press into a modal box is an answer, not a click outside. Presses that Qt first hands to its
     // native window come again for the widget.
     if (event->type() != QEvent::MouseButtonPress || m_pressHandled || QApplication::activeModalWidget() ||
         isNativeWindow(watched))

@@ -20,7 +20,7 @@ namespace zel {
 /// Every concrete page declares the signal stateChanged(), without arguments, and emits it whenever the
 /// answer of hasModifications() or canResetContent() may have changed.
 ///
-/// Whoever creates a page owns it, also while it is registered; it has to be unregistered before it is
+/// The creator of a page owns it, also while it is registered; it has to be unregistered before it is
 /// deleted. The application and the settings must outlive it. GUI thread only.
 class ZEL_EXPORT ZelSettingsPanel : public QWidget
 {

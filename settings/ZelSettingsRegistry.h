@@ -33,7 +33,7 @@ public:
     /// already.
     static bool RegisterSetting(const QString& key, const QString& defaultValue, Validator validator);
 
-    /// The registered default of a key; a null text for a key that nobody registered.
+    /// The registered default of a key; a null text for a key that is not registered.
     static QString GetDefaultSettingsValue(const QString& key);
 
     /// Every registered key with its default and validator, in key order.

@@ -55,7 +55,7 @@ void store(const QString& path, const QByteArray& content)
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
 }
 
-/// Makes the file an hour old, so that nobody waits for the clock to go on.
+/// Makes the file an hour old, older than any write of the test.
 void makeOld(const QString& path)
 {
     std::filesystem::last_write_time(path.toStdString(),
@@ -141,7 +141,7 @@ private:
     {
         const QByteArray before = general + Foreign;
         QByteArray after;
-        qint64 duration = Patience; // Microseconds of an operation that nobody disturbs.
+        qint64 duration = Patience; // Microseconds of an undisturbed operation.
         int unchanged = 0, changed = 0, locked = 0;
         for (int round = 0; round < UndisturbedRounds + Kills / 4; ++round) {
             init();
@@ -557,7 +557,7 @@ private Q_SLOTS:
         const QString text = QString::fromUtf8("\360\237\231\202\360\240\256\267f, \"\303\274\"; \n\t\\=");
         const QString mark(QChar(QChar::ByteOrderMark));
         QVERIFY(change(m_path, {{"list", QStringList({text, text})}, {"mark", mark}}));
-        // Under another name, as the toolkit remembers files, and by the toolkit's own means.
+        // Under another name, as QSettings remembers files, and by Qt's own codec.
         for (const bool own : {true, false}) {
             const QString path = m_folder->filePath(own ? "own" : "toolkit");
             QVERIFY(QFile::copy(m_path, path));

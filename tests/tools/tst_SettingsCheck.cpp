@@ -146,7 +146,7 @@ private Q_SLOTS:
         // Shell commands, because they say it shortest.
         const std::pair<const char*, QString> rows[] = {
             {"mkdir \"$1\"", "it is not a file"},
-            {"mkfifo \"$1\"", "it is not a file"}, // Nobody ever writes to it.
+            {"mkfifo \"$1\"", "it is not a file"}, // It never gets a writer.
             {"truncate -s 5G \"$1\"", "it is too large"},
             {"touch \"$2\"", "could not be created"},
             {"ln -s /gone/there \"$2\"", "could not be created"},
