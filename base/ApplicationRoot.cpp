@@ -7,12 +7,14 @@
 #    include <windows.h>
 #endif
 
+namespace zel {
+
 namespace {
 
 std::filesystem::path executablePath(std::error_code& error)
 {
 #if defined(_WIN32)
-    std::wstring path(32768, L'\0'); // The longest path that the system knows.
+    std::wstring path(32768, L'\0'); // The longest path of the system.
     path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
     if (path.empty())
         error = std::error_code(static_cast<int>(GetLastError()), std::system_category());
@@ -24,7 +26,7 @@ std::filesystem::path executablePath(std::error_code& error)
 
 } // namespace
 
-bool zel::enterApplicationRoot()
+bool enterApplicationRoot()
 {
     std::error_code error;
     const std::filesystem::path executable = executablePath(error);
@@ -33,3 +35,5 @@ bool zel::enterApplicationRoot()
     std::filesystem::current_path(executable.parent_path().parent_path(), error);
     return !error;
 }
+
+} // namespace zel

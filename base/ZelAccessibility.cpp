@@ -118,6 +118,12 @@ void tellState(QWidget& widget)
     QAccessible::updateAccessibility(&event);
 }
 
+void tellProblem(QWidget& widget)
+{
+    QAccessibleEvent event(&widget, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}
+
 #else
 
 class Interface : public QAccessibleWidget
@@ -157,6 +163,11 @@ void tellValue(QWidget& widget)
 void tellState(QWidget& widget)
 {
     QAccessible::updateAccessibility(&widget, 0, QAccessible::StateChanged);
+}
+
+void tellProblem(QWidget& widget)
+{
+    QAccessible::updateAccessibility(&widget, 0, QAccessible::Alert);
 }
 
 #endif
@@ -202,4 +213,9 @@ void zel::announceChoice(QLabel& label, bool chosen)
 void zel::leaveUnannounced(QWidget& widget)
 {
     announce(widget, UnannouncedProperty, true);
+}
+
+void zel::alertAbout(QWidget& widget)
+{
+    tellProblem(widget);
 }

@@ -21,6 +21,9 @@ void announceChoice(QLabel& label, bool chosen);
 /// Leaves out a widget that says nothing of its own, because another one says it for it.
 void leaveUnannounced(QWidget& widget);
 
+/// Has a widget read out at once, because it tells of a problem.
+void alertAbout(QWidget& widget);
+
 } // namespace zel
 
 #endif

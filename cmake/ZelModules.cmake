@@ -6,12 +6,13 @@ set(CMAKE_AUTOUIC ON)
 set(CMAKE_AUTORCC ON)
 
 # zel_add_module(<name> SOURCES <file>... PUBLIC_HEADERS <file>... LINK <target>...)
-# LINK names toolkit or platform targets, and modules whose headers this one may include.
+# LINK names Qt or platform targets, and modules whose headers this one may include.
 function(zel_add_module name)
     cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC_HEADERS;LINK" ${ARGN})
     add_library(${name} OBJECT ${ARG_SOURCES} ${ARG_PUBLIC_HEADERS})
     target_compile_definitions(${name} PRIVATE ZelControlCenter_EXPORTS)
-    target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR})
+    target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}
+                                              ${PROJECT_BINARY_DIR}/generated)
     target_link_libraries(${name} PUBLIC ${ARG_LINK})
     set_property(GLOBAL APPEND PROPERTY ZEL_MODULES ${name})
     foreach(header IN LISTS ARG_PUBLIC_HEADERS)

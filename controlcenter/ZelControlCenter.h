@@ -32,6 +32,7 @@ class ControlCenter;
 
 namespace zel {
 
+class DrawerLayout;
 class ZelCCActionItem;
 class ZelSettingsPanel;
 
@@ -41,6 +42,12 @@ class ZelSettingsPanel;
 ///
 /// The rules of Settings.ini (registry, validators, catalogue) are reached through this class too; they need
 /// no instance.
+///
+/// What it can be told to do is among its actions(), by object name: "apply" and "reset", which press these
+/// buttons; "help", which emits helpRequested(); "putBack", which undoes what is being typed in a field;
+/// "pageUp", "pageDown", "top" and "bottom", which scroll the drawer. They have no shortcuts until the
+/// application gives them some; these work while the column or the drawer has the focus, unless it changes
+/// their context, too.
 ///
 /// Registered pages and actions belong to their creators, who unregister them before they delete them. The
 /// application must outlive the control center. GUI thread only.
@@ -74,6 +81,7 @@ public:
     /// True when any page has pending edits.
     bool hasModifications() const;
     /// Applies the pending edits of every page and writes the settings file; true when a restart is needed.
+    /// When the file cannot be written the edits stay pending, and the reason stands below the Apply button.
     bool applyModifications();
 
     /// The widget outside of which a click never closes the menu. Not owned; null, as at first, for any.
@@ -83,6 +91,9 @@ public:
 
     /// The drawer, for applications that lay it out themselves. Owned by the control center.
     QScrollArea* settingsWidget() const;
+
+    /// Width of the menu column and the drawer together, in pixels, while both are open.
+    static int OpenWidth();
 
     /// Width of the menu column in pixels; it is visible from 1 on.
     int controlCenterWidth() const;
@@ -123,6 +134,8 @@ Q_SIGNALS:
     /// What is stored, or what the pages show, may have changed: an edit, Apply, Reset, or a page that came
     /// or went.
     void evaluated();
+    /// The user asks what a field is about; null when no field has the focus.
+    void helpRequested(QWidget* field);
 
 protected Q_SLOTS:
     void on_applyButton_clicked();
@@ -139,6 +152,8 @@ protected Q_SLOTS:
     void onPanelDestroyed(QObject* panel);
     /// Brings a field into view that the keyboard enters the drawer at.
     void onFocusChanged(QWidget* former, QWidget* current);
+    /// Every widget that a press is offered to has seen it.
+    void onPressDelivered();
 
 protected:
     void openSettingsPanel(bool open);
@@ -156,11 +171,21 @@ private:
     kqDMGuiPlugin* guiPlugin() const;
     QPropertyAnimation* createSlide(const char* property, int openWidth, const char* finishedSlot);
     void createSettingsAction();
+    void addPageButton(QPushButton* button, const QString& panelName);
     bool isSliding() const;
+    void showDrawer(bool keepEdits);
+    /// Pauses the engine and slides the drawer if there is anything to see of it. One that opens from closed
+    /// loads its pages first, unless their edits are to stay.
+    void slideDrawer(bool open, bool keepEdits);
+    void resumeEngineAtRest();
     void closeDrawer();
+    /// Whether the actions have room in the menu column while they are shown.
+    void setActionSpace(bool given);
     /// Calls a function for each page, in the order of registration. A page may register or unregister others
     /// meanwhile.
     void forEachPanel(const std::function<void(ZelSettingsPanel*)>& action) const;
+    /// Shows below the Apply button why the settings file cannot be written; an empty text hides the last.
+    void showWriteError(const QString& error);
     void initializePanels();
     /// Drops pending edits, after asking where that is possible; false when the user keeps them.
     bool discardModifications();
@@ -181,11 +206,13 @@ private:
     QPointer<QPushButton> m_controlCenterButton;
     QButtonGroup* const m_pageGroup;
     QPointer<QScrollArea> m_drawer;
+    DrawerLayout* m_drawerLayout;
     QPropertyAnimation* m_widthAnimation;
     QPropertyAnimation* m_settingsAnimation;
     QPropertyAnimation* m_scrollAnimation;
     bool m_menuOpen;
     bool m_settingsOpen;
+    bool m_pressHandled; ///< The press that is being delivered has been a click outside already.
 };
 
 } // namespace zel

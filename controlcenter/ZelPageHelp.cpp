@@ -115,7 +115,7 @@ bool ZelPageHelp::eventFilter(QObject* watched, QEvent* event)
     // Under a pointer that rests while the page scrolls, a field learns only from the tool tip that it is
     // reached.
     if (type == QEvent::Enter || type == QEvent::FocusIn || type == QEvent::ToolTip)
-        emit reached(field);
+        Q_EMIT reached(field);
     return type == QEvent::ToolTip && m_shown && !setting(field)->tipIsValue;
 }
 

@@ -2,12 +2,12 @@
 
 #include "ui_ZelRendererSelector.h"
 
+#include "LabelImage.h"
 #include "base/ZelAccessibility.h"
 
 #include "platform/kqMovableObject.h"
 
 #include <QEvent>
-#include <QIcon>
 #include <QKeyEvent>
 #include <QTextDocumentFragment>
 #include <QVariant>
@@ -24,8 +24,7 @@ ZelRendererSelector::ZelRendererSelector(QWidget* parent, Qt::WindowFlags flags)
 {
     setProperty(SoftwareProperty, false);
     m_ui->setupUi(this);
-    // An icon, unlike a pixmap of the form, also finds the image for screens of double density.
-    m_ui->label->setPixmap(QIcon(":/menu/Menu/point.png").pixmap(8, 8));
+    showImage(*m_ui->label, ":/menu/Menu/point.png", 8);
     setWindowFlags(Qt::FramelessWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
 
@@ -66,7 +65,7 @@ void ZelRendererSelector::keyPressEvent(QKeyEvent* event)
         QDialog::keyPressEvent(event);
 }
 
-// Tells whether the choice changed.
+// True when the choice changed.
 bool ZelRendererSelector::choose(const QObject* engine)
 {
     const bool software = engine != m_ui->deferredButton;

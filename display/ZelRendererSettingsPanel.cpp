@@ -74,7 +74,7 @@ ZelFieldConversion<int> sceneUnitConversion()
             [index](const QString& text) { return index(text.toFloat()); },
             [](int unit) {
                 const bool known = unit >= 0 && unit < SceneUnitCount;
-                return QVariant(numberText(double(SceneUnitFactors[known ? unit : MetreIndex])));
+                return QVariant(numberText(SceneUnitFactors[known ? unit : MetreIndex]));
             }};
 }
 
@@ -102,7 +102,7 @@ quint64 shownNumber(const QSpinBox* box)
 
 void showNumber(QSpinBox* box, quint64 number)
 {
-    // Limited before the conversion: what exceeds an int must not come out as a small number.
+    // Limited before the conversion, which would make a small number of one that exceeds an int.
     box->setValue(static_cast<int>(qMin<quint64>(number, std::numeric_limits<int>::max())));
 }
 
@@ -428,7 +428,7 @@ bool ZelRendererSettingsPanel::shouldRestart() const
 
 void ZelRendererSettingsPanel::notifyStateChanged()
 {
-    emit stateChanged();
+    Q_EMIT stateChanged();
 }
 
 bool ZelRendererSettingsPanel::hasRaytracerRebootChanged() const
@@ -451,7 +451,7 @@ void ZelRendererSettingsPanel::forceGPUMode(bool gpu)
 
     zelActionManager* actions = application() ? application()->getActionManager() : nullptr;
     zelAction* renderingMode = actions ? actions->getActionByName("renderingMode") : nullptr;
-    // Of use only while the application runs the deferred renderer, whatever is chosen for the next start.
+    // The running renderer takes it; what is chosen for the next start does not count.
     if (renderingMode)
         renderingMode->setEnabled(m_startGPUMode);
 }

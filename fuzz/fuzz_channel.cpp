@@ -1,9 +1,8 @@
-// The receiving end of the single-instance channel, on any bytes, in pieces of any size.
+// The receiving end of the single-instance channel: any bytes, in pieces of any size.
 
 #include "Check.h"
 
-#include "platform/standin/singleapplication/LocalMessage.h"
-#include "platform/standin/singleapplication/LocalPeerConnection.h"
+#include "platform/standin/singleapplication/LocalPeer.h"
 
 #include <QCoreApplication>
 #include <QLocalSocket>
@@ -17,7 +16,7 @@ namespace {
 
 const int HeaderSize = 8;
 
-/// What the bytes that have arrived so far must come to.
+/// What the receiver must make of the bytes that have arrived so far.
 LocalMessage::Result expected(const QByteArray& arrived, QString& message)
 {
     const QByteArray mark = "msg1";
@@ -45,7 +44,7 @@ public:
         check(socketpair(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK, 0, ends) == 0, "there are sockets");
         m_peer = ends[0];
         auto* socket = new QLocalSocket;
-        check(socket->setSocketDescriptor(ends[1]), "the toolkit takes the socket");
+        check(socket->setSocketDescriptor(ends[1]), "Qt takes the socket");
         m_connection = new LocalPeerConnection(socket, this);
         connect(m_connection, SIGNAL(messageReceived(QString)), this, SLOT(note(QString)));
     }

@@ -1,6 +1,7 @@
 #include "ZelPageDefaults.h"
 #include "ZelSettingsFile.h"
 #include "base/ApplicationRoot.h"
+#include "base/StandardStreams.h"
 #include "base/ZelQtCompat.h"
 #include "launch.h"
 
@@ -21,6 +22,7 @@ void registerDefaults()
 
 int main(int argc, char** argv)
 {
+    zel::protectStandardStreams();
     if (!zel::enterApplicationRoot()) {
         std::fputs("torvane-settings: cannot enter the folder of the application\n", stderr);
         return 2;

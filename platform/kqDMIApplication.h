@@ -29,7 +29,7 @@ class zelThumbnailManager;
 enum zelAppEvent : int;
 
 /// Identifies a component of the loaded document.
-typedef unsigned int kqDMComponentId;
+using kqDMComponentId = unsigned int;
 
 /// Something to be done once the document has been saved.
 struct PostSaveEventItem
@@ -38,8 +38,8 @@ struct PostSaveEventItem
     QString argument;
 };
 
-/// What pages and panels know of the application that hosts them: the viewer, or the stand-alone settings
-/// editor, in which everything that would need a loaded scene answers "nothing". GUI thread only.
+/// The interface of the application that hosts pages and panels: the viewer, or the stand-alone settings
+/// editor, which has no scene. GUI thread only.
 class ZEL_KERNEL_GUI_EXPORT kqDMIApplication : public QObject
 {
     Q_OBJECT

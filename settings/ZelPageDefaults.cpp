@@ -16,7 +16,7 @@ namespace zel {
 
 namespace {
 
-typedef ZelSettingsValidators Rules;
+using Rules = ZelSettingsValidators;
 
 const struct
 {

@@ -84,7 +84,7 @@ int runViewer(const QString& folder, QStringList arguments)
 
 int main(int argc, char** argv)
 {
-    const zel::ToolkitMessageSink<logMessage> messageSink;
+    const zel::QtMessageSink<logMessage> messageSink;
     zel::useUtf8FileNames();
     zel::followScreenScale();
     QApplication toolkit(argc, argv);

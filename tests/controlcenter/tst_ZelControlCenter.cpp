@@ -3,12 +3,16 @@
 #include "FakePage.h"
 #include "ZelCCActionItem.h"
 #include "ZelControlCenter.h"
+#include "ZelEditablePanel.h"
+#include "ZelGeneralSettingsPanel.h"
+#include "zelSpinBox.h"
 
 #include "platform/zelAction.h"
 
 #include <QtTest>
 #include <QtWidgets>
 
+#include <functional>
 #include <map>
 #include <memory>
 
@@ -101,7 +105,12 @@ private Q_SLOTS:
         QCOMPARE(m_controlCenter->settingsWidth(), 450);
 
         m_controlCenter->setControlCenterVisible(false);
-        QTRY_VERIFY(!m_controlCenter->isSettingsOpen());
+        const auto* pages = m_controlCenter->findChild<QFrame*>("preferenceFrame");
+        while (m_controlCenter->isSettingsOpen()) {
+            QCOMPARE(pages->isVisible() ? pages->y() : 0, 0); // The column stands still.
+            QTest::qWait(10);
+        }
+        QVERIFY(column()->parentWidget()->height() > 100);
         QCOMPARE(m_controlCenter->settingsWidth(), 0);
         QVERIFY(showsActions(true));
 
@@ -110,6 +119,27 @@ private Q_SLOTS:
         m_controlCenter->openMenu(false);
         QVERIFY(!m_controlCenter->isMenuOpen() && !m_controlCenter->isSettingsOpen());
         QVERIFY(m_application->engineUpdates.last());
+    }
+
+    void engineGoesOnWhenTheDrawerClosesOutOfSight()
+    {
+        QWidget container;
+        QVBoxLayout layout(&container);
+        layout.addWidget(m_controlCenter->settingsWidget());
+        const std::function<void()> hidings[] = {[&] { container.hide(); },
+                                                 [&] { m_controlCenter->setSettingsWidth(0); }};
+        const std::function<void()> closings[] = {[&] { m_controlCenter->openSettings(); },
+                                                  [&] { m_controlCenter->setControlCenterVisible(false); }};
+        for (const auto& hide : hidings)
+            for (const auto& close : closings) {
+                container.show();
+                openEverything();
+                hide();
+                close();
+                QCOMPARE(m_application->engineUpdates, QList<bool>({false, true}));
+                QVERIFY(!m_controlCenter->isSettingsOpen() && showsActions(true));
+            }
+        m_controlCenter->settingsWidget()->setParent(nullptr);
     }
 
     void buttonsReachEveryPage()
@@ -146,18 +176,53 @@ private Q_SLOTS:
                  QString("You need to restart your application to turn settings modification effective."));
     }
 
-    void editsStayWhereNothingMayBeWritten()
+    void editsStayWhereNothingCanBeWritten()
+    {
+        QSettings& settings = m_application->getSettings();
+        const QString file = settings.fileName(), folder = QFileInfo(file).path(), aside = folder + ".aside";
+        settings.setValue("DBCache/cacheSize", 1000);
+        settings.sync();
+        zel::ZelGeneralSettingsPanel page(m_application.get(), settings, nullptr, Qt::WindowFlags());
+        m_controlCenter->registerSettingsPanel(&page);
+        openEverything();
+        auto* size = page.findChild<QSpinBox*>("databaseSpinBox");
+        auto* error = m_controlCenter->findChild<QLabel*>("writeErrorLabel");
+        QVERIFY(error->isHidden());
+        // What stands in the way is known beforehand, or shows only when the file is written.
+        const std::pair<std::function<bool()>, std::function<bool()>> obstacles[] = {
+            {[&] { return QDir().mkpath(file + ".lock"); }, [&] { return QDir().rmdir(file + ".lock"); }},
+            {[&] { return QDir().rename(folder, aside) && QFile(folder).open(QIODevice::WriteOnly); },
+             [&] { return QFile::remove(folder) && QDir().rename(aside, folder); }}};
+        for (const auto& [block, clear] : obstacles) {
+            size->setValue(size->value() + 1);
+            QVERIFY(block());
+            for (int twice = 0; twice < 2; ++twice)
+                QTest::mouseClick(button("applyButton"), Qt::LeftButton);
+            QVERIFY(canApply() && page.hasModifications() && m_controlCenter->hasModifications());
+            QVERIFY2(error->isVisible() && error->text().contains(file), qPrintable(error->text()));
+            QVERIFY(clear());
+            QTest::mouseClick(button("applyButton"), Qt::LeftButton);
+            QVERIFY(!canApply() && error->isHidden() && error->text().isEmpty());
+            QFile stored(file);
+            QVERIFY(stored.open(QIODevice::ReadOnly));
+            QVERIFY(stored.readAll().contains("cacheSize=" + QByteArray::number(size->value()) + '\n'));
+        }
+        m_controlCenter->unregisterSettingsPanel(&page, true);
+    }
+
+    void fileThatCannotBeWrittenIsTold()
     {
         addPages(1);
-        m_pages[0]->edit();
-        const QString file = m_application->getSettings().fileName();
-        QVERIFY(QDir().mkpath(file + ".lock"));
-        m_calls.clear();
-        QTest::mouseClick(button("applyButton"), Qt::LeftButton);
-        QVERIFY(m_calls.isEmpty() && canApply());
-        QVERIFY(QDir().rmdir(file + ".lock"));
-        QTest::mouseClick(button("applyButton"), Qt::LeftButton);
-        QCOMPARE(m_calls, QStringList("P0 apply"));
+        const QString lock = m_application->getSettings().fileName() + ".lock";
+        QVERIFY(QDir().mkpath(lock));
+        openEverything();
+        auto* error = m_controlCenter->findChild<QLabel*>("writeErrorLabel");
+        QVERIFY(error->isVisible() && error->text().contains(lock) && error->focusPolicy() != Qt::NoFocus);
+        m_controlCenter->setControlCenterVisible(false);
+        QTRY_VERIFY(!m_controlCenter->isSettingsOpen());
+        QVERIFY(QDir().rmdir(lock));
+        m_controlCenter->setControlCenterVisible(true);
+        QVERIFY(error->isHidden());
     }
 
     void closingAsksInsideTheViewerOnly()
@@ -179,11 +244,36 @@ private Q_SLOTS:
             m_controlCenter->openMenu(false);
             const QString question = "You have pending modifications. Continue and discard your changes ?";
             QCOMPARE(answer.texts, QStringList(question).mid(one.insideViewer && one.modified ? 0 : 1));
-            QTRY_VERIFY(!m_controlCenter->isSettingsOpen());
             QTRY_COMPARE(m_controlCenter->isMenuOpen(), !one.closes);
+            QTRY_COMPARE(m_controlCenter->isSettingsOpen(), !one.closes);
             QCOMPARE(m_calls, one.modified && one.closes ? QStringList("P0 initialize") : QStringList());
-            QVERIFY(m_application->engineUpdates.last());
+            QTRY_VERIFY(m_application->engineUpdates.last());
         }
+    }
+
+    void refusedCloseKeepsTheEdits()
+    {
+        addPages(1);
+        m_application->guiPlugin = &m_guiPlugin;
+        for (const int answerAfter : {0, 200}) { // During the slide, and when it is over.
+            openEverything();
+            m_pages[0]->edit();
+            BoxAnswer answer(QMessageBox::Cancel, Qt::Key_Return); // What is not destructive is the default.
+            answer.setInterval(answerAfter);
+            m_controlCenter->openMenu(false);
+            QTRY_VERIFY(m_controlCenter->isSettingsOpen());
+            QVERIFY(canApply() && showsActions(false) && m_calls.isEmpty());
+            QCOMPARE(m_controlCenter->settingsWidth(), 450);
+            m_controlCenter->openSettings();
+            QTRY_VERIFY(!m_controlCenter->isSettingsOpen() && m_application->engineUpdates.last());
+        }
+        m_pages[0]->edit();
+        m_application->engineUpdates.clear();
+        BoxAnswer answer(QMessageBox::Cancel);
+        m_controlCenter->openMenu(false); // With the drawer closed, it stays so.
+        QCOMPARE(answer.texts.size(), 1);
+        QVERIFY(m_application->engineUpdates.last() && m_controlCenter->isMenuOpen());
+        QVERIFY(!m_controlCenter->isSettingsOpen() && showsActions(true));
     }
 
     void pageButtonsAndScrollingKeepInStep()
@@ -218,12 +308,40 @@ private Q_SLOTS:
         m_pages.pop_back();
         QVERIFY(!m_controlCenter->hasModifications() && !canApply());
 
+        delete m_pages[1]->getActionWidget(); // With the bar that an application has put it into, say.
+        m_pages[1]->setPanelName("Renamed");
+        m_controlCenter->registerSettingsPanel(m_pages[1].get());
+        openEverything();
+        scrollBar()->setValue(5);
+        m_controlCenter->unregisterSettingsPanel(m_pages[1].get(), true);
+
         // The window owns the drawer as well, and with it the pages that are in it.
         m_controlCenter->registerSettingsPanel(m_pages[0].release());
         delete m_controlCenter->settingsWidget();
         QVERIFY(!m_controlCenter->hasModifications());
         m_controlCenter->openMenu(true);
         m_controlCenter->openMenu(false);
+    }
+
+    void pageWithoutAResetButtonIsReported()
+    {
+        struct Model
+        {
+            bool operator==(const Model&) const { return true; }
+        };
+        struct Page : zel::ZelEditablePanel<Model>
+        {
+            using ZelEditablePanel::ZelEditablePanel;
+            void getCurrentModel(Model&) const override {}
+            void applyModel(const Model&) override {}
+            void notifyStateChanged() override {}
+        } page(m_application.get(), m_application->getSettings(), nullptr, Qt::WindowFlags(), {});
+        page.setPanelName("Bare");
+        QTest::ignoreMessage(QtWarningMsg,
+                             "The form of the page \"Bare\" has no push button named \"resetButton\"");
+        QTest::ignoreMessage(QtWarningMsg,
+                             "QObject::connect: No such signal zel::ZelSettingsPanel::stateChanged()");
+        m_controlCenter->registerSettingsPanel(&page);
     }
 
     void clickOutsideCloses()
@@ -250,6 +368,96 @@ private Q_SLOTS:
             QVERIFY2(m_application->engineUpdates.isEmpty() != press.closes, press.name);
         }
         QTRY_VERIFY(!m_controlCenter->isMenuOpen() && !m_controlCenter->isSettingsOpen());
+    }
+
+    void onePressIsOneQuestion()
+    {
+        addPages(1);
+        m_application->guiPlugin = &m_guiPlugin;
+        openEverything();
+        m_pages[0]->edit();
+        QWidget inView(m_view);
+        inView.resize(m_view->size());
+        inView.show();
+        for (int press = 0; press < 2; ++press) {
+            QTest::qWait(GuardTime);
+            BoxAnswer answer(QMessageBox::Cancel);
+            answer.setInterval(GuardTime);
+            QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                              inView.mapTo(m_window.get(), QPoint(10, 10)));
+            QCOMPARE(answer.texts.size(), 1);
+        }
+    }
+
+    void keysDoWhatTheMouseDoes()
+    {
+        addPages(3);
+        zel::zelSpinBox box(m_pages[0].get());
+        QCheckBox check(m_pages[0].get());
+        box.setRange(10, 4096);
+        openEverything();
+        box.setFocus();
+        // Escape puts back what is typed, and only that.
+        const std::pair<Qt::Key, int> ends[] = {
+            {Qt::Key_Escape, 10}, {Qt::Key_Return, 33}, {Qt::Key_Escape, 33}};
+        for (const auto& [end, value] : ends) {
+            box.selectAll();
+            QTest::keyClicks(&box, value == box.value() ? "44" : "33");
+            press(end);
+            QCOMPARE(box.value(), value);
+        }
+        check.setFocus();
+        for (const bool checked : {true, false}) {
+            press(checked ? Qt::Key_Return : Qt::Key_Enter);
+            QCOMPARE(check.isChecked(), checked);
+        }
+        m_pages[0]->getActionWidget()->setFocus();
+        const int bottom = scrollBar()->maximum(), page = scrollBar()->pageStep();
+        const std::pair<Qt::Key, int> scrolls[] = {{Qt::Key_End, bottom},
+                                                   {Qt::Key_PageUp, qMax(0, bottom - page)},
+                                                   {Qt::Key_Home, 0},
+                                                   {Qt::Key_PageDown, qMin(bottom, page)}};
+        for (const auto& [key, place] : scrolls) {
+            press(key);
+            QCOMPARE(scrollBar()->value(), place);
+        }
+        // A button that has been pressed hands the focus on to the page in view.
+        m_pages[0]->edit();
+        button("applyButton")->setFocus();
+        press(Qt::Key_Return);
+        QVERIFY(!canApply() && qobject_cast<QPushButton*>(QApplication::focusWidget())->isChecked());
+    }
+
+    void shortcutsAreTheApplications()
+    {
+        addPages(1);
+        QSpinBox box(m_pages[0].get());
+        openEverything();
+        int key = Qt::Key_1;
+        for (const char* name :
+             {"apply", "reset", "help", "putBack", "pageUp", "pageDown", "top", "bottom"}) {
+            auto* action = m_controlCenter->findChild<QAction*>(name);
+            QVERIFY(action && action->shortcuts().isEmpty() && !action->text().isEmpty());
+            action->setShortcut(QKeySequence(Qt::CTRL + key++));
+        }
+        QVERIFY(!m_controlCenter->findChild<QAction*>("apply")->isEnabled());
+        QSignalSpy help(m_controlCenter.get(), SIGNAL(helpRequested(QWidget*)));
+        QDialog other(m_window.get(), Qt::Tool);
+        QLineEdit field(&other);
+        m_view->setFocusPolicy(Qt::StrongFocus);
+        m_pages[0]->edit();
+        // They do not work in its other widgets and windows.
+        for (QWidget* widget : std::initializer_list<QWidget*>{m_view, &field, &box}) {
+            QVERIFY(m_calls.isEmpty());
+            widget->window()->show();
+            QApplication::setActiveWindow(widget->window());
+            widget->setFocus();
+            for (key = Qt::Key_1; key <= Qt::Key_3; ++key)
+                press(key, Qt::ControlModifier);
+        }
+        QCOMPARE(m_calls.join(","), QString("P0 apply,P0 reset"));
+        QCOMPARE(help.value(0).value(0).value<QWidget*>(), &box);
+        QVERIFY(box.hasFocus());
     }
 
     void pageKeepsItsStyle()
@@ -291,6 +499,9 @@ private Q_SLOTS:
         QVERIFY(shortcut->isHidden() && !button->isEnabled() && item.isVisible());
         action.setVisible(false);
         QVERIFY(item.isHidden());
+        m_actions.clear();
+        item.onActionChanged();
+        QVERIFY(!item.getZelAction() && item.isHidden());
     }
 
     void standsWhereItIsAskedTo()
@@ -309,11 +520,14 @@ private Q_SLOTS:
         QVERIFY(!m_controlCenter->addCCSeparator("", "before settings"));
         QVERIFY(m_controlCenter->addCCSeparator("", "top"));
         QVERIFY(m_controlCenter->addCCSeparator("gone", "bottom"));
+        m_controlCenter->setControlCenterWidth(250);
+        m_controlCenter->addCCSeparator("", "on top");
+        QCOMPARE(column()->itemAt(0)->widget()->size(), QSize(232, 1));
         m_controlCenter->unregisterCCAction(&action("twice"));
         action("twice").setText("Changed"); // Nothing mirrors it any more.
-        QCOMPARE(columnText(), QString("-,b,before a,a,-,Settings,last,-"));
+        QCOMPARE(columnText(), QString("-,-,b,before a,a,-,Settings,last,-"));
         QVERIFY(m_controlCenter->setCCSeparatorVisible("top", false));
-        QVERIFY(column()->itemAt(0)->widget()->isHidden());
+        QVERIFY(column()->itemAt(1)->widget()->isHidden());
         QVERIFY(!m_controlCenter->setCCSeparatorVisible("gone", true));
     }
 
@@ -329,12 +543,19 @@ private Q_SLOTS:
     {
         QPushButton external;
         m_controlCenter->setControlCenterButton(&external);
-        const QString icon(":/controlCenter/controlCenter/controlCenterOn.png");
-        m_controlCenter->setInterfaceColor(QColor(10, 20, 30, 128), icon, icon);
+        const QString on(":/controlCenter/controlCenter/controlCenterOn.png");
+        const QString off(":/controlCenter/controlCenter/controlCenterOff.png");
+        m_controlCenter->setInterfaceColor(QColor(10, 20, 30, 128), on, off);
         m_controlCenter->show();
         const QImage column = m_controlCenter->grab().toImage();
         QCOMPARE(column.pixelColor(100, column.height() - 10), QColor(10, 20, 30));
-        QVERIFY(!external.icon().isNull());
+        QCOMPARE(external.iconSize(), QSize(40, 40));
+        const auto picture = [](const QIcon& icon, QIcon::State state) {
+            return icon.pixmap(40, QIcon::Normal, state).toImage();
+        };
+        QCOMPARE(picture(external.icon(), QIcon::On), picture(QIcon(on), QIcon::On));
+        QCOMPARE(picture(external.icon(), QIcon::Off), picture(QIcon(off), QIcon::Off));
+        QVERIFY(picture(QIcon(on), QIcon::On) != picture(QIcon(off), QIcon::Off));
     }
 
 private:
@@ -359,6 +580,11 @@ private:
             m_pages.emplace_back(new FakePage(QString("P%1").arg(i), m_application->getSettings(), m_calls));
             m_controlCenter->registerSettingsPanel(m_pages.back().get());
         }
+    }
+
+    static void press(int key, Qt::KeyboardModifier modifier = Qt::NoModifier)
+    {
+        QTest::keyClick(QApplication::activeWindow()->windowHandle(), Qt::Key(key), modifier);
     }
 
     /// Without a slide that is worth a wait.
