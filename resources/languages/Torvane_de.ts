@@ -370,6 +370,10 @@ Fortfahren und die Anwendung schließen?</translation>
         <source>Scroll to the bottom</source>
         <translation>Zum Ende blättern</translation>
     </message>
+    <message>
+        <source>another program has locked it</source>
+        <translation>ein anderes Programm hat sie gesperrt</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenterStandAloneWidget</name>

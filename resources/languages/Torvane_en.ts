@@ -370,6 +370,10 @@ Continue and close the application ?</translation>
         <source>Scroll to the bottom</source>
         <translation>Scroll to the bottom</translation>
     </message>
+    <message>
+        <source>another program has locked it</source>
+        <translation>another program has locked it</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenterStandAloneWidget</name>

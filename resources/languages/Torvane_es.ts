@@ -370,6 +370,10 @@ Continue and close the application ?</source>
         <source>Scroll to the bottom</source>
         <translation>Ir al final</translation>
     </message>
+    <message>
+        <source>another program has locked it</source>
+        <translation>otro programa lo ha bloqueado</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenterStandAloneWidget</name>

@@ -370,6 +370,10 @@ Continuer et fermer l’application&#xa0;?</translation>
         <source>Scroll to the bottom</source>
         <translation>Aller à la fin</translation>
     </message>
+    <message>
+        <source>another program has locked it</source>
+        <translation>un autre programme l’a verrouillé</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenterStandAloneWidget</name>

@@ -370,6 +370,10 @@ Continuare e chiudere l’applicazione?</translation>
         <source>Scroll to the bottom</source>
         <translation>Vai alla fine</translation>
     </message>
+    <message>
+        <source>another program has locked it</source>
+        <translation>un altro programma l’ha bloccato</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenterStandAloneWidget</name>

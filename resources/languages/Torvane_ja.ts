@@ -370,6 +370,10 @@ Continue and close the application ?</source>
         <source>Scroll to the bottom</source>
         <translation>末尾へスクロール</translation>
     </message>
+    <message>
+        <source>another program has locked it</source>
+        <translation>別のプログラムがロックしています</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenterStandAloneWidget</name>

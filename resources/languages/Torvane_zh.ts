@@ -370,6 +370,10 @@ Continue and close the application ?</source>
         <source>Scroll to the bottom</source>
         <translation>滚动到底部</translation>
     </message>
+    <message>
+        <source>another program has locked it</source>
+        <translation>其他程序已将其锁定</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenterStandAloneWidget</name>

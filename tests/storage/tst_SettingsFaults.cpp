@@ -313,6 +313,20 @@ private Q_SLOTS:
             QVERIFY2(write(settings, {{"new/key", "text"}}), qPrintable(error));
             QVERIFY(holdsForeign(contentOf(m_path)) && contentOf(m_path).contains("[new]\nkey=text\n"));
         }
+        // Room for the lock and a part of the content, known beforehand or not.
+        for (const int freePages : {1, 2, 3, 6}) {
+            store(m_path, Foreign);
+            QFile filler(m_folder->filePath("filler"));
+            QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+            while (filler.write(QByteArray(4096, 'x')) == 4096)
+                continue;
+            QVERIFY(filler.resize((filler.size() / 4096 - freePages) * 4096));
+            Settings settings(m_path);
+            QVERIFY(!write(settings, {{"new/key", QString(40000, 'y')}}) && error.contains("No space left"));
+            QVERIFY(!settings.contains("new/key"));
+            QCOMPARE(contentOf(m_path), Foreign);
+            filler.remove();
+        }
         const QByteArray path = m_path.toUtf8(), other = path + ".other";
         store(other, Foreign);
         QVERIFY(::mount(other, path, nullptr, MS_BIND, nullptr) == 0);
@@ -479,6 +493,30 @@ private Q_SLOTS:
                 QVERIFY(once(m_path));
             }
         }
+    }
+
+    void groupNamedLikeAMissingKey()
+    {
+        ZelSettingsRegistry::RegisterSetting("Foreign", "text", &ZelSettingsValidators::noOp);
+        store(m_path, Foreign);
+        Settings settings(m_path);
+        const auto giveUp = [](QSettings& changed, QString&) {
+            changed.setValue("Foreign", "text");
+            return false;
+        };
+        QVERIFY(!ZelSettingsFile::Write(settings, giveUp, error) && holdsForeign(contentOf(m_path)));
+        QVERIFY(validate(m_path) && holdsForeign(contentOf(m_path)));
+        ZelSettingsRegistry::ClearSettingsValues();
+        initTestCase();
+    }
+
+    void lockOfAStoppedProcess()
+    {
+        store(m_path, Foreign);
+        store(m_path + ".lock", QByteArray::number(::getpid()) + "\nother\n\n");
+        QElapsedTimer clock;
+        clock.start();
+        QVERIFY(!apply(m_path) && error.contains("another program") && clock.elapsed() < Patience);
     }
 
     void newerVersions()

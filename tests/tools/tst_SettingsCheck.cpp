@@ -240,7 +240,9 @@ private Q_SLOTS:
             QCOMPARE(m_output.startsWith("usage:"), exitCode == 0);
         }
         const std::pair<QString, int> commands[] = {{"exec \"$0\" \"$(printf 'caf\\351')\"", 3},
-                                                    {"exec \"$0\" --help >/dev/full", 2}};
+                                                    {"exec \"$0\" --help >/dev/full", 2},
+                                                    {"printf 'caf\\351' | \"$0\" -", 3},
+                                                    {"exec \"$0\" - <&-", 0}};
         for (const auto& [command, exitCode] : commands)
             QCOMPARE(QProcess::execute("sh", {"-c", command, TORVANE_SETTINGS_CHECK}), exitCode);
     }
