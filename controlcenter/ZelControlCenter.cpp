@@ -9,6 +9,7 @@
 #include "ZelSettingsPanel.h"
 #include "base/ZelQtCompat.h"
 
+#include "platform/MTLogger.h"
 #include "platform/kqDMGuiPlugin.h"
 #include "platform/kqDMIApplication.h"
 #include "platform/kqMessageBox.h"
@@ -47,6 +48,21 @@ QMessageBox::StandardButton showMessage(const QString& text, QMessageBox::Standa
     return kqMessageBox::ShowMessage(QCoreApplication::translate("ZelControlCenter", "Settings Modification"),
                                      text, buttons, nullptr, Qt::WindowFlags(),
                                      QMap<QMessageBox::StandardButton, QString>(), false);
+}
+
+void logUnregisteredKeys(const zel::ZelSettingsPanel& panel)
+{
+    const auto& registered = zel::ZelSettingsRegistry::GetDefaultSettingsValues();
+    QStringList keys = panel.getSettingsKeys();
+    keys.erase(std::remove_if(keys.begin(), keys.end(),
+                              [&](const QString& key) { return registered.count(key) > 0; }),
+               keys.end());
+    if (!keys.isEmpty())
+        MTLogger::Log("warning", QString("The page \"%1\" has keys without a default or a validator, because "
+                                         "they are not registered: %2")
+                                     .arg(panel.getPanelName(), keys.join(", "))
+                                     .toUtf8()
+                                     .constData());
 }
 
 /// Styles a widget and all its descendants. A combo box, for one, learns only from a change which kind of
@@ -155,6 +171,7 @@ void ZelControlCenter::registerSettingsPanel(ZelSettingsPanel* panel)
     if (m_panels.contains(panel))
         return;
     m_panels.append(panel);
+    logUnregisteredKeys(*panel);
     connect(panel, SIGNAL(stateChanged()), this, SLOT(onStateChanged()));
     connect(panel, SIGNAL(destroyed(QObject*)), this, SLOT(onPanelDestroyed(QObject*)));
 

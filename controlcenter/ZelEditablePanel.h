@@ -29,6 +29,10 @@ public:
         : ZelSettingsPanel(application, settings, parent, flags)
         , m_fields(std::move(fields))
     {
+        QStringList keys;
+        for (const auto& field : m_fields)
+            keys.append(field.key);
+        setSettingsKeys(keys);
     }
 
     void initializeWidget() override
@@ -121,7 +125,10 @@ protected:
     virtual void notifyStateChanged() = 0;
 
     /// Refreshes the reset button.
-    void checkContent() const { enableButton(*findChild<QPushButton*>("resetButton"), canResetContent()); }
+    void checkContent() const
+    {
+        enableButton(*findChild<QPushButton*>(QLatin1String("resetButton")), canResetContent());
+    }
 
     /// What every edit ends with.
     void onEdited()

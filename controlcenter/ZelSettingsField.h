@@ -48,7 +48,7 @@ inline ZelFieldConversion<double> realConversion()
 
 inline ZelFieldConversion<bool> flagConversion()
 {
-    return plainConversion<bool>([](const QString& text) { return text == "true"; });
+    return plainConversion<bool>([](const QString& text) { return text == QLatin1String("true"); });
 }
 
 /// A row of a page's table: the key, and how its value gets into the model and out of it.
@@ -57,9 +57,9 @@ struct ZelSettingsField
 {
     template <class T>
     ZelSettingsField(const char* settingsKey, T Model::*member, const ZelFieldConversion<T>& conversion)
-        : key(settingsKey)
+        : key(QLatin1String(settingsKey))
         , readStored(
-              [=](Model& model, const QVariant& stored) { model.*member = conversion.fromStored(stored); })
+              [=](Model& model, const QVariant& value) { model.*member = conversion.fromStored(value); })
         , readDefault(
               [=](Model& model, const QString& text) { model.*member = conversion.fromDefault(text); })
         , stored([=](const Model& model) { return conversion.toStored(model.*member); })

@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 
 class QSettings;
@@ -45,6 +46,10 @@ public:
     /// Names the page and labels its button.
     void setPanelName(const QString& name);
 
+    /// The keys of Settings.ini that the page edits. The control center logs those that are not registered
+    /// when it gets the page.
+    const QStringList& getSettingsKeys() const;
+
     /// Loads the stored values into the widgets and forgets pending edits. Called at registration, whenever
     /// the drawer opens, and when pending edits are discarded.
     virtual void initializeWidget() = 0;
@@ -75,6 +80,9 @@ public:
     virtual void unregisterCCActionByName(const QString& name);
 
 protected:
+    /// To be called by the constructor of a page that edits settings; ZelEditablePanel does it.
+    void setSettingsKeys(const QStringList& keys);
+
     kqDMIApplication* application() const { return m_application; }
     QSettings& settings() const { return *m_settings; }
 
@@ -85,6 +93,7 @@ private:
     kqDMIApplication* m_application;
     QSettings* m_settings;
     QString m_panelName;
+    QStringList m_settingsKeys;
     PanelCategory m_category;
     QPointer<QPushButton> m_actionWidget;
 };
