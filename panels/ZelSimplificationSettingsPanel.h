@@ -60,7 +60,7 @@ protected:
 private:
     /// Brings the neighbours of an edited level, but none beyond them, into descending order with it.
     void finishEditing(int level);
-    zelDoubleSpinBox* percentage(int level) const { return m_percentages[level - 1]; }
+    zelDoubleSpinBox* percentage(int level) const { return m_percentages[std::size_t(level - 1)]; }
 
     const std::unique_ptr<Ui::ZelSimplificationSettingsPanel> m_ui;
     std::vector<zelDoubleSpinBox*> m_percentages; ///< The form's spin boxes, level 1 first.
