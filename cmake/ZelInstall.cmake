@@ -39,12 +39,15 @@ install(FILES ${PROJECT_BINARY_DIR}/ZelControlCenterConfig.cmake
               ${PROJECT_BINARY_DIR}/ZelControlCenterConfigVersion.cmake
         DESTINATION ${zel_package_dir} COMPONENT development)
 
-# zel_install_guide(<folder> <install option>...): the guide to embedding, the changes, and the examples.
+# zel_install_guide(<folder> <install option>...): the guide to embedding, and the examples.
 function(zel_install_guide folder)
-    install(FILES ${PROJECT_SOURCE_DIR}/docs/embedding.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md DESTINATION ${folder} ${ARGN})
+    install(FILES ${PROJECT_SOURCE_DIR}/docs/embedding.md DESTINATION ${folder} ${ARGN})
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${folder} ${ARGN})
 endfunction()
-zel_install_guide(share/doc/ZelControlCenter COMPONENT guide)
+set(zel_doc_dir share/doc/ZelControlCenter)
+zel_install_guide(${zel_doc_dir} COMPONENT guide)
+install(FILES ${PROJECT_SOURCE_DIR}/CHANGELOG.md ${PROJECT_SOURCE_DIR}/docs/third-party.md DESTINATION ${zel_doc_dir}
+        COMPONENT guide)
 
 # Builds what `install` copies, and nothing else.
 add_custom_target(ZelInstalled DEPENDS torvane-settings torvane-settings-check)
