@@ -22,8 +22,10 @@ template <class Model>
 class ZelEditablePanel : public ZelSettingsPanel
 {
 public:
+    /// The table of a page: a row for each key.
     typedef std::vector<ZelSettingsField<Model>> Fields;
 
+    /// The first four arguments are those of ZelSettingsPanel.
     ZelEditablePanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
                      Qt::WindowFlags flags, Fields fields)
         : ZelSettingsPanel(application, settings, parent, flags)
@@ -35,6 +37,7 @@ public:
         setSettingsKeys(keys);
     }
 
+    /// Reads the stored values into the widgets.
     void initializeWidget() override
     {
         Model stored;
@@ -43,6 +46,7 @@ public:
         checkContent();
     }
 
+    /// True when the widgets do not hold the stored values.
     bool hasModifications() const override
     {
         Model stored, current;
@@ -51,6 +55,7 @@ public:
         return !(stored == current);
     }
 
+    /// Hands the edits to the running application, then stores them. True when shouldRestart() says so.
     bool applyModifications() override
     {
         if (!hasModifications())
@@ -63,6 +68,7 @@ public:
         return restart;
     }
 
+    /// True when the widgets do not hold the defaults.
     bool canResetContent() const override
     {
         Model defaults, current;
@@ -71,6 +77,7 @@ public:
         return !(defaults == current);
     }
 
+    /// Puts the defaults into the widgets, as an edit.
     void resetContent() override
     {
         if (!canResetContent())
@@ -88,12 +95,14 @@ public:
     virtual void saveSettings() {}
 
 protected:
+    /// Reads what is stored.
     void readSettings(Model& model) const
     {
         for (const auto& field : m_fields)
             field.readStored(model, settings().value(field.key));
     }
 
+    /// Reads the registered defaults.
     void getDefaultSettings(Model& model) const
     {
         for (const auto& field : m_fields)

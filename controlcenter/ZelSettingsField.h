@@ -14,7 +14,9 @@ struct ZelFieldConversion
 {
     /// A key that is absent is given as an invalid variant, and as a null default text.
     std::function<T(const QVariant& stored)> fromStored;
+    /// Reads a registered default.
     std::function<T(const QString& defaultText)> fromDefault;
+    /// Gives what is written.
     std::function<QVariant(const T& value)> toStored;
 };
 
@@ -26,26 +28,31 @@ ZelFieldConversion<T> plainConversion(std::function<T(const QString& defaultText
             [](const T& value) { return QVariant::fromValue(value); }};
 }
 
+/// Text as it is.
 inline ZelFieldConversion<QString> textConversion()
 {
     return plainConversion<QString>([](const QString& text) { return text; });
 }
 
+/// A whole number; 0 for a default that is none.
 inline ZelFieldConversion<int> integerConversion()
 {
     return plainConversion<int>([](const QString& text) { return text.toInt(); });
 }
 
+/// A whole number of 64 bits; 0 for a default that is none.
 inline ZelFieldConversion<quint64> unsignedConversion()
 {
     return plainConversion<quint64>([](const QString& text) { return text.toULongLong(); });
 }
 
+/// A number; 0 for a default that is none.
 inline ZelFieldConversion<double> realConversion()
 {
     return plainConversion<double>([](const QString& text) { return text.toDouble(); });
 }
 
+/// "true" or "false"; any default but "true" is false.
 inline ZelFieldConversion<bool> flagConversion()
 {
     return plainConversion<bool>([](const QString& text) { return text == QLatin1String("true"); });
@@ -56,6 +63,7 @@ template <class Model>
 struct ZelSettingsField
 {
     template <class T>
+    /// A row for a key and the member of the model that holds its value.
     ZelSettingsField(const char* settingsKey, T Model::*member, const ZelFieldConversion<T>& conversion)
         : key(QLatin1String(settingsKey))
         , readStored(
@@ -66,9 +74,13 @@ struct ZelSettingsField
     {
     }
 
+    /// As in Settings.ini.
     QString key;
+    /// Puts a stored value into a model.
     std::function<void(Model&, const QVariant& stored)> readStored;
+    /// Puts a default into a model.
     std::function<void(Model&, const QString& defaultText)> readDefault;
+    /// What is written for a model.
     std::function<QVariant(const Model&)> stored;
 };
 

@@ -36,12 +36,15 @@ public:
                      Qt::WindowFlags flags);
     ~ZelSettingsPanel() override;
 
+    /// NoCategory unless the page has set one.
     PanelCategory getPanelCategory() const;
+    /// Sets the category; nothing else changes.
     void setPanelCategory(PanelCategory category);
 
     /// The checkable button that brings the page into view. The page owns it, wherever it is shown.
     QPushButton* getActionWidget() const;
 
+    /// Empty until it is set.
     const QString& getPanelName() const;
     /// Names the page and labels its button.
     void setPanelName(const QString& name);
@@ -83,7 +86,9 @@ protected:
     /// To be called by the constructor of a page that edits settings; ZelEditablePanel does it.
     void setSettingsKeys(const QStringList& keys);
 
+    /// What was given to the constructor; may be null.
     kqDMIApplication* application() const { return m_application; }
+    /// What was given to the constructor.
     QSettings& settings() const { return *m_settings; }
 
     /// Sets the style sheet that the application keeps under this name; to be called once the form is set up.

@@ -14,6 +14,7 @@ class ZEL_EXPORT zelSpinBox : public WheelGuard<QSpinBox>
     Q_OBJECT
 
 public:
+    /// As QSpinBox. The parent, if any, owns it.
     explicit zelSpinBox(QWidget* parent = nullptr);
 };
 

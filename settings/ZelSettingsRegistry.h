@@ -27,6 +27,7 @@ public:
     /// fails.
     typedef bool (*EndCheck)(QSettings& settings, QString& error);
 
+    /// The registered keys: to each its default text and its validator.
     typedef std::map<QString, std::pair<QString, Validator>> Settings;
 
     /// Adds a key. The first registration of a key wins: false, and no change, for a key that is there

@@ -27,13 +27,16 @@ class ZEL_EXPORT ZelControlCenterStandAloneWidget : public QWidget
     Q_OBJECT
 
 public:
+    /// Creates all pages. The application must not be null.
     ZelControlCenterStandAloneWidget(kqDMIApplication* application, QWidget* parent, Qt::WindowFlags flags);
     ~ZelControlCenterStandAloneWidget() override;
 
 public Q_SLOTS:
+    /// Minimises the window.
     void triggerMinimize();
     /// Maximises the window, or restores it.
     void triggerMaximize();
+    /// Closes the window, as its frame's button does.
     void closeWidget();
     /// Slides the menu and the drawer open.
     void openMenu();

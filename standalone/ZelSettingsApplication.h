@@ -63,6 +63,7 @@ public:
     void setWorkFlowWidget(QWidget* widget) override;
     void registerMouseReleaseEventFilter(zelReleaseEventFilter* filter, bool enable) override;
 
+    /// Sets what getLanguageCode() answers; empty at first.
     void setLanguageCode(const QString& code);
 
 private:
