@@ -1,5 +1,5 @@
-# The runnable tree that the build makes; `install` makes the same one. At run time the library looks for the
-# toolkit's plug-ins in "bin" and for translations in "resources/languages", both below the working folder.
+# The runnable tree that the build makes; `install` makes the same one. At run time the library looks for
+# Qt's plug-ins in "bin" and for translations in "resources/languages", both below the working folder.
 
 set(ZEL_STAGE ${PROJECT_BINARY_DIR}/stage)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${ZEL_STAGE}/bin)
