@@ -23,6 +23,8 @@ foreach(folder IN LISTS ZEL_PLUGIN_FOLDERS)
 endforeach()
 set(ZEL_LANGUAGE_DIR resources/languages)
 install(DIRECTORY ${ZEL_STAGE}/${ZEL_LANGUAGE_DIR} DESTINATION resources)
+set(ZEL_DEFAULTS resources/Defaults.ini)
+install(FILES ${ZEL_STAGE}/${ZEL_DEFAULTS} DESTINATION resources)
 
 # Headers and CMake package.
 set(zel_package_dir lib/cmake/ZelControlCenter)
@@ -32,7 +34,7 @@ install(FILES ${PROJECT_SOURCE_DIR}/base/ZelExport.h DESTINATION include/zel/bas
 install(EXPORT ZelTargets NAMESPACE Zel:: DESTINATION ${zel_package_dir} COMPONENT development)
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/ZelControlCenterConfig.cmake.in
                               ${PROJECT_BINARY_DIR}/ZelControlCenterConfig.cmake
-                              INSTALL_DESTINATION ${zel_package_dir} PATH_VARS ZEL_LANGUAGE_DIR)
+                              INSTALL_DESTINATION ${zel_package_dir} PATH_VARS ZEL_LANGUAGE_DIR ZEL_DEFAULTS)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/ZelControlCenterConfigVersion.cmake
                                  COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/ZelControlCenterConfig.cmake

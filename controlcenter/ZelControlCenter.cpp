@@ -2,11 +2,13 @@
 
 #include "ui_ControlCenter.h"
 
+#include "DrawerLayout.h"
 #include "EnableButton.h"
 #include "StyleSheetPause.h"
 #include "ZelCCActionItem.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsPanel.h"
+#include "base/ZelAccessibility.h"
 #include "base/ZelQtCompat.h"
 
 #include "platform/MTLogger.h"
@@ -24,6 +26,7 @@
 #include <QScrollBar>
 #include <QSettings>
 #include <QSignalMapper>
+#include <QTimer>
 
 #include <algorithm>
 #include <vector>
@@ -33,6 +36,8 @@ static void cleanupResources()
 {
     Q_CLEANUP_RESOURCE(ZelControlCenter);
 }
+
+namespace zel {
 
 namespace {
 
@@ -50,9 +55,9 @@ QMessageBox::StandardButton showMessage(const QString& text, QMessageBox::Standa
                                      QMap<QMessageBox::StandardButton, QString>(), false);
 }
 
-void logUnregisteredKeys(const zel::ZelSettingsPanel& panel)
+void logUnregisteredKeys(const ZelSettingsPanel& panel)
 {
-    const auto& registered = zel::ZelSettingsRegistry::GetDefaultSettingsValues();
+    const auto& registered = ZelSettingsRegistry::GetDefaultSettingsValues();
     QStringList keys = panel.getSettingsKeys();
     keys.erase(std::remove_if(keys.begin(), keys.end(),
                               [&](const QString& key) { return registered.count(key) > 0; }),
@@ -63,6 +68,20 @@ void logUnregisteredKeys(const zel::ZelSettingsPanel& panel)
                                      .arg(panel.getPanelName(), keys.join(", "))
                                      .toUtf8()
                                      .constData());
+}
+
+/// Marks the button of a page that has pending edits. The mark keeps its place while there are none.
+void markPending(QPushButton& button, bool pending)
+{
+    const QString tip = pending ? QCoreApplication::translate("ZelControlCenter",
+                                                              "This page has changes that are not applied.")
+                                : QCoreApplication::translate("ZelControlCenter", "Shows this page.");
+    if (button.toolTip() == tip)
+        return;
+    button.setIcon(QIcon(pending ? ":/controlCenter/controlCenter/pending.png"
+                                 : ":/controlCenter/controlCenter/pendingNone.png"));
+    button.setToolTip(tip);
+    button.setAccessibleDescription(tip);
 }
 
 /// Styles a widget and all its descendants. A combo box, for one, learns only from a change which kind of
@@ -81,8 +100,6 @@ void styleAll(QWidget& tree)
 
 } // namespace
 
-namespace zel {
-
 ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* parent, Qt::WindowFlags flags)
     : QWidget(parent, flags)
     , m_ui(new Ui::ControlCenter)
@@ -91,11 +108,13 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     , m_pageGroup(new QButtonGroup(this))
     , m_menuOpen(false)
     , m_settingsOpen(false)
+    , m_pressHandled(false)
 {
     m_ui->setupUi(this);
     setStyleSheet(kqDMIApplication::GetStylesheet("ZelControlCenter"));
     setObjectName("ZelControlCenter");
     m_ui->verticalLayout->setAlignment(Qt::AlignTop);
+    m_ui->verticalLayout_4 = m_drawerLayout = new DrawerLayout(m_ui->verticalLayout_4);
     // The sliding menu uncovers its buttons instead of squeezing them.
     m_ui->mainPanel->setMinimumWidth(MenuWidth);
 
@@ -123,6 +142,7 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
 
     m_pageGroup->setExclusive(true);
+    showWriteError(QString());
     openMenu(false);
     createSettingsAction();
     m_clickTimer.start();
@@ -175,14 +195,23 @@ void ZelControlCenter::registerSettingsPanel(ZelSettingsPanel* panel)
     connect(panel, SIGNAL(stateChanged()), this, SLOT(onStateChanged()));
     connect(panel, SIGNAL(destroyed(QObject*)), this, SLOT(onPanelDestroyed(QObject*)));
 
-    QPushButton* button = panel->getActionWidget();
-    m_ui->verticalLayout_6->addWidget(button);
-    m_ui->applicationSettings->show();
+    if (QPushButton* button = panel->getActionWidget())
+        addPageButton(button, panel->getPanelName());
     {
         const StyleSheetPause pause(*panel);
         m_ui->verticalLayout_8->addWidget(panel);
     }
     styleAll(*panel);
+    m_ui->applicationFrame->show();
+    panel->show();
+    panel->initializeWidget();
+    onStateChanged();
+}
+
+void ZelControlCenter::addPageButton(QPushButton* button, const QString& panelName)
+{
+    m_ui->verticalLayout_6->addWidget(button);
+    m_ui->applicationSettings->show();
     // The keyboard walks the column from top to bottom before any page.
     if (m_pageGroup->buttons().isEmpty()) {
         setTabOrder(button, m_ui->resetButton);
@@ -191,24 +220,20 @@ void ZelControlCenter::registerSettingsPanel(ZelSettingsPanel* panel)
         setTabOrder(m_pageGroup->buttons().last(), button);
     }
     m_pageGroup->addButton(button);
-    m_ui->applicationFrame->show();
-    panel->show();
-    panel->initializeWidget();
-
     connect(button, SIGNAL(clicked()), m_pageMapper, SLOT(map()));
-    m_pageMapper->setMapping(button, panel->getPanelName());
-    onStateChanged();
+    m_pageMapper->setMapping(button, panelName);
 }
 
 void ZelControlCenter::unregisterSettingsPanel(ZelSettingsPanel* panel, bool reevaluate)
 {
     disconnect(panel, nullptr, this, nullptr);
     if (m_panels.removeOne(panel)) {
-        QPushButton* button = panel->getActionWidget();
-        m_pageGroup->removeButton(button);
-        disconnect(button, SIGNAL(clicked()), m_pageMapper, SLOT(map()));
-        m_pageMapper->removeMappings(button);
-        button->setParent(nullptr);
+        if (QPushButton* button = panel->getActionWidget()) {
+            m_pageGroup->removeButton(button);
+            disconnect(button, SIGNAL(clicked()), m_pageMapper, SLOT(map()));
+            m_pageMapper->removeMappings(button);
+            button->setParent(nullptr);
+        }
         panel->setParent(nullptr);
     }
     if (reevaluate)
@@ -233,16 +258,19 @@ bool ZelControlCenter::hasModifications() const
 
 bool ZelControlCenter::applyModifications()
 {
-    QString error;
-    // The toolkit keeps what the pages hand over, and writes it in the end even where that was refused.
-    if (hasModifications() &&
-        !ZelSettingsFile::PrepareWriting(m_application->getSettings().fileName(), error))
-        return false;
     bool restart = false;
-    forEachPanel([&restart](ZelSettingsPanel* panel) { restart = panel->applyModifications() || restart; });
-    // One write for all pages, so that the file never holds half of an Apply. A failure is reported there.
-    ZelSettingsFile::Sync(m_application->getSettings(), error);
-    return restart;
+    const auto apply = [&](QSettings&, QString&) {
+        forEachPanel([&](ZelSettingsPanel* panel) { restart = panel->applyModifications() || restart; });
+        return true;
+    };
+    QSettings& settings = m_application->getSettings();
+    QString error;
+    if (!hasModifications())
+        return apply(settings, error) && restart;
+    // One write for all pages, so that the file never holds half of an Apply.
+    const bool written = ZelSettingsFile::Write(settings, apply, error);
+    showWriteError(error);
+    return written && restart;
 }
 
 void ZelControlCenter::setGUIHandler(QWidget* handler)
@@ -284,7 +312,7 @@ void ZelControlCenter::setSettingsWidth(int width)
     m_drawer->setFixedWidth(width);
     const QScrollBar* scrollBar = m_drawer->verticalScrollBar();
     const int barWidth = scrollBar->isVisible() ? scrollBar->width() : 0;
-    m_ui->verticalLayout_4->setLeastWidth(DrawerWidth - barWidth);
+    m_drawerLayout->setLeastWidth(DrawerWidth - barWidth);
     m_ui->settingsContent->setFixedWidth(std::max(width - barWidth, 0));
     // Nothing has scrolled yet, so the page in view is marked as soon as it can be seen.
     if (m_settingsAnimation->state() == QAbstractAnimation::Running &&
@@ -364,17 +392,22 @@ bool ZelControlCenter::eventFilter(QObject* watched, QEvent* event)
         m_clickTimer.restart();
     // A press into a modal box is an answer, not a click outside. Presses that the toolkit first hands to its
     // native window come again for the widget.
-    if (event->type() != QEvent::MouseButtonPress || QApplication::activeModalWidget() ||
+    if (event->type() != QEvent::MouseButtonPress || m_pressHandled || QApplication::activeModalWidget() ||
         isNativeWindow(watched))
         return false;
     if (m_clickTimer.elapsed() < ClickGuard)
         return false;
     m_clickTimer.restart();
     const QPoint position = static_cast<QMouseEvent*>(event)->globalPos();
-    if (isClickOutside(watched, position) && discardModifications()) {
+    if (!isClickOutside(watched, position))
+        return false;
+    if (discardModifications()) {
         openSettingsPanel(false);
         openMenu(false);
     }
+    // A press that no widget takes is offered to one parent after the other, at once.
+    m_pressHandled = true;
+    QTimer::singleShot(0, this, SLOT(onPressDelivered()));
     return false;
 }
 
@@ -392,9 +425,13 @@ void ZelControlCenter::openMenu(bool open)
         m_widthAnimation->setDirection(QAbstractAnimation::Forward);
         m_ui->preferenceFrame->hide();
     } else {
-        openSettingsPanel(false);
+        const bool drawerWasOpen = m_drawer && !m_drawer->isHidden() &&
+                                   m_settingsAnimation->direction() == QAbstractAnimation::Forward;
+        slideDrawer(false, false);
         if (!discardModifications()) {
             m_application->setUpdateEngineEnabled(true);
+            if (drawerWasOpen)
+                showDrawer(true);
             return;
         }
         m_application->setUpdateEngineEnabled(false);
@@ -406,7 +443,7 @@ void ZelControlCenter::openMenu(bool open)
     }
 
     if (m_ui->preferenceFrame->isVisible())
-        openSettingsPanel(false);
+        slideDrawer(false, false);
     if (m_controlCenterButton)
         m_controlCenterButton->setChecked(open);
     if (m_widthAnimation->state() == QAbstractAnimation::Running)
@@ -419,13 +456,10 @@ void ZelControlCenter::openMenu(bool open)
 
 void ZelControlCenter::setControlCenterVisible(bool visible)
 {
-    if (visible) {
-        m_ui->controlCenterButton->setChecked(true);
-        m_ui->preferenceFrame->show();
-        openSettingsPanel(true);
-    } else if (m_ui->preferenceFrame->isVisible()) {
+    if (visible)
+        showDrawer(false);
+    else if (m_ui->preferenceFrame->isVisible())
         openSettingsPanel(false);
-    }
 }
 
 void ZelControlCenter::openSettings()
@@ -465,7 +499,15 @@ void ZelControlCenter::onStateChanged()
     enableButton(*m_ui->resetButton,
                  std::any_of(m_panels.begin(), m_panels.end(),
                              [](const ZelSettingsPanel* panel) { return panel->canResetContent(); }));
-    enableButton(*m_ui->applyButton, hasModifications());
+    bool modified = false;
+    for (ZelSettingsPanel* panel : m_panels) {
+        const bool pending = panel->hasModifications();
+        if (QPushButton* button = panel->getActionWidget())
+            markPending(*button, pending);
+        modified = modified || pending;
+    }
+    enableButton(*m_ui->applyButton, modified);
+    Q_EMIT evaluated();
 }
 
 void ZelControlCenter::onControlCenterWidthFinished()
@@ -492,7 +534,8 @@ void ZelControlCenter::onScrollBarValueChanged(int value)
     for (QWidget* widget = m_ui->settingsContent->childAt(belowTop); widget;
          widget = widget->parentWidget()) {
         if (auto* panel = qobject_cast<ZelSettingsPanel*>(widget)) {
-            panel->getActionWidget()->setChecked(true);
+            if (QPushButton* button = panel->getActionWidget())
+                button->setChecked(true);
             return;
         }
     }
@@ -525,7 +568,26 @@ void ZelControlCenter::onFocusChanged(QWidget* former, QWidget* current)
         m_drawer->ensureWidgetVisible(current, 0);
 }
 
+void ZelControlCenter::onPressDelivered()
+{
+    m_pressHandled = false;
+}
+
 void ZelControlCenter::openSettingsPanel(bool open)
+{
+    slideDrawer(open, false);
+    resumeEngineAtRest();
+}
+
+void ZelControlCenter::showDrawer(bool keepEdits)
+{
+    m_ui->controlCenterButton->setChecked(true);
+    m_ui->preferenceFrame->show();
+    slideDrawer(true, keepEdits);
+    resumeEngineAtRest();
+}
+
+void ZelControlCenter::slideDrawer(bool open, bool keepEdits)
 {
     if (!m_drawer)
         return;
@@ -533,7 +595,7 @@ void ZelControlCenter::openSettingsPanel(bool open)
     m_ui->actionFrame->setVisible(!open);
     m_application->setUpdateEngineEnabled(false);
     if (open) {
-        if (!wasVisible)
+        if (!wasVisible && !keepEdits)
             initializePanels();
         m_drawer->show();
     }
@@ -543,7 +605,11 @@ void ZelControlCenter::openSettingsPanel(bool open)
         m_settingsAnimation->start();
     else if (!open)
         closeDrawer(); // It may be open inside a window that is hidden.
-    else if (!isSliding())
+}
+
+void ZelControlCenter::resumeEngineAtRest()
+{
+    if (!isSliding())
         m_application->setUpdateEngineEnabled(true);
 }
 
@@ -599,8 +665,21 @@ kqDMGuiPlugin* ZelControlCenter::guiPlugin() const
     return m_application ? m_application->getGuiPlugin() : nullptr;
 }
 
+void ZelControlCenter::showWriteError(const QString& error)
+{
+    m_ui->writeErrorLabel->setText(error);
+    m_ui->writeErrorLabel->setToolTip(error); // The column may be too narrow for a long path.
+    m_ui->writeErrorLabel->setVisible(!error.isEmpty());
+    if (!error.isEmpty())
+        alertAbout(*m_ui->writeErrorLabel);
+}
+
 void ZelControlCenter::initializePanels()
 {
+    QString error;
+    if (m_application)
+        ZelSettingsFile::IsWritable(m_application->getSettings().fileName(), error);
+    showWriteError(error);
     forEachPanel([](ZelSettingsPanel* panel) { panel->initializeWidget(); });
     onStateChanged();
 }

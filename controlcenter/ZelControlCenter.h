@@ -32,6 +32,7 @@ class ControlCenter;
 
 namespace zel {
 
+class DrawerLayout;
 class ZelCCActionItem;
 class ZelSettingsPanel;
 
@@ -75,6 +76,7 @@ public:
     /// True when any page has pending edits.
     bool hasModifications() const;
     /// Applies the pending edits of every page and writes the settings file; true when a restart is needed.
+    /// When the file cannot be written the edits stay pending, and the reason stands below the Apply button.
     bool applyModifications();
 
     /// The widget outside of which a click never closes the menu. Not owned; null, as at first, for any.
@@ -124,6 +126,11 @@ public Q_SLOTS:
     /// Toggles the drawer.
     void openSettings();
 
+Q_SIGNALS:
+    /// What is stored, or what the pages show, may have changed: an edit, Apply, Reset, or a page that came
+    /// or went.
+    void evaluated();
+
 protected Q_SLOTS:
     /// Applies the edits of all pages and tells if a restart is needed.
     void on_applyButton_clicked();
@@ -131,7 +138,7 @@ protected Q_SLOTS:
     void on_resetButton_clicked();
     /// Opens the drawer, if need be, and scrolls to the pages of that name.
     void onPanelClicked(const QString& pPanelName);
-    /// Re-evaluates the Apply and Reset buttons.
+    /// Re-evaluates the Apply and Reset buttons and the marks of the pages.
     void onStateChanged();
     /// @{
     /// The end of a slide of the menu column, and of the drawer: from then on it counts as open or closed.
@@ -148,6 +155,8 @@ protected Q_SLOTS:
     void onPanelDestroyed(QObject* panel);
     /// Brings a field into view that the keyboard enters the drawer at.
     void onFocusChanged(QWidget* former, QWidget* current);
+    /// Every widget that a press is offered to has seen it.
+    void onPressDelivered();
 
 protected:
     /// Slides the drawer open or closed. Opening it from closed loads the stored values into every page.
@@ -168,11 +177,19 @@ private:
     kqDMGuiPlugin* guiPlugin() const;
     QPropertyAnimation* createSlide(const char* property, int openWidth, const char* finishedSlot);
     void createSettingsAction();
+    void addPageButton(QPushButton* button, const QString& panelName);
     bool isSliding() const;
+    void showDrawer(bool keepEdits);
+    /// Pauses the engine and slides the drawer if there is anything to see of it. One that opens from closed
+    /// loads its pages first, unless their edits are to stay.
+    void slideDrawer(bool open, bool keepEdits);
+    void resumeEngineAtRest();
     void closeDrawer();
     /// Calls a function for each page, in the order of registration. A page may register or unregister others
     /// meanwhile.
     void forEachPanel(const std::function<void(ZelSettingsPanel*)>& action) const;
+    /// Shows below the Apply button why the settings file cannot be written; an empty text hides the last.
+    void showWriteError(const QString& error);
     void initializePanels();
     /// Drops pending edits, after asking where that is possible; false when the user keeps them.
     bool discardModifications();
@@ -193,11 +210,13 @@ private:
     QPointer<QPushButton> m_controlCenterButton;
     QButtonGroup* const m_pageGroup;
     QPointer<QScrollArea> m_drawer;
+    DrawerLayout* m_drawerLayout;
     QPropertyAnimation* m_widthAnimation;
     QPropertyAnimation* m_settingsAnimation;
     QPropertyAnimation* m_scrollAnimation;
     bool m_menuOpen;
     bool m_settingsOpen;
+    bool m_pressHandled; ///< The press that is being delivered has been a click outside already.
 };
 
 } // namespace zel

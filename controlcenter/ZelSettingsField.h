@@ -62,8 +62,8 @@ inline ZelFieldConversion<bool> flagConversion()
 template <class Model>
 struct ZelSettingsField
 {
-    template <class T>
     /// A row for a key and the member of the model that holds its value.
+    template <class T>
     ZelSettingsField(const char* settingsKey, T Model::*member, const ZelFieldConversion<T>& conversion)
         : key(QLatin1String(settingsKey))
         , readStored(
@@ -71,6 +71,7 @@ struct ZelSettingsField
         , readDefault(
               [=](Model& model, const QString& text) { model.*member = conversion.fromDefault(text); })
         , stored([=](const Model& model) { return conversion.toStored(model.*member); })
+        , copy([=](Model& to, const Model& from) { to.*member = from.*member; })
     {
     }
 
@@ -82,6 +83,8 @@ struct ZelSettingsField
     std::function<void(Model&, const QString& defaultText)> readDefault;
     /// What is written for a model.
     std::function<QVariant(const Model&)> stored;
+    /// Takes the value over from a model into another one.
+    std::function<void(Model& to, const Model& from)> copy;
 };
 
 } // namespace zel

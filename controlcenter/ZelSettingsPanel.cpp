@@ -4,6 +4,8 @@
 
 #include "platform/kqDMIApplication.h"
 
+#include <QLocale>
+
 namespace zel {
 
 ZelSettingsPanel::ZelSettingsPanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
@@ -16,6 +18,9 @@ ZelSettingsPanel::ZelSettingsPanel(kqDMIApplication* application, QSettings& set
 {
     m_actionWidget->setCheckable(true);
     m_actionWidget->setAutoExclusive(true);
+    const QString language = application ? application->getLanguageCode() : QString();
+    if (!language.isEmpty())
+        setLocale(QLocale(language));
 }
 
 ZelSettingsPanel::~ZelSettingsPanel()
@@ -47,7 +52,8 @@ const QString& ZelSettingsPanel::getPanelName() const
 void ZelSettingsPanel::setPanelName(const QString& name)
 {
     m_panelName = name;
-    m_actionWidget->setText(name);
+    if (m_actionWidget)
+        m_actionWidget->setText(name);
 }
 
 const QStringList& ZelSettingsPanel::getSettingsKeys() const

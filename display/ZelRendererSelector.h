@@ -17,8 +17,8 @@ namespace zel {
 /// graphics card, "Low" the software raytracer. The dialog stores nothing: run it with exec() and ask
 /// useGPURenderer() when it was accepted.
 ///
-/// A click on "High" or "Low" chooses it, and so does Space on the one that has the focus. The window has no
-/// frame; it is moved by its title.
+/// A click on "High" or "Low" chooses it and gives it the focus; so does Space on the one that has the focus.
+/// The window has no frame; it is moved by its title.
 class ZEL_EXPORT ZelRendererSelector : public QDialog
 {
     Q_OBJECT
@@ -48,6 +48,7 @@ protected:
 
 private:
     bool choose(const QObject* engine);
+    void announceChosen();
 
     std::unique_ptr<Ui::ZelRendererSelector> m_ui;
 };

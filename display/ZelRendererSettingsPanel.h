@@ -5,6 +5,7 @@
 #include "base/ZelExport.h"
 
 #include <memory>
+#include <vector>
 
 namespace Ui {
 class ZelRendererSettingsPanel;
@@ -79,6 +80,12 @@ protected:
     void notifyStateChanged() override;
 
 private:
+    // What the page tells of the engine and its quality, of the deferred renderer's effects, and of the
+    // numbers.
+    std::vector<Help> choiceHelp() const;
+    std::vector<Help> effectHelp() const;
+    std::vector<Help> limitHelp() const;
+
     /// True when the raytracer is chosen, with a quality or a number of cores that it takes up only after a
     /// restart.
     bool hasRaytracerRebootChanged() const;
@@ -88,6 +95,8 @@ private:
     void setNbCoresTxt(int cores);
     void setRaytracerQuality(int quality);
     void setTriangleCap(quint64 triangles);
+    /// The scene unit can be chosen only while SSAO makes use of it.
+    void enableSceneUnit();
 
     const std::unique_ptr<Ui::ZelRendererSettingsPanel> m_ui;
 

@@ -2,6 +2,7 @@
 
 #include "ui_ZelSimplificationSettingsPanel.h"
 
+#include "LabelImage.h"
 #include "NumberText.h"
 #include "SettingsKeys.h"
 #include "SignalBlock.h"
@@ -11,24 +12,22 @@
 #include "platform/kqDMManager.h"
 
 #include <QCoreApplication>
-#include <QIcon>
 #include <QStringList>
 
 namespace zel {
 
 namespace {
 
-typedef std::vector<float> Ratios;
+using Ratios = std::vector<float>;
 
 const int FirstEditableLevel = 2;
 const int LastLevel = 5;
-const char* const Separator = "/";
 const int ImageSize = 64; // In pixels.
 
 Ratios parseRatios(const QString& text)
 {
     Ratios ratios;
-    for (const QString& part : text.split(Separator, SkipEmptyParts)) {
+    for (const QString& part : text.split('/', SkipEmptyParts)) {
         float ratio = 0;
         ratios.push_back(parseFloat(part, ratio) ? ratio : 0);
     }
@@ -63,10 +62,7 @@ Ratios storedRatios(const QVariant& stored)
 
 QVariant ratiosToStore(const Ratios& ratios)
 {
-    QStringList parts;
-    for (float ratio : ratios)
-        parts << numberText(ratio);
-    return parts.join(Separator);
+    return ratiosText(ratios);
 }
 
 ZelEditablePanel<SimplificationModel>::Fields simplificationFields()
@@ -87,11 +83,8 @@ void showLevelImages(const Ui::ZelSimplificationSettingsPanel& form)
         {form.icon3, "Medium"},      {form.icon4, "Medium-Low-Quality"},
         {form.icon5, "Low-Quality"},
     };
-    // An icon, unlike a pixmap of the form, also finds the image for screens of double density.
-    for (const auto& level : levels) {
-        const QIcon icon(QString(":/controlCenter/controlCenter/%1.png").arg(level.image));
-        level.label->setPixmap(icon.pixmap(ImageSize, ImageSize));
-    }
+    for (const auto& level : levels)
+        showImage(*level.label, QString(":/controlCenter/controlCenter/%1.png").arg(level.image), ImageSize);
 }
 
 } // namespace
@@ -114,6 +107,11 @@ ZelSimplificationSettingsPanel::ZelSimplificationSettingsPanel(kqDMIApplication*
     setNamedStyleSheet("ZelSimplificationSettingsPanel");
     setPanelName(QCoreApplication::translate("ZelSimplificationSettingsPanel", "Simplification"));
     setPanelCategory(ProjectCategory);
+
+    std::vector<Help> help;
+    for (int level = 1; level <= LastLevel; ++level)
+        help.push_back(levelHelp(level));
+    describe("ZelSimplificationSettingsPanel", help);
 }
 
 ZelSimplificationSettingsPanel::~ZelSimplificationSettingsPanel() = default;
@@ -154,7 +152,7 @@ void ZelSimplificationSettingsPanel::getCurrentModel(SimplificationModel& model)
 {
     model.ratios.clear();
     for (const zelDoubleSpinBox* box : m_percentages)
-        model.ratios.push_back(float(box->value()) / 100);
+        model.ratios.push_back(static_cast<float>(box->value()) / 100);
 }
 
 void ZelSimplificationSettingsPanel::applyModel(const SimplificationModel& model)
@@ -175,7 +173,7 @@ void ZelSimplificationSettingsPanel::pushToApplication()
 
 void ZelSimplificationSettingsPanel::notifyStateChanged()
 {
-    emit stateChanged();
+    Q_EMIT stateChanged();
 }
 
 void ZelSimplificationSettingsPanel::setRatios()
@@ -186,6 +184,34 @@ void ZelSimplificationSettingsPanel::setRatios()
     SimplificationModel current;
     getCurrentModel(current);
     manager->setSimplificationRatios(current.ratios);
+}
+
+ZelSimplificationSettingsPanel::Help ZelSimplificationSettingsPanel::levelHelp(int level) const
+{
+    const zelDoubleSpinBox* box = percentage(level);
+    const auto percent = [box](double number) { return box->shownText(number) + " %"; };
+    Help help;
+    help.fields << percentage(level);
+    help.name = nullptr;
+    help.description =
+        level < FirstEditableLevel
+            ? QT_TRANSLATE_NOOP("ZelSimplificationSettingsPanel",
+                                "This level keeps every triangle of the model. It cannot be changed.")
+            : QT_TRANSLATE_NOOP(
+                  "ZelSimplificationSettingsPanel",
+                  "How many of the model's triangles an export at this level keeps, in percent. A "
+                  "level never keeps more than the one above it.");
+    help.range = ZelPageHelp::rangeText(percent(box->minimum()), percent(box->maximum()));
+    help.effect = EffectAtOnce;
+    help.keys << keys::SimplificationRatios;
+    help.shown = [level, percent](const SimplificationModel& model) {
+        return isWellFormed(model.ratios) ? percent(model.ratios[level - 1] * 100) : QString();
+    };
+    help.take = [level](SimplificationModel& to, const SimplificationModel& from) {
+        if (isWellFormed(from.ratios) && level >= FirstEditableLevel)
+            to.ratios[level - 1] = from.ratios[level - 1];
+    };
+    return help;
 }
 
 void ZelSimplificationSettingsPanel::finishEditing(int level)

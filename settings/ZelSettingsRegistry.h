@@ -20,15 +20,15 @@ class ZEL_EXPORT ZelSettingsRegistry
 public:
     /// Checks one value and may rewrite it in place; what it leaves there is written back. False stops the
     /// pass: only then does the validator set the error text.
-    typedef bool (*Validator)(const QString& key, const QString& defaultValue, QString& value,
-                              QString& error);
+    using Validator = bool (*)(const QString& key, const QString& defaultValue, QString& value,
+                               QString& error);
 
     /// Checks the settings as a whole, after every value has been repaired. Sets the error text when it
     /// fails.
-    typedef bool (*EndCheck)(QSettings& settings, QString& error);
+    using EndCheck = bool (*)(QSettings& settings, QString& error);
 
     /// The registered keys: to each its default text and its validator.
-    typedef std::map<QString, std::pair<QString, Validator>> Settings;
+    using Settings = std::map<QString, std::pair<QString, Validator>>;
 
     /// Adds a key. The first registration of a key wins: false, and no change, for a key that is there
     /// already.
@@ -46,10 +46,10 @@ public:
     /// Adds an end check behind those already there; false, and no change, if it is one of them.
     static bool RegisterEndCheckFunction(EndCheck check);
 
-    /// Repairs and completes the settings: every registered key holds a valid value afterwards. To be
-    /// called by ZelSettingsFile::Repair: the toolkit writes the file at the end, and on its own it drops
-    /// what it cannot read and does not tell whether it worked. False when a validator or an end check gave
-    /// up; the error text is then theirs. A validator that gives up leaves the keys after its own untouched.
+    /// Repairs and completes the settings: every registered key holds a valid value afterwards. Writes the
+    /// file as QSettings does, without protection: a start calls ZelSettingsFile::Repair instead. False when
+    /// a validator or an end check gave up; the error text is then theirs. A validator that gives up leaves
+    /// the keys after its own untouched.
     static bool EnsureSettings(QSettings& settings, QString& error);
 };
 

@@ -8,6 +8,7 @@
 #include "ZelImportSettingsPanel.h"
 #include "ZelRendererSettingsPanel.h"
 #include "ZelSimplificationSettingsPanel.h"
+#include "base/ZelAccessibility.h"
 
 #include "platform/kqDMIApplication.h"
 #include "platform/kqMovableObject.h"
@@ -34,6 +35,9 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
     , m_ui(new Ui::ControlCenterStandAlone)
 {
     m_ui->setupUi(this);
+    // The product's name is read as one word, by the first of its two labels.
+    leaveUnannounced(*m_ui->label_3);
+    leaveUnannounced(*m_ui->label_4);
 
     m_movable = std::make_unique<kqMovableObject>(this);
     m_movable->setExpandOnDlbClick(true);
@@ -55,6 +59,8 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
     m_panels.push_back(createPanel<ZelAboutSettingsPanel>(application));
     for (const auto& panel : m_panels)
         m_controlCenter->registerSettingsPanel(panel.get());
+    m_ui->helpArea->follow(m_controlCenter->settingsWidget());
+    connect(m_controlCenter.get(), SIGNAL(evaluated()), m_ui->helpArea, SLOT(refresh()));
 }
 
 ZelControlCenterStandAloneWidget::~ZelControlCenterStandAloneWidget()

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QLocale>
 #include <QMessageBox>
 #include <QStringList>
 #include <QTranslator>
@@ -59,6 +60,7 @@ int runViewer(const QString& folder, bool once)
         QCoreApplication::installTranslator(&translator);
     if (qtTranslator.load("Toolkit_" + language, VIEWER_LANGUAGE_FOLDER))
         QCoreApplication::installTranslator(&qtTranslator);
+    QLocale::setDefault(QLocale(language)); // Decides how numbers are written.
 
     ViewerSettings::Register(ApplicationName, folder);
     if (!zel::ZelSettingsFile::Repair(settings, error))

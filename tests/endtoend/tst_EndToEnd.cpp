@@ -22,6 +22,14 @@ const char* const OpenFolders = "mousemove --window %1 50 117 click 1";
 const QString TypeCacheSize = "mousemove --window %1 530 304 click 1 key ctrl+a type ";
 const char* const Apply = "mousemove --window %1 184 265 click 1";
 
+const char* const ChooseLowMode = "mousemove --window %1 275 183 click 1";
+
+#if defined(__SANITIZE_ADDRESS__)
+const int Kills = 4;
+#else
+const int Kills = 12;
+#endif
+
 const char* const Version1 = "[General]\nengine=gl\nsettingsVersion=1\nlanguage=xx\n[Own]\nthing=\303\274\n";
 const char* const NoVersion = "[General]\nengine=software\nlanguage=fr\n[Own]\nthing=1\n";
 const char* const Newer = "[General]\nsettingsVersion=7\nengine=software\n[DBCache]\ncacheSize=77\n";
@@ -135,6 +143,15 @@ private Q_SLOTS:
         }
     }
 
+    void closesUntouchedWithoutAQuestion()
+    {
+        Editor editor(m_desktop, m_home);
+        QVERIFY(opensWindow(editor));
+        editor.act(Close);
+        QCOMPARE(editor.exitCode(), 0);
+        QCOMPARE(stored(), completed({}));
+    }
+
     void appliesAndDiscardsEdits()
     {
         Editor editor(m_desktop, m_home);
@@ -155,6 +172,42 @@ private Q_SLOTS:
         QVERIFY(editor.isAnswered(Question, "key Return"));
         QCOMPARE(editor.exitCode(), 0);
         QCOMPARE(cacheSize(), QString("512"));
+    }
+
+    void outlivesItsOutput()
+    {
+        // Closed standard streams, and a reader that is gone when the first line comes.
+        for (const char* redirection : {"<&- >&- 2>&-", "> >(true)"}) {
+            init();
+            store("[General]\nsettingsVersion=2\nengine=deferred\n[Simplification]\nRatios=0.5/2/3/4/5\n");
+            Editor editor(m_desktop, m_home);
+            editor.start({}, redirection);
+            QVERIFY2(editor.shows(Window) && !editor.picture().isNull(), redirection);
+            editor.act(ChooseLowMode);
+            editor.act(Apply);
+            QTRY_VERIFY_WITH_TIMEOUT(stored().contains("engine=software"), Patience);
+            editor.act("key alt+F4");
+            QCOMPARE(editor.exitCode(), 0);
+        }
+    }
+
+    void killedWhileApplying()
+    {
+        QByteArray before, after;
+        for (int round = 0; round < Kills; ++round) {
+            Editor editor(m_desktop, m_home);
+            QVERIFY(opensWindow(editor));
+            before = settingsText();
+            editor.act(ChooseLowMode);
+            editor.act(Apply);
+            if (round == 0) {
+                QTRY_VERIFY_WITH_TIMEOUT((after = settingsText()) != before, Patience);
+                continue;
+            }
+            QTest::qSleep(std::rand() % 10); // The click itself takes some milliseconds to arrive.
+            editor.kill();
+            QVERIFY2(settingsText() == before || settingsText() == after, settingsText().constData());
+        }
     }
 
     void runsOnce()
@@ -189,6 +242,12 @@ private:
         file.write(text);
     }
 
+    QByteArray settingsText() const
+    {
+        QFile file(settingsFile());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
     QStringList stored() const
     {
         QSettings settings(settingsFile(), QSettings::IniFormat);
@@ -210,6 +269,14 @@ private:
                              "enablediag=false",
                              "engine=deferred",
                              "settingsVersion=2"};
+        // The editor runs in the tree that it was staged in, with the defaults that lie there.
+        const QFileInfo editor(TORVANE_SETTINGS);
+        const QSettings defaults(editor.path() + "/../resources/Defaults.ini", QSettings::IniFormat);
+        for (const QString& key : defaults.allKeys())
+            lines << key + '=' + defaults.value(key).toString();
+        const QString cores = "raytracer/coreNumber=%1";
+        lines.replaceInStrings(QRegularExpression("^raytracer/coreNumber=.*"),
+                               cores.arg(QThread::idealThreadCount()));
         for (const QString& other : others)
             lines = lines.filter(QRegularExpression("^(?!" + other.section('=', 0, 0) + "=)")) << other;
         lines.sort();

@@ -37,6 +37,7 @@ private Q_SLOTS:
         QScrollArea* drawer = m_window.findChild<zel::ZelControlCenter*>()->settingsWidget();
         const QScrollBar* bar = drawer->verticalScrollBar();
         QSet<QString> turned;
+        m_window.findChild<QCheckBox*>("deferredSSAOCheckBox")->setChecked(true); // Enables the scene units.
         for (const char* engine : {"raytracerButton", "deferredButton"}) {
             m_window.findChild<QRadioButton*>(engine)->click();
             for (QWidget* field : m_window.findChildren<QWidget*>()) {
@@ -84,7 +85,7 @@ private Q_SLOTS:
 
     void versionTextsAgree()
     {
-        typedef ZelControlCenter::Version Version;
+        using Version = ZelControlCenter::Version;
         const QString numbers = Version::GetDescStringMajorMinorReleaseRevision(false);
         QCOMPARE(numbers, QString(kqDMIApplication::GetKernelVersion()));
         QCOMPARE(numbers.section('.', 0, 2), QString(Version::GetDescStringMajorMinorRelease(false)));
