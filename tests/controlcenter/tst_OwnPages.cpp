@@ -46,7 +46,7 @@ private Q_SLOTS:
         FakePage page("Plain", application.getSettings(), calls);
         auto* dialog = new QDialog(&page);
         QWidget* const readable[] = {new QLabel("text", &page), new QCheckBox("text", &page),
-                                           new QRadioButton("text", &page), new QLabel("text", dialog)};
+                                     new QRadioButton("text", &page), new QLabel("text", dialog)};
         zel::ZelControlCenter controlCenter(&application, nullptr, Qt::WindowFlags());
         controlCenter.registerSettingsPanel(&page);
         for (QWidget* widget : readable) {
