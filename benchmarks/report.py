@@ -125,9 +125,9 @@ The control center and its pages are measured in a start of their own; together 
 - *First painted frame*: an X client fills the empty screen with a colour, starts the program and looks, every half
   millisecond, whether that colour is gone from the middle row and the middle column of the program's window.
 - *Peak of the memory*: `VmHWM` a second after the first frame, when the drawer has opened.
-- *Validation pass*: the file lies in memory and is put there again each time, so that it is really read. The plain
+- *Validation pass*: the file lies in memory and is written again each time, so that it is really read. The plain
   reading and writing visits the same keys in the same order and stores what it has read.
-- *Slides*: the stand-alone window; the baseline slides a column and a drawer of as many unadorned Qt widgets. The
+- *Slides*: the stand-alone window; the baseline slides a column and a drawer of the same number of plain Qt widgets. The
   cost of a frame is the processor time of the process from the end of one frame to the end of the next; the interval
   between them follows the 16 ms clock of Qt's animations.""")
 

@@ -1,4 +1,4 @@
-# Cross-compiles for 64-bit Windows with MinGW-w64. The toolkit for Windows is looked up below CMAKE_PREFIX_PATH.
+# Cross-compiles for 64-bit Windows with MinGW-w64. Qt for Windows is looked up below CMAKE_PREFIX_PATH.
 
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)

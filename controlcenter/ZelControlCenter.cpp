@@ -2,8 +2,10 @@
 
 #include "ui_ControlCenter.h"
 
+#include "ControlCenterActions.h"
 #include "DrawerLayout.h"
 #include "EnableButton.h"
+#include "ReturnKey.h"
 #include "StyleSheetPause.h"
 #include "ZelCCActionItem.h"
 #include "ZelSettingsFile.h"
@@ -140,6 +142,11 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
 
     // The scroll area itself follows the focus only within it.
     connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
+
+    new ReturnKey(this);
+    new ReturnKey(m_drawer);
+    connect(new ControlCenterActions(this, m_drawer, m_ui->applyButton, m_ui->resetButton),
+            SIGNAL(helpRequested(QWidget*)), this, SIGNAL(helpRequested(QWidget*)));
 
     m_pageGroup->setExclusive(true);
     showWriteError(QString());
@@ -286,6 +293,11 @@ void ZelControlCenter::setControlCenterButton(QPushButton* button)
 QScrollArea* ZelControlCenter::settingsWidget() const
 {
     return m_drawer;
+}
+
+int ZelControlCenter::OpenWidth()
+{
+    return MenuWidth + DrawerWidth;
 }
 
 int ZelControlCenter::controlCenterWidth() const
@@ -498,7 +510,8 @@ void ZelControlCenter::onStateChanged()
 {
     enableButton(*m_ui->resetButton,
                  std::any_of(m_panels.begin(), m_panels.end(),
-                             [](const ZelSettingsPanel* panel) { return panel->canResetContent(); }));
+                             [](const ZelSettingsPanel* panel) { return panel->canResetContent(); }),
+                 m_pageGroup->checkedButton());
     bool modified = false;
     for (ZelSettingsPanel* panel : m_panels) {
         const bool pending = panel->hasModifications();
@@ -506,7 +519,7 @@ void ZelControlCenter::onStateChanged()
             markPending(*button, pending);
         modified = modified || pending;
     }
-    enableButton(*m_ui->applyButton, modified);
+    enableButton(*m_ui->applyButton, modified, m_pageGroup->checkedButton());
     Q_EMIT evaluated();
 }
 
@@ -592,6 +605,8 @@ void ZelControlCenter::slideDrawer(bool open, bool keepEdits)
     if (!m_drawer)
         return;
     const bool wasVisible = m_drawer->isVisible();
+    // While the drawer closes, the buttons of the pages are still there, and must not be pushed down.
+    setActionSpace(open);
     m_ui->actionFrame->setVisible(!open);
     m_application->setUpdateEngineEnabled(false);
     if (open) {
@@ -648,8 +663,15 @@ void ZelControlCenter::closeDrawer()
 {
     m_settingsOpen = false;
     m_ui->preferenceFrame->hide();
+    setActionSpace(true);
     if (m_drawer)
         m_drawer->hide();
+}
+
+void ZelControlCenter::setActionSpace(bool given)
+{
+    m_ui->actionFrame->setMaximumHeight(given ? QWIDGETSIZE_MAX : 0);
+    m_ui->verticalLayout_5->setStretchFactor(m_ui->actionFrame, given ? 1 : 0);
 }
 
 void ZelControlCenter::forEachPanel(const std::function<void(ZelSettingsPanel*)>& action) const

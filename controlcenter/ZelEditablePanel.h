@@ -170,7 +170,7 @@ protected:
     void checkContent() const
     {
         if (auto* resetButton = findChild<QPushButton*>(QLatin1String("resetButton")))
-            enableButton(*resetButton, canResetContent());
+            enableButton(*resetButton, canResetContent(), getActionWidget());
         else
             qWarning("The form of the page \"%s\" has no push button named \"resetButton\"",
                      qPrintable(getPanelName()));

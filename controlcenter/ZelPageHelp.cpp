@@ -111,11 +111,12 @@ QString ZelPageHelp::choiceText(const QList<QWidget*>& buttons)
 bool ZelPageHelp::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
+    QWidget* field = m_fields.value(watched);
     // Under a pointer that rests while the page scrolls, a field learns only from the tool tip that it is
     // reached.
     if (type == QEvent::Enter || type == QEvent::FocusIn || type == QEvent::ToolTip)
-        Q_EMIT reached(m_fields.value(watched));
-    return false;
+        Q_EMIT reached(field);
+    return type == QEvent::ToolTip && m_shown && !setting(field)->tipIsValue;
 }
 
 QString ZelPageHelp::nameOf(const QWidget& field) const

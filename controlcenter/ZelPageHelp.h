@@ -58,6 +58,9 @@ public:
     /// The setting that a field of this page shows; null for any other widget. Valid until the next add().
     const ZelSettingHelp* setting(const QWidget* field) const;
 
+    /// Whether a help area shows the help, so that tool tips need not say it over the fields.
+    void setShown(bool shown) { m_shown = shown; }
+
     /// When an edit counts, as a sentence.
     static QString effectText(ZelSettingEffect effect);
     /// From the least to the greatest value.
@@ -89,6 +92,7 @@ private:
     void watch(QWidget* widget, QWidget* field);
 
     std::vector<ZelSettingHelp> m_settings;
+    bool m_shown = false;
     QHash<const QObject*, QWidget*> m_fields; ///< Of each watched widget: a field, or its label.
 };
 

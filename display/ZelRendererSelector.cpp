@@ -65,7 +65,7 @@ void ZelRendererSelector::keyPressEvent(QKeyEvent* event)
         QDialog::keyPressEvent(event);
 }
 
-// Tells whether the choice changed.
+// True when the choice changed.
 bool ZelRendererSelector::choose(const QObject* engine)
 {
     const bool software = engine != m_ui->deferredButton;

@@ -24,7 +24,7 @@ class ZEL_EXPORT ZelRendererSelector : public QDialog
     Q_OBJECT
 
 public:
-    /// "High" is chosen at first. The window is always frameless, whatever the flags say.
+    /// "High" is chosen at first. The window is always frameless, for any flags.
     explicit ZelRendererSelector(QWidget* parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
     ~ZelRendererSelector() override;
 

@@ -102,7 +102,7 @@ quint64 shownNumber(const QSpinBox* box)
 
 void showNumber(QSpinBox* box, quint64 number)
 {
-    // Limited before the conversion: what exceeds an int must not come out as a small number.
+    // Limited before the conversion, which would make a small number of one that exceeds an int.
     box->setValue(static_cast<int>(qMin<quint64>(number, std::numeric_limits<int>::max())));
 }
 
@@ -451,7 +451,7 @@ void ZelRendererSettingsPanel::forceGPUMode(bool gpu)
 
     zelActionManager* actions = application() ? application()->getActionManager() : nullptr;
     zelAction* renderingMode = actions ? actions->getActionByName("renderingMode") : nullptr;
-    // Of use only while the application runs the deferred renderer, whatever is chosen for the next start.
+    // The running renderer takes it; what is chosen for the next start does not count.
     if (renderingMode)
         renderingMode->setEnabled(m_startGPUMode);
 }

@@ -29,13 +29,13 @@ struct EngineModel
     bool useED = false;                ///< Edge detection.
 };
 
-/// True when both say the same to the engine that they choose: values of the other engine do not count, nor
+/// True when both are the same to the engine that they choose: values of the other engine do not count, nor
 /// does the scene unit without SSAO.
 ZEL_EXPORT bool operator==(const EngineModel& left, const EngineModel& right);
 
-/// The page "Display": the rendering engine, its effects or its quality, and what it may use of the machine.
-/// Only what concerns the chosen engine is shown. A new engine needs a restart, and so do the raytracer's
-/// quality and cores, unless the running application was started with the very value; the cap of triangles
+/// The page "Display": the rendering engine, its effects or its quality, and which of the machine's resources
+/// it may use. Only what concerns the chosen engine is shown. A new engine needs a restart, and so do the
+/// raytracer's quality and cores, unless the application was started with that value; the cap of triangles
 /// takes effect with Apply.
 class ZEL_EXPORT ZelRendererSettingsPanel : public ZelEditablePanel<EngineModel>
 {
@@ -86,8 +86,7 @@ private:
     std::vector<Help> effectHelp() const;
     std::vector<Help> limitHelp() const;
 
-    /// True when the raytracer is chosen, with a quality or a number of cores that it takes up only after a
-    /// restart.
+    /// True when the raytracer is chosen with a quality or a number of cores that needs a restart.
     bool hasRaytracerRebootChanged() const;
 
     /// Shows what concerns the deferred renderer (true) or the raytracer (false).
@@ -100,7 +99,7 @@ private:
 
     const std::unique_ptr<Ui::ZelRendererSettingsPanel> m_ui;
 
-    // What the running application was started with.
+    // The values that the application was started with.
     const int m_startQuality;
     const int m_startCoreNumber;
     const bool m_startGPUMode;

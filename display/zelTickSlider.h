@@ -24,7 +24,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    /// Where the handle is when the slider has a value.
+    /// Position of the handle for a value.
     QRect handleRect(int value) const;
 };
 

@@ -40,10 +40,9 @@ struct PostSaveEventItem
     QString argument;
 };
 
-/// What pages and panels know of the application that hosts them: the viewer, or the stand-alone settings
-/// editor, in which everything that would need a loaded scene answers "nothing". The guide to
-/// embedding lists what the control center and its pages ask for; the rest is the viewer's own affair. GUI
-/// thread only.
+/// The interface of the application that hosts pages and panels: the viewer, or the stand-alone settings
+/// editor, which has no scene. The guide to embedding lists what the control center and its pages ask for;
+/// the rest is the viewer's own affair. GUI thread only.
 class ZEL_KERNEL_GUI_EXPORT kqDMIApplication : public QObject
 {
     Q_OBJECT

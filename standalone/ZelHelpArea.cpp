@@ -15,7 +15,19 @@ namespace zel {
 
 namespace {
 
-const int LeastWidth = 250; // In pixels; narrower than this, texts are hard to read.
+// In pixels.
+const int LeastWidth = 310;   // What the longest words of all languages need.
+const int ScrollBarRoom = 20; // So that a bar which the help brings does not make it go again.
+
+/// A text in which the words of a path can be broken anywhere, because one may be wider than the area.
+QString breakable(const QString& text)
+{
+    QStringList words = text.split(' ');
+    for (QString& word : words)
+        if (word.size() > 1 && word.contains('/'))
+            word = word.split(QString()).join(QString(QChar(0x200B)));
+    return words.join(" ");
+}
 
 QString stateText(const ZelSettingHelp& help)
 {
@@ -45,6 +57,8 @@ void ZelHelpArea::follow(QWidget* tree)
     for (ZelPageHelp* page : pages) {
         connect(page, SIGNAL(reached(QWidget*)), this, SLOT(showField(QWidget*)));
         connect(page, SIGNAL(edited()), this, SLOT(refresh()));
+        page->setShown(!m_ui->helpFrame->isHidden());
+        m_pages << page;
         // A page may also change by its buttons.
         connect(page->parent(), SIGNAL(stateChanged()), this, SLOT(refresh()));
     }
@@ -86,7 +100,7 @@ void ZelHelpArea::refresh()
         {m_ui->effectTitle, m_ui->effectLabel, help->effect},
     };
     for (const auto& each : facts) {
-        each.fact->setText(each.text);
+        each.fact->setText(breakable(each.text));
         each.title->setVisible(!each.text.isEmpty());
         each.fact->setVisible(!each.text.isEmpty());
     }
@@ -97,7 +111,11 @@ void ZelHelpArea::refresh()
 
 void ZelHelpArea::resizeEvent(QResizeEvent* event)
 {
-    m_ui->helpFrame->setVisible(width() >= LeastWidth);
+    const bool fits = width() >= LeastWidth + (m_ui->helpFrame->isHidden() ? ScrollBarRoom : 0);
+    m_ui->helpFrame->setVisible(fits);
+    for (const QPointer<ZelPageHelp>& page : m_pages)
+        if (page)
+            page->setShown(fits);
     QWidget::resizeEvent(event);
 }
 

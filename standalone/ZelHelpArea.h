@@ -3,6 +3,7 @@
 
 #include "base/ZelExport.h"
 
+#include <QList>
 #include <QPointer>
 #include <QWidget>
 
@@ -14,6 +15,7 @@ class ZelHelpArea;
 
 namespace zel {
 
+class ZelPageHelp;
 struct ZelSettingHelp;
 
 /// The place beside the pages that tells of the setting to which the pointer or the keyboard has come last:
@@ -55,6 +57,7 @@ private:
 
     const std::unique_ptr<Ui::ZelHelpArea> m_ui;
     QPointer<QWidget> m_field;
+    QList<QPointer<ZelPageHelp>> m_pages;
 };
 
 } // namespace zel

@@ -194,7 +194,7 @@ int launch(int argc, char** argv)
     }
     isSpent = true;
 
-    const ToolkitMessageSink<writeMessage> messageSink;
+    const QtMessageSink<writeMessage> messageSink;
     useUtf8FileNames();
     followScreenScale();
     QCoreApplication::setLibraryPaths(QStringList("bin"));

@@ -46,6 +46,10 @@
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
 </context>
 <context>
     <name>KnotShape</name>
@@ -341,6 +345,30 @@ Fortfahren und die Anwendung schließen?</translation>
     <message>
         <source>Shows this page.</source>
         <translation>Zeigt diese Seite.</translation>
+    </message>
+    <message>
+        <source>Help on this setting</source>
+        <translation>Hilfe zu dieser Einstellung</translation>
+    </message>
+    <message>
+        <source>Put back what was typed</source>
+        <translation>Eingabe zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Nach oben blättern</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Nach unten blättern</translation>
+    </message>
+    <message>
+        <source>Scroll to the top</source>
+        <translation>Zum Anfang blättern</translation>
+    </message>
+    <message>
+        <source>Scroll to the bottom</source>
+        <translation>Zum Ende blättern</translation>
     </message>
 </context>
 <context>

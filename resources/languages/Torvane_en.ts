@@ -46,6 +46,10 @@
         <source>Close</source>
         <translation>Close</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restore</translation>
+    </message>
 </context>
 <context>
     <name>KnotShape</name>
@@ -341,6 +345,30 @@ Continue and close the application ?</translation>
     <message>
         <source>Shows this page.</source>
         <translation>Shows this page.</translation>
+    </message>
+    <message>
+        <source>Help on this setting</source>
+        <translation>Help on this setting</translation>
+    </message>
+    <message>
+        <source>Put back what was typed</source>
+        <translation>Put back what was typed</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Scroll up</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Scroll down</translation>
+    </message>
+    <message>
+        <source>Scroll to the top</source>
+        <translation>Scroll to the top</translation>
+    </message>
+    <message>
+        <source>Scroll to the bottom</source>
+        <translation>Scroll to the bottom</translation>
     </message>
 </context>
 <context>

@@ -46,6 +46,10 @@
         <source>Close</source>
         <translation>Cerrar</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurar</translation>
+    </message>
 </context>
 <context>
     <name>KnotShape</name>
@@ -341,6 +345,30 @@ Continue and close the application ?</source>
     <message>
         <source>Shows this page.</source>
         <translation>Muestra esta página.</translation>
+    </message>
+    <message>
+        <source>Help on this setting</source>
+        <translation>Ayuda sobre este ajuste</translation>
+    </message>
+    <message>
+        <source>Put back what was typed</source>
+        <translation>Deshacer lo escrito</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Desplazar hacia arriba</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Desplazar hacia abajo</translation>
+    </message>
+    <message>
+        <source>Scroll to the top</source>
+        <translation>Ir al principio</translation>
+    </message>
+    <message>
+        <source>Scroll to the bottom</source>
+        <translation>Ir al final</translation>
     </message>
 </context>
 <context>

@@ -46,6 +46,10 @@
         <source>Close</source>
         <translation>Fermer</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurer</translation>
+    </message>
 </context>
 <context>
     <name>KnotShape</name>
@@ -341,6 +345,30 @@ Continuer et fermer l’application&#xa0;?</translation>
     <message>
         <source>Shows this page.</source>
         <translation>Affiche cette page.</translation>
+    </message>
+    <message>
+        <source>Help on this setting</source>
+        <translation>Aide sur ce réglage</translation>
+    </message>
+    <message>
+        <source>Put back what was typed</source>
+        <translation>Annuler la saisie</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Faire défiler vers le haut</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Faire défiler vers le bas</translation>
+    </message>
+    <message>
+        <source>Scroll to the top</source>
+        <translation>Aller au début</translation>
+    </message>
+    <message>
+        <source>Scroll to the bottom</source>
+        <translation>Aller à la fin</translation>
     </message>
 </context>
 <context>

@@ -46,6 +46,10 @@
         <source>Close</source>
         <translation>Chiudi</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>Ripristina</translation>
+    </message>
 </context>
 <context>
     <name>KnotShape</name>
@@ -341,6 +345,30 @@ Continuare e chiudere l’applicazione?</translation>
     <message>
         <source>Shows this page.</source>
         <translation>Mostra questa pagina.</translation>
+    </message>
+    <message>
+        <source>Help on this setting</source>
+        <translation>Aiuto su questa impostazione</translation>
+    </message>
+    <message>
+        <source>Put back what was typed</source>
+        <translation>Annulla ciò che è stato digitato</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Scorri verso l’alto</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Scorri verso il basso</translation>
+    </message>
+    <message>
+        <source>Scroll to the top</source>
+        <translation>Vai all’inizio</translation>
+    </message>
+    <message>
+        <source>Scroll to the bottom</source>
+        <translation>Vai alla fine</translation>
     </message>
 </context>
 <context>

@@ -46,6 +46,10 @@
         <source>Close</source>
         <translation>閉じる</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>元に戻す</translation>
+    </message>
 </context>
 <context>
     <name>KnotShape</name>
@@ -341,6 +345,30 @@ Continue and close the application ?</source>
     <message>
         <source>Shows this page.</source>
         <translation>このページを表示します。</translation>
+    </message>
+    <message>
+        <source>Help on this setting</source>
+        <translation>この設定のヘルプ</translation>
+    </message>
+    <message>
+        <source>Put back what was typed</source>
+        <translation>入力を元に戻す</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>上へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>下へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll to the top</source>
+        <translation>先頭へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll to the bottom</source>
+        <translation>末尾へスクロール</translation>
     </message>
 </context>
 <context>

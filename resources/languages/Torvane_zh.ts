@@ -46,6 +46,10 @@
         <source>Close</source>
         <translation>关闭</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>还原</translation>
+    </message>
 </context>
 <context>
     <name>KnotShape</name>
@@ -341,6 +345,30 @@ Continue and close the application ?</source>
     <message>
         <source>Shows this page.</source>
         <translation>显示此页。</translation>
+    </message>
+    <message>
+        <source>Help on this setting</source>
+        <translation>此设置的帮助</translation>
+    </message>
+    <message>
+        <source>Put back what was typed</source>
+        <translation>撤销输入</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>向上滚动</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>向下滚动</translation>
+    </message>
+    <message>
+        <source>Scroll to the top</source>
+        <translation>滚动到顶部</translation>
+    </message>
+    <message>
+        <source>Scroll to the bottom</source>
+        <translation>滚动到底部</translation>
     </message>
 </context>
 <context>

@@ -48,7 +48,7 @@ private Q_SLOTS:
         answer(ClickView, "key Escape");
         QCOMPARE(state(), QString("drawer"));
         answer(ClickButton, "key Escape"); // The edit is still there, so that it asks again.
-        QCOMPARE(state(), QString("menu"));
+        QCOMPARE(state(), QString("drawer"));
         answer(ClickButton, "key Return");
         QCOMPARE(state(), QString("closed"));
         const QSettings settings(file("Settings.ini"), QSettings::IniFormat);

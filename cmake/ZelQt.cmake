@@ -1,6 +1,6 @@
-# The toolkit, and the single place that knows which of its versions is used.
+# Qt, and the single place that knows which of its versions is used.
 
-set(ZEL_QT 5 CACHE STRING "Major version of the toolkit: 5, or 4 as the viewer itself uses it")
+set(ZEL_QT 5 CACHE STRING "Major version of Qt: 5, or 4 as the viewer itself uses it")
 set_property(CACHE ZEL_QT PROPERTY STRINGS 5 4)
 
 if(ZEL_QT EQUAL 5)
