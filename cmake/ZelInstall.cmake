@@ -15,7 +15,7 @@ install(FILES ${PROJECT_SOURCE_DIR}/base/ZelExport.h ${PROJECT_SOURCE_DIR}/base/
         DESTINATION include/zel/base COMPONENT headers)
 install(TARGETS torvane-settings RUNTIME DESTINATION bin)
 install(TARGETS ZelControlCenter ZelPlatform ${zel_platform_libraries} EXPORT ZelTargets
-        RUNTIME DESTINATION bin LIBRARY DESTINATION lib ARCHIVE DESTINATION lib)
+        RUNTIME DESTINATION bin LIBRARY DESTINATION lib ARCHIVE DESTINATION lib COMPONENT headers)
 foreach(folder IN LISTS ZEL_PLUGIN_FOLDERS)
     if(EXISTS ${ZEL_STAGE}/bin/${folder})
         install(DIRECTORY ${ZEL_STAGE}/bin/${folder} DESTINATION bin)
