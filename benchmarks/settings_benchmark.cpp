@@ -70,9 +70,8 @@ public:
 
     QString path() const { return m_folder.filePath("Settings.ini"); }
 
-    /// Puts the file there anew, so that the toolkit cannot answer from what it remembers of it. Its time is
-    /// another one each time, and past: with a file of this moment the library waits for the clock to move
-    /// on.
+    /// Writes the file again, with another time each time, so that QSettings cannot answer from what it
+    /// remembers of it.
     void restore() const
     {
         QFile::remove(path());
@@ -97,9 +96,8 @@ void readAndWrite(benchmark::State& state)
         many.restore();
         const auto start = std::chrono::steady_clock::now();
         {
-            QSettings settings(many.path(), QSettings::IniFormat);
-            ZelSettingsFile::UseFileEncoding(settings);
-            Run(settings);
+            const auto settings = ZelSettingsFile::Open(many.path());
+            Run(*settings);
         }
         state.SetIterationTime(
             std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());

@@ -7,6 +7,7 @@
 #include "ZelCCActionItem.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsPanel.h"
+#include "base/Accessibility.h"
 #include "base/ZelQtCompat.h"
 
 #include "platform/kqDMGuiPlugin.h"
@@ -107,6 +108,7 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
 
     m_pageGroup->setExclusive(true);
+    showWriteError(QString());
     openMenu(false);
     createSettingsAction();
     m_clickTimer.start();
@@ -216,16 +218,19 @@ bool ZelControlCenter::hasModifications() const
 
 bool ZelControlCenter::applyModifications()
 {
-    QString error;
-    // The toolkit keeps what the pages hand over, and writes it in the end even where that was refused.
-    if (hasModifications() &&
-        !ZelSettingsFile::PrepareWriting(m_application->getSettings().fileName(), error))
-        return false;
     bool restart = false;
-    forEachPanel([&restart](ZelSettingsPanel* panel) { restart = panel->applyModifications() || restart; });
-    // One write for all pages, so that the file never holds half of an Apply. A failure is reported there.
-    ZelSettingsFile::Sync(m_application->getSettings(), error);
-    return restart;
+    const auto apply = [&](QSettings&, QString&) {
+        forEachPanel([&](ZelSettingsPanel* panel) { restart = panel->applyModifications() || restart; });
+        return true;
+    };
+    QSettings& settings = m_application->getSettings();
+    QString error;
+    if (!hasModifications())
+        return apply(settings, error) && restart;
+    // One write for all pages, so that the file never holds half of an Apply.
+    const bool written = ZelSettingsFile::Write(settings, apply, error);
+    showWriteError(error);
+    return written && restart;
 }
 
 void ZelControlCenter::setGUIHandler(QWidget* handler)
@@ -582,8 +587,20 @@ kqDMGuiPlugin* ZelControlCenter::guiPlugin() const
     return m_application ? m_application->getGuiPlugin() : nullptr;
 }
 
+void ZelControlCenter::showWriteError(const QString& error)
+{
+    m_ui->writeErrorLabel->setText(error);
+    m_ui->writeErrorLabel->setVisible(!error.isEmpty());
+    if (!error.isEmpty())
+        alertScreenReaders(*m_ui->writeErrorLabel);
+}
+
 void ZelControlCenter::initializePanels()
 {
+    QString error;
+    if (m_application)
+        ZelSettingsFile::IsWritable(m_application->getSettings().fileName(), error);
+    showWriteError(error);
     forEachPanel([](ZelSettingsPanel* panel) { panel->initializeWidget(); });
     onStateChanged();
 }

@@ -74,6 +74,7 @@ public:
     /// True when any page has pending edits.
     bool hasModifications() const;
     /// Applies the pending edits of every page and writes the settings file; true when a restart is needed.
+    /// When the file cannot be written the edits stay pending, and the reason stands below the Apply button.
     bool applyModifications();
 
     /// The widget outside of which a click never closes the menu. Not owned; null, as at first, for any.
@@ -156,6 +157,8 @@ private:
     /// Calls a function for each page, in the order of registration. A page may register or unregister others
     /// meanwhile.
     void forEachPanel(const std::function<void(ZelSettingsPanel*)>& action) const;
+    /// Shows below the Apply button why the settings file cannot be written; an empty text hides the last.
+    void showWriteError(const QString& error);
     void initializePanels();
     /// Drops pending edits, after asking where that is possible; false when the user keeps them.
     bool discardModifications();

@@ -1,6 +1,7 @@
 // The validation pass, on any bytes that a settings file may hold.
 
 #include "Check.h"
+#include "SettingsBackup.h"
 #include "SettingsDamage.h"
 #include "SettingsKeys.h"
 #include "ZelSettingsFile.h"
@@ -108,12 +109,11 @@ QByteArray comparable(const QVariant& value)
 /// What is stored under keys that nobody has registered.
 Content unknownContent(const QString& path)
 {
-    QSettings settings(path, QSettings::IniFormat);
-    ZelSettingsFile::UseFileEncoding(settings);
+    const auto settings = ZelSettingsFile::Open(path);
     Content content;
-    for (const QString& key : settings.allKeys()) {
+    for (const QString& key : settings->allKeys()) {
         if (!ZelSettingsRegistry::GetDefaultSettingsValues().count(key))
-            content[key] = comparable(settings.value(key));
+            content[key] = comparable(settings->value(key));
     }
     return content;
 }
@@ -139,33 +139,29 @@ QString text(const Content& content)
 
 void checkRegisteredValues(const QString& path)
 {
-    QSettings settings(path, QSettings::IniFormat);
-    ZelSettingsFile::UseFileEncoding(settings);
+    const auto settings = ZelSettingsFile::Open(path);
     for (const auto& [key, rule] : ZelSettingsRegistry::GetDefaultSettingsValues()) {
-        check(settings.contains(key), "every registered key is in the file", key);
-        const QString stored = settings.value(key).toString();
+        check(settings->contains(key), "every registered key is in the file", key);
+        const QString stored = settings->value(key).toString();
         QString repaired = stored, error;
         check(rule.second(key, rule.first, repaired, error), "every stored value is accepted", key, stored);
         check(repaired == stored, "every stored value is left as it is", key, stored, repaired);
     }
 }
 
+/// What a start does: the pass, and all that protects the file.
 void runPass(const QString& path)
 {
-    QSettings settings(path, QSettings::IniFormat);
-    ZelSettingsFile::UseFileEncoding(settings);
     QString error;
-    check(ZelSettingsRegistry::EnsureSettings(settings, error), "the pass succeeds", error);
-    check(settings.status() != QSettings::AccessError, "the file is written");
+    check(ZelSettingsFile::Repair(*ZelSettingsFile::Open(path), error), "the pass succeeds", error);
 }
 
 bool hasFolderWithSlash(const QString& path)
 {
-    QSettings settings(path, QSettings::IniFormat);
-    ZelSettingsFile::UseFileEncoding(settings);
+    const auto settings = ZelSettingsFile::Open(path);
     const char* const folders[] = {keys::LogFile, keys::CacheDirectory, "tmp/folder"};
     return std::any_of(std::begin(folders), std::end(folders),
-                       [&](const char* key) { return settings.value(key).toString().endsWith('/'); });
+                       [&](const char* key) { return settings->value(key).toString().endsWith('/'); });
 }
 
 /// Copies of a file under other names, because the toolkit remembers a file that it has read by its name, its
@@ -223,8 +219,10 @@ void testInput(const uint8_t* data, size_t size)
         runPass(twice);
         check(bytes(twice) == bytes(once), "a second pass changes nothing", bytes(once), bytes(twice));
     }
-    QFile::remove(once);
-    QFile::remove(twice);
+    for (const QString& path : {once, twice}) {
+        for (const QString& file : backupsOf(path) << path)
+            QFile::remove(file);
+    }
 }
 
 } // namespace

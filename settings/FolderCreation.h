@@ -2,40 +2,22 @@
 #define ZEL_FOLDERCREATION_H
 
 #include <QString>
-#include <QStringList>
 
 namespace zel {
 
-/// True for a folder that exists, or would exist by now if this were no rehearsal. Every validator asks here.
-bool isFolder(const QString& path);
-
-/// Creates a folder with all missing parents; true when it exists afterwards. Every folder that a validator
-/// needs is created here.
-bool createFolder(const QString& path);
-
-/// While one of these lives, createFolder creates nothing: it tells whether the folder could be created, and
-/// from then on isFolder takes it for one.
-class FolderRehearsal
+/// How the validators see folders and create them. A rehearsal of the validation pass puts functions of its
+/// own here for as long as it runs.
+struct FolderFunctions
 {
-public:
-    FolderRehearsal();
-    ~FolderRehearsal();
-
-    FolderRehearsal(const FolderRehearsal&) = delete;
-    FolderRehearsal& operator=(const FolderRehearsal&) = delete;
-
-    /// The folders that would have been created.
-    const QStringList& folders() const { return m_folders; }
-
-private:
-    friend bool isFolder(const QString& path);
-    friend bool createFolder(const QString& path);
-
-    bool wouldExist(const QString& path) const;
-
-    static FolderRehearsal* s_current;
-    QStringList m_folders;
+    bool (*isFolder)(const QString& path);
+    /// Creates a folder with all missing parents; true when it exists afterwards.
+    bool (*createFolder)(const QString& path);
 };
+
+extern FolderFunctions folderFunctions;
+
+/// True when a folder exists and can be written into, or could be created so with its missing parents.
+bool canCreateFolder(const QString& path);
 
 } // namespace zel
 

@@ -9,21 +9,41 @@
 namespace zel {
 
 /// Lets the validator of every registered key, in key order, see what the settings hold for it, and hands
-/// each text that comes of it to a function: take(entry of the registry, stored value, text). A missing key
-/// holds its default. Changes nothing by itself. False when a validator gives up, which ends it.
+/// each resulting text to a function: take(entry of the registry, stored value, text). The stored value of a
+/// missing key is invalid; its validator sees the default. False when a validator gives up, which ends it.
 template <typename Take>
 bool validateSettings(const QSettings& settings, QString& error, Take take)
 {
+    // No settings file can hold a pointer, so it stands for a missing key.
+    const QVariant missing = QVariant::fromValue<void*>(nullptr);
     for (const auto& entry : ZelSettingsRegistry::GetDefaultSettingsValues()) {
         const auto& [defaultValue, validator] = entry.second;
-        const QVariant stored = settings.value(entry.first, QVariant(defaultValue));
-        QString text = stored.toString();
+        QVariant stored = settings.value(entry.first, missing);
+        const bool isMissing = stored.userType() == QMetaType::VoidStar;
+        if (isMissing)
+            stored.clear();
+        QString text = isMissing ? defaultValue : stored.toString();
         if (!validator(entry.first, defaultValue, text, error))
             return false;
         take(entry, stored, text);
     }
     return true;
 }
+
+/// True for a value that QSettings has read as a list, because of a comma outside quotation marks.
+inline bool isList(const QVariant& value)
+{
+    return value.type() == QVariant::StringList || value.type() == QVariant::List;
+}
+
+/// True when the file does not hold the text as the value: it holds another, a list, or none.
+inline bool isRepair(const QVariant& stored, const QString& text)
+{
+    return !stored.isValid() || isList(stored) || stored.toString() != text;
+}
+
+/// Runs the registered end checks, up to the first that fails.
+bool runEndChecks(QSettings& settings, QString& error);
 
 } // namespace zel
 

@@ -61,8 +61,13 @@ bool ZelSettingsRegistry::EnsureSettings(QSettings& settings, QString& error)
     if (!validateSettings(settings, error, write))
         return false;
     settings.sync();
+    return runEndChecks(settings, error);
+}
+
+bool runEndChecks(QSettings& settings, QString& error)
+{
     return std::all_of(endChecks().begin(), endChecks().end(),
-                       [&](EndCheck check) { return check(settings, error); });
+                       [&](ZelSettingsRegistry::EndCheck check) { return check(settings, error); });
 }
 
 } // namespace zel

@@ -45,10 +45,10 @@ public:
     /// Adds an end check behind those already there; false, and no change, if it is one of them.
     static bool RegisterEndCheckFunction(EndCheck check);
 
-    /// Repairs and completes the settings: every registered key holds a valid value afterwards. To be
-    /// called by ZelSettingsFile::Repair: the toolkit writes the file at the end, and on its own it drops
-    /// what it cannot read and does not tell whether it worked. False when a validator or an end check gave
-    /// up; the error text is then theirs. A validator that gives up leaves the keys after its own untouched.
+    /// Repairs and completes the settings: every registered key holds a valid value afterwards. Writes the
+    /// file as QSettings does, without protection: a start calls ZelSettingsFile::Repair instead. False when
+    /// a validator or an end check gave up; the error text is then theirs. A validator that gives up leaves
+    /// the keys after its own untouched.
     static bool EnsureSettings(QSettings& settings, QString& error);
 };
 

@@ -295,11 +295,11 @@ bool ZelSettingsValidators::ensureFile(const QString&, const QString& defaultVal
                                        QString& error)
 {
     CleanupFolder(value);
-    if (!value.isEmpty() && isFolder(folderOf(value)))
+    if (!value.isEmpty() && folderFunctions.isFolder(folderOf(value)))
         return true;
     value = defaultValue;
     CleanupFolder(value);
-    if (createFolder(folderOf(value)))
+    if (folderFunctions.createFolder(folderOf(value)))
         return true;
     error = QCoreApplication::translate(
                 "ZelControlCenter", "Could not use the Torvane log file, file \"%1\" could not be created")
@@ -321,13 +321,13 @@ bool ZelSettingsValidators::ensureDMCacheFolder(const QString&, const QString& d
 bool ZelSettingsValidators::ensureTmpFolder(const QString&, const QString& defaultValue, QString& value,
                                             QString& error)
 {
-    if (!createFolder(defaultValue)) {
+    if (!folderFunctions.createFolder(defaultValue)) {
         error = QCoreApplication::translate("ZelControlCenter", "Could not create compulsory folder \"%1\"")
                     .arg(defaultValue);
         return false;
     }
     CleanupFolder(value);
-    if (!isFolder(value))
+    if (!folderFunctions.isFolder(value))
         value = defaultValue;
     return true;
 }
@@ -335,11 +335,11 @@ bool ZelSettingsValidators::ensureTmpFolder(const QString&, const QString& defau
 bool ZelSettingsValidators::ensureFolder(const QString& defaultValue, QString& value)
 {
     CleanupFolder(value);
-    if (isFolder(value))
+    if (folderFunctions.isFolder(value))
         return true;
     value = defaultValue;
     CleanupFolder(value);
-    return createFolder(value);
+    return folderFunctions.createFolder(value);
 }
 
 } // namespace zel

@@ -107,9 +107,8 @@ void installTranslation(const char* origin, const QString& language, QTranslator
 
 QString loadTranslation(const QString& settingsFile, QTranslator& translator)
 {
-    QSettings settings(settingsFile, QSettings::IniFormat);
-    ZelSettingsFile::UseFileEncoding(settings);
-    QString language = settings.value(keys::Language, FallbackLanguage).toString();
+    const auto settings = ZelSettingsFile::Open(settingsFile);
+    QString language = settings->value(keys::Language, FallbackLanguage).toString();
     if (!QFile::exists(translationFile("Torvane", language)))
         language = FallbackLanguage;
     installTranslation("Torvane", language, translator);
@@ -120,9 +119,7 @@ QString loadTranslation(const QString& settingsFile, QTranslator& translator)
 /// when the user cancels.
 bool chooseEngine(const QString& settingsFile, const char*& chosenEngine)
 {
-    QSettings settings(settingsFile, QSettings::IniFormat);
-    ZelSettingsFile::UseFileEncoding(settings);
-    const QString engine = settings.value(keys::Engine).toString();
+    const QString engine = ZelSettingsFile::Open(settingsFile)->value(keys::Engine).toString();
     if (engine == engines::Deferred || engine == engines::Software)
         return true;
     ZelRendererSelector selector(nullptr, Qt::WindowFlags());
@@ -134,7 +131,8 @@ bool chooseEngine(const QString& settingsFile, const char*& chosenEngine)
 
 void installLog(ZelSettingsApplication& application)
 {
-    const QSettings& settings = application.getSettings();
+    QSettings& settings = application.getSettings();
+    settings.sync(); // What an end check has changed.
     MTLogger::InstallFileHandler(settings.value(keys::LogFile).toString().toUtf8().constData(),
                                  application.isDiagModeEnable(),
                                  settings.value(keys::LogTypeBlackList).toString().toUtf8().constData());
@@ -169,11 +167,13 @@ int runApplication(QtSingleApplication& singleApplication, ZelSettingsApplicatio
 {
     ZelControlCenter::InitDefaultSettingsValues(StandAloneApplicationName);
     QSettings& settings = application.getSettings();
+    const auto storeEngine = [chosenEngine](QSettings& changed, QString&) {
+        changed.setValue(keys::Engine, chosenEngine);
+        return true;
+    };
     QString error;
-    const bool settable = !chosenEngine || ZelSettingsFile::PrepareWriting(settings.fileName(), error);
-    if (settable && chosenEngine)
-        settings.setValue(keys::Engine, chosenEngine);
-    if (!settable || !ZelSettingsFile::Repair(settings, error)) {
+    if ((chosenEngine && !ZelSettingsFile::Write(settings, storeEngine, error)) ||
+        !ZelSettingsFile::Repair(settings, error)) {
         showFatalError(error);
         return 0;
     }

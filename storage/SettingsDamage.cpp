@@ -1,16 +1,22 @@
 #include "SettingsDamage.h"
 
+#include <QRegExp>
 #include <QTextCodec>
 
-#include <cctype>
-#include <cstring>
+#include <algorithm>
 
 namespace zel {
 
 namespace {
 
 const char* const ByteOrderMark = "\xEF\xBB\xBF";
-const int LongestEscape = 6; // "x1F60", and a digit too many.
+
+// What QSettings reads and writes again. Of the escapes in a value, those that it writes, or writes as the
+// same character; behind a blank stands a comment.
+const QString Group("[ \\t]*\\[(?:[^\\]\"\\\\;]|\\\\.|\"(?:[^\\]\"\\\\]|\\\\.)*\")*\\][ \\t]*(?:;.*)?");
+const QString Key("(?:[^\"\\\\;=]|\\\\.|\"(?:[^\"\\\\]|\\\\.)*\")*");
+const QString Escape("\\\\(?:[abfnrtv\"?'\\\\]|x[0-9A-Fa-f]{1,4}(?![0-9A-Fa-f])|0(?![0-7]))");
+const QString Value("(?:[^\"\\\\;]|%1|\"(?:[^\"\\\\\\r\\n]|%1|\\\\[\\r\\n])*\")*(?:[ \\t];.*)?");
 
 bool isUtf8(const QByteArray& text)
 {
@@ -19,95 +25,68 @@ bool isUtf8(const QByteArray& text)
     return state.invalidChars == 0 && state.remainingChars == 0;
 }
 
-bool isLineEnd(char character)
+bool isBlank(char character)
 {
-    return character == '\n' || character == '\r';
+    return character == ' ' || character == '\t';
 }
 
-/// One line, taken in character by character.
-class Line
+int lineEnd(const QByteArray& text, int begin)
 {
-public:
-    void take(char character)
-    {
-        const bool blank = character == ' ' || character == '\t';
-        if (character == ';' && !m_quoted && !m_comment) {
-            m_comment = true;
-            m_lossy = m_lossy || (m_assigned && !m_blank);
-        }
-        m_blank = blank;
-        if (blank || m_comment)
-            return;
-        m_garbled = m_garbled || m_closed; // Whatever follows the name of a group.
-        m_quoted = m_quoted != (character == '"');
-        m_closed = m_first == '[' && character == ']';
-        m_assigned = m_assigned || (character == '=' && !m_quoted);
-        if (!m_first)
-            m_first = character;
-    }
+    const auto isEnd = [](char character) { return character == '\n' || character == '\r'; };
+    return int(std::find_if(text.begin() + begin, text.end(), isEnd) - text.begin());
+}
 
-    /// What stands behind a backslash, up to the end of the text.
-    void takeEscaped(const QByteArray& text)
-    {
-        take('\\');
-        m_lossy = m_lossy || (m_assigned && !isEscape(text));
-    }
-
-    bool isComment() const { return m_comment; }
-
-    bool isReadable() const
-    {
-        return !m_lossy &&
-               (!m_first || (!m_garbled && !m_quoted && (m_first == '[' ? m_closed : m_assigned)));
-    }
-
-private:
-    /// Of those that the toolkit understands, the ones that it writes, or writes as the same again.
-    bool isEscape(const QByteArray& text) const
-    {
-        const char character = text.isEmpty() ? ' ' : text.at(0);
-        if (isLineEnd(character))
-            return m_quoted;
-        int digits = 1;
-        while (digits < text.size() && std::isxdigit(uchar(text.at(digits))))
-            ++digits;
-        if (character == 'x')
-            return digits > 1 && digits <= 5;
-        if (character == '0')
-            return text.size() < 2 || text.at(1) < '0' || text.at(1) > '7';
-        return std::strchr("abfnrtv\"?'\\", character) != nullptr;
-    }
-
-    char m_first = 0;
-    bool m_blank = false;
-    bool m_comment = false;
-    bool m_lossy = false;
-    bool m_quoted = false;
-    bool m_closed = false;
-    bool m_assigned = false;
-    bool m_garbled = false;
-};
-
-/// The number of the first line that cannot be read, from 1; 0 when there is none.
-int unreadableLine(const QByteArray& text)
+/// The first character that is no blank; 0 when there is none.
+char firstCharacter(const QByteArray& line)
 {
-    Line line;
+    const auto first = std::find_if_not(line.begin(), line.end(), isBlank);
+    return first == line.end() ? 0 : *first;
+}
+
+bool isComment(const QByteArray& line)
+{
+    return firstCharacter(line) == ';';
+}
+
+bool isReadable(const QByteArray& line)
+{
+    static const QRegExp group(Group), setting(Key + '=' + Value.arg(Escape));
+    const char first = firstCharacter(line);
+    if (!first || first == ';')
+        return true;
+    if (first == '[' || line.contains('"') || line.contains('\\') || line.contains(';'))
+        return (first == '[' ? group : setting).exactMatch(QString::fromLatin1(line));
+    return line.contains('=');
+}
+
+bool isUnreadable(const QByteArray& line)
+{
+    return !isReadable(line);
+}
+
+/// True for a line that ends with a backslash which is not itself escaped.
+bool goesOn(const QByteArray& line)
+{
+    const auto end = std::find_if_not(line.rbegin(), line.rend(), [](char last) { return last == '\\'; });
+    return (end - line.rbegin()) % 2 == 1;
+}
+
+/// The number of the first line of a kind, from 1; 0 when there is none.
+int firstLine(const QByteArray& text, bool (*isWanted)(const QByteArray& line))
+{
     int number = 1;
-    for (int at = text.startsWith(ByteOrderMark) ? 3 : 0; at < text.size(); ++at) {
-        if (text.at(at) == '\\' && !line.isComment()) {
-            line.takeEscaped(text.mid(at + 1, LongestEscape));
-            ++at; // What follows has lost its own meaning, and a line end lets the line go on.
-        } else if (!isLineEnd(text.at(at))) {
-            line.take(text.at(at));
-        } else if (!line.isReadable()) {
-            return number;
-        } else {
-            line = Line();
+    for (int begin = text.startsWith(ByteOrderMark) ? 3 : 0, end = 0; begin < text.size(); begin = end + 1) {
+        end = lineEnd(text, begin);
+        const auto line = [&] { return QByteArray::fromRawData(text.constData() + begin, end - begin); };
+        while (end < text.size() && goesOn(line()) && isUnreadable(line())) {
+            number += text.at(end) == '\n';
+            end = lineEnd(text, end + 1);
         }
-        if (at < text.size() && text.at(at) == '\n')
-            ++number;
+        if (isWanted(line()))
+            return number;
+        number += end < text.size() && text.at(end) == '\n';
     }
-    return line.isReadable() ? 0 : number;
+    return 0;
 }
 
 } // namespace
@@ -118,8 +97,14 @@ QString settingsDamage(const QByteArray& text)
         return "it holds zero bytes";
     if (!isUtf8(text))
         return "it is not UTF-8 text";
-    const int line = unreadableLine(text);
+    const int line = firstLine(text, &isUnreadable);
     return line ? QString("line %1 cannot be read").arg(line) : QString();
+}
+
+QString droppedComment(const QByteArray& text)
+{
+    const int line = text.contains(';') ? firstLine(text, &isComment) : 0;
+    return line ? QString("line %1 is a comment, which is not kept").arg(line) : QString();
 }
 
 } // namespace zel

@@ -6,12 +6,14 @@
 
 namespace zel {
 
-/// What of the text of a settings file would be lost when the toolkit reads it and writes it again: zero
-/// bytes, other encodings, and lines that it cannot understand or would not understand as they are meant. The
-/// latter are those whose unquoted value is cut at a ';' ("path=/a;/b"; behind a blank it starts a comment,
-/// which nobody misses), or has a '\' that is no escape ("C:\Users") or takes in the next line.
-/// Empty when nothing would.
+/// Why the text of a settings file would lose something when QSettings reads it and writes it again: zero
+/// bytes, another encoding, or a line that QSettings cannot understand or takes for something else than it
+/// says. Such are unquoted values that are cut at a ';' ("path=/a;/b") or have a '\' that is no escape
+/// ("C:\Users") or takes in the next line. Empty when nothing would be lost; comments do not count.
 QString settingsDamage(const QByteArray& text);
+
+/// Which comment line of a text QSettings would drop; empty when there is none.
+QString droppedComment(const QByteArray& text);
 
 } // namespace zel
 

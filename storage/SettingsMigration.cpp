@@ -5,43 +5,39 @@
 #include "ZelSettingsFile.h"
 
 #include <QFile>
+#include <QRegExp>
 #include <QSettings>
 
-namespace {
-
-using namespace zel;
-
-bool startAfresh(QSettings& settings, const QString& language, QString& error)
+zel::Migration zel::migrationOf(const QSettings& settings)
 {
-    QString copy;
-    if (!SettingsBackup::keep(settings.fileName(), "it is too old", copy, error))
-        return false;
-    settings.clear();
-    settings.setValue(keys::Language, language);
-    return ZelSettingsFile::Sync(settings, error);
-}
-
-} // namespace
-
-bool zel::isUpgradedInPlace(int version)
-{
-    return version > 0 && version < CurrentSettingsVersion;
+    const QString text = settings.value(keys::SettingsVersion).toString().trimmed();
+    bool isNumber = false;
+    const qint64 version = text.toLongLong(&isNumber);
+    // Digits that are no number of 64 bits are a larger one.
+    if (version >= CurrentSettingsVersion || (!isNumber && QRegExp("\\+?[0-9]+").exactMatch(text)))
+        return Migration::None;
+    return version > 0 ? Migration::Upgrade : Migration::FreshStart;
 }
 
 bool zel::migrateSettings(const QString& path, const QString& language, QString& error)
 {
     if (!QFile::exists(path))
         return true;
-    QSettings settings(path, QSettings::IniFormat);
-    ZelSettingsFile::UseFileEncoding(settings);
-    const int version = settings.value(keys::SettingsVersion, 0).toInt();
-    if (version >= CurrentSettingsVersion)
+    const auto file = ZelSettingsFile::Open(path);
+    const Migration migration = migrationOf(*file);
+    if (migration == Migration::None)
         return true;
-    if (!ZelSettingsFile::PrepareWriting(path, error))
+    if (migration == Migration::FreshStart && !keepBackup(path, "it is too old", error))
         return false;
-    if (!isUpgradedInPlace(version))
-        return startAfresh(settings, language, error);
-    settings.setValue(keys::SettingsVersion, CurrentSettingsVersion);
-    settings.setValue(keys::Engine, engines::Deferred);
-    return ZelSettingsFile::Sync(settings, error);
+    const auto change = [&](QSettings& settings, QString&) {
+        if (migration == Migration::Upgrade) {
+            settings.setValue(keys::SettingsVersion, CurrentSettingsVersion);
+            settings.setValue(keys::Engine, engines::Deferred);
+        } else {
+            settings.clear();
+            settings.setValue(keys::Language, language);
+        }
+        return true;
+    };
+    return ZelSettingsFile::Write(*file, change, error);
 }

@@ -3,14 +3,19 @@
 
 #include <QString>
 
+class QSettings;
+
 namespace zel {
 
-/// Whether a file of this version keeps its values; an older one starts afresh.
-bool isUpgradedInPlace(int version);
+/// What becomes of a settings file when the editor starts.
+enum class Migration { None, Upgrade, FreshStart };
 
-/// Brings the settings file of an older version up to date. One whose layout is too old to be kept starts
-/// afresh, with nothing but the language; a dated copy of it is kept.
-/// False, with a translated text, when the file cannot be written or copied: it is then as before.
+/// What the version that settings are stamped with asks for; one without a number is too old.
+Migration migrationOf(const QSettings& settings);
+
+/// Brings the settings file of an older version up to date: an upgrade keeps its values. One whose layout is
+/// too old starts again with nothing but the language; a dated copy of it is kept. False, with a translated
+/// text, when the file cannot be written or copied: it is then as before.
 bool migrateSettings(const QString& path, const QString& language, QString& error);
 
 } // namespace zel

@@ -1,7 +1,6 @@
 #include "UnfinishedWrite.h"
 
-#include "Announcement.h"
-#include "FileTools.h"
+#include "FileAccess.h"
 #include "SettingsBackup.h"
 
 #include <QDateTime>
@@ -9,7 +8,6 @@
 #include <QFileInfo>
 
 #include <chrono>
-#include <filesystem>
 #include <system_error>
 #include <thread>
 
@@ -17,7 +15,7 @@ namespace zel {
 
 namespace {
 
-/// A write takes milliseconds: one that takes longer has died. Longer than a tick of any file system's clock.
+// A write takes milliseconds: one that takes longer has died. Longer than a tick of any file system's clock.
 const int LongestWrite = 3000; // ms
 const int Pause = 50;          // ms
 
@@ -38,29 +36,15 @@ QDateTime writtenAt(const QString& path)
     return QFileInfo(path).lastModified();
 }
 
-/// False also when one of them cannot be read.
-bool areAlike(const QString& one, const QString& other)
-{
-    QFile file(one), second(other);
-    return file.open(QIODevice::ReadOnly) && second.open(QIODevice::ReadOnly) &&
-           file.readAll() == second.readAll();
-}
-
-/// Leaves the copy where it is when that cannot be done.
+/// Leaves the copy where it is when it cannot be put back.
 void putBack(const QString& path)
 {
-    const std::filesystem::path copy = nativePath(copyOf(path)), file = nativePath(fileBehind(path));
     std::error_code error;
-    // Unlike the toolkit, in one step, unless the file cannot be replaced.
-    std::filesystem::rename(copy, file, error);
-    if (error &&
-        std::filesystem::copy_file(copy, file, std::filesystem::copy_options::overwrite_existing, error))
-        QFile::remove(copyOf(path));
-    if (error)
-        announce("error", QString("Writing \"%1\" was cut short; \"%2\" holds its former content: %3")
-                              .arg(path, copyOf(path), QString::fromLocal8Bit(error.message().c_str())));
-    else
-        announce("warning", QString("Writing \"%1\" was cut short; its former content is back.").arg(path));
+    std::filesystem::rename(nativePath(copyOf(path)), nativePath(fileBehind(path)), error);
+    logWarning(QString(error
+                           ? "Writing \"%1\" was cut short, and its former content \"%2\" cannot be put back."
+                           : "Writing \"%1\" was cut short; its former content is back from \"%2\".")
+                   .arg(path, copyOf(path)));
 }
 
 } // namespace
@@ -72,16 +56,16 @@ bool UnfinishedWrite::begin(const QString& path, QString& error)
         return true;
     if (!copySettingsFile(path, copyOf(path), error))
         return false;
-    // A copy that kept the old file's time would look like one that was left behind.
-    std::error_code mishap;
+    // A copy with the old file's time would look like one that was left behind.
+    std::error_code ignored;
     std::filesystem::last_write_time(nativePath(copyOf(path)), std::filesystem::file_time_type::clock::now(),
-                                     mishap);
+                                     ignored);
     return true;
 }
 
 void UnfinishedWrite::end(const QString& path, bool written)
 {
-    if (written || areAlike(path, copyOf(path)))
+    if (written || contentOfFile(path) == contentOfFile(copyOf(path)))
         QFile::remove(copyOf(path));
     else if (QFile::exists(copyOf(path)))
         putBack(path);
@@ -97,18 +81,13 @@ void UnfinishedWrite::recover(const QString& path)
     }
     if (!QFile::exists(copy))
         return;
-    // A file that has been written later is whole: another program has done it. But clocks are set, and
-    // machines fall asleep: what is given up is kept.
+    // A file that another program has written later is whole.
     const bool isWhole = writtenAt(path) > writtenAt(copy).addMSecs(LongestWrite);
-    const bool isSame = areAlike(path, copy);
-    QString kept, error;
-    if (!isSame &&
-        !SettingsBackup::keep(path, "its writing was cut short", kept, error, isWhole ? copy : path))
+    QString error;
+    if (contentOfFile(path) != contentOfFile(copy) &&
+        !keepBackup(path, "its writing was cut short", error, isWhole ? copy : path))
         return;
-    if (isSame || isWhole)
-        QFile::remove(copy);
-    else
-        putBack(path);
+    end(path, isWhole);
 }
 
 } // namespace zel

@@ -5,9 +5,8 @@
 
 namespace zel {
 
-/// Guards a file while it is rewritten in place: a copy of the old content stands beside it from begin to
-/// end. If the process dies in between, whoever comes next puts the copy back. A copy goes only when its
-/// content is elsewhere, or the new one has been written.
+/// Guards a file that is rewritten in place: a copy of the old content stands beside it from begin to end. If
+/// the process dies in between, the next one to open the file puts the copy back.
 class UnfinishedWrite
 {
 public:
@@ -17,8 +16,8 @@ public:
     /// @param written  false puts the old content back
     static void end(const QString& path, bool written);
 
-    /// Puts the content back that a write of a dead process has left unfinished; waits for one of a living
-    /// process. What is given up for it is kept as a dated copy.
+    /// Puts back what a killed writer has left unfinished; waits for one that may be alive. The content that
+    /// is given up for it is kept as a dated copy.
     static void recover(const QString& path);
 };
 

@@ -1,230 +1,235 @@
 #include "ZelSettingsFile.h"
 
-#include "Announcement.h"
-#include "FileTools.h"
+#include "FileAccess.h"
 #include "IniCodec.h"
-#include "ReplacedFile.h"
 #include "SettingsBackup.h"
+#include "SettingsDamage.h"
+#include "SettingsValidation.h"
 #include "UnfinishedWrite.h"
-#include "ZelSettingsRegistry.h"
+#include "base/FileReplacement.h"
 #include "base/ZelQtCompat.h"
 
-#include <QCoreApplication>
-#include <QDateTime>
+#include <QElapsedTimer>
 #include <QEvent>
-#include <QFile>
 #include <QFileInfo>
-#include <QSettings>
 #include <QStringList>
 
 #include <algorithm>
 #include <chrono>
-#include <filesystem>
 #include <system_error>
 #include <thread>
+#include <utility>
+#include <vector>
 
-// The toolkit's settings lock the file, merge what others have written into it, and replace it in one step by
-// a complete new one. What that leaves open is closed here:
+// QSettings locks the file, merges what others have written into it, and replaces it in one step. What that
+// leaves open is closed here:
 // - A file that cannot be parsed is replaced by what could be: a copy of it is kept.
-// - Some versions rewrite the file in place, and a process that dies meanwhile leaves half of it: the old
+// - Qt before 5.10 rewrites the file in place, and a process that dies meanwhile leaves half of it: the old
 //   content stands beside it for that long.
-// - A process that dies while it takes the lock leaves a lock of nobody, and the others wait half a minute;
-//   for a lock that is no file they wait for ever.
-// - A file that begins with the UTF-8 mark brings the toolkit's own codec back, which loses characters.
-// - The new file belongs to who has written it.
-// - A change by others goes unnoticed, and is overwritten, if it falls into the same tick of the clock as the
-//   one before and leaves the size as it is.
-// - A file that has vanished meanwhile comes back with nothing but the latest changes.
-// - The status tells the first mishap only, and that one for ever.
+// - A file that begins with the UTF-8 mark brings Qt's own codec back, which loses characters.
+// - The new file belongs to the user who has written it.
+// - Whether others have changed the file is told by its size and its time alone, so every write has its own.
+// - The status keeps the first error, so after one the content tells whether a write has succeeded.
+// - What could not be written is written later, unprotected, as soon as QSettings comes to events.
 
 namespace zel {
 
 namespace {
 
-using Clock = std::filesystem::file_time_type::clock;
+typedef std::filesystem::file_time_type FileTime;
 
-const qint64 MaximumFileSize = qint64(64) * 1024 * 1024;
-const std::chrono::milliseconds ClockTick(10);  // Systems count the time of files in ticks of up to this.
-const std::chrono::seconds CoarsestFileTime(2); // Some file systems keep no finer times.
-const std::chrono::minutes StaleLockAge(1);     // The toolkit removes a lock of half a minute.
-const int LockTaking = 250;                     // ms; it takes microseconds, unless the machine is stuck.
+const std::chrono::milliseconds RetryPause(50);
 
-QString unreadableReason(const QFileInfo& file)
+/// The least time there is when there is no file.
+FileTime timeOf(const QString& path)
 {
-    if (!file.isFile())
-        return QCoreApplication::translate("ZelControlCenter", "it is not a file");
-    if (file.size() > MaximumFileSize)
-        return QCoreApplication::translate("ZelControlCenter", "it is too large");
-    QFile reader(file.filePath());
-    return reader.open(QIODevice::ReadOnly) ? QString() : reader.errorString();
+    std::error_code error;
+    const FileTime time = std::filesystem::last_write_time(nativePath(path), error);
+    return error ? FileTime::min() : time;
 }
 
-/// The toolkit's settings only tell that writing failed; trying it tells more.
-QString unwritableReason(const QString& path)
+QVariantMap valuesOf(const QSettings& settings)
 {
-    QFile writer(path);
-    if (writer.exists() && !writer.open(QIODevice::ReadWrite))
-        return writer.errorString();
-    // Where the path is a link, the folder behind it counts. The lock of the toolkit takes some room too.
-    const QFileInfo file(path);
-    const QString reason =
-        mishapOfWritingBeside(file.exists() ? file.canonicalFilePath() : path, file.size() + 4096);
-    if (!reason.isEmpty())
-        return reason;
-    // As where it is mounted on its own, or where another program has it open.
-    return QCoreApplication::translate("ZelControlCenter", "it cannot be replaced by a new one");
-}
-
-QString lockOf(const QString& path)
-{
-    return path + ".lock";
-}
-
-bool namesProcess(const QString& lock)
-{
-    QFile file(lock);
-    return file.open(QIODevice::ReadOnly) && file.readLine(32).trimmed().toLongLong() > 0;
-}
-
-/// Lets the toolkit, which waits without end, take the lock. False when it never could.
-bool makeLockable(const QString& path)
-{
-    const QString lock = lockOf(path);
-    const int pause = 20;
-    for (int waited = 0; waited <= LockTaking; waited += pause) {
-        const QFileInfo file(lock);
-        if (file.isSymLink() || (file.exists() && !file.isFile()))
-            return false;
-        // The toolkit looks after the locks of processes, the dead ones too, if it may write them.
-        if (!file.exists() || (file.isWritable() && namesProcess(lock)))
-            return true;
-        if (file.lastModified().addMSecs(LockTaking) < QDateTime::currentDateTime())
-            break;
-        std::this_thread::sleep_for(std::chrono::milliseconds(pause));
+    QVariantMap values;
+    for (const QString& key : settings.allKeys()) {
+        if (!key.isEmpty()) // QSettings reads a key without a name, but sets none.
+            values.insert(key, settings.value(key));
     }
-    // Not removed here: by now it may be a living one. The toolkit removes an old one if no process holds it.
-    std::error_code error;
-    std::filesystem::last_write_time(nativePath(lock), Clock::now() - StaleLockAge, error);
-    return !error || !QFile::exists(lock);
+    return values;
 }
 
-Clock::time_point timeOf(const QString& path)
-{
-    std::error_code error;
-    return std::filesystem::last_write_time(nativePath(path), error);
-}
-
-/// Gives the file a time that the toolkit cannot have seen, so that it reads the file again before it writes.
-/// Takes it back from a file that has not been written.
-class NewTime
+/// One write of a settings file. At any moment, also when the process is killed, the file holds its old
+/// content or the new one. Without a commit that succeeds, the end puts the former values back into the
+/// settings.
+class SettingsWrite
 {
 public:
-    explicit NewTime(const QString& path)
-        : m_path(path)
-        , m_former(timeOf(path))
-    {
-        // Once this tick is over, no one can write the file with the time again at which it was read.
-        if (QFile::exists(path) && m_former <= Clock::now())
-            std::this_thread::sleep_until(m_former + ClockTick);
-        setTime(std::max(m_former, Clock::now()) + CoarsestFileTime);
-        m_given = timeOf(path);
-    }
+    /// The settings must outlive the write.
+    explicit SettingsWrite(QSettings& settings);
+    ~SettingsWrite();
 
-    ~NewTime()
-    {
-        if (!isWritten())
-            setTime(m_former);
-    }
+    SettingsWrite(const SettingsWrite&) = delete;
+    SettingsWrite& operator=(const SettingsWrite&) = delete;
 
-    NewTime(const NewTime&) = delete;
-    NewTime& operator=(const NewTime&) = delete;
+    /// Gets the file ready, and keeps a copy of it where writing would lose something. False, with a
+    /// translated text, when nothing should be changed.
+    bool prepare(QString& error);
 
-    bool isWritten() const { return timeOf(m_path) != m_given; }
+    /// True when the file was damaged or empty.
+    bool hasLostContent() const { return m_lostContent; }
+
+    /// To be called for a value before it is changed; an invalid one for a key that is added.
+    void noteFormer(const QString& key, const QVariant& value) { m_former.insert(key, value); }
+    /// Notes all values, and that other keys are added.
+    void noteAllFormer();
+    bool hasNoted() const { return !m_former.isEmpty(); }
+
+    /// Writes the values and verifies that they are in the file. False, with a translated text, when they are
+    /// not.
+    bool commit(QString& error);
 
 private:
-    void setTime(Clock::time_point time)
-    {
-        std::error_code error; // Where there is no file there is nothing to be read again.
-        std::filesystem::last_write_time(nativePath(m_path), time, error);
-    }
+    bool hasChanged() const;
+    bool isWritten() const;
+    void rollBack();
+    void restoreAttributes() const;
 
+    QSettings& m_settings;
     const QString m_path;
-    const Clock::time_point m_former;
-    Clock::time_point m_given;
+    QByteArray m_content;
+    bool m_lostContent = false;
+    uint m_owner = 0;
+    uint m_group = 0;
+    FileTime m_time; ///< The least there is when there was no file.
+    QVariantMap m_former;
+    bool m_allNoted = false;
+    bool m_prepared = false;
+    bool m_written = false;
 };
 
-/// Writes every value, not only what has been changed.
-void setAll(QSettings& settings)
+SettingsWrite::SettingsWrite(QSettings& settings)
+    : m_settings(settings)
+    , m_path(settings.fileName())
 {
-    for (const QString& key : settings.allKeys()) {
-        if (!key.isEmpty())
-            settings.setValue(key, settings.value(key));
-    }
 }
 
-/// Whether a file can be written whose status tells of a mishap, be it a former one.
-bool writesOneValue(QSettings& settings)
+bool SettingsWrite::prepare(QString& error)
 {
-    QStringList keys = settings.allKeys();
-    keys.removeAll(""); // The toolkit reads a key without a name, but sets none.
-    if (keys.isEmpty())
-        return settings.status() != QSettings::AccessError;
-    settings.setValue(keys.last(), settings.value(keys.last()));
-    const NewTime time(settings.fileName());
-    settings.sync();
-    return time.isWritten();
-}
-
-bool refuse(const QString& path, const QString& reason, QString& error)
-{
-    return fail(QCoreApplication::translate("ZelControlCenter",
-                                            "Could not write the Torvane settings file \"%1\": %2")
-                    .arg(path, reason),
-                error);
-}
-
-bool write(QSettings& settings, QString& error)
-{
-    settings.sync();
-    if (settings.status() == QSettings::NoError || writesOneValue(settings))
-        return true;
-    return refuse(settings.fileName(), unwritableReason(settings.fileName()), error);
-}
-
-typedef bool (*Change)(QSettings& settings, QString& error);
-
-/// Makes the change, if there is one, and writes it under all protection.
-bool changeAndWrite(QSettings& settings, Change change, QString& error)
-{
-    const QString path = settings.fileName();
-    if (!ZelSettingsFile::PrepareWriting(path, error) ||
-        (!SettingsReplaceTheirFile && !UnfinishedWrite::begin(path, error)))
+    const QString refusal = unwritableReason(m_path);
+    if (!refusal.isEmpty())
+        return refuseWriting(m_path, refusal, error);
+    m_content = contentOfFile(m_path);
+    const QString damage = settingsDamage(m_content);
+    const QString loss = damage.isEmpty() ? droppedComment(m_content) : damage;
+    m_lostContent = m_content.isEmpty() || !damage.isEmpty();
+    if ((!loss.isEmpty() && !keepBackup(m_path, loss, error)) ||
+        (!SettingsReplaceTheirFile && !UnfinishedWrite::begin(m_path, error)))
         return false;
-    ZelSettingsFile::UseFileEncoding(settings); // A mark that has been read may have brought the other back.
-    if (QFileInfo(path).size() == 0)
-        setAll(settings);
-    const ReplacedFile former(path);
-    bool written = false;
-    {
-        const NewTime time(path);
-        written = (!change || change(settings, error)) && write(settings, error);
-    }
-    if (!SettingsReplaceTheirFile)
-        UnfinishedWrite::end(path, written || settings.status() == QSettings::NoError);
-    former.restore();
-    return written;
+    m_prepared = true;
+    const QFileInfo file(m_path);
+    m_owner = file.ownerId();
+    m_group = file.groupId();
+    m_time = timeOf(m_path);
+    return true;
 }
 
-bool writeGuarded(QSettings& settings, Change change, QString& error)
+void SettingsWrite::noteAllFormer()
 {
-    if (changeAndWrite(settings, change, error))
+    m_former = valuesOf(m_settings);
+    m_allNoted = true;
+}
+
+bool SettingsWrite::commit(QString& error)
+{
+    QElapsedTimer clock;
+    clock.start();
+    m_settings.sync();
+    while (!isWritten() && clock.elapsed() < BusyFileTime) {
+        std::this_thread::sleep_for(RetryPause);
+        m_settings.sync();
+    }
+    m_written = isWritten();
+    return m_written || refuseWriting(m_path, probeWriteError(m_path), error);
+}
+
+SettingsWrite::~SettingsWrite()
+{
+    if (!m_prepared)
+        return;
+    if (!m_written)
+        rollBack();
+    if (!SettingsReplaceTheirFile)
+        UnfinishedWrite::end(m_path, m_written);
+    restoreAttributes();
+}
+
+bool SettingsWrite::hasChanged() const
+{
+    return m_allNoted ? valuesOf(m_settings) != m_former : hasNoted();
+}
+
+bool SettingsWrite::isWritten() const
+{
+    if (SettingsReplaceTheirFile && m_settings.status() == QSettings::NoError)
         return true;
-    // Else the toolkit would write what is left on its own, unprotected, as soon as it comes to events.
-    QCoreApplication::removePostedEvents(&settings, QEvent::UpdateRequest);
-    return false;
+    const QByteArray content = contentOfFile(m_path);
+    return content == m_content ? !hasChanged() : content.endsWith('\n'); // Half a file ends anywhere.
+}
+
+void SettingsWrite::rollBack()
+{
+    if (m_allNoted) {
+        for (const QString& key : m_settings.allKeys()) {
+            if (!m_former.contains(key))
+                m_former.insert(key, QVariant());
+        }
+    }
+    for (auto former = m_former.cbegin(); former != m_former.cend(); ++former) {
+        if (!former->isValid())
+            m_settings.remove(former.key());
+        else if (m_settings.value(former.key()) != *former)
+            m_settings.setValue(former.key(), *former);
+    }
+    m_settings.sync();
+    QCoreApplication::removePostedEvents(&m_settings, QEvent::UpdateRequest);
+}
+
+void SettingsWrite::restoreAttributes() const
+{
+    const QFileInfo file(m_path);
+    if (!file.isFile() || m_time == FileTime::min())
+        return;
+    if ((file.ownerId() != m_owner || file.groupId() != m_group) &&
+        !giveFileTo(file.canonicalFilePath(), m_owner, m_group))
+        logWarning(QString("Could not give \"%1\" back to its owner and group.").arg(m_path));
+    const FileTime next = m_time + std::chrono::milliseconds(1); // QSettings counts in these.
+    std::error_code error; // Then a change by others in this very moment goes unnoticed.
+    if (m_written && timeOf(m_path) < next && hasChanged())
+        std::filesystem::last_write_time(nativePath(m_path), next, error);
+}
+
+/// Brings back what a damaged file has lost since it was read. One that lacks a registered key has lost more.
+void restoreLost(QSettings& settings, const QVariantMap& held, bool hasLostContent)
+{
+    const auto& registered = ZelSettingsRegistry::GetDefaultSettingsValues();
+    if (!hasLostContent && std::none_of(registered.begin(), registered.end(), [&](const auto& entry) {
+            return held.contains(entry.first) && !settings.contains(entry.first);
+        }))
+        return;
+    for (auto value = held.cbegin(); value != held.cend(); ++value) {
+        if (!settings.contains(value.key()))
+            settings.setValue(value.key(), *value);
+    }
 }
 
 } // namespace
+
+std::unique_ptr<QSettings> ZelSettingsFile::Open(const QString& path)
+{
+    auto settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
+    UseFileEncoding(*settings);
+    return settings;
+}
 
 void ZelSettingsFile::UseFileEncoding(QSettings& settings)
 {
@@ -235,48 +240,57 @@ bool ZelSettingsFile::IsUsable(const QString& path, QString& error)
 {
     if (!SettingsReplaceTheirFile)
         UnfinishedWrite::recover(path);
-    const QFileInfo file(path);
-    QString reason;
-    std::error_code mishap; // As for links in a circle, which do not "exist" but would be replaced.
-    if (file.exists())
-        reason = unreadableReason(file);
-    else if (std::filesystem::status(nativePath(path), mishap).type() == std::filesystem::file_type::none)
-        reason = QString::fromLocal8Bit(mishap.message().c_str());
-    if (reason.isEmpty())
-        return true;
-    return fail(
-        QCoreApplication::translate("ZelControlCenter", "Could not read the Torvane settings file \"%1\": %2")
-            .arg(path, reason),
-        error);
+    const QString reason = unreadableReason(path);
+    return reason.isEmpty() ||
+           fail(Text::tr("Could not read the Torvane settings file \"%1\": %2").arg(path, reason), error);
 }
 
-bool ZelSettingsFile::PrepareWriting(const QString& path, QString& error)
+bool ZelSettingsFile::IsWritable(const QString& path, QString& error)
 {
-    QString copy;
-    if (!IsUsable(path, error) || !SettingsBackup::keepIfDamaged(path, copy, error))
+    const QString reason = unwritableReason(path);
+    return reason.isEmpty() || refuseWriting(path, reason, error);
+}
+
+bool ZelSettingsFile::Write(QSettings& settings, const Change& change, QString& error)
+{
+    const QVariantMap held = valuesOf(settings);
+    SettingsWrite write(settings);
+    if (!write.prepare(error))
         return false;
-    if (SettingsReplaceTheirFile && !ReplacedFile(path).canKeepOwner())
-        return refuse(path,
-                      QCoreApplication::translate("ZelControlCenter",
-                                                  "it belongs to another user or group, who would lose it"),
-                      error);
-    if (!makeLockable(path))
-        return refuse(path,
-                      QCoreApplication::translate("ZelControlCenter",
-                                                  "\"%1\" is in the way, which no program uses: remove it")
-                          .arg(lockOf(path)),
-                      error);
-    return dropByteOrderMark(path) || refuse(path, unwritableReason(path), error);
-}
-
-bool ZelSettingsFile::Sync(QSettings& settings, QString& error)
-{
-    return writeGuarded(settings, nullptr, error);
+    settings.sync(); // Reads what others have written, which may bring back Qt's own codec.
+    UseFileEncoding(settings);
+    restoreLost(settings, held, write.hasLostContent());
+    write.noteAllFormer();
+    return change(settings, error) && write.commit(error);
 }
 
 bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
 {
-    return writeGuarded(settings, &ZelSettingsRegistry::EnsureSettings, error);
+    SettingsWrite write(settings);
+    QString refusal;
+    const bool writable = write.prepare(refusal);
+    std::vector<std::pair<const QString*, QString>> texts;
+    bool losesList = false;
+    const auto take = [&](const auto& entry, const QVariant& stored, const QString& text) {
+        texts.emplace_back(&entry.first, text);
+        losesList = losesList || isList(stored);
+        if (isRepair(stored, text))
+            write.noteFormer(entry.first, stored);
+    };
+    if (!validateSettings(settings, error, take))
+        return false;
+    if (writable && losesList &&
+        !keepBackup(settings.fileName(), "it holds a list in place of a text", error))
+        return false;
+    if (writable) {
+        for (const auto& [key, text] : texts)
+            settings.setValue(*key, text);
+    }
+    if ((!writable || !write.commit(refusal)) && write.hasNoted()) {
+        error = refusal;
+        return false;
+    }
+    return runEndChecks(settings, error);
 }
 
 } // namespace zel

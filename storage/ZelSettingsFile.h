@@ -5,39 +5,45 @@
 
 #include <QString>
 
+#include <functional>
+#include <memory>
+
 class QSettings;
 
 namespace zel {
 
-/// What keeps the user's settings file whole: after any mishap it holds its old content or the new one, with
-/// every key that is not ours. What goes wrong is told in a translated text that names the file, to the
-/// caller, in the log and on standard output. GUI thread only.
+/// What keeps the user's settings file whole: at any moment, also when the process is killed or the disk is
+/// full, it holds its old content or the new one, with every key that is not ours. Error texts are
+/// translated, name the file and the reason, and are logged. GUI thread only.
 class ZEL_EXPORT ZelSettingsFile
 {
 public:
-    /// Reads and writes the settings' text in the encoding of the file, UTF-8.
+    /// Changes values of the settings. False, with the error text set, gives the write up.
+    typedef std::function<bool(QSettings& settings, QString& error)> Change;
+
+    /// Opens a file, which should be usable, in its encoding.
+    static std::unique_ptr<QSettings> Open(const QString& path);
+
+    /// Makes settings read and write text in the encoding of the file, UTF-8.
     static void UseFileEncoding(QSettings& settings);
 
     /// True when the file does not exist yet or can be read: a regular file of a sensible size. To be asked
-    /// before the file is opened, because a pipe, a device or a file of gigabytes would never stop to be
-    /// read.
+    /// before the file is opened, because reading a pipe, a device or a file of gigabytes would never end.
     static bool IsUsable(const QString& path, QString& error);
 
-    /// Brings the file into the form that the registry asks for: ZelSettingsRegistry::EnsureSettings, with
-    /// all that Sync does. False also when a validator or an end check gives up; the error text is then
-    /// theirs.
+    /// False when it is known beforehand that the file cannot be written. A full disk shows only in Write.
+    static bool IsWritable(const QString& path, QString& error);
+
+    /// The only way to the disk: lets the change set and remove values, and writes them. What others have
+    /// written in the meantime stays, and what a damaged or emptied file has lost comes back from memory.
+    /// False when the change gave up or the file could not be written: the settings then hold what they held
+    /// before the change. The change is not called when nothing can be written.
+    static bool Write(QSettings& settings, const Change& change, QString& error);
+
+    /// Brings the file into the form that the registry asks for, as ZelSettingsRegistry::EnsureSettings does,
+    /// but safely. A file that cannot be written is accepted if it needs no repair. False also when a
+    /// validator or an end check gives up; the error text is then theirs.
     static bool Repair(QSettings& settings, QString& error);
-
-    /// Writes what has been changed to the file. What other processes have written in the meantime stays, and
-    /// so do the file's owner and group. False when the file could not be written; the changes are then still
-    /// pending.
-    static bool Sync(QSettings& settings, QString& error);
-
-    /// Makes the file ready to be written: keeps a dated copy beside a damaged one, because the toolkit drops
-    /// what it cannot read. Repair and Sync do so on their own; before that it is only needed for a value
-    /// that must not be set otherwise, because the toolkit writes it in the end even after they have failed.
-    /// False when nothing should be written.
-    static bool PrepareWriting(const QString& path, QString& error);
 };
 
 } // namespace zel

@@ -62,11 +62,11 @@ void makeOld(const QString& path)
                                      std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
 }
 
-pid_t startChild(const std::function<bool()>& work, const QString& output = "/dev/null")
+pid_t startChild(const std::function<bool()>& work)
 {
     const pid_t child = ::fork();
     if (child == 0) {
-        ::dup2(::open(qPrintable(output), O_WRONLY | O_CREAT, 0600), STDOUT_FILENO);
+        ::dup2(::open("/dev/null", O_WRONLY), STDOUT_FILENO);
         ::_exit(work() ? 0 : 1);
     }
     return child;
@@ -89,12 +89,20 @@ struct Settings : QSettings
 
 QString error; ///< Of the last operation that failed.
 
+bool write(QSettings& settings, const QVariantMap& values)
+{
+    const auto change = [&values](QSettings& changed, QString&) {
+        for (const QString& key : values.keys())
+            changed.setValue(key, values[key]);
+        return true;
+    };
+    return ZelSettingsFile::Write(settings, change, error);
+}
+
 bool change(const QString& path, const QVariantMap& values)
 {
     Settings settings(path);
-    for (const QString& key : values.keys())
-        settings.setValue(key, values[key]);
-    return ZelSettingsFile::Sync(settings, error);
+    return write(settings, values);
 }
 
 bool apply(const QString& path)
@@ -199,7 +207,7 @@ private Q_SLOTS:
         killAtAnyMoment(&migrate, "[General]\nengine=software\n\n"); // Too old.
     }
 
-    void lockOfNobody()
+    void orphanedLock()
     {
         QElapsedTimer clock;
         clock.start();
@@ -210,9 +218,9 @@ private Q_SLOTS:
             QVERIFY(contentOf(m_path).contains("cacheSize=512"));
         }
         QVERIFY(::symlink("nowhere", qPrintable(m_path + ".lock")) == 0 &&
-                !ZelSettingsFile::PrepareWriting(m_path, error));
+                !ZelSettingsFile::IsWritable(m_path, error));
         QVERIFY(QFile::remove(m_path + ".lock") && QDir().mkdir(m_path + ".lock"));
-        QVERIFY(!ZelSettingsFile::PrepareWriting(m_path, error) && error.contains(m_path + ".lock\""));
+        QVERIFY(!apply(m_path) && error.contains(m_path + ".lock\""));
         QVERIFY(clock.elapsed() < Patience);
     }
 
@@ -255,8 +263,7 @@ private Q_SLOTS:
                 std::srand(unsigned(writer));
                 Settings settings(m_path);
                 for (int i = 100; i < end; ++i) {
-                    settings.setValue(key.arg(writer).arg(i % 3), i);
-                    if (!ZelSettingsFile::Sync(settings, error))
+                    if (!write(settings, {{key.arg(writer).arg(i % 3), i}}))
                         return false;
                     ::usleep(useconds_t(std::rand() % 3000));
                     // The others may write, but not over this one's values.
@@ -292,18 +299,18 @@ private Q_SLOTS:
             while (filler.write(QByteArray(4096, 'x')) == 4096)
                 continue;
             Settings settings(m_path);
-            if (!damaged)
-                settings.setValue("new/key", "text");
-            QVERIFY(!(damaged ? ZelSettingsFile::PrepareWriting(m_path, error)
-                              : ZelSettingsFile::Sync(settings, error)));
+            QVERIFY(!write(settings, {{"new/key", "text"}, {"Foreign/emoji", "none"}}));
             QVERIFY2(error.contains(m_path) && error.contains("No space left"), qPrintable(error));
             QCOMPARE(contentOf(m_path), content);
             QVERIFY(copies().isEmpty());
 
-            // As soon as there is room the change is written, and nobody complains of the past any more.
+            // The settings hold what the file holds, and write nothing on their own once there is room.
+            QVERIFY(!settings.contains("new/key") && settings.value("Foreign/emoji") != "none");
             QVERIFY(filler.remove());
-            settings.setValue("new/key", "text");
-            QVERIFY2(ZelSettingsFile::Sync(settings, error), qPrintable(error));
+            const QDateTime time = QFileInfo(m_path).lastModified();
+            QCoreApplication::sendPostedEvents(&settings, 0);
+            QVERIFY(contentOf(m_path) == content && QFileInfo(m_path).lastModified() == time);
+            QVERIFY2(write(settings, {{"new/key", "text"}}), qPrintable(error));
             QVERIFY(holdsForeign(contentOf(m_path)) && contentOf(m_path).contains("[new]\nkey=text\n"));
         }
         const QByteArray path = m_path.toUtf8(), other = path + ".other";
@@ -314,23 +321,52 @@ private Q_SLOTS:
         ::umount(qPrintable(m_folder->path()));
     }
 
-    void folderWithoutWritePermission()
+    void obstacles()
     {
+        const std::pair<const char*, const char*> rows[] = {
+            {"chmod 555 .", "Permission denied"},
+            {"chmod 444 *; chmod 555 .", "Permission denied"},
+            {"rm *; ln -s /no/where Settings.ini", "No such file"},
+            {"cd ..; rm -r sub; touch sub", "Not a directory"}};
+        for (const auto& [obstacle, reason] : rows) {
+            init();
+            const QString folder = m_folder->filePath("sub");
+            m_path = folder + "/Settings.ini";
+            QVERIFY(QDir().mkdir(folder));
+            store(m_path, Foreign);
+            for (const QString& path : {m_folder->path(), folder, m_path})
+                QVERIFY(::geteuid() != 0 || ::chown(qPrintable(path), 65534, 65534) == 0);
+            const QString command = "cd '" + folder + "'; " + obstacle;
+            const bool told = succeeds(startChild([&, reason = reason] {
+                // Permissions do not bind the administrator.
+                if (::geteuid() == 0 &&
+                    (::setgroups(0, nullptr) != 0 || ::setgid(65534) != 0 || ::setuid(65534) != 0))
+                    return false;
+                Settings settings(m_path);
+                const QVariant former = settings.value("Foreign/list");
+                return ::system(qPrintable(command)) == 0 && !write(settings, {{"Foreign/list", "none"}}) &&
+                       error.contains(m_path) && error.contains(reason) &&
+                       settings.value("Foreign/list") == former;
+            }));
+            ::chmod(qPrintable(folder), 0755);
+            QVERIFY2(told, obstacle);
+            QVERIFY2(!QFile::exists(m_path) || contentOf(m_path) == Foreign, obstacle);
+            QVERIFY(copies().isEmpty());
+        }
+    }
+
+    void fileOfAnotherUser()
+    {
+        if (::geteuid() != 0)
+            QSKIP("only the administrator can give a file away");
         store(m_path, Foreign);
-        ::chmod(qPrintable(m_path), 0666);
-        ::chmod(qPrintable(m_folder->path()), 0555);
-        const bool told = succeeds(startChild([this] {
-            // Permissions do not bind the administrator.
-            if (::geteuid() == 0 &&
-                (::setgroups(0, nullptr) != 0 || ::setgid(65534) != 0 || ::setuid(65534) != 0))
-                return false;
-            return !change(m_path, {{"key", "value"}}) && error.contains(m_path) &&
-                   error.contains("Permission denied");
-        }));
-        ::chmod(qPrintable(m_folder->path()), 0755);
-        QVERIFY(told);
+        for (const QString& path : {m_folder->path(), m_path})
+            QVERIFY(::chmod(qPrintable(path), 0777) == 0);
+        QVERIFY(succeeds(startChild([this] {
+            return ::setgroups(0, nullptr) == 0 && ::setuid(65534) == 0 && !apply(m_path) &&
+                   error.contains("belongs to another user");
+        })));
         QCOMPARE(contentOf(m_path), Foreign);
-        QCOMPARE(files("*"), QStringList("Settings.ini"));
     }
 
     void replacedOrVanished()
@@ -341,23 +377,59 @@ private Q_SLOTS:
         store(m_path, Foreign);
         Settings settings(m_path);
         QVERIFY(QFile::remove(m_path) && QDir().mkpath(m_path));
-        settings.setValue("key", "value");
-        QVERIFY(!ZelSettingsFile::Sync(settings, error));
+        QVERIFY(!write(settings, {{"key", "value"}}));
         QVERIFY2(error.contains(m_path), qPrintable(error));
         QVERIFY(QFileInfo(m_path).isDir());
 
         // What is gone comes back with everything, not only with the change.
         QVERIFY(QDir(folder).removeRecursively());
-        QVERIFY2(ZelSettingsFile::Sync(settings, error), qPrintable(error));
+        QVERIFY2(write(settings, {{"key", "value"}}), qPrintable(error));
         QVERIFY(contentOf(m_path).startsWith("[General]\nkey=value\n\n"));
         QVERIFY2(holdsForeign(contentOf(m_path)), contentOf(m_path).constData());
 
         // Unless a file now stands where its folder was.
         QVERIFY(QDir(folder).removeRecursively());
         store(folder, "");
-        settings.setValue("key", "other");
-        QVERIFY(!ZelSettingsFile::Sync(settings, error));
+        QVERIFY(!write(settings, {{"key", "other"}}));
         QVERIFY2(error.contains(m_path), qPrintable(error));
+        QCOMPARE(settings.value("key").toString(), QString("value"));
+    }
+
+    void damagedByOthers()
+    {
+        // What others leave of a complete file, and of the values that are unregistered, what is still there.
+        const QByteArray complete = "[General]\nsettingsVersion=2\nown=1\n\n[DBCache]\ncacheSize=77\n";
+        const std::pair<QByteArray, QByteArray> rows[] = {
+            {"", "own=1"}, {"garbage\nown=2\n", "own=2"}, {"[General]\nother=3\n", "other=3"}};
+        for (const auto& [left, kept] : rows) {
+            init();
+            store(m_path, complete);
+            Settings settings(m_path);
+            QVERIFY(settings.contains("own"));
+            store(m_path, left);
+            makeOld(m_path);
+            QVERIFY(write(settings, {{"engine", "software"}}));
+            for (const QByteArray& line : {QByteArray("engine=software"), QByteArray("settingsVersion=2"),
+                                           QByteArray("cacheSize=77"), kept})
+                QVERIFY2(contentOf(m_path).contains(line + '\n'), (left + " loses " + line).constData());
+        }
+    }
+
+    void cleanFileThatCannotBeWritten()
+    {
+        // A folder in place of the lock stops the administrator, too.
+        const std::tuple<QByteArray, bool> rows[] = {
+            {"[General]\nsettingsVersion=2\n\n[DBCache]\ncacheSize=77\n", true},
+            {"[General]\nsettingsVersion=2\n\n[DBCache]\ncacheSize=7\n", false}};
+        QVERIFY(QDir().mkdir(m_path + ".lock"));
+        for (const auto& [content, accepted] : rows) {
+            store(m_path, content);
+            error.clear();
+            QCOMPARE(validate(m_path), accepted);
+            QCOMPARE(error.isEmpty(), accepted);
+            QVERIFY(!ZelSettingsFile::IsWritable(m_path, error) && error.contains(".lock"));
+            QCOMPARE(contentOf(m_path), content);
+        }
     }
 
     void linkStaysALink()
@@ -388,7 +460,11 @@ private Q_SLOTS:
             {&validate, version2 + "key=\374\n", 1},
             {&validate, version2 + "path=/a;/b\n", 1},
             {&apply, version2 + "win=C:\\Users\\me\n", 1},
-            {&validate, "=1\n[open\n", 1},                 // A key without a name.
+            {&validate, "=1\n[open\n", 1}, // A key without a name.
+            {&validate, version2 + "[DBCache]\ncacheSize=1, 2\n", 1},
+            {&apply, "; mine\n" + version2, 1},
+            {&validate, version2 + "own=1, 2\n", 0},
+            {&migrate, "[General]\nsettingsVersion=0\n; mine\n", 1},
             {&migrate, "[General]\nengine=software\n", 1}, // Too old.
             {&migrate, "[General]\nsettingsVersion=1\n", 0},
             {&validate, "[DBCache]\ncacheSize=1\n", 0},
@@ -405,9 +481,18 @@ private Q_SLOTS:
         }
     }
 
+    void newerVersions()
+    {
+        for (const char* version : {"2", "7", "2147483648", "4294967297", "99999999999999999999"}) {
+            const QByteArray content = QByteArray("[General]\nsettingsVersion=") + version + "\n";
+            store(m_path, content);
+            QVERIFY(migrate(m_path));
+            QCOMPARE(contentOf(m_path), content);
+        }
+    }
+
     void everyWriteIsPrepared()
     {
-        QVERIFY(ZelSettingsFile::PrepareWriting(m_path, error)); // For a pass that then fails.
         store(m_path, "no settings\n");
         QVERIFY(apply(m_path));
         QCOMPARE(copies().size(), 1);
@@ -427,24 +512,22 @@ private Q_SLOTS:
             QVERIFY(status.st_uid == 65534 && status.st_gid == 65533 && (status.st_mode & 0777) == 0600);
         }
         QVERIFY(QFile::remove(m_path) && QFile::link(m_path, m_path));
-        QVERIFY(!ZelSettingsFile::PrepareWriting(m_path, error));
+        QVERIFY(!apply(m_path));
         QVERIFY2(error.contains("symbolic links"), qPrintable(error));
     }
 
     void keptCopyIsNamed()
     {
         store(m_path, "no settings\n");
-        const QString log = m_folder->filePath("log.txt"), output = m_folder->filePath("output");
+        const QString log = m_folder->filePath("log.txt");
         const auto logging = [&] {
             MTLogger::InstallFileHandler(log.toStdString(), false, "");
             return validate(m_path);
         };
-        QVERIFY(succeeds(startChild(logging, output)));
+        QVERIFY(succeeds(startChild(logging)));
         QCOMPARE(copies().size(), 1);
-        for (const QString& told : {log, output}) {
-            QVERIFY(contentOf(told).contains(m_path.toUtf8() + '"'));
-            QVERIFY(contentOf(told).contains(copies().first().toUtf8()));
-        }
+        QVERIFY(contentOf(log).contains(m_path.toUtf8() + '"'));
+        QVERIFY(contentOf(log).contains(copies().first().toUtf8()));
     }
 
     void lastThreeCopies()

@@ -25,6 +25,8 @@ private:
         environment.remove("DISPLAY");
         process.setProcessEnvironment(environment);
         process.start(TORVANE_SETTINGS_CHECK, arguments);
+        process.write(m_input);
+        process.closeWriteChannel();
         process.waitForFinished();
         m_output = process.readAllStandardOutput();
         m_json = QJsonDocument::fromJson(m_output).object();
@@ -85,7 +87,7 @@ private:
             QCOMPARE(settings.value(one["key"].toString()).toString(), one["new"].toString());
         QCOMPARE(contentOf(m_file).contains("[x]\ny=\360\237\231\202\n"), before.contains("[x]"));
         const QString copy = m_json["copy"].toString();
-        QVERIFY(damage.isEmpty() ? copy.isEmpty() : contentOf(copy) == before);
+        QVERIFY(damage.isEmpty() && reason != "list" ? copy.isEmpty() : contentOf(copy) == before);
 
         QCOMPARE(run({"--repair", "--json", m_file}), 0);
         QCOMPARE(m_json["state"].toString(), QString("clean"));
@@ -94,7 +96,7 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_root, m_file, m_config = "config";
-    QByteArray m_output;
+    QByteArray m_input, m_output;
     QJsonObject m_json;
 
 private Q_SLOTS:
@@ -148,6 +150,8 @@ private Q_SLOTS:
             {"truncate -s 5G \"$1\"", "it is too large"},
             {"touch \"$2\"", "could not be created"},
             {"ln -s /gone/there \"$2\"", "could not be created"},
+            {"mkdir \"$1.lock\"", "is in the way"},
+            {"ln -s /no/where/there \"$1\"", "No such file"},
             {"touch \"$1\"; chown 65534 \"$1\"", "another user"}};
         for (const auto& [obstacle, error] : rows) {
             if (error == "another user" && ::geteuid() != 0)
@@ -181,15 +185,59 @@ private Q_SLOTS:
         QCOMPARE(contentOf(m_file), before);
     }
 
+    void cleanFileThatCannotBeWritten()
+    {
+        QCOMPARE(run({"--repair", m_file}), 4);
+        QCOMPARE(run({m_file}), 0);
+        QVERIFY(QDir().mkdir(m_file + ".lock"));
+        QCOMPARE(run({"--json", m_file}), 2);
+        QVERIFY2(m_json["error"].toString().contains("is in the way"), m_output.constData());
+        QVERIFY(m_json["changes"].toArray().isEmpty());
+    }
+
+    void freshStart()
+    {
+        const std::pair<const char*, bool> rows[] = {{"settingsVersion=0\n", true},
+                                                     {"engine=software\n", true},
+                                                     {"settingsVersion=1\n", false},
+                                                     {"settingsVersion=4294967297\n", false}};
+        for (const auto& [content, fresh] : rows) {
+            QVERIFY(write(content));
+            run({m_file});
+            QCOMPARE(m_output.contains("fresh start: its version is too old"), fresh);
+            run({"--json", m_file});
+            QCOMPARE(m_json["freshStart"].toBool(), fresh);
+        }
+    }
+
+    void manyFiles()
+    {
+        const QString clean = m_root + "/clean.ini", broken = m_root + "/broken.ini", folder = m_root;
+        QCOMPARE(run({"--repair", clean}), 4);
+        QFile file(broken);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("garbage\n"));
+        file.close();
+        // Files, the exit code, and how many reports there are.
+        const std::tuple<QStringList, int, int> rows[] = {{{clean, broken}, 1, 2},
+                                                          {{broken, folder, clean}, 2, 3},
+                                                          {{"-", clean}, 1, 3},
+                                                          {{"--repair", broken, clean}, 4, 2}};
+        m_input = (clean + '\n' + broken + "\n\n").toUtf8();
+        for (const auto& [arguments, exitCode, reports] : rows) {
+            QCOMPARE(run(arguments), exitCode);
+            QCOMPARE(("\n" + m_output).count("\n\""), reports);
+        }
+    }
+
     void usage()
     {
         const std::pair<QStringList, int> rows[] = {
             {{}, 3},         {{""}, 3},
-            {{"a", "b"}, 3}, {{"--fix", "a"}, 3},
+            {{"-h"}, 0},     {{"--fix", "a"}, 3},
             {{"--help"}, 0}, {{"--", "--help"}, 1}}; // A file like an option.
         for (const auto& [arguments, exitCode] : rows) {
             QCOMPARE(run(arguments), exitCode);
-            QCOMPARE(m_output.startsWith("usage:"), arguments == QStringList("--help"));
+            QCOMPARE(m_output.startsWith("usage:"), exitCode == 0);
         }
         const std::pair<QString, int> commands[] = {{"exec \"$0\" \"$(printf 'caf\\351')\"", 3},
                                                     {"exec \"$0\" --help >/dev/full", 2}};

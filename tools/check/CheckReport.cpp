@@ -22,6 +22,14 @@ const char* stateName(CheckState state)
     return "not repairable";
 }
 
+/// 0 for the best.
+int badness(CheckState state)
+{
+    const CheckState states[] = {CheckState::Clean, CheckState::Repaired, CheckState::NeedsRepair,
+                                 CheckState::NotRepairable};
+    return int(std::find(std::begin(states), std::end(states), state) - std::begin(states));
+}
+
 /// True for what could end a line or steer a terminal, and for half a character, which UTF-8 cannot hold.
 bool isUnfit(uint character)
 {
@@ -94,10 +102,18 @@ QByteArray changeToText(const SettingsChange& change)
 
 } // namespace
 
+CheckState worseOf(CheckState one, CheckState other)
+{
+    return badness(one) < badness(other) ? other : one;
+}
+
 QByteArray CheckReport::toText() const
 {
     const bool done = state == CheckState::Repaired;
     QByteArray result = quoted(file) + ": " + stateName(state) + '\n';
+    if (isFreshStart && !done)
+        result +=
+            "  fresh start: its version is too old, so the editor keeps nothing of it but the language\n";
     if (!damage.isEmpty())
         result += "  damaged: " + damage.toUtf8() + '\n';
     for (const SettingsChange& change : changes)
@@ -115,6 +131,7 @@ QByteArray CheckReport::toJson() const
 {
     const QList<QByteArray> members = {member("file", quoted(file)),
                                        member("state", quoted(stateName(state))),
+                                       member("freshStart", isFreshStart ? "true" : "false"),
                                        member("damage", textOrNull(damage)),
                                        member("changes", array(changes, &changeToJson)),
                                        member("folders", array(folders, &quoted)),

@@ -11,12 +11,15 @@ namespace zel {
 /// The outcome of a check, each with the exit code that tells it.
 enum class CheckState { Clean = 0, NeedsRepair = 1, NotRepairable = 2, Repaired = 4 };
 
+CheckState worseOf(CheckState one, CheckState other);
+
 /// What is told of one settings file.
 struct CheckReport
 {
     CheckState state = CheckState::Clean;
     QString file;
-    QString damage; ///< What is lost of the file; empty when nothing is.
+    bool isFreshStart = false; ///< The editor would keep nothing but the language.
+    QString damage;            ///< What is lost of the file; empty when nothing is.
     std::vector<SettingsChange> changes;
     QStringList folders; ///< Created by the repair.
     QString copy;        ///< What is kept of a damaged file; empty when there is none.

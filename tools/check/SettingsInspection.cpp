@@ -1,10 +1,9 @@
 #include "SettingsInspection.h"
 
-#include "FileTools.h"
-#include "FolderCreation.h"
+#include "FileAccess.h"
+#include "FolderRehearsal.h"
 #include "SettingsDamage.h"
 #include "SettingsKeys.h"
-#include "SettingsMigration.h"
 #include "SettingsValidation.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsValidators.h"
@@ -38,11 +37,6 @@ QString cleanedUp(QString path)
     return path;
 }
 
-bool isList(const QVariant& value)
-{
-    return value.type() == QVariant::StringList || value.type() == QVariant::List;
-}
-
 QString shown(const QVariant& value)
 {
     return isList(value) ? value.toStringList().join(", ") : value.toString();
@@ -66,9 +60,11 @@ QString reasonFor(const Registered& entry, const QVariant& oldValue, const QStri
 } // namespace
 
 SettingsInspection::SettingsInspection(const QString& path)
+    : m_damage(settingsDamage(contentOfFile(path)))
 {
-    m_damage = settingsDamage(contentOfFile(path));
     inspectValues(path);
+    if (m_error.isEmpty())
+        ZelSettingsFile::IsWritable(path, m_error);
 }
 
 bool SettingsInspection::isClean() const
@@ -78,22 +74,20 @@ bool SettingsInspection::isClean() const
 
 void SettingsInspection::inspectValues(const QString& path)
 {
-    QSettings settings(path, QSettings::IniFormat);
-    ZelSettingsFile::UseFileEncoding(settings);
-    const int version = settings.value(keys::SettingsVersion, 0).toInt();
-    m_isOlderVersion = isUpgradedInPlace(version);
+    const auto settings = ZelSettingsFile::Open(path);
+    m_migration = migrationOf(*settings);
     const FolderRehearsal rehearsal;
-    const auto foretell = [&](const Registered& entry, const QVariant& stored, const QString& text) {
+    const auto recordChange = [&](const Registered& entry, const QVariant& stored, const QString& text) {
         const QString& key = entry.first;
-        if (!settings.contains(key))
+        if (!stored.isValid())
             m_changes.push_back({key, true, QString(), text, "is missing"});
-        else if (m_isOlderVersion && key == keys::Engine && text != engines::Deferred)
+        else if (m_migration == Migration::Upgrade && key == keys::Engine && text != engines::Deferred)
             m_changes.push_back({key, false, shown(stored), engines::Deferred,
                                  "is of an older version, whose engine is not kept"});
-        else if (isList(stored) || text != stored.toString())
+        else if (isRepair(stored, text))
             m_changes.push_back({key, false, shown(stored), text, reasonFor(entry, stored, text)});
     };
-    if (!validateSettings(settings, m_error, foretell) && m_error.isEmpty())
+    if (!validateSettings(*settings, m_error, recordChange) && m_error.isEmpty())
         m_error = "The default of a setting is not valid";
     m_folders = rehearsal.folders();
 }

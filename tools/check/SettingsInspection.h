@@ -1,6 +1,8 @@
 #ifndef ZEL_SETTINGSINSPECTION_H
 #define ZEL_SETTINGSINSPECTION_H
 
+#include "SettingsMigration.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -27,24 +29,25 @@ public:
     /// Looks at a file, which must be usable, by the rules that are registered.
     explicit SettingsInspection(const QString& path);
 
-    /// True when the pass would leave everything as it is.
+    /// True when the pass would leave every value as it is.
     bool isClean() const;
 
-    /// True for a file of an older version that is kept: migrateSettings comes before the pass.
-    bool isOlderVersion() const { return m_isOlderVersion; }
+    /// What becomes of the file before the pass; a fresh start is an editor's alone.
+    Migration migration() const { return m_migration; }
 
     /// What the pass would lose of the file, as settingsDamage tells it; empty when nothing.
     const QString& damage() const { return m_damage; }
     const std::vector<SettingsChange>& changes() const { return m_changes; }
     /// The folders that the pass would create.
     const QStringList& folders() const { return m_folders; }
-    /// Why the pass would give up, which then is behind the changes above; empty when it would not.
+    /// Why a start would fail: the pass would give up, behind the changes above, or the file cannot be
+    /// written. Empty when it would not.
     const QString& error() const { return m_error; }
 
 private:
     void inspectValues(const QString& path);
 
-    bool m_isOlderVersion = false;
+    Migration m_migration = Migration::None;
     QString m_damage;
     std::vector<SettingsChange> m_changes;
     QStringList m_folders;

@@ -1,12 +1,13 @@
-#include "Announcement.h"
 #include "CheckReport.h"
+#include "FileAccess.h"
 #include "SettingsBackup.h"
 #include "SettingsKeys.h"
-#include "SettingsMigration.h"
 #include "SettingsValidation.h"
 #include "ZelSettingsCatalogue.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsRegistry.h"
+#include "base/FileReplacement.h"
+#include "base/StandardStreams.h"
 #include "base/ZelQtCompat.h"
 
 #include "platform/kqLibraries.h"
@@ -14,14 +15,15 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QSettings>
 #include <QStringList>
-#include <QTemporaryFile>
+#include <QTextStream>
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstring>
+#include <system_error>
 
 namespace {
 
@@ -30,33 +32,35 @@ using namespace zel;
 const int UsageError = 3;
 const int MostPasses = 8;
 
-const char* const Usage = "usage: torvane-settings-check [--repair] [--json] [--] FILE\n";
+const char* const Usage = "usage: torvane-settings-check [--repair] [--json] [--] FILE...\n";
 
 const char* const Help =
     "\n"
-    "Tells what the viewer and its settings editor will change in a settings file when they start: missing "
+    "Tells what the viewer and its settings editor will change in settings files when they start: missing "
     "and\n"
     "invalid values, lines that cannot be read, and folders that have to be created. Only looks, unless "
     "asked\n"
-    "to repair.\n"
+    "to repair. \"-\" stands for a list of names on standard input, one on each line.\n"
     "\n"
-    "  --repair  make these changes now; a dated copy of a damaged file is kept beside it\n"
-    "  --json    print one JSON object instead of lines\n"
-    "  --help    print this text\n"
+    "  --repair    make these changes now; a dated copy of a damaged file is kept beside it\n"
+    "  --json      print one JSON object for each file instead of lines\n"
+    "  -h, --help  print this text\n"
     "\n"
-    "Exit codes:\n"
+    "Exit codes, of which the worst of all files counts; from good to bad:\n"
     "  0  the file is clean\n"
-    "  1  the file needs a repair; nothing has been changed\n"
-    "  2  the file cannot be read or cannot be repaired, or this report cannot be written\n"
-    "  3  wrong usage, or a name that is not UTF-8 text\n"
     "  4  the file has been repaired\n"
+    "  1  the file needs a repair; nothing has been changed\n"
+    "  2  the file cannot be read, written or repaired, or this report cannot be written\n"
+    "  3  wrong usage, or a name that is not UTF-8 text\n"
     "\n"
     "Only the keys that the editor itself registers are checked. The viewer checks more when it starts, and\n"
     "keys that are unknown here are left as they are. A file that does not exist is one in which everything "
     "is\n"
     "missing. The default folders are those of the user who runs the check: run it as the user whose file "
     "it\n"
-    "is. The editor, but not this check, starts a file afresh whose \"settingsVersion\" is below 1.\n";
+    "is. Of a file whose \"settingsVersion\" is below 1 the editor keeps nothing but the language, and a "
+    "copy:\n"
+    "this is told as a fresh start. A repair keeps its values.\n";
 
 struct Options
 {
@@ -79,14 +83,14 @@ bool parse(QStringList arguments, Options& options)
             options.repair = true;
         else if (argument == "--json")
             options.json = true;
-        else if (argument == "--help")
+        else if (argument == "--help" || argument == "-h")
             options.help = true;
-        else if (argument.startsWith('-'))
+        else if (argument.startsWith('-') && argument != "-")
             return false;
         else
             options.files += argument;
     }
-    return options.help || (options.files.size() == 1 && !options.files.first().isEmpty());
+    return options.help || (!options.files.isEmpty() && !options.files.contains(QString()));
 }
 
 /// True when every argument can be turned back into what has been given: else it would name another file.
@@ -99,28 +103,44 @@ bool areUnderstood(const QStringList& arguments, char** given)
     return true;
 }
 
-/// True for a file of another user than the one who runs this, to whom what is created now belongs.
-bool belongsToAnother(const QString& path)
+/// The files, with those that standard input names in place of "-".
+QStringList named(const QStringList& files)
 {
-    const QFileInfo file(path);
-    QTemporaryFile probe(file.canonicalFilePath() + ".XXXXXX");
-    return file.exists() && probe.open() && QFileInfo(probe.fileName()).ownerId() != file.ownerId();
+    QStringList all;
+    for (const QString& file : files) {
+        if (file != "-") {
+            all += file;
+            continue;
+        }
+        QTextStream input(stdin);
+        input.setCodec("UTF-8");
+        while (!input.atEnd()) {
+            const QString line = input.readLine();
+            if (!line.isEmpty())
+                all += line;
+        }
+    }
+    return all;
 }
 
 /// Creates the folders that the validators need, and tells whether they will let the pass through: it would
 /// leave half a repair behind if it had to stop.
 bool createFolders(const QString& path, QString& error)
 {
-    QSettings settings(path, QSettings::IniFormat);
-    ZelSettingsFile::UseFileEncoding(settings);
-    return validateSettings(settings, error, [](const auto&, const QVariant&, const QString&) {});
+    return validateSettings(*ZelSettingsFile::Open(path), error,
+                            [](const auto&, const QVariant&, const QString&) {});
 }
 
 bool runPass(const QString& path, QString& error)
 {
-    QSettings settings(path, QSettings::IniFormat);
-    ZelSettingsFile::UseFileEncoding(settings);
-    return ZelSettingsFile::Repair(settings, error);
+    if (!ZelSettingsFile::Repair(*ZelSettingsFile::Open(path), error))
+        return false;
+    // Else QSettings would remember what it has written, which need not be what it reads from the file.
+    std::error_code ignored;
+    const std::filesystem::path file = nativePath(path);
+    std::filesystem::last_write_time(
+        file, std::filesystem::last_write_time(file, ignored) + std::chrono::milliseconds(1), ignored);
+    return true;
 }
 
 /// Adds what one more pass changes to what the former ones have changed.
@@ -143,7 +163,7 @@ void add(const SettingsInspection& inspection, CheckReport& report)
 
 bool repair(const QString& path, SettingsInspection inspection, CheckReport& report)
 {
-    if (belongsToAnother(path)) {
+    if (QFile::exists(path) && !isOwn(QFileInfo(path))) {
         report.error = "It belongs to another user, whose default folders are others: run this as that user";
         return false;
     }
@@ -155,17 +175,20 @@ bool repair(const QString& path, SettingsInspection inspection, CheckReport& rep
             report.error = "It still changes whenever it is repaired: repair it again";
             return false;
         }
-        QString copy; // Kept here only to learn its name: the pass finds it there.
-        if (!SettingsBackup::keepIfDamaged(path, copy, report.error) ||
-            (inspection.isOlderVersion() && !migrateSettings(path, QString(), report.error)) ||
+        if ((inspection.migration() == Migration::Upgrade &&
+             !migrateSettings(path, QString(), report.error)) ||
             !runPass(path, report.error))
             return false;
-        if (report.copy.isEmpty())
-            report.copy = copy;
         inspection = SettingsInspection(path);
         add(inspection, report);
     }
     return true;
+}
+
+QString latestCopy(const QString& path)
+{
+    const QStringList copies = backupsOf(path);
+    return copies.isEmpty() ? QString() : copies.last();
 }
 
 CheckReport check(const QString& path, bool mayRepair)
@@ -177,41 +200,58 @@ CheckReport check(const QString& path, bool mayRepair)
         return report;
     const SettingsInspection inspection(path);
     add(inspection, report);
+    report.isFreshStart = inspection.migration() == Migration::FreshStart && QFile::exists(path);
+    const QString formerCopy = latestCopy(path);
     if (inspection.isClean())
         report.state = CheckState::Clean;
     else if (report.error.isEmpty() && !mayRepair)
         report.state = CheckState::NeedsRepair;
     else if (report.error.isEmpty() && repair(path, inspection, report))
         report.state = CheckState::Repaired;
+    if (latestCopy(path) != formerCopy)
+        report.copy = latestCopy(path);
     return report;
 }
 
-/// Prints a text, and returns the exit code for it.
-int print(const QByteArray& text, CheckState state)
+/// False when the text cannot be written.
+bool print(const QByteArray& text)
 {
     if (std::fputs(text.constData(), stdout) >= 0 && std::fflush(stdout) == 0)
-        return int(state);
+        return true;
     std::fprintf(stderr, "torvane-settings-check: the report cannot be written: %s\n", std::strerror(errno));
-    return int(CheckState::NotRepairable);
+    return false;
 }
 
-int run(const Options& options)
+/// Checks all files, also after one that cannot be read. Returns the worst outcome.
+CheckState run(const Options& options)
+{
+    CheckState worst = CheckState::Clean;
+    for (const QString& file : named(options.files)) {
+        const CheckReport report = check(file, options.repair);
+        worst = worseOf(worst, report.state);
+        if (!print(options.json ? report.toJson() : report.toText()))
+            worst = CheckState::NotRepairable;
+    }
+    return worst;
+}
+
+CheckState runWithPlatform(const Options& options)
 {
     kq::initializeKqSystem(kq::InitConsole, false);
     zelInitializeKernelLibrary();
     ZelSettingsCatalogue::InitDefaultSettingsValues(StandAloneApplicationName);
-    announceInLogOnly();
-    const CheckReport report = check(options.files.first(), options.repair);
+    const CheckState worst = run(options);
     ZelSettingsRegistry::ClearSettingsValues();
     zelTerminateKernelLibrary();
     kq::terminateKqSystem();
-    return print(options.json ? report.toJson() : report.toText(), report.state);
+    return worst;
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
+    protectStandardStreams();
     useUtf8FileNames();
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments().mid(1);
@@ -220,5 +260,7 @@ int main(int argc, char** argv)
         std::fputs(Usage, stderr);
         return UsageError;
     }
-    return options.help ? print(QByteArray(Usage) + Help, CheckState::Clean) : run(options);
+    if (!options.help)
+        return int(runWithPlatform(options));
+    return int(print(QByteArray(Usage) + Help) ? CheckState::Clean : CheckState::NotRepairable);
 }

@@ -1,0 +1,60 @@
+#ifndef ZEL_FILEREPLACEMENT_H
+#define ZEL_FILEREPLACEMENT_H
+
+#include <QFile>
+#include <QFileInfo>
+#include <QString>
+
+#if !defined(Q_OS_WIN)
+#    include <unistd.h>
+#endif
+
+namespace zel {
+
+// What replacing a file by a new one means on each operating system. On Windows the new file belongs to whom
+// the folder says, and a file that another program has open cannot be replaced.
+
+/// How long a write waits for a file that another program has open, as virus scanners do, in milliseconds.
+#if defined(Q_OS_WIN)
+const int BusyFileTime = 1000;
+#else
+const int BusyFileTime = 0;
+#endif
+
+/// True for a file of the user who runs the process.
+inline bool isOwn(const QFileInfo& file)
+{
+#if defined(Q_OS_WIN)
+    Q_UNUSED(file)
+    return true;
+#else
+    return file.ownerId() == ::geteuid();
+#endif
+}
+
+/// True when a new file in the place of this one can belong to the same user.
+inline bool mayReplace(const QFileInfo& file)
+{
+#if defined(Q_OS_WIN)
+    return isOwn(file);
+#else
+    return isOwn(file) || ::geteuid() == 0;
+#endif
+}
+
+/// Gives a file to a user and a group. False when this process may not.
+inline bool giveFileTo(const QString& path, uint owner, uint group)
+{
+#if defined(Q_OS_WIN)
+    Q_UNUSED(path)
+    Q_UNUSED(owner)
+    Q_UNUSED(group)
+    return true;
+#else
+    return ::lchown(QFile::encodeName(path).constData(), owner, group) == 0;
+#endif
+}
+
+} // namespace zel
+
+#endif

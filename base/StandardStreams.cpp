@@ -1,0 +1,20 @@
+#include "StandardStreams.h"
+
+#if !defined(_WIN32)
+#    include <cerrno>
+#    include <csignal>
+#    include <fcntl.h>
+#    include <unistd.h>
+#endif
+
+void zel::protectStandardStreams()
+{
+#if !defined(_WIN32)
+    for (int descriptor = STDIN_FILENO; descriptor <= STDERR_FILENO; ++descriptor) {
+        // The lowest free number is taken, which is this one. What is written to it fails.
+        if (::fcntl(descriptor, F_GETFD) == -1 && errno == EBADF)
+            ::open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+    }
+    std::signal(SIGPIPE, SIG_IGN);
+#endif
+}

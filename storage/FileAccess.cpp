@@ -1,0 +1,145 @@
+#include "FileAccess.h"
+
+#include "FolderCreation.h"
+#include "base/FileReplacement.h"
+
+#include "platform/MTLogger.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryFile>
+
+#include <chrono>
+#include <system_error>
+
+namespace zel {
+
+namespace {
+
+const qint64 MaximumFileSize = qint64(64) * 1024 * 1024;
+const std::chrono::minutes StaleLockAge(1); // QSettings removes a lock of half a minute.
+
+/// The file itself where the path is a link; it may not exist.
+QFileInfo fileBehind(const QFileInfo& file)
+{
+    if (!file.isSymLink())
+        return file;
+    return QFileInfo(file.exists() ? file.canonicalFilePath() : file.symLinkTarget());
+}
+
+/// Lets QSettings take its lock, for which it waits without end. False when it never could.
+bool makeLockable(const QString& lock)
+{
+    const QFileInfo file(lock);
+    if (!file.isSymLink() && !file.exists())
+        return true;
+    if (file.isSymLink() || !file.isFile() || !file.isWritable())
+        return false;
+    QFile reader(lock);
+    if (!reader.open(QIODevice::ReadOnly) || reader.readLine(32).trimmed().toLongLong() > 0)
+        return true;
+    // An orphaned lock of a process that died while it took it. Not removed here: by now it may be another's.
+    // QSettings removes an old one if no process holds it.
+    std::error_code error;
+    std::filesystem::last_write_time(nativePath(lock),
+                                     std::filesystem::file_time_type::clock::now() - StaleLockAge, error);
+    return true;
+}
+
+} // namespace
+
+void logWarning(const QString& text)
+{
+    MTLogger::Log("warning", text.toUtf8().constData());
+}
+
+bool fail(const QString& text, QString& error)
+{
+    error = text;
+    MTLogger::Log("error", error.toUtf8().constData());
+    return false;
+}
+
+std::filesystem::path nativePath(const QString& path)
+{
+    return std::filesystem::u8path(path.toUtf8().constData());
+}
+
+QByteArray contentOfFile(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) ? file.readAll() : QByteArray();
+}
+
+QString unreadableReason(const QString& path)
+{
+    const QFileInfo file(path);
+    const bool isFile = file.isFile();
+    std::error_code error; // As for links in a circle, which do not "exist" but would be replaced.
+    if (!isFile && !file.exists())
+        return std::filesystem::status(nativePath(path), error).type() == std::filesystem::file_type::none
+                   ? QString::fromLocal8Bit(error.message().c_str())
+                   : QString();
+    if (!isFile)
+        return Text::tr("it is not a file");
+    if (file.size() > MaximumFileSize)
+        return Text::tr("it is too large");
+    QFile reader(path);
+    return file.isReadable() || reader.open(QIODevice::ReadOnly) ? QString() : reader.errorString();
+}
+
+QString unwritableReason(const QString& path)
+{
+    const QString unreadable = unreadableReason(path);
+    if (!unreadable.isEmpty())
+        return unreadable;
+    const QFileInfo named(path), file = fileBehind(named);
+    const bool isFile = file.isFile();
+    if (isFile && !mayReplace(file))
+        return Text::tr("it belongs to another user or group, who would lose it");
+    // The folder of a link's target is not created.
+    const QFileInfo folder(file.path());
+    const bool writable =
+        isFile ? file.isWritable() && folder.isWritable()
+               : (named.isSymLink() ? folder.isDir() && folder.isWritable() : canCreateFolder(file.path()));
+    if (!writable)
+        return probeWriteError(path);
+    const QString lock = path + ".lock";
+    return makeLockable(lock) ? QString()
+                              : Text::tr("\"%1\" is in the way, which no program uses: remove it").arg(lock);
+}
+
+QString probeWriteError(const QString& path)
+{
+    const QFileInfo file = fileBehind(QFileInfo(path));
+    QFile writer(file.filePath());
+    if (file.exists() && !writer.open(QIODevice::ReadWrite))
+        return writer.errorString();
+    const qint64 size = file.size() + 4096; // The lock of QSettings takes some room, too.
+    QTemporaryFile probe(file.filePath() + ".XXXXXX");
+    if (!probe.open() || probe.write(QByteArray(int(size), '\0')) != size || !probe.flush())
+        return probe.errorString();
+    // As where it is mounted on its own, or where another program has it open.
+    return Text::tr("it cannot be replaced by a new one");
+}
+
+bool refuseWriting(const QString& path, const QString& reason, QString& error)
+{
+    return fail(Text::tr("Could not write the Torvane settings file \"%1\": %2").arg(path, reason), error);
+}
+
+bool copySettingsFile(const QString& path, const QString& copy, QString& error)
+{
+    QFile file(path);
+    if (file.copy(copy)) {
+        const QFileInfo former(path);
+        giveFileTo(copy, former.ownerId(),
+                   former.groupId()); // Where that is refused, it is a copy all the same.
+        return true;
+    }
+    return fail(Text::tr("Could not keep a copy of the Torvane settings file \"%1\": %2")
+                    .arg(path, probeWriteError(path)),
+                error);
+}
+
+} // namespace zel

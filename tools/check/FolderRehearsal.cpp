@@ -1,0 +1,46 @@
+#include "FolderRehearsal.h"
+
+#include <QDir>
+
+#include <algorithm>
+
+namespace zel {
+
+FolderRehearsal* FolderRehearsal::s_current = nullptr;
+
+FolderRehearsal::FolderRehearsal()
+    : m_former(folderFunctions)
+{
+    s_current = this;
+    folderFunctions = {&isFolder, &createFolder};
+}
+
+FolderRehearsal::~FolderRehearsal()
+{
+    folderFunctions = m_former;
+    s_current = nullptr;
+}
+
+bool FolderRehearsal::isFolder(const QString& path)
+{
+    // A folder whose child would have been created would exist by then.
+    const QString folder = QDir::cleanPath(QDir(path).absolutePath()) + '/';
+    return s_current->m_former.isFolder(path) ||
+           (!path.isEmpty() &&
+            std::any_of(s_current->m_folders.begin(), s_current->m_folders.end(),
+                        [&](const QString& created) {
+                            return (QDir::cleanPath(QDir(created).absolutePath()) + '/').startsWith(folder);
+                        }));
+}
+
+bool FolderRehearsal::createFolder(const QString& path)
+{
+    if (isFolder(path))
+        return true;
+    if (!canCreateFolder(path))
+        return false;
+    s_current->m_folders += path;
+    return true;
+}
+
+} // namespace zel
