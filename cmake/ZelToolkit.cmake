@@ -6,13 +6,10 @@
 set(ZEL_QT 5 CACHE STRING "Major version of Qt: 5, or 4 as the viewer itself uses it")
 set_property(CACHE ZEL_QT PROPERTY STRINGS 5 4)
 
-# Tools run where the build runs. A Qt that is cross-compiled brings its own; what it lacks, and all of one that has been
-# built on Windows, comes from the Qt of this machine.
-set(zel_tool_folders "")
-if(CMAKE_CROSSCOMPILING)
-    file(GLOB zel_host_packages /usr/lib/*/cmake)
-    file(GLOB zel_tool_folders /usr/lib/qt5/bin /usr/lib/*/qt5/bin)
-endif()
+# Tools run where the build runs. A Qt that is cross-compiled brings its own; what it lacks, and all tools of one that has
+# been built on Windows, come from the Qt of this machine.
+file(GLOB zel_host_packages /usr/lib/*/cmake)
+file(GLOB zel_tool_folders /usr/lib/qt5/bin /usr/lib/*/qt5/bin)
 
 # zel_use_host_tool(<imported tool>...)
 function(zel_use_host_tool)
@@ -43,6 +40,7 @@ if(ZEL_QT EQUAL 5)
     set(ZEL_QT_CATALOG qtbase)
 elseif(ZEL_QT EQUAL 4)
     find_package(Qt4 4.8 REQUIRED QtCore QtGui QtNetwork)
+    find_program(QT_LRELEASE_EXECUTABLE lrelease PATHS ${zel_tool_folders}) # Many a Qt 4 is built without it.
     set(ZEL_QT_CORE Qt4::QtCore)
     set(ZEL_QT_WIDGETS Qt4::QtGui)
     set(ZEL_QT_NETWORK Qt4::QtNetwork)

@@ -3,6 +3,7 @@
 
 set(CPACK_GENERATOR ZIP NSIS)
 set(CPACK_PACKAGE_NAME torvane-settings)
+set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_VENDOR Torvane)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Settings editor of the Torvane 3D viewer")
 set(CPACK_PACKAGE_FILE_NAME torvane-settings-${PROJECT_VERSION}-win64)
@@ -13,8 +14,7 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_MONOLITHIC_INSTALL ON)
 set(CPACK_INSTALL_CMAKE_PROJECTS "${PROJECT_BINARY_DIR};${PROJECT_NAME};runtime;/")
 
-# The installer's script is our own. A 64-bit one, because not every system that runs the editor runs 32-bit programs.
+# The installer's script is our own.
 set(CPACK_MODULE_PATH ${zel_windows_resources})
-set(CPACK_NSIS_EXECUTABLE_PRE_ARGUMENTS "-XTarget amd64-unicode")
 set(CPACK_ZEL_ICON ${zel_windows_resources}/torvane-settings.ico)
 include(CPack)
