@@ -7,6 +7,8 @@
 #    include <windows.h>
 #endif
 
+namespace zel {
+
 namespace {
 
 std::filesystem::path executablePath(std::error_code& error)
@@ -24,7 +26,7 @@ std::filesystem::path executablePath(std::error_code& error)
 
 } // namespace
 
-bool zel::enterApplicationRoot()
+bool enterApplicationRoot()
 {
     std::error_code error;
     const std::filesystem::path executable = executablePath(error);
@@ -33,3 +35,5 @@ bool zel::enterApplicationRoot()
     std::filesystem::current_path(executable.parent_path().parent_path(), error);
     return !error;
 }
+
+} // namespace zel

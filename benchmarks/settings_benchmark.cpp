@@ -18,7 +18,7 @@ using namespace zel;
 
 namespace {
 
-typedef ZelSettingsValidators V;
+using V = ZelSettingsValidators;
 
 /// The kinds of settings, as often as the pages and the library itself have them.
 const struct

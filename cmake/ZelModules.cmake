@@ -12,7 +12,8 @@ function(zel_add_module name)
     add_library(${name} OBJECT ${ARG_SOURCES} ${ARG_PUBLIC_HEADERS})
     # Public, because a program that has the objects compiled in does not import them from the library.
     target_compile_definitions(${name} PUBLIC ZelControlCenter_EXPORTS)
-    target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR})
+    target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}
+                                              ${PROJECT_BINARY_DIR}/generated)
     target_link_libraries(${name} PUBLIC ${ARG_LINK})
     set_property(GLOBAL APPEND PROPERTY ZEL_MODULES ${name})
     foreach(header IN LISTS ARG_PUBLIC_HEADERS)

@@ -8,13 +8,25 @@
 namespace zel {
 
 /// A column that is never narrower than its least width: where its widget is, the widget cuts it off on the
-/// right. So a widget that slides open uncovers texts that stand still, instead of wrapping them anew.
+/// right. So a widget that slides open uncovers texts that stand still, instead of wrapping them at every
+/// step.
 class DrawerLayout : public QVBoxLayout
 {
 public:
-    using QVBoxLayout::QVBoxLayout;
+    /// Takes the place of a form's layout, which is deleted: Qt Designer knows none but Qt's own.
+    explicit DrawerLayout(QVBoxLayout* former)
+    {
+        setObjectName(former->objectName());
+        setSpacing(former->spacing());
+        setContentsMargins(former->contentsMargins());
+        while (QLayoutItem* item = former->takeAt(0))
+            addItem(item);
+        QWidget* widget = former->parentWidget();
+        delete former;
+        widget->setLayout(this);
+    }
 
-    /// In pixels; 0 at first.
+    /// In pixels; initially 0.
     void setLeastWidth(int width)
     {
         if (width == m_leastWidth)

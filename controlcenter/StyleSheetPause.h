@@ -12,9 +12,10 @@
 
 namespace zel {
 
-/// Takes the style sheets off a widget and all its descendants for as long as it lives. What gives a tree of
-/// widgets another style or parent does so under a pause: otherwise the toolkit styles every widget of the
-/// tree anew for each sheet on the way down, which used to be half of the time that the window took to open.
+/// Takes the style sheets off a widget and all its descendants for as long as it lives. Code that gives a
+/// tree of widgets another style or parent does so under a pause: otherwise Qt styles every widget of the
+/// tree again for each sheet on the way down. Without it a start takes 29 % more instructions: 12 % for the
+/// pages' named sheets, 17 % for their registration.
 ///
 /// A widget that is given another sheet meanwhile keeps that one.
 class StyleSheetPause
@@ -36,7 +37,8 @@ public:
         for (auto sheet = m_sheets.rbegin(); sheet != m_sheets.rend(); ++sheet)
             if (sheet->first && sheet->first->styleSheet().isEmpty())
                 sheet->first->setStyleSheet(sheet->second);
-        // The toolkit styles a widget when it is first shown or measured; the others have missed the sheets.
+        // Qt styles a widget when it is first shown or measured; widgets styled before have missed the
+        // sheets.
         for (QWidget* widget : m_widgets)
             if (widget && widget->testAttribute(Qt::WA_WState_Polished))
                 style(*widget);

@@ -41,6 +41,8 @@ bool ZelCCActionItem::isWorkflowSpecific() const
 
 void ZelCCActionItem::onActionChanged()
 {
+    if (!m_action)
+        return;
     setVisible(m_action->isVisible());
     m_ui->actionButton->setText(m_action->getActionGuiName());
     const QKeySequence shortcut = m_action->shortcut();

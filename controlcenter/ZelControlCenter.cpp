@@ -2,6 +2,7 @@
 
 #include "ui_ControlCenter.h"
 
+#include "DrawerLayout.h"
 #include "EnableButton.h"
 #include "StyleSheetPause.h"
 #include "ZelCCActionItem.h"
@@ -24,6 +25,7 @@
 #include <QScrollBar>
 #include <QSettings>
 #include <QSignalMapper>
+#include <QTimer>
 
 #include <algorithm>
 #include <vector>
@@ -33,6 +35,8 @@ static void cleanupResources()
 {
     Q_CLEANUP_RESOURCE(ZelControlCenter);
 }
+
+namespace zel {
 
 namespace {
 
@@ -66,8 +70,6 @@ void styleAll(QWidget& tree)
 
 } // namespace
 
-namespace zel {
-
 ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* parent, Qt::WindowFlags flags)
     : QWidget(parent, flags)
     , m_ui(new Ui::ControlCenter)
@@ -76,11 +78,13 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     , m_pageGroup(new QButtonGroup(this))
     , m_menuOpen(false)
     , m_settingsOpen(false)
+    , m_pressHandled(false)
 {
     m_ui->setupUi(this);
     setStyleSheet(kqDMIApplication::GetStylesheet("ZelControlCenter"));
     setObjectName("ZelControlCenter");
     m_ui->verticalLayout->setAlignment(Qt::AlignTop);
+    m_ui->verticalLayout_4 = m_drawerLayout = new DrawerLayout(m_ui->verticalLayout_4);
     // The sliding menu uncovers its buttons instead of squeezing them.
     m_ui->mainPanel->setMinimumWidth(MenuWidth);
 
@@ -160,14 +164,23 @@ void ZelControlCenter::registerSettingsPanel(ZelSettingsPanel* panel)
     connect(panel, SIGNAL(stateChanged()), this, SLOT(onStateChanged()));
     connect(panel, SIGNAL(destroyed(QObject*)), this, SLOT(onPanelDestroyed(QObject*)));
 
-    QPushButton* button = panel->getActionWidget();
-    m_ui->verticalLayout_6->addWidget(button);
-    m_ui->applicationSettings->show();
+    if (QPushButton* button = panel->getActionWidget())
+        addPageButton(button, panel->getPanelName());
     {
         const StyleSheetPause pause(*panel);
         m_ui->verticalLayout_8->addWidget(panel);
     }
     styleAll(*panel);
+    m_ui->applicationFrame->show();
+    panel->show();
+    panel->initializeWidget();
+    onStateChanged();
+}
+
+void ZelControlCenter::addPageButton(QPushButton* button, const QString& panelName)
+{
+    m_ui->verticalLayout_6->addWidget(button);
+    m_ui->applicationSettings->show();
     // The keyboard walks the column from top to bottom before any page.
     if (m_pageGroup->buttons().isEmpty()) {
         setTabOrder(button, m_ui->resetButton);
@@ -176,24 +189,20 @@ void ZelControlCenter::registerSettingsPanel(ZelSettingsPanel* panel)
         setTabOrder(m_pageGroup->buttons().last(), button);
     }
     m_pageGroup->addButton(button);
-    m_ui->applicationFrame->show();
-    panel->show();
-    panel->initializeWidget();
-
     connect(button, SIGNAL(clicked()), m_pageMapper, SLOT(map()));
-    m_pageMapper->setMapping(button, panel->getPanelName());
-    onStateChanged();
+    m_pageMapper->setMapping(button, panelName);
 }
 
 void ZelControlCenter::unregisterSettingsPanel(ZelSettingsPanel* panel, bool reevaluate)
 {
     disconnect(panel, nullptr, this, nullptr);
     if (m_panels.removeOne(panel)) {
-        QPushButton* button = panel->getActionWidget();
-        m_pageGroup->removeButton(button);
-        disconnect(button, SIGNAL(clicked()), m_pageMapper, SLOT(map()));
-        m_pageMapper->removeMappings(button);
-        button->setParent(nullptr);
+        if (QPushButton* button = panel->getActionWidget()) {
+            m_pageGroup->removeButton(button);
+            disconnect(button, SIGNAL(clicked()), m_pageMapper, SLOT(map()));
+            m_pageMapper->removeMappings(button);
+            button->setParent(nullptr);
+        }
         panel->setParent(nullptr);
     }
     if (reevaluate)
@@ -272,7 +281,7 @@ void ZelControlCenter::setSettingsWidth(int width)
     m_drawer->setFixedWidth(width);
     const QScrollBar* scrollBar = m_drawer->verticalScrollBar();
     const int barWidth = scrollBar->isVisible() ? scrollBar->width() : 0;
-    m_ui->verticalLayout_4->setLeastWidth(DrawerWidth - barWidth);
+    m_drawerLayout->setLeastWidth(DrawerWidth - barWidth);
     m_ui->settingsContent->setFixedWidth(std::max(width - barWidth, 0));
     // Nothing has scrolled yet, so the page in view is marked as soon as it can be seen.
     if (m_settingsAnimation->state() == QAbstractAnimation::Running &&
@@ -352,17 +361,22 @@ bool ZelControlCenter::eventFilter(QObject* watched, QEvent* event)
         m_clickTimer.restart();
     // A press into a modal box is an answer, not a click outside. Presses that the toolkit first hands to its
     // native window come again for the widget.
-    if (event->type() != QEvent::MouseButtonPress || QApplication::activeModalWidget() ||
+    if (event->type() != QEvent::MouseButtonPress || m_pressHandled || QApplication::activeModalWidget() ||
         isNativeWindow(watched))
         return false;
     if (m_clickTimer.elapsed() < ClickGuard)
         return false;
     m_clickTimer.restart();
     const QPoint position = static_cast<QMouseEvent*>(event)->globalPos();
-    if (isClickOutside(watched, position) && discardModifications()) {
+    if (!isClickOutside(watched, position))
+        return false;
+    if (discardModifications()) {
         openSettingsPanel(false);
         openMenu(false);
     }
+    // A press that no widget takes is offered to one parent after the other, at once.
+    m_pressHandled = true;
+    QTimer::singleShot(0, this, SLOT(onPressDelivered()));
     return false;
 }
 
@@ -380,9 +394,13 @@ void ZelControlCenter::openMenu(bool open)
         m_widthAnimation->setDirection(QAbstractAnimation::Forward);
         m_ui->preferenceFrame->hide();
     } else {
-        openSettingsPanel(false);
+        const bool drawerWasOpen = m_drawer && !m_drawer->isHidden() &&
+                                   m_settingsAnimation->direction() == QAbstractAnimation::Forward;
+        slideDrawer(false, false);
         if (!discardModifications()) {
             m_application->setUpdateEngineEnabled(true);
+            if (drawerWasOpen)
+                showDrawer(true);
             return;
         }
         m_application->setUpdateEngineEnabled(false);
@@ -394,7 +412,7 @@ void ZelControlCenter::openMenu(bool open)
     }
 
     if (m_ui->preferenceFrame->isVisible())
-        openSettingsPanel(false);
+        slideDrawer(false, false);
     if (m_controlCenterButton)
         m_controlCenterButton->setChecked(open);
     if (m_widthAnimation->state() == QAbstractAnimation::Running)
@@ -407,13 +425,10 @@ void ZelControlCenter::openMenu(bool open)
 
 void ZelControlCenter::setControlCenterVisible(bool visible)
 {
-    if (visible) {
-        m_ui->controlCenterButton->setChecked(true);
-        m_ui->preferenceFrame->show();
-        openSettingsPanel(true);
-    } else if (m_ui->preferenceFrame->isVisible()) {
+    if (visible)
+        showDrawer(false);
+    else if (m_ui->preferenceFrame->isVisible())
         openSettingsPanel(false);
-    }
 }
 
 void ZelControlCenter::openSettings()
@@ -480,7 +495,8 @@ void ZelControlCenter::onScrollBarValueChanged(int value)
     for (QWidget* widget = m_ui->settingsContent->childAt(belowTop); widget;
          widget = widget->parentWidget()) {
         if (auto* panel = qobject_cast<ZelSettingsPanel*>(widget)) {
-            panel->getActionWidget()->setChecked(true);
+            if (QPushButton* button = panel->getActionWidget())
+                button->setChecked(true);
             return;
         }
     }
@@ -513,7 +529,26 @@ void ZelControlCenter::onFocusChanged(QWidget* former, QWidget* current)
         m_drawer->ensureWidgetVisible(current, 0);
 }
 
+void ZelControlCenter::onPressDelivered()
+{
+    m_pressHandled = false;
+}
+
 void ZelControlCenter::openSettingsPanel(bool open)
+{
+    slideDrawer(open, false);
+    resumeEngineAtRest();
+}
+
+void ZelControlCenter::showDrawer(bool keepEdits)
+{
+    m_ui->controlCenterButton->setChecked(true);
+    m_ui->preferenceFrame->show();
+    slideDrawer(true, keepEdits);
+    resumeEngineAtRest();
+}
+
+void ZelControlCenter::slideDrawer(bool open, bool keepEdits)
 {
     if (!m_drawer)
         return;
@@ -521,7 +556,7 @@ void ZelControlCenter::openSettingsPanel(bool open)
     m_ui->actionFrame->setVisible(!open);
     m_application->setUpdateEngineEnabled(false);
     if (open) {
-        if (!wasVisible)
+        if (!wasVisible && !keepEdits)
             initializePanels();
         m_drawer->show();
     }
@@ -531,7 +566,11 @@ void ZelControlCenter::openSettingsPanel(bool open)
         m_settingsAnimation->start();
     else if (!open)
         closeDrawer(); // It may be open inside a window that is hidden.
-    else if (!isSliding())
+}
+
+void ZelControlCenter::resumeEngineAtRest()
+{
+    if (!isSliding())
         m_application->setUpdateEngineEnabled(true);
 }
 
@@ -590,6 +629,7 @@ kqDMGuiPlugin* ZelControlCenter::guiPlugin() const
 void ZelControlCenter::showWriteError(const QString& error)
 {
     m_ui->writeErrorLabel->setText(error);
+    m_ui->writeErrorLabel->setToolTip(error); // The column may be too narrow for a long path.
     m_ui->writeErrorLabel->setVisible(!error.isEmpty());
     if (!error.isEmpty())
         alertScreenReaders(*m_ui->writeErrorLabel);

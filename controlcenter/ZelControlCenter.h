@@ -32,6 +32,7 @@ class ControlCenter;
 
 namespace zel {
 
+class DrawerLayout;
 class ZelCCActionItem;
 class ZelSettingsPanel;
 
@@ -135,6 +136,8 @@ protected Q_SLOTS:
     void onPanelDestroyed(QObject* panel);
     /// Brings a field into view that the keyboard enters the drawer at.
     void onFocusChanged(QWidget* former, QWidget* current);
+    /// Every widget that a press is offered to has seen it.
+    void onPressDelivered();
 
 protected:
     void openSettingsPanel(bool open);
@@ -152,7 +155,13 @@ private:
     kqDMGuiPlugin* guiPlugin() const;
     QPropertyAnimation* createSlide(const char* property, int openWidth, const char* finishedSlot);
     void createSettingsAction();
+    void addPageButton(QPushButton* button, const QString& panelName);
     bool isSliding() const;
+    void showDrawer(bool keepEdits);
+    /// Pauses the engine and slides the drawer if there is anything to see of it. One that opens from closed
+    /// loads its pages first, unless their edits are to stay.
+    void slideDrawer(bool open, bool keepEdits);
+    void resumeEngineAtRest();
     void closeDrawer();
     /// Calls a function for each page, in the order of registration. A page may register or unregister others
     /// meanwhile.
@@ -179,11 +188,13 @@ private:
     QPointer<QPushButton> m_controlCenterButton;
     QButtonGroup* const m_pageGroup;
     QPointer<QScrollArea> m_drawer;
+    DrawerLayout* m_drawerLayout;
     QPropertyAnimation* m_widthAnimation;
     QPropertyAnimation* m_settingsAnimation;
     QPropertyAnimation* m_scrollAnimation;
     bool m_menuOpen;
     bool m_settingsOpen;
+    bool m_pressHandled; ///< The press that is being delivered has been a click outside already.
 };
 
 } // namespace zel

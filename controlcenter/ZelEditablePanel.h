@@ -22,7 +22,7 @@ template <class Model>
 class ZelEditablePanel : public ZelSettingsPanel
 {
 public:
-    typedef std::vector<ZelSettingsField<Model>> Fields;
+    using Fields = std::vector<ZelSettingsField<Model>>;
 
     ZelEditablePanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
                      Qt::WindowFlags flags, Fields fields)
@@ -121,7 +121,14 @@ protected:
     virtual void notifyStateChanged() = 0;
 
     /// Refreshes the reset button.
-    void checkContent() const { enableButton(*findChild<QPushButton*>("resetButton"), canResetContent()); }
+    void checkContent() const
+    {
+        if (auto* resetButton = findChild<QPushButton*>("resetButton"))
+            enableButton(*resetButton, canResetContent());
+        else
+            qWarning("The form of the page \"%s\" has no push button named \"resetButton\"",
+                     qPrintable(getPanelName()));
+    }
 
     /// What every edit ends with.
     void onEdited()

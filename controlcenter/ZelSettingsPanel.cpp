@@ -47,7 +47,8 @@ const QString& ZelSettingsPanel::getPanelName() const
 void ZelSettingsPanel::setPanelName(const QString& name)
 {
     m_panelName = name;
-    m_actionWidget->setText(name);
+    if (m_actionWidget)
+        m_actionWidget->setText(name);
 }
 
 void ZelSettingsPanel::refreshWidgetContent()

@@ -38,7 +38,8 @@ public:
     PanelCategory getPanelCategory() const;
     void setPanelCategory(PanelCategory category);
 
-    /// The checkable button that brings the page into view. The page owns it, wherever it is shown.
+    /// The checkable button that brings the page into view. The page owns it, wherever it is shown. Null once
+    /// it has been deleted, with a widget that it was put into.
     QPushButton* getActionWidget() const;
 
     const QString& getPanelName() const;

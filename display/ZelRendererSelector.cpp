@@ -2,10 +2,11 @@
 
 #include "ui_ZelRendererSelector.h"
 
+#include "LabelImage.h"
+
 #include "platform/kqMovableObject.h"
 
 #include <QEvent>
-#include <QIcon>
 #include <QKeyEvent>
 #include <QVariant>
 
@@ -21,8 +22,7 @@ ZelRendererSelector::ZelRendererSelector(QWidget* parent, Qt::WindowFlags flags)
 {
     setProperty(SoftwareProperty, false);
     m_ui->setupUi(this);
-    // An icon, unlike a pixmap of the form, also finds the image for screens of double density.
-    m_ui->label->setPixmap(QIcon(":/menu/Menu/point.png").pixmap(8, 8));
+    showImage(*m_ui->label, ":/menu/Menu/point.png", 8);
     setWindowFlags(Qt::FramelessWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
 

@@ -60,7 +60,7 @@ ZelFieldConversion<int> sceneUnitConversion()
             [index](const QString& text) { return index(text.toFloat()); },
             [](int unit) {
                 const bool known = unit >= 0 && unit < SceneUnitCount;
-                return QVariant(numberText(double(SceneUnitFactors[known ? unit : MetreIndex])));
+                return QVariant(numberText(SceneUnitFactors[known ? unit : MetreIndex]));
             }};
 }
 
@@ -266,7 +266,7 @@ bool ZelRendererSettingsPanel::shouldRestart() const
 
 void ZelRendererSettingsPanel::notifyStateChanged()
 {
-    emit stateChanged();
+    Q_EMIT stateChanged();
 }
 
 bool ZelRendererSettingsPanel::hasRaytracerRebootChanged() const

@@ -2,8 +2,7 @@
 
 #include "Check.h"
 
-#include "platform/standin/singleapplication/LocalMessage.h"
-#include "platform/standin/singleapplication/LocalPeerConnection.h"
+#include "platform/standin/singleapplication/LocalPeer.h"
 
 #include <QCoreApplication>
 #include <QLocalSocket>
@@ -45,7 +44,7 @@ public:
         check(socketpair(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK, 0, ends) == 0, "there are sockets");
         m_peer = ends[0];
         auto* socket = new QLocalSocket;
-        check(socket->setSocketDescriptor(ends[1]), "the toolkit takes the socket");
+        check(socket->setSocketDescriptor(ends[1]), "Qt takes the socket");
         m_connection = new LocalPeerConnection(socket, this);
         connect(m_connection, SIGNAL(messageReceived(QString)), this, SLOT(note(QString)));
     }

@@ -2,12 +2,14 @@
 
 #include "ui_ZelAboutSettingsPanel.h"
 
+#include "LabelImage.h"
+#include "base/VersionNumbers.h"
+
 #include "platform/kqDMIApplication.h"
 #include "platform/kqDMPlugin.h"
 
 #include <QCoreApplication>
 #include <QHeaderView>
-#include <QIcon>
 #include <QTableWidget>
 #include <QUrl>
 
@@ -72,10 +74,8 @@ ZelAboutSettingsPanel::ZelAboutSettingsPanel(kqDMIApplication* application, QSet
     , m_initialized(false)
 {
     m_ui->setupUi(this);
-    // An icon, unlike a pixmap of the form, also finds the image for screens of double density.
-    m_ui->applicationIcon->setPixmap(
-        QIcon(":/controlCenter/controlCenter/logo-torvane.png").pixmap(LogoSize, LogoSize));
-    m_ui->noticeLabel->setText(m_ui->noticeLabel->text().arg("2024", 0, QChar(' ')));
+    showImage(*m_ui->applicationIcon, ":/controlCenter/controlCenter/logo-torvane.png", LogoSize);
+    m_ui->noticeLabel->setText(m_ui->noticeLabel->text().arg(ZEL_YEAR, 0, 10, QChar(' ')));
     setNamedStyleSheet("ZelAboutSettingsPanel");
     m_ui->platform->setText("X64");
     m_ui->pluginsFrame->hide();

@@ -120,7 +120,7 @@ bool ZelGeneralSettingsPanel::shouldRestart() const
 
 void ZelGeneralSettingsPanel::notifyStateChanged()
 {
-    emit stateChanged();
+    Q_EMIT stateChanged();
 }
 
 void ZelGeneralSettingsPanel::elideText()

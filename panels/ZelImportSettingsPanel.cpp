@@ -76,7 +76,7 @@ void ZelImportSettingsPanel::on_lowQuality_clicked()
 {
     setQuality(true, false);
     // The reset button keeps its state until the next refresh, on purpose.
-    emit stateChanged();
+    Q_EMIT stateChanged();
 }
 
 void ZelImportSettingsPanel::on_defaultSag_clicked()
@@ -144,7 +144,7 @@ void ZelImportSettingsPanel::applyModel(const ImportModel& model)
 
 void ZelImportSettingsPanel::notifyStateChanged()
 {
-    emit stateChanged();
+    Q_EMIT stateChanged();
 }
 
 void ZelImportSettingsPanel::setQuality(bool set, bool high)

@@ -2,6 +2,7 @@
 
 #include "ui_ZelSimplificationSettingsPanel.h"
 
+#include "LabelImage.h"
 #include "NumberText.h"
 #include "SettingsKeys.h"
 #include "SignalBlock.h"
@@ -11,24 +12,22 @@
 #include "platform/kqDMManager.h"
 
 #include <QCoreApplication>
-#include <QIcon>
 #include <QStringList>
 
 namespace zel {
 
 namespace {
 
-typedef std::vector<float> Ratios;
+using Ratios = std::vector<float>;
 
 const int FirstEditableLevel = 2;
 const int LastLevel = 5;
-const char* const Separator = "/";
 const int ImageSize = 64; // In pixels.
 
 Ratios parseRatios(const QString& text)
 {
     Ratios ratios;
-    for (const QString& part : text.split(Separator, SkipEmptyParts)) {
+    for (const QString& part : text.split('/', SkipEmptyParts)) {
         float ratio = 0;
         ratios.push_back(parseFloat(part, ratio) ? ratio : 0);
     }
@@ -63,10 +62,7 @@ Ratios storedRatios(const QVariant& stored)
 
 QVariant ratiosToStore(const Ratios& ratios)
 {
-    QStringList parts;
-    for (float ratio : ratios)
-        parts << numberText(ratio);
-    return parts.join(Separator);
+    return ratiosText(ratios);
 }
 
 ZelEditablePanel<SimplificationModel>::Fields simplificationFields()
@@ -87,11 +83,8 @@ void showLevelImages(const Ui::ZelSimplificationSettingsPanel& form)
         {form.icon3, "Medium"},      {form.icon4, "Medium-Low-Quality"},
         {form.icon5, "Low-Quality"},
     };
-    // An icon, unlike a pixmap of the form, also finds the image for screens of double density.
-    for (const auto& level : levels) {
-        const QIcon icon(QString(":/controlCenter/controlCenter/%1.png").arg(level.image));
-        level.label->setPixmap(icon.pixmap(ImageSize, ImageSize));
-    }
+    for (const auto& level : levels)
+        showImage(*level.label, QString(":/controlCenter/controlCenter/%1.png").arg(level.image), ImageSize);
 }
 
 } // namespace
@@ -154,7 +147,7 @@ void ZelSimplificationSettingsPanel::getCurrentModel(SimplificationModel& model)
 {
     model.ratios.clear();
     for (const zelDoubleSpinBox* box : m_percentages)
-        model.ratios.push_back(float(box->value()) / 100);
+        model.ratios.push_back(static_cast<float>(box->value()) / 100);
 }
 
 void ZelSimplificationSettingsPanel::applyModel(const SimplificationModel& model)
@@ -175,7 +168,7 @@ void ZelSimplificationSettingsPanel::pushToApplication()
 
 void ZelSimplificationSettingsPanel::notifyStateChanged()
 {
-    emit stateChanged();
+    Q_EMIT stateChanged();
 }
 
 void ZelSimplificationSettingsPanel::setRatios()

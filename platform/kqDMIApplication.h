@@ -29,7 +29,7 @@ class zelThumbnailManager;
 enum zelAppEvent : int;
 
 /// Identifies a component of the loaded document.
-typedef unsigned int kqDMComponentId;
+using kqDMComponentId = unsigned int;
 
 /// Something to be done once the document has been saved.
 struct PostSaveEventItem

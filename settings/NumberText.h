@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <vector>
+
 namespace zel {
 
 /// Reads a single-precision number. False for surrounding text and for "nan", which no setting can mean.
@@ -10,6 +12,9 @@ bool parseFloat(const QString& text, float& number);
 
 /// Writes a number in general notation with six significant digits.
 QString numberText(double number);
+
+/// Writes simplification ratios, separated by "/".
+QString ratiosText(const std::vector<float>& ratios);
 
 } // namespace zel
 

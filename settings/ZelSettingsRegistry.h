@@ -20,14 +20,14 @@ class ZEL_EXPORT ZelSettingsRegistry
 public:
     /// Checks one value and may rewrite it in place; what it leaves there is written back. False stops the
     /// pass: only then does the validator set the error text.
-    typedef bool (*Validator)(const QString& key, const QString& defaultValue, QString& value,
-                              QString& error);
+    using Validator = bool (*)(const QString& key, const QString& defaultValue, QString& value,
+                               QString& error);
 
     /// Checks the settings as a whole, after every value has been repaired. Sets the error text when it
     /// fails.
-    typedef bool (*EndCheck)(QSettings& settings, QString& error);
+    using EndCheck = bool (*)(QSettings& settings, QString& error);
 
-    typedef std::map<QString, std::pair<QString, Validator>> Settings;
+    using Settings = std::map<QString, std::pair<QString, Validator>>;
 
     /// Adds a key. The first registration of a key wins: false, and no change, for a key that is there
     /// already.

@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <initializer_list>
 #include <iterator>
 #include <limits>
 #include <vector>
@@ -25,50 +26,70 @@ namespace zel {
 
 namespace {
 
-const quint64 MiB = quint64(1024) * 1024;
+const quint64 MiB = 1024 * 1024;
 const quint64 MaximumMemory = 8096 * MiB;
 const std::size_t RatioCount = 5;
 
-template <std::size_t Count>
-bool ensureOneOf(const QString (&accepted)[Count], const QString& defaultValue, QString& value)
+// What follows repairs a value, or returns false for one that the default must replace.
+
+bool isOneOf(const QString& value, std::initializer_list<const char*> accepted)
 {
-    if (std::find(std::begin(accepted), std::end(accepted), value) == std::end(accepted))
-        value = defaultValue;
-    return true;
+    return std::any_of(accepted.begin(), accepted.end(),
+                       [&value](const char* text) { return value == QLatin1String(text); });
 }
 
-bool ensureUnsignedWithin(quint64 minimum, quint64 maximum, const QString& defaultValue, QString& value)
-{
-    bool parsed = false;
-    const quint64 number = value.toULongLong(&parsed);
-    if (!parsed || number < minimum || number > maximum)
-        value = defaultValue;
-    return true;
-}
-
-bool clampUnsigned(quint64 minimum, quint64 maximum, const QString& defaultValue, QString& value)
+bool isUnsignedWithin(const QString& value, quint64 minimum, quint64 maximum)
 {
     bool parsed = false;
     const quint64 number = value.toULongLong(&parsed);
-    value = parsed ? QString::number(std::clamp(number, minimum, maximum)) : defaultValue;
-    return true;
+    return parsed && number >= minimum && number <= maximum;
 }
 
-bool clampInteger(int minimum, int maximum, const QString& defaultValue, QString& value)
+bool clampUnsigned(QString& value, quint64 minimum, quint64 maximum)
+{
+    bool parsed = false;
+    const quint64 number = value.toULongLong(&parsed);
+    value = QString::number(std::clamp(number, minimum, maximum));
+    return parsed;
+}
+
+bool clampInteger(QString& value, int minimum, int maximum)
 {
     bool parsed = false;
     const int number = value.toInt(&parsed);
     // Not std::clamp: on a machine that cannot tell its thread count the maximum may lie below the minimum.
-    value = parsed ? QString::number(std::min(std::max(number, minimum), maximum)) : defaultValue;
-    return true;
+    value = QString::number(std::min(std::max(number, minimum), maximum));
+    return parsed;
 }
 
-bool clampFloat(float minimum, float maximum, const QString& defaultValue, QString& value)
+bool clampFloat(QString& value, float minimum, float maximum)
 {
     float number = 0.F;
-    value =
-        parseFloat(value, number) ? numberText(double(std::clamp(number, minimum, maximum))) : defaultValue;
-    return true;
+    const bool parsed = parseFloat(value, number);
+    if (parsed)
+        value = numberText(double(std::clamp(number, minimum, maximum)));
+    return parsed;
+}
+
+bool snapToSceneUnit(QString& value)
+{
+    float factor = 0.F;
+    const int unit = parseFloat(value, factor) ? sceneUnitIndex(factor) : -1;
+    if (unit >= 0)
+        value = numberText(double(SceneUnitFactors[unit]));
+    return unit >= 0;
+}
+
+bool isQuality(const QString& value)
+{
+    const auto& names = kqDMRenderer::scQualityEnum;
+    return std::find(std::begin(names), std::end(names), value) != std::end(names);
+}
+
+int coreCount()
+{
+    static const int cores = QThread::idealThreadCount(); // The answer is read from a system file each time.
+    return cores;
 }
 
 bool isIpAddress(const QString& text, bool& valid)
@@ -89,6 +110,12 @@ bool isHostName(const QString& text)
                        [&label](const QString& part) { return label.exactMatch(part); });
 }
 
+bool isIpOrHostName(const QString& text)
+{
+    bool valid = !text.isEmpty() && text.length() <= 255;
+    return valid && (isIpAddress(text, valid) ? valid : isHostName(text));
+}
+
 std::vector<float> parseRatios(const QString& text)
 {
     std::vector<float> ratios;
@@ -98,14 +125,6 @@ std::vector<float> parseRatios(const QString& text)
             ratios.push_back(ratio);
     }
     return ratios;
-}
-
-QString ratiosText(const std::vector<float>& ratios)
-{
-    QStringList parts;
-    std::transform(ratios.begin(), ratios.end(), std::back_inserter(parts),
-                   [](float ratio) { return numberText(double(ratio)); });
-    return parts.join("/");
 }
 
 bool ensureRatios(const QString& defaultValue, QString& value)
@@ -149,139 +168,39 @@ bool ZelSettingsValidators::noOp(const QString&, const QString&, QString&, QStri
     return true;
 }
 
-bool ZelSettingsValidators::ensureSettingsVersion(const QString&, const QString& defaultValue, QString& value,
-                                                  QString&)
-{
-    value = defaultValue;
-    return true;
-}
-
-bool ZelSettingsValidators::ensureBool(const QString&, const QString& defaultValue, QString& value, QString&)
-{
-    static const QString accepted[] = {"true", "false"};
-    return ensureOneOf(accepted, defaultValue, value);
-}
-
-bool ZelSettingsValidators::ensureEngine(const QString&, const QString& defaultValue, QString& value,
-                                         QString&)
-{
-    static const QString accepted[] = {engines::Deferred, engines::Software};
-    return ensureOneOf(accepted, defaultValue, value);
-}
-
-bool ZelSettingsValidators::ensureLogLevel(const QString&, const QString& defaultValue, QString& value,
-                                           QString&)
-{
-    return clampInteger(0, std::numeric_limits<int>::max(), defaultValue, value);
-}
-
-bool ZelSettingsValidators::ensurePositiveInteger(const QString&, const QString& defaultValue, QString& value,
-                                                  QString&)
-{
-    bool parsed = false;
-    if (value.toLongLong(&parsed) <= 0 || !parsed)
-        value = defaultValue;
-    return true;
-}
-
-bool ZelSettingsValidators::ensurePortValue(const QString&, const QString& defaultValue, QString& value,
-                                            QString&)
-{
-    return ensureUnsignedWithin(0, 65535, defaultValue, value);
-}
-
-bool ZelSettingsValidators::ensureCacheSize(const QString&, const QString& defaultValue, QString& value,
-                                            QString&)
-{
-    return ensureUnsignedWithin(10, 10240, defaultValue, value);
-}
-
-bool ZelSettingsValidators::ensureSimplificationRAM(const QString&, const QString& defaultValue,
-                                                    QString& value, QString&)
-{
-    return ensureUnsignedWithin(64 * MiB, MaximumMemory, defaultValue, value);
-}
+// The validators that never fail: a name, and what tells whether the value is kept.
+#define ZEL_VALIDATOR(name, ...)                                                                             \
+    bool ZelSettingsValidators::name(const QString&, const QString& defaultValue, QString& value, QString&)  \
+    {                                                                                                        \
+        if (!(__VA_ARGS__))                                                                                  \
+            value = defaultValue;                                                                            \
+        return true;                                                                                         \
+    }
+ZEL_VALIDATOR(ensureSettingsVersion, false)
+ZEL_VALIDATOR(ensureBool, isOneOf(value, {"true", "false"}))
+ZEL_VALIDATOR(ensureEngine, isOneOf(value, {engines::Deferred, engines::Software}))
+ZEL_VALIDATOR(ensureLogLevel, clampInteger(value, 0, std::numeric_limits<int>::max()))
+ZEL_VALIDATOR(ensurePositiveInteger, value.toLongLong() > 0)
+ZEL_VALIDATOR(ensurePortValue, isUnsignedWithin(value, 0, 65535))
+ZEL_VALIDATOR(ensureCacheSize, isUnsignedWithin(value, 10, 10240))
+ZEL_VALIDATOR(ensureSimplificationRAM, isUnsignedWithin(value, 64 * MiB, MaximumMemory))
+ZEL_VALIDATOR(ensureCoreNumber, clampInteger(value, 1, coreCount()))
+ZEL_VALIDATOR(ensureTesselationMaxFaceAngle, clampInteger(value, 0, 359))
+ZEL_VALIDATOR(ensureTesselationMaxFaceLength, clampFloat(value, 0.F, 100.F))
+ZEL_VALIDATOR(ensureTesselationMaxFaceSag, clampFloat(value, 0.F, 100.F))
+ZEL_VALIDATOR(ensureLODTrianglesCap, clampUnsigned(value, 50000, 500000000))
+ZEL_VALIDATOR(ensureMaxGPUMemory, clampUnsigned(value, 128 * MiB, MaximumMemory))
+ZEL_VALIDATOR(ensureMaxCPUMemoryRaytracer, clampUnsigned(value, 128 * MiB, MaximumMemory))
+ZEL_VALIDATOR(ensureMaxCPUMemory3D, clampUnsigned(value, 128 * MiB, MaximumMemory))
+ZEL_VALIDATOR(ensureRaytracerQuality, isQuality(value))
+ZEL_VALIDATOR(ensureSceneUnit, snapToSceneUnit(value))
+ZEL_VALIDATOR(ensureIpOrHostName, isIpOrHostName(value))
+#undef ZEL_VALIDATOR
 
 bool ZelSettingsValidators::ensureSimplificationThreads(const QString&, const QString&, QString& value,
                                                         QString&)
 {
     value = "1";
-    return true;
-}
-
-bool ZelSettingsValidators::ensureCoreNumber(const QString&, const QString& defaultValue, QString& value,
-                                             QString&)
-{
-    // Asked once, because the answer is read from a file of the system each time.
-    static const int cores = QThread::idealThreadCount();
-    return clampInteger(1, cores, defaultValue, value);
-}
-
-bool ZelSettingsValidators::ensureTesselationMaxFaceAngle(const QString&, const QString& defaultValue,
-                                                          QString& value, QString&)
-{
-    return clampInteger(0, 359, defaultValue, value);
-}
-
-bool ZelSettingsValidators::ensureTesselationMaxFaceLength(const QString&, const QString& defaultValue,
-                                                           QString& value, QString&)
-{
-    return clampFloat(0.F, 100.F, defaultValue, value);
-}
-
-bool ZelSettingsValidators::ensureTesselationMaxFaceSag(const QString& key, const QString& defaultValue,
-                                                        QString& value, QString& error)
-{
-    return ensureTesselationMaxFaceLength(key, defaultValue, value, error);
-}
-
-bool ZelSettingsValidators::ensureLODTrianglesCap(const QString&, const QString& defaultValue, QString& value,
-                                                  QString&)
-{
-    return clampUnsigned(50000, 500000000, defaultValue, value);
-}
-
-bool ZelSettingsValidators::ensureMaxGPUMemory(const QString&, const QString& defaultValue, QString& value,
-                                               QString&)
-{
-    return clampUnsigned(128 * MiB, MaximumMemory, defaultValue, value);
-}
-
-bool ZelSettingsValidators::ensureMaxCPUMemoryRaytracer(const QString& key, const QString& defaultValue,
-                                                        QString& value, QString& error)
-{
-    return ensureMaxGPUMemory(key, defaultValue, value, error);
-}
-
-bool ZelSettingsValidators::ensureMaxCPUMemory3D(const QString& key, const QString& defaultValue,
-                                                 QString& value, QString& error)
-{
-    return ensureMaxGPUMemory(key, defaultValue, value, error);
-}
-
-bool ZelSettingsValidators::ensureRaytracerQuality(const QString&, const QString& defaultValue,
-                                                   QString& value, QString&)
-{
-    return ensureOneOf(kqDMRenderer::scQualityEnum, defaultValue, value);
-}
-
-bool ZelSettingsValidators::ensureSceneUnit(const QString&, const QString& defaultValue, QString& value,
-                                            QString&)
-{
-    float factor = 0.F;
-    const int unit = parseFloat(value, factor) ? sceneUnitIndex(factor) : -1;
-    value = unit < 0 ? defaultValue : numberText(double(SceneUnitFactors[unit]));
-    return true;
-}
-
-bool ZelSettingsValidators::ensureIpOrHostName(const QString&, const QString& defaultValue, QString& value,
-                                               QString&)
-{
-    bool valid = !value.isEmpty() && value.length() <= 255;
-    if (valid && !isIpAddress(value, valid))
-        valid = isHostName(value);
-    if (!valid)
-        value = defaultValue;
     return true;
 }
 

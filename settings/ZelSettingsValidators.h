@@ -13,107 +13,88 @@ namespace zel {
 class ZEL_EXPORT ZelSettingsValidators
 {
 public:
+    using Validate = bool(const QString& key, const QString& defaultValue, QString& value, QString& error);
+
     /// Normalises a folder path: every "\" becomes "/", then one trailing "/" is dropped.
     static void CleanupFolder(QString& path);
 
     /// Accepts any text.
-    static bool noOp(const QString& key, const QString& defaultValue, QString& value, QString& error);
+    static Validate noOp;
 
     /// Always the default: the file ends up stamped with the current version.
-    static bool ensureSettingsVersion(const QString& key, const QString& defaultValue, QString& value,
-                                      QString& error);
+    static Validate ensureSettingsVersion;
 
     /// "true" or "false"; else the default.
-    static bool ensureBool(const QString& key, const QString& defaultValue, QString& value, QString& error);
+    static Validate ensureBool;
 
     /// "deferred" or "software"; else the default.
-    static bool ensureEngine(const QString& key, const QString& defaultValue, QString& value, QString& error);
+    static Validate ensureEngine;
 
     /// An integer, raised to at least 0; the default if it is none.
-    static bool ensureLogLevel(const QString& key, const QString& defaultValue, QString& value,
-                               QString& error);
+    static Validate ensureLogLevel;
 
     /// A 64-bit integer above 0; else the default.
-    static bool ensurePositiveInteger(const QString& key, const QString& defaultValue, QString& value,
-                                      QString& error);
+    static Validate ensurePositiveInteger;
 
     /// An integer in 0..65535; else the default.
-    static bool ensurePortValue(const QString& key, const QString& defaultValue, QString& value,
-                                QString& error);
+    static Validate ensurePortValue;
 
     /// Megabytes in 10..10240; else the default.
-    static bool ensureCacheSize(const QString& key, const QString& defaultValue, QString& value,
-                                QString& error);
+    static Validate ensureCacheSize;
 
     /// Bytes from 64 MiB to 8096 MiB; else the default.
-    static bool ensureSimplificationRAM(const QString& key, const QString& defaultValue, QString& value,
-                                        QString& error);
+    static Validate ensureSimplificationRAM;
 
     /// Always "1": simplification runs on one thread, whatever the file says.
-    static bool ensureSimplificationThreads(const QString& key, const QString& defaultValue, QString& value,
-                                            QString& error);
+    static Validate ensureSimplificationThreads;
 
     /// An integer, clamped to 1..the processor's ideal thread count; the default if it is none.
-    static bool ensureCoreNumber(const QString& key, const QString& defaultValue, QString& value,
-                                 QString& error);
+    static Validate ensureCoreNumber;
 
     /// Whole degrees, clamped to 0..359; the default if they do not parse.
-    static bool ensureTesselationMaxFaceAngle(const QString& key, const QString& defaultValue, QString& value,
-                                              QString& error);
+    static Validate ensureTesselationMaxFaceAngle;
 
     /// A single-precision number, clamped to 0..100 and written with six digits; the default if it is none.
-    static bool ensureTesselationMaxFaceLength(const QString& key, const QString& defaultValue,
-                                               QString& value, QString& error);
+    static Validate ensureTesselationMaxFaceLength;
 
     /// As ensureTesselationMaxFaceLength.
-    static bool ensureTesselationMaxFaceSag(const QString& key, const QString& defaultValue, QString& value,
-                                            QString& error);
+    static Validate ensureTesselationMaxFaceSag;
 
     /// Triangles, clamped to 50,000..500,000,000; the default if they do not parse.
-    static bool ensureLODTrianglesCap(const QString& key, const QString& defaultValue, QString& value,
-                                      QString& error);
+    static Validate ensureLODTrianglesCap;
 
     /// Bytes, clamped to 128 MiB..8096 MiB; the default if they do not parse.
-    static bool ensureMaxGPUMemory(const QString& key, const QString& defaultValue, QString& value,
-                                   QString& error);
+    static Validate ensureMaxGPUMemory;
 
     /// As ensureMaxGPUMemory.
-    static bool ensureMaxCPUMemoryRaytracer(const QString& key, const QString& defaultValue, QString& value,
-                                            QString& error);
+    static Validate ensureMaxCPUMemoryRaytracer;
 
     /// As ensureMaxGPUMemory.
-    static bool ensureMaxCPUMemory3D(const QString& key, const QString& defaultValue, QString& value,
-                                     QString& error);
+    static Validate ensureMaxCPUMemory3D;
 
     /// One of the renderer's quality names; else the default.
-    static bool ensureRaytracerQuality(const QString& key, const QString& defaultValue, QString& value,
-                                       QString& error);
+    static Validate ensureRaytracerQuality;
 
     /// A power of ten from 0.001 to 1000, met within 0.001 and written in its plain form; else the default.
-    static bool ensureSceneUnit(const QString& key, const QString& defaultValue, QString& value,
-                                QString& error);
+    static Validate ensureSceneUnit;
 
     /// A dotted IPv4 address or a host name of at most 255 characters; else the default.
-    static bool ensureIpOrHostName(const QString& key, const QString& defaultValue, QString& value,
-                                   QString& error);
+    static Validate ensureIpOrHostName;
 
     /// Five numbers separated by "/", as the simplifier corrects them; the corrected default if there are not
     /// five. Fails, without an error text, when the default has not five either.
-    static bool ensureSimplificationRatios(const QString& key, const QString& defaultValue, QString& value,
-                                           QString& error);
+    static Validate ensureSimplificationRatios;
 
     /// A file whose folder exists; else the default, normalised, whose folder is created. Fails when it
     /// cannot be. The file itself is neither created nor read.
-    static bool ensureFile(const QString& key, const QString& defaultValue, QString& value, QString& error);
+    static Validate ensureFile;
 
     /// An existing folder; else the default, normalised, which is created. Fails when it cannot be.
-    static bool ensureDMCacheFolder(const QString& key, const QString& defaultValue, QString& value,
-                                    QString& error);
+    static Validate ensureDMCacheFolder;
 
     /// An existing folder; else the default as it stands. The default folder is created in either case; fails
     /// when it cannot be.
-    static bool ensureTmpFolder(const QString& key, const QString& defaultValue, QString& value,
-                                QString& error);
+    static Validate ensureTmpFolder;
 
     /// Makes value an existing folder: itself, normalised, or else the default, normalised and created if
     /// missing. False when the default cannot be created.

@@ -1,18 +1,6 @@
 #include "Version.h"
 
-#define ZEL_MAJOR 1
-#define ZEL_MINOR 1
-#define ZEL_RELEASE 0
-#define ZEL_REVISION 85
-#define ZEL_YEAR 2024
-#define ZEL_MONTH 1
-
-#define ZEL_TEXT_OF(number) #number
-#define ZEL_TEXT(number) ZEL_TEXT_OF(number)
-
-#define ZEL_MAJOR_MINOR ZEL_TEXT(ZEL_MAJOR) "." ZEL_TEXT(ZEL_MINOR)
-#define ZEL_MAJOR_MINOR_RELEASE ZEL_MAJOR_MINOR "." ZEL_TEXT(ZEL_RELEASE)
-#define ZEL_MAJOR_MINOR_RELEASE_REVISION ZEL_MAJOR_MINOR_RELEASE "." ZEL_TEXT(ZEL_REVISION)
+#include "base/VersionNumbers.h"
 
 namespace ZelControlCenter {
 
@@ -80,7 +68,7 @@ const char* Version::GetDescStringMajorMinorReleaseRevision(bool internal)
 
 const char* Version::GetDescStringMajorMinorReleaseRevisionDate()
 {
-    return ZEL_MAJOR_MINOR_RELEASE_REVISION " " ZEL_TEXT(ZEL_YEAR) "-" ZEL_TEXT(ZEL_MONTH);
+    return ZEL_MAJOR_MINOR_RELEASE_REVISION " " ZEL_YEAR_MONTH;
 }
 
 } // namespace ZelControlCenter

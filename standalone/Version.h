@@ -7,7 +7,7 @@
 
 namespace ZelControlCenter {
 
-/// The version of this library. The texts are static; nobody frees them.
+/// The version of this library. The texts are static and are never freed.
 struct ZEL_EXPORT Version
 {
     static quint32 GetMajor();

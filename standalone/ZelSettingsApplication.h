@@ -25,45 +25,45 @@ public:
     explicit ZelSettingsApplication(const QString& applicationFolder);
     ~ZelSettingsApplication() override;
 
-    void clearViewerApp() override;
-    kqDMManager* getDMManager() const override;
-    kqDMRenderer* getDMRenderer() const override;
-    QDeclarativeEngine* getDeclarativeEngine() const override;
-    zelMaterialManagerInterface* getMaterialManager() const override;
-    void setMaterialManager(zelMaterialManagerInterface* manager) override;
-    zelNavigationManager* getNavigationManager() const override;
-    QSettings& getSettings() override;
-    kqDMProject* editProject() override;
-    const std::vector<kqDMPlugin*>& getPluginsList() const override;
-    kqDMGuiPlugin* getGuiPlugin() const override;
-    const kqDMSelection& getSelection() const override;
-    kqDMSelection& grabSelection() override;
+    void clearViewerApp() override {}
+    kqDMManager* getDMManager() const override { return nullptr; }
+    kqDMRenderer* getDMRenderer() const override { return nullptr; }
+    QDeclarativeEngine* getDeclarativeEngine() const override { return nullptr; }
+    zelMaterialManagerInterface* getMaterialManager() const override { return nullptr; }
+    void setMaterialManager(zelMaterialManagerInterface*) override {}
+    zelNavigationManager* getNavigationManager() const override { return nullptr; }
+    QSettings& getSettings() override { return m_settings; }
+    kqDMProject* editProject() override { return nullptr; }
+    const std::vector<kqDMPlugin*>& getPluginsList() const override { return m_plugins; }
+    kqDMGuiPlugin* getGuiPlugin() const override { return nullptr; }
+    const kqDMSelection& getSelection() const override { return m_selection; }
+    kqDMSelection& grabSelection() override { return m_selection; }
     /// Ignored: nothing takes screenshots here.
-    void setScreenshotImageFolder(const QString& folder) override;
+    void setScreenshotImageFolder(const QString&) override {}
     /// Always null.
-    const QString& getScreenshotImageFolder() const override;
-    void updateAfterCompleteLoading() override;
-    void setUpdateEngineEnabled(bool enabled) override;
-    void setLowUpdateEngineFrequency(bool low) override;
-    zelThumbnailManager* getThumbnailManager() const override;
-    void notifyAppEvent(zelAppEvent event) override;
+    const QString& getScreenshotImageFolder() const override { return m_screenshotImageFolder; }
+    void updateAfterCompleteLoading() override {}
+    void setUpdateEngineEnabled(bool) override {}
+    void setLowUpdateEngineFrequency(bool) override {}
+    zelThumbnailManager* getThumbnailManager() const override { return nullptr; }
+    void notifyAppEvent(zelAppEvent) override {}
     /// Always null, also for registered keys: those are the registry's to answer.
-    QString getDefaultSettingsValue(const QString& key) override;
-    const QString& getLanguageCode() override;
-    const QString& getApplicationFolder() const override;
-    bool removeComponent(kqDMComponentId component) override;
-    void applicationStarted() override;
-    void applicationFinished() override;
-    bool saveDocument() override;
-    void loadDocument(const QStringList& files, bool append) override;
-    void loadDocument(bool append) override;
-    void set3DSelectionPickingEnabled(bool enabled) override;
-    bool is3DSelectionPickingEnabled() const override;
-    std::vector<PostSaveEventItem>& getPostSaveEventVector() override;
-    void setWorkFlowWidget(QWidget* widget) override;
-    void registerMouseReleaseEventFilter(zelReleaseEventFilter* filter, bool enable) override;
+    QString getDefaultSettingsValue(const QString&) override { return QString(); }
+    const QString& getLanguageCode() override { return m_languageCode; }
+    const QString& getApplicationFolder() const override { return m_applicationFolder; }
+    bool removeComponent(kqDMComponentId) override { return false; }
+    void applicationStarted() override {}
+    void applicationFinished() override {}
+    bool saveDocument() override { return false; }
+    void loadDocument(const QStringList&, bool) override {}
+    void loadDocument(bool) override {}
+    void set3DSelectionPickingEnabled(bool) override {}
+    bool is3DSelectionPickingEnabled() const override { return true; }
+    std::vector<PostSaveEventItem>& getPostSaveEventVector() override { return m_postSaveEvents; }
+    void setWorkFlowWidget(QWidget*) override {}
+    void registerMouseReleaseEventFilter(zelReleaseEventFilter*, bool) override {}
 
-    void setLanguageCode(const QString& code);
+    void setLanguageCode(const QString& code) { m_languageCode = code; }
 
 private:
     std::vector<kqDMPlugin*> m_plugins;

@@ -117,7 +117,7 @@ QString probeWriteError(const QString& path)
         return writer.errorString();
     const qint64 size = file.size() + 4096; // The lock of QSettings takes some room, too.
     QTemporaryFile probe(file.filePath() + ".XXXXXX");
-    if (!probe.open() || probe.write(QByteArray(int(size), '\0')) != size || !probe.flush())
+    if (!probe.open() || probe.write(QByteArray(static_cast<int>(size), '\0')) != size || !probe.flush())
         return probe.errorString();
     // As where it is mounted on its own, or where another program has it open.
     return Text::tr("it cannot be replaced by a new one");

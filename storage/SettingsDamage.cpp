@@ -33,7 +33,7 @@ bool isBlank(char character)
 int lineEnd(const QByteArray& text, int begin)
 {
     const auto isEnd = [](char character) { return character == '\n' || character == '\r'; };
-    return int(std::find_if(text.begin() + begin, text.end(), isEnd) - text.begin());
+    return static_cast<int>(std::find_if(text.begin() + begin, text.end(), isEnd) - text.begin());
 }
 
 /// The first character that is no blank; 0 when there is none.
@@ -67,8 +67,10 @@ bool isUnreadable(const QByteArray& line)
 /// True for a line that ends with a backslash which is not itself escaped.
 bool goesOn(const QByteArray& line)
 {
-    const auto end = std::find_if_not(line.rbegin(), line.rend(), [](char last) { return last == '\\'; });
-    return (end - line.rbegin()) % 2 == 1;
+    int end = line.size();
+    while (end > 0 && line.at(end - 1) == '\\')
+        --end;
+    return (line.size() - end) % 2 == 1;
 }
 
 /// The number of the first line of a kind, from 1; 0 when there is none.

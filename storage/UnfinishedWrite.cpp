@@ -51,7 +51,6 @@ void putBack(const QString& path)
 
 bool UnfinishedWrite::begin(const QString& path, QString& error)
 {
-    recover(path);
     if (!QFile::exists(path))
         return true;
     if (!copySettingsFile(path, copyOf(path), error))

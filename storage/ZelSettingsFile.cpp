@@ -36,7 +36,7 @@ namespace zel {
 
 namespace {
 
-typedef std::filesystem::file_time_type FileTime;
+using FileTime = std::filesystem::file_time_type;
 
 const std::chrono::milliseconds RetryPause(50);
 
@@ -65,34 +65,119 @@ class SettingsWrite
 {
 public:
     /// The settings must outlive the write.
-    explicit SettingsWrite(QSettings& settings);
-    ~SettingsWrite();
+    explicit SettingsWrite(QSettings& settings)
+        : m_settings(settings)
+        , m_path(settings.fileName())
+    {
+    }
+
+    ~SettingsWrite()
+    {
+        if (!m_prepared)
+            return;
+        if (!m_written)
+            rollBack();
+        if (!SettingsReplaceTheirFile)
+            UnfinishedWrite::end(m_path, m_written);
+        restoreAttributes();
+    }
 
     SettingsWrite(const SettingsWrite&) = delete;
     SettingsWrite& operator=(const SettingsWrite&) = delete;
 
     /// Gets the file ready, and keeps a copy of it where writing would lose something. False, with a
     /// translated text, when nothing should be changed.
-    bool prepare(QString& error);
+    bool prepare(QString& error)
+    {
+        if (!SettingsReplaceTheirFile)
+            UnfinishedWrite::recover(m_path);
+        const QString refusal = unwritableReason(m_path);
+        if (!refusal.isEmpty())
+            return refuseWriting(m_path, refusal, error);
+        m_content = contentOfFile(m_path);
+        const QString damage = settingsDamage(m_content);
+        const QString loss = damage.isEmpty() ? droppedComment(m_content) : damage;
+        m_lostContent = m_content.isEmpty() || !damage.isEmpty();
+        const QFileInfo file(m_path);
+        m_owner = file.ownerId();
+        m_group = file.groupId();
+        m_time = timeOf(m_path);
+        m_prepared = (loss.isEmpty() || keepBackup(m_path, loss, error)) &&
+                     (SettingsReplaceTheirFile || UnfinishedWrite::begin(m_path, error));
+        return m_prepared;
+    }
 
     /// True when the file was damaged or empty.
     bool hasLostContent() const { return m_lostContent; }
 
     /// To be called for a value before it is changed; an invalid one for a key that is added.
     void noteFormer(const QString& key, const QVariant& value) { m_former.insert(key, value); }
+
     /// Notes all values, and that other keys are added.
-    void noteAllFormer();
+    void noteAllFormer()
+    {
+        m_former = valuesOf(m_settings);
+        m_allNoted = true;
+    }
+
     bool hasNoted() const { return !m_former.isEmpty(); }
 
     /// Writes the values and verifies that they are in the file. False, with a translated text, when they are
     /// not.
-    bool commit(QString& error);
+    bool commit(QString& error)
+    {
+        QElapsedTimer clock;
+        clock.start();
+        m_settings.sync();
+        while (!isWritten() && clock.elapsed() < BusyFileTime) {
+            std::this_thread::sleep_for(RetryPause);
+            m_settings.sync();
+        }
+        m_written = isWritten();
+        return m_written || refuseWriting(m_path, probeWriteError(m_path), error);
+    }
 
 private:
-    bool hasChanged() const;
-    bool isWritten() const;
-    void rollBack();
-    void restoreAttributes() const;
+    bool hasChanged() const { return m_allNoted ? valuesOf(m_settings) != m_former : hasNoted(); }
+
+    bool isWritten() const
+    {
+        if (SettingsReplaceTheirFile && m_settings.status() == QSettings::NoError)
+            return true;
+        const QByteArray content = contentOfFile(m_path);
+        return content == m_content ? !hasChanged() : content.endsWith('\n'); // Half a file ends anywhere.
+    }
+
+    void rollBack()
+    {
+        for (const QString& key : m_allNoted ? m_settings.allKeys() : QStringList()) {
+            if (!m_former.contains(key))
+                m_settings.remove(key);
+        }
+        for (auto former = m_former.constBegin(); former != m_former.constEnd(); ++former) {
+            if (!former->isValid())
+                m_settings.remove(former.key());
+            else if (m_settings.value(former.key()) != *former)
+                m_settings.setValue(former.key(), *former);
+        }
+        m_settings.sync();
+        QCoreApplication::removePostedEvents(&m_settings, QEvent::UpdateRequest);
+    }
+
+    /// Gives the new file to the owner of the former one, and a later time than it had.
+    void restoreAttributes() const
+    {
+        const QFileInfo file(m_path);
+        if (!file.isFile() || m_time == FileTime::min())
+            return;
+        if ((file.ownerId() != m_owner || file.groupId() != m_group) &&
+            !giveFileTo(file.canonicalFilePath(), m_owner, m_group))
+            logWarning(QString("Could not give \"%1\" back to its owner and group.").arg(m_path));
+        const FileTime next = m_time + std::chrono::milliseconds(1); // QSettings counts in these.
+        std::error_code error; // Then a change by others in this very moment goes unnoticed.
+        if (m_written && timeOf(m_path) < next && hasChanged())
+            std::filesystem::last_write_time(nativePath(m_path), next, error);
+    }
 
     QSettings& m_settings;
     const QString m_path;
@@ -107,107 +192,6 @@ private:
     bool m_written = false;
 };
 
-SettingsWrite::SettingsWrite(QSettings& settings)
-    : m_settings(settings)
-    , m_path(settings.fileName())
-{
-}
-
-bool SettingsWrite::prepare(QString& error)
-{
-    const QString refusal = unwritableReason(m_path);
-    if (!refusal.isEmpty())
-        return refuseWriting(m_path, refusal, error);
-    m_content = contentOfFile(m_path);
-    const QString damage = settingsDamage(m_content);
-    const QString loss = damage.isEmpty() ? droppedComment(m_content) : damage;
-    m_lostContent = m_content.isEmpty() || !damage.isEmpty();
-    if ((!loss.isEmpty() && !keepBackup(m_path, loss, error)) ||
-        (!SettingsReplaceTheirFile && !UnfinishedWrite::begin(m_path, error)))
-        return false;
-    m_prepared = true;
-    const QFileInfo file(m_path);
-    m_owner = file.ownerId();
-    m_group = file.groupId();
-    m_time = timeOf(m_path);
-    return true;
-}
-
-void SettingsWrite::noteAllFormer()
-{
-    m_former = valuesOf(m_settings);
-    m_allNoted = true;
-}
-
-bool SettingsWrite::commit(QString& error)
-{
-    QElapsedTimer clock;
-    clock.start();
-    m_settings.sync();
-    while (!isWritten() && clock.elapsed() < BusyFileTime) {
-        std::this_thread::sleep_for(RetryPause);
-        m_settings.sync();
-    }
-    m_written = isWritten();
-    return m_written || refuseWriting(m_path, probeWriteError(m_path), error);
-}
-
-SettingsWrite::~SettingsWrite()
-{
-    if (!m_prepared)
-        return;
-    if (!m_written)
-        rollBack();
-    if (!SettingsReplaceTheirFile)
-        UnfinishedWrite::end(m_path, m_written);
-    restoreAttributes();
-}
-
-bool SettingsWrite::hasChanged() const
-{
-    return m_allNoted ? valuesOf(m_settings) != m_former : hasNoted();
-}
-
-bool SettingsWrite::isWritten() const
-{
-    if (SettingsReplaceTheirFile && m_settings.status() == QSettings::NoError)
-        return true;
-    const QByteArray content = contentOfFile(m_path);
-    return content == m_content ? !hasChanged() : content.endsWith('\n'); // Half a file ends anywhere.
-}
-
-void SettingsWrite::rollBack()
-{
-    if (m_allNoted) {
-        for (const QString& key : m_settings.allKeys()) {
-            if (!m_former.contains(key))
-                m_former.insert(key, QVariant());
-        }
-    }
-    for (auto former = m_former.cbegin(); former != m_former.cend(); ++former) {
-        if (!former->isValid())
-            m_settings.remove(former.key());
-        else if (m_settings.value(former.key()) != *former)
-            m_settings.setValue(former.key(), *former);
-    }
-    m_settings.sync();
-    QCoreApplication::removePostedEvents(&m_settings, QEvent::UpdateRequest);
-}
-
-void SettingsWrite::restoreAttributes() const
-{
-    const QFileInfo file(m_path);
-    if (!file.isFile() || m_time == FileTime::min())
-        return;
-    if ((file.ownerId() != m_owner || file.groupId() != m_group) &&
-        !giveFileTo(file.canonicalFilePath(), m_owner, m_group))
-        logWarning(QString("Could not give \"%1\" back to its owner and group.").arg(m_path));
-    const FileTime next = m_time + std::chrono::milliseconds(1); // QSettings counts in these.
-    std::error_code error; // Then a change by others in this very moment goes unnoticed.
-    if (m_written && timeOf(m_path) < next && hasChanged())
-        std::filesystem::last_write_time(nativePath(m_path), next, error);
-}
-
 /// Brings back what a damaged file has lost since it was read. One that lacks a registered key has lost more.
 void restoreLost(QSettings& settings, const QVariantMap& held, bool hasLostContent)
 {
@@ -216,7 +200,7 @@ void restoreLost(QSettings& settings, const QVariantMap& held, bool hasLostConte
             return held.contains(entry.first) && !settings.contains(entry.first);
         }))
         return;
-    for (auto value = held.cbegin(); value != held.cend(); ++value) {
+    for (auto value = held.constBegin(); value != held.constEnd(); ++value) {
         if (!settings.contains(value.key()))
             settings.setValue(value.key(), *value);
     }
@@ -233,7 +217,7 @@ std::unique_ptr<QSettings> ZelSettingsFile::Open(const QString& path)
 
 void ZelSettingsFile::UseFileEncoding(QSettings& settings)
 {
-    settings.setIniCodec(&IniCodec::instance());
+    settings.setIniCodec(&iniCodec());
 }
 
 bool ZelSettingsFile::IsUsable(const QString& path, QString& error)

@@ -19,7 +19,7 @@ class ZEL_EXPORT ZelSettingsFile
 {
 public:
     /// Changes values of the settings. False, with the error text set, gives the write up.
-    typedef std::function<bool(QSettings& settings, QString& error)> Change;
+    using Change = std::function<bool(QSettings& settings, QString& error)>;
 
     /// Opens a file, which should be usable, in its encoding.
     static std::unique_ptr<QSettings> Open(const QString& path);

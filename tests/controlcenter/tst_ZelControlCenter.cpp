@@ -3,6 +3,7 @@
 #include "FakePage.h"
 #include "ZelCCActionItem.h"
 #include "ZelControlCenter.h"
+#include "ZelEditablePanel.h"
 #include "ZelGeneralSettingsPanel.h"
 
 #include "platform/zelAction.h"
@@ -114,6 +115,27 @@ private Q_SLOTS:
         QVERIFY(m_application->engineUpdates.last());
     }
 
+    void engineGoesOnWhenTheDrawerClosesOutOfSight()
+    {
+        QWidget container;
+        QVBoxLayout layout(&container);
+        layout.addWidget(m_controlCenter->settingsWidget());
+        const std::function<void()> hidings[] = {[&] { container.hide(); },
+                                                 [&] { m_controlCenter->setSettingsWidth(0); }};
+        const std::function<void()> closings[] = {[&] { m_controlCenter->openSettings(); },
+                                                  [&] { m_controlCenter->setControlCenterVisible(false); }};
+        for (const auto& hide : hidings)
+            for (const auto& close : closings) {
+                container.show();
+                openEverything();
+                hide();
+                close();
+                QCOMPARE(m_application->engineUpdates, QList<bool>({false, true}));
+                QVERIFY(!m_controlCenter->isSettingsOpen() && showsActions(true));
+            }
+        m_controlCenter->settingsWidget()->setParent(nullptr);
+    }
+
     void buttonsReachEveryPage()
     {
         addPages(3);
@@ -216,11 +238,36 @@ private Q_SLOTS:
             m_controlCenter->openMenu(false);
             const QString question = "You have pending modifications. Continue and discard your changes ?";
             QCOMPARE(answer.texts, QStringList(question).mid(one.insideViewer && one.modified ? 0 : 1));
-            QTRY_VERIFY(!m_controlCenter->isSettingsOpen());
             QTRY_COMPARE(m_controlCenter->isMenuOpen(), !one.closes);
+            QTRY_COMPARE(m_controlCenter->isSettingsOpen(), !one.closes);
             QCOMPARE(m_calls, one.modified && one.closes ? QStringList("P0 initialize") : QStringList());
-            QVERIFY(m_application->engineUpdates.last());
+            QTRY_VERIFY(m_application->engineUpdates.last());
         }
+    }
+
+    void refusedCloseKeepsTheEdits()
+    {
+        addPages(1);
+        m_application->guiPlugin = &m_guiPlugin;
+        for (const int answerAfter : {0, 200}) { // During the slide, and when it is over.
+            openEverything();
+            m_pages[0]->edit();
+            BoxAnswer answer(QMessageBox::Cancel);
+            answer.setInterval(answerAfter);
+            m_controlCenter->openMenu(false);
+            QTRY_VERIFY(m_controlCenter->isSettingsOpen());
+            QVERIFY(canApply() && showsActions(false) && m_calls.isEmpty());
+            QCOMPARE(m_controlCenter->settingsWidth(), 450);
+            m_controlCenter->openSettings();
+            QTRY_VERIFY(!m_controlCenter->isSettingsOpen() && m_application->engineUpdates.last());
+        }
+        m_pages[0]->edit();
+        m_application->engineUpdates.clear();
+        BoxAnswer answer(QMessageBox::Cancel);
+        m_controlCenter->openMenu(false); // With the drawer closed, it stays so.
+        QCOMPARE(answer.texts.size(), 1);
+        QVERIFY(m_application->engineUpdates.last() && m_controlCenter->isMenuOpen());
+        QVERIFY(!m_controlCenter->isSettingsOpen() && showsActions(true));
     }
 
     void pageButtonsAndScrollingKeepInStep()
@@ -255,12 +302,40 @@ private Q_SLOTS:
         m_pages.pop_back();
         QVERIFY(!m_controlCenter->hasModifications() && !canApply());
 
+        delete m_pages[1]->getActionWidget(); // With the bar that an application has put it into, say.
+        m_pages[1]->setPanelName("Renamed");
+        m_controlCenter->registerSettingsPanel(m_pages[1].get());
+        openEverything();
+        scrollBar()->setValue(5);
+        m_controlCenter->unregisterSettingsPanel(m_pages[1].get(), true);
+
         // The window owns the drawer as well, and with it the pages that are in it.
         m_controlCenter->registerSettingsPanel(m_pages[0].release());
         delete m_controlCenter->settingsWidget();
         QVERIFY(!m_controlCenter->hasModifications());
         m_controlCenter->openMenu(true);
         m_controlCenter->openMenu(false);
+    }
+
+    void pageWithoutAResetButtonIsReported()
+    {
+        struct Model
+        {
+            bool operator==(const Model&) const { return true; }
+        };
+        struct Page : zel::ZelEditablePanel<Model>
+        {
+            using ZelEditablePanel::ZelEditablePanel;
+            void getCurrentModel(Model&) const override {}
+            void applyModel(const Model&) override {}
+            void notifyStateChanged() override {}
+        } page(m_application.get(), m_application->getSettings(), nullptr, Qt::WindowFlags(), {});
+        page.setPanelName("Bare");
+        QTest::ignoreMessage(QtWarningMsg,
+                             "The form of the page \"Bare\" has no push button named \"resetButton\"");
+        QTest::ignoreMessage(QtWarningMsg,
+                             "QObject::connect: No such signal zel::ZelSettingsPanel::stateChanged()");
+        m_controlCenter->registerSettingsPanel(&page);
     }
 
     void clickOutsideCloses()
@@ -287,6 +362,25 @@ private Q_SLOTS:
             QVERIFY2(m_application->engineUpdates.isEmpty() != press.closes, press.name);
         }
         QTRY_VERIFY(!m_controlCenter->isMenuOpen() && !m_controlCenter->isSettingsOpen());
+    }
+
+    void onePressIsOneQuestion()
+    {
+        addPages(1);
+        m_application->guiPlugin = &m_guiPlugin;
+        openEverything();
+        m_pages[0]->edit();
+        QWidget inView(m_view);
+        inView.resize(m_view->size());
+        inView.show();
+        for (int press = 0; press < 2; ++press) {
+            QTest::qWait(GuardTime);
+            BoxAnswer answer(QMessageBox::Cancel);
+            answer.setInterval(GuardTime);
+            QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                              inView.mapTo(m_window.get(), QPoint(10, 10)));
+            QCOMPARE(answer.texts.size(), 1);
+        }
     }
 
     void pageKeepsItsStyle()
@@ -328,6 +422,9 @@ private Q_SLOTS:
         QVERIFY(shortcut->isHidden() && !button->isEnabled() && item.isVisible());
         action.setVisible(false);
         QVERIFY(item.isHidden());
+        m_actions.clear();
+        item.onActionChanged();
+        QVERIFY(!item.getZelAction() && item.isHidden());
     }
 
     void standsWhereItIsAskedTo()
@@ -346,11 +443,14 @@ private Q_SLOTS:
         QVERIFY(!m_controlCenter->addCCSeparator("", "before settings"));
         QVERIFY(m_controlCenter->addCCSeparator("", "top"));
         QVERIFY(m_controlCenter->addCCSeparator("gone", "bottom"));
+        m_controlCenter->setControlCenterWidth(250);
+        m_controlCenter->addCCSeparator("", "on top");
+        QCOMPARE(column()->itemAt(0)->widget()->size(), QSize(232, 1));
         m_controlCenter->unregisterCCAction(&action("twice"));
         action("twice").setText("Changed"); // Nothing mirrors it any more.
-        QCOMPARE(columnText(), QString("-,b,before a,a,-,Settings,last,-"));
+        QCOMPARE(columnText(), QString("-,-,b,before a,a,-,Settings,last,-"));
         QVERIFY(m_controlCenter->setCCSeparatorVisible("top", false));
-        QVERIFY(column()->itemAt(0)->widget()->isHidden());
+        QVERIFY(column()->itemAt(1)->widget()->isHidden());
         QVERIFY(!m_controlCenter->setCCSeparatorVisible("gone", true));
     }
 
@@ -366,12 +466,23 @@ private Q_SLOTS:
     {
         QPushButton external;
         m_controlCenter->setControlCenterButton(&external);
-        const QString icon(":/controlCenter/controlCenter/controlCenterOn.png");
-        m_controlCenter->setInterfaceColor(QColor(10, 20, 30, 128), icon, icon);
+        const QTemporaryDir folder;
+        const QString icons[] = {folder.filePath("off.png"), folder.filePath("on.png")};
+        const QColor colors[] = {Qt::red, Qt::green};
+        for (const int on : {0, 1}) {
+            QPixmap picture(40, 40);
+            picture.fill(colors[on]);
+            QVERIFY(picture.save(icons[on]));
+        }
+        m_controlCenter->setInterfaceColor(QColor(10, 20, 30, 128), icons[1], icons[0]);
         m_controlCenter->show();
         const QImage column = m_controlCenter->grab().toImage();
         QCOMPARE(column.pixelColor(100, column.height() - 10), QColor(10, 20, 30));
-        QVERIFY(!external.icon().isNull());
+        QCOMPARE(external.iconSize(), QSize(40, 40));
+        for (const int on : {0, 1}) {
+            const QPixmap shown = external.icon().pixmap(40, QIcon::Normal, on ? QIcon::On : QIcon::Off);
+            QCOMPARE(shown.toImage().pixelColor(20, 20), colors[on]);
+        }
     }
 
 private:

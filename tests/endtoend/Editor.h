@@ -93,7 +93,18 @@ public:
         m_process.setStandardInputFile(QProcess::nullDevice());
     }
 
-    void start(const QStringList& arguments = QStringList()) { m_process.start(TORVANE_SETTINGS, arguments); }
+    /// @param redirection  what a shell is to do with the standard streams
+    void start(const QStringList& arguments = QStringList(), const QString& redirection = QString())
+    {
+        m_process.start("bash", QStringList{"-c", "exec \"$0\" \"$@\" " + redirection, TORVANE_SETTINGS}
+                                    << arguments);
+    }
+
+    void kill()
+    {
+        m_process.kill();
+        m_process.waitForFinished(Patience);
+    }
 
     /// Waits for the end; -1 when it does not come in time or is a crash.
     int exitCode()

@@ -22,6 +22,14 @@ const char* const OpenFolders = "mousemove --window %1 50 117 click 1";
 const QString TypeCacheSize = "mousemove --window %1 530 304 click 1 key ctrl+a type ";
 const char* const Apply = "mousemove --window %1 184 265 click 1";
 
+const char* const ChooseLowMode = "mousemove --window %1 275 183 click 1";
+
+#if defined(__SANITIZE_ADDRESS__)
+const int Kills = 4;
+#else
+const int Kills = 12;
+#endif
+
 const char* const Version1 = "[General]\nengine=gl\nsettingsVersion=1\nlanguage=xx\n[Own]\nthing=\303\274\n";
 const char* const NoVersion = "[General]\nengine=software\nlanguage=fr\n[Own]\nthing=1\n";
 const char* const Newer = "[General]\nsettingsVersion=7\nengine=software\n[DBCache]\ncacheSize=77\n";
@@ -157,6 +165,42 @@ private Q_SLOTS:
         QCOMPARE(cacheSize(), QString("512"));
     }
 
+    void outlivesItsOutput()
+    {
+        // Closed standard streams, and a reader that is gone when the first line comes.
+        for (const char* redirection : {"<&- >&- 2>&-", "> >(true)"}) {
+            init();
+            store("[General]\nsettingsVersion=2\nengine=deferred\n[Simplification]\nRatios=0.5/2/3/4/5\n");
+            Editor editor(m_desktop, m_home);
+            editor.start({}, redirection);
+            QVERIFY2(editor.shows(Window) && !editor.picture().isNull(), redirection);
+            editor.act(ChooseLowMode);
+            editor.act(Apply);
+            QTRY_VERIFY_WITH_TIMEOUT(stored().contains("engine=software"), Patience);
+            editor.act("key alt+F4");
+            QCOMPARE(editor.exitCode(), 0);
+        }
+    }
+
+    void killedWhileApplying()
+    {
+        QByteArray before, after;
+        for (int round = 0; round < Kills; ++round) {
+            Editor editor(m_desktop, m_home);
+            QVERIFY(opensWindow(editor));
+            before = settingsText();
+            editor.act(ChooseLowMode);
+            editor.act(Apply);
+            if (round == 0) {
+                QTRY_VERIFY_WITH_TIMEOUT((after = settingsText()) != before, Patience);
+                continue;
+            }
+            QTest::qSleep(std::rand() % 10); // The click itself takes some milliseconds to arrive.
+            editor.kill();
+            QVERIFY2(settingsText() == before || settingsText() == after, settingsText().constData());
+        }
+    }
+
     void runsOnce()
     {
         // The second round meets what a killed instance leaves behind.
@@ -187,6 +231,12 @@ private:
         QFile file(settingsFile());
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(text);
+    }
+
+    QByteArray settingsText() const
+    {
+        QFile file(settingsFile());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
     QStringList stored() const

@@ -9,10 +9,10 @@
 
 using namespace zel;
 
-typedef ShownPage<ZelAboutSettingsPanel> About;
-typedef ShownPage<ZelGeneralSettingsPanel> General;
-typedef ShownPage<ZelImportSettingsPanel> Import;
-typedef ShownPage<ZelSimplificationSettingsPanel> Simplification;
+using About = ShownPage<ZelAboutSettingsPanel>;
+using General = ShownPage<ZelGeneralSettingsPanel>;
+using Import = ShownPage<ZelImportSettingsPanel>;
+using Simplification = ShownPage<ZelSimplificationSettingsPanel>;
 
 namespace {
 

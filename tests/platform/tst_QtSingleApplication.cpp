@@ -52,7 +52,7 @@ struct Process : QProcess
     }
 };
 
-typedef std::unique_ptr<Process> ProcessPointer;
+using ProcessPointer = std::unique_ptr<Process>;
 
 } // namespace
 

@@ -6,7 +6,7 @@
 #include <QtTest>
 
 using namespace zel;
-typedef ZelSettingsRegistry Registry;
+using Registry = ZelSettingsRegistry;
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <QtTest>
 
 using namespace zel;
-typedef ZelSettingsValidators V;
-typedef ZelSettingsRegistry::Validator Validator;
+using V = ZelSettingsValidators;
+using Validator = ZelSettingsRegistry::Validator;
 
 class tst_ZelSettingsValidators : public QObject
 {

@@ -84,7 +84,7 @@ private Q_SLOTS:
 
     void versionTextsAgree()
     {
-        typedef ZelControlCenter::Version Version;
+        using Version = ZelControlCenter::Version;
         const QString numbers = Version::GetDescStringMajorMinorReleaseRevision(false);
         QCOMPARE(numbers, QString(kqDMIApplication::GetKernelVersion()));
         QCOMPARE(numbers.section('.', 0, 2), QString(Version::GetDescStringMajorMinorRelease(false)));

@@ -8,7 +8,7 @@
 #include <QtWidgets>
 
 /// Key and text, as a settings file or the registry holds them.
-typedef QMap<QString, QString> SettingsTexts;
+using SettingsTexts = QMap<QString, QString>;
 
 /// Replaces all registered defaults.
 inline void registerDefaults(const SettingsTexts& defaults)

@@ -14,7 +14,7 @@ using namespace zel;
 namespace {
 
 /// What widgets show, by their names.
-typedef QMap<QString, QVariant> Values;
+using Values = QMap<QString, QVariant>;
 
 const QStringList Flag = {"false", "true"};
 const QStringList Negated = {"true", "false"};

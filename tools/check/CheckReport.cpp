@@ -27,7 +27,7 @@ int badness(CheckState state)
 {
     const CheckState states[] = {CheckState::Clean, CheckState::Repaired, CheckState::NeedsRepair,
                                  CheckState::NotRepairable};
-    return int(std::find(std::begin(states), std::end(states), state) - std::begin(states));
+    return static_cast<int>(std::find(std::begin(states), std::end(states), state) - std::begin(states));
 }
 
 /// True for what could end a line or steer a terminal, and for half a character, which UTF-8 cannot hold.

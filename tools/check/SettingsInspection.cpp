@@ -15,7 +15,7 @@ namespace zel {
 
 namespace {
 
-typedef ZelSettingsRegistry::Settings::value_type Registered;
+using Registered = ZelSettingsRegistry::Settings::value_type;
 
 /// Why the validators replace a value by the default.
 const struct

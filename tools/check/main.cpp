@@ -261,6 +261,6 @@ int main(int argc, char** argv)
         return UsageError;
     }
     if (!options.help)
-        return int(runWithPlatform(options));
-    return int(print(QByteArray(Usage) + Help) ? CheckState::Clean : CheckState::NotRepairable);
+        return static_cast<int>(runWithPlatform(options));
+    return static_cast<int>(print(QByteArray(Usage) + Help) ? CheckState::Clean : CheckState::NotRepairable);
 }

@@ -1,18 +1,22 @@
 #include "platform/MTLogger.h"
 
-#include "platform/standin/ZelKernel/LogFile.h"
-
 #include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
 #include <QMutex>
 #include <QMutexLocker>
 #include <QStringList>
 
+#include <cstdio>
 #include <deque>
 
 namespace {
 
 /// How many of the latest events are kept while there is no handler.
 const std::size_t KeptEvents = 1000;
+
+/// A log file of more bytes is set aside before it is opened.
+const qint64 SizeLimit = 5LL * 1024 * 1024;
 
 struct Event
 {
@@ -29,11 +33,9 @@ public:
         const QMutexLocker locker(&m_mutex);
         m_diagnostics = diagnostics;
         m_blackList = blackList;
-        if (!m_file.open(path))
-            return;
-        for (const Event& event : m_kept)
-            write(event);
-        m_kept.clear();
+        open(path);
+        for (; m_file.isOpen() && !m_kept.empty(); m_kept.pop_front())
+            write(m_kept.front());
     }
 
     void remove()
@@ -55,15 +57,34 @@ public:
     }
 
 private:
+    void open(const QString& path)
+    {
+        m_file.close();
+        m_file.setFileName(path);
+        const QFileInfo file(path);
+        if (file.isFile() && file.size() > SizeLimit) {
+            QFile::remove(path + ".1");
+            QFile::rename(path, path + ".1");
+        }
+        // Opening a pipe would wait for its reader.
+        const bool special = file.exists() && !file.isFile();
+        if (special || !m_file.open(QIODevice::Append | QIODevice::Text | QIODevice::Unbuffered)) {
+            const QString reason = special ? QString("it is not a file") : m_file.errorString();
+            std::printf("The log file \"%s\" cannot be opened: %s\n", path.toUtf8().constData(),
+                        reason.toUtf8().constData());
+            std::fflush(stdout);
+        }
+    }
+
     void write(const Event& event)
     {
         const bool debug = event.type.compare("debug", Qt::CaseInsensitive) == 0;
         if ((m_diagnostics || !debug) && !m_blackList.contains(event.type, Qt::CaseInsensitive))
-            m_file.append(event.line);
+            m_file.write(event.line);
     }
 
     QMutex m_mutex;
-    LogFile m_file;
+    QFile m_file; // Unbuffered, so that no event is lost in a crash.
     bool m_diagnostics = false;
     QStringList m_blackList;
     std::deque<Event> m_kept;
@@ -80,7 +101,7 @@ QString fromUtf8(const std::string& text)
     return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
 }
 
-/// Escapes whatever could end the line or steer a terminal that shows it.
+/// Escapes what could end the line or control a terminal that shows it.
 QString onOneLine(const QString& text)
 {
     QString line;

@@ -1,5 +1,7 @@
 #include "platform/kqDMIApplication.h"
 
+#include "base/VersionNumbers.h"
+
 #include <QDesktopServices>
 #include <QFile>
 #include <QRegExp>
@@ -40,5 +42,5 @@ void kqDMIApplication::OpenUrl(const QUrl& url)
 
 QString kqDMIApplication::GetKernelVersion()
 {
-    return "1.1.0.85";
+    return ZEL_MAJOR_MINOR_RELEASE_REVISION;
 }

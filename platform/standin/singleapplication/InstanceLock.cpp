@@ -1,22 +1,56 @@
 #include "InstanceLock.h"
 
+#include <QCryptographicHash>
+#include <QDir>
 #include <QFile>
 
 #if defined(_WIN32)
+#    include <lmcons.h>
 #    include <windows.h>
 #else
 #    include <cerrno>
 #    include <fcntl.h>
 #    include <sys/file.h>
+#    include <sys/stat.h>
+#    include <sys/un.h>
 #    include <unistd.h>
 #endif
 
-InstanceLock::InstanceLock(const QString& name)
-    : m_name(name)
+namespace {
+
+const char Prefix[] = "single-instance-";
+
+/// A name of fixed length, because the path of a socket may have some hundred bytes at most.
+QString nameOf(const QString& id)
 {
+    const QByteArray hash = QCryptographicHash::hash(id.toUtf8(), QCryptographicHash::Sha1).toHex();
+    return Prefix + QString::fromLatin1(hash.left(20));
 }
 
+} // namespace
+
 #if defined(_WIN32)
+
+namespace {
+
+/// Pipes have one name space for all users of a machine.
+QString sessionAndUser()
+{
+    wchar_t name[UNLEN + 1] = L"";
+    DWORD size = UNLEN + 1;
+    GetUserNameW(name, &size);
+    DWORD session = 0;
+    ProcessIdToSessionId(GetCurrentProcessId(), &session);
+    return QString("%1/%2").arg(session).arg(QString::fromWCharArray(name));
+}
+
+} // namespace
+
+InstanceLock::InstanceLock(const QString& id)
+    : m_server(nameOf(id + '/' + sessionAndUser()))
+    , m_name("Local\\" + m_server)
+{
+}
 
 InstanceLock::~InstanceLock()
 {
@@ -45,6 +79,50 @@ InstanceLock::Result InstanceLock::tryAcquire()
 
 #else
 
+namespace {
+
+bool isPrivate(const QString& folder)
+{
+    struct stat info;
+    return ::lstat(QFile::encodeName(folder).constData(), &info) == 0 && S_ISDIR(info.st_mode) &&
+           info.st_uid == ::geteuid() && (info.st_mode & 0777) == 0700;
+}
+
+bool fitsSocket(const QString& path)
+{
+    return QFile::encodeName(path).size() < static_cast<int>(sizeof(sockaddr_un().sun_path));
+}
+
+/// The first private folder in which a socket of that name can be; empty when there is none.
+QString privateFolder(const QString& socketName)
+{
+    const QString runtime = QDir::cleanPath(QFile::decodeName(qgetenv("XDG_RUNTIME_DIR")));
+    if (QDir::isAbsolutePath(runtime) && isPrivate(runtime) && fitsSocket(runtime + '/' + socketName))
+        return runtime;
+    for (const QString& shared : {QDir(QDir::tempPath()).absolutePath(), QString("/tmp")}) {
+        const QString own = QString("%1/%2%3").arg(shared, Prefix).arg(::geteuid());
+        if (!fitsSocket(own + '/' + socketName))
+            continue;
+        // An earlier start, or another user, may have made it already: what counts is what it is now.
+        ::mkdir(QFile::encodeName(own).constData(), 0700);
+        if (isPrivate(own))
+            return own;
+    }
+    return QString();
+}
+
+} // namespace
+
+InstanceLock::InstanceLock(const QString& id)
+{
+    const QString name = nameOf(id);
+    const QString folder = privateFolder(name + ".socket");
+    if (folder.isEmpty())
+        return;
+    m_server = folder + '/' + name + ".socket";
+    m_name = folder + '/' + name + ".lock";
+}
+
 InstanceLock::~InstanceLock()
 {
     // The file stays: were it removed, one process could lock the old file and another one a new file.
@@ -61,8 +139,8 @@ InstanceLock::Result InstanceLock::tryAcquire()
 {
     if (isHeld())
         return Held;
-    const int file =
-        ::open(QFile::encodeName(m_name).constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+    const int flags = O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW;
+    const int file = m_name.isEmpty() ? -1 : ::open(QFile::encodeName(m_name).constData(), flags, 0600);
     if (file < 0)
         return Failed;
     if (::flock(file, LOCK_EX | LOCK_NB) == 0) {

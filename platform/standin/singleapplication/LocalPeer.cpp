@@ -1,18 +1,23 @@
 #include "LocalPeer.h"
 
-#include "LocalMessage.h"
-#include "LocalPeerConnection.h"
-
 #include <QElapsedTimer>
 #include <QLocalSocket>
 #include <QThread>
+#include <QTimer>
+#include <QtEndian>
 
 namespace {
 
-const int MaxConnections = 32;
-const int RetryInterval = 25; // milliseconds
+const char Mark[] = "msg1";
+const int MarkSize = sizeof(Mark) - 1;
+const int HeaderSize = MarkSize + sizeof(quint32);
+const int AcknowledgementSize = sizeof(LocalMessage::Acknowledgement) - 1;
 
-/// Gives the function away that some versions of the toolkit keep protected.
+const int MaxConnections = 32;
+const int ConnectionTime = 2000; // milliseconds
+const int RetryInterval = 25;    // milliseconds
+
+/// msleep() is protected in Qt 4.
 struct Pause : QThread
 {
     using QThread::msleep;
@@ -45,7 +50,7 @@ bool deliver(const QString& server, const QByteArray& message, const Deadline& d
         if (!socket.waitForBytesWritten(deadline.remaining()))
             return false;
     }
-    while (socket.bytesAvailable() < LocalMessage::AcknowledgementSize) {
+    while (socket.bytesAvailable() < AcknowledgementSize) {
         if (!socket.waitForReadyRead(deadline.remaining()))
             return false;
     }
@@ -54,23 +59,74 @@ bool deliver(const QString& server, const QByteArray& message, const Deadline& d
 
 } // namespace
 
+QByteArray LocalMessage::encode(const QString& message)
+{
+    const QByteArray text = message.toUtf8();
+    if (text.size() > MaxSize - HeaderSize)
+        return QByteArray();
+    uchar length[sizeof(quint32)];
+    qToBigEndian(static_cast<quint32>(text.size()), length);
+    return Mark + QByteArray(reinterpret_cast<const char*>(length), sizeof(length)) + text;
+}
+
+LocalMessage::Result LocalMessage::read(QLocalSocket& socket, QString& message)
+{
+    const QByteArray header = socket.peek(HeaderSize);
+    if (!header.startsWith(QByteArray(Mark).left(header.size())))
+        return Invalid;
+    if (header.size() < HeaderSize)
+        return Incomplete;
+    const auto length =
+        qFromBigEndian<quint32>(reinterpret_cast<const uchar*>(header.constData() + MarkSize));
+    if (length > static_cast<quint32>(MaxSize - HeaderSize))
+        return Invalid;
+    if (socket.bytesAvailable() < HeaderSize + static_cast<qint64>(length))
+        return Incomplete;
+    const QByteArray text = socket.read(HeaderSize + length).mid(HeaderSize);
+    message = QString::fromUtf8(text.constData(), text.size());
+    return Complete;
+}
+
+LocalPeerConnection::LocalPeerConnection(QLocalSocket* socket, QObject* parent)
+    : QObject(parent)
+    , m_socket(socket)
+{
+    m_socket->setParent(this);
+    // What does not fit stays with the peer, however much that has to send.
+    m_socket->setReadBufferSize(LocalMessage::MaxSize);
+    connect(m_socket, SIGNAL(readyRead()), this, SLOT(read()));
+    connect(m_socket, SIGNAL(disconnected()), this, SLOT(deleteLater()));
+    QTimer::singleShot(ConnectionTime, this, SLOT(deleteLater()));
+}
+
+void LocalPeerConnection::read()
+{
+    QString message;
+    const LocalMessage::Result result = LocalMessage::read(*m_socket, message);
+    if (result == LocalMessage::Incomplete)
+        return;
+    disconnect(m_socket, SIGNAL(readyRead()), this, SLOT(read()));
+    if (result == LocalMessage::Invalid) {
+        deleteLater();
+        return;
+    }
+    // The peer ends the connection: were it done here, a pipe could lose the acknowledgement.
+    m_socket->write(LocalMessage::Acknowledgement, AcknowledgementSize);
+    m_socket->flush();
+    Q_EMIT messageReceived(message);
+}
+
 LocalPeer::LocalPeer(const QString& id, QObject* parent)
     : QObject(parent)
     , m_id(id)
-    , m_address(id)
-    , m_lock(m_address.lock())
+    , m_lock(id)
 {
     connect(&m_server, SIGNAL(newConnection()), this, SLOT(acceptConnections()));
 }
 
-QString LocalPeer::id() const
-{
-    return m_id;
-}
-
 bool LocalPeer::isClient()
 {
-    const InstanceLock::Result result = m_address.isValid() ? m_lock.tryAcquire() : InstanceLock::Failed;
+    const InstanceLock::Result result = m_lock.tryAcquire();
     if (result == InstanceLock::Held && !m_server.isListening())
         listen();
     else if (result == InstanceLock::Failed)
@@ -84,10 +140,10 @@ bool LocalPeer::sendMessage(const QString& message, int timeout)
     const QByteArray bytes = LocalMessage::encode(message);
     // The lock is not tried here: a process that is about to end would become the instance for a moment, and
     // one that starts just then would take it for one.
-    if (bytes.isNull() || !m_address.isValid() || m_lock.isHeld())
+    if (bytes.isNull() || m_lock.server().isEmpty() || m_lock.isHeld())
         return false;
     // The instance may not listen yet, or have too many peers at the moment.
-    while (!deliver(m_address.server(), bytes, deadline)) {
+    while (!deliver(m_lock.server(), bytes, deadline)) {
         if (deadline.remaining() == 0)
             return false;
         Pause::msleep(static_cast<unsigned long>(qMin(RetryInterval, deadline.remaining())));
@@ -101,8 +157,8 @@ void LocalPeer::listen()
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
 #endif
     // This process has the lock, so a socket that is there belongs to one that was killed.
-    QLocalServer::removeServer(m_address.server());
-    if (!m_server.listen(m_address.server()))
+    QLocalServer::removeServer(m_lock.server());
+    if (!m_server.listen(m_lock.server()))
         qWarning("Other instances cannot reach this one: %s", qPrintable(m_server.errorString()));
 }
 

@@ -1,0 +1,66 @@
+#include "launch.h"
+
+#include <QtSingleApplication>
+#include <QtTest>
+
+namespace {
+
+const char* const Role = "TST_LAUNCH_ROLE"; // Set in the second instance.
+
+/// Runs inside launch(), as soon as there is an application.
+void writeMessages()
+{
+    if (!qEnvironmentVariableIsSet(Role))
+        return;
+    for (const char* text : {"QGLShader", "QGLShader: cannot compile", "QGL", "qglshader", " QGLShader"})
+        qWarning("%s", text);
+}
+
+} // namespace
+
+Q_COREAPP_STARTUP_FUNCTION(writeMessages)
+
+/// Starts this program a second time, as a second instance of the editor.
+class tst_launch : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void secondInstancePassesItsArgumentsOn()
+    {
+        auto* application = static_cast<QtSingleApplication*>(QCoreApplication::instance());
+        QVERIFY(!application->isRunning());
+        QSignalSpy received(application, SIGNAL(messageReceived(QString)));
+        const QPair<QStringList, QString> messages[] = {
+            {{}, ""},
+            {{"a", "b"}, "a?b?"},
+            {{"", "c?d", QString::fromUtf8("\303\274 \360\237\252\221")},
+             QString::fromUtf8("?c?d?\303\274 \360\237\252\221?")}};
+        for (const auto& [arguments, message] : messages) {
+            QProcess second;
+            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+            environment.insert(Role, "second");
+            second.setProcessEnvironment(environment);
+            second.setWorkingDirectory(QCoreApplication::applicationDirPath() + "/../stage");
+            second.start(QCoreApplication::applicationFilePath(), arguments);
+            received.clear();
+            QTRY_COMPARE_WITH_TIMEOUT(second.state(), QProcess::NotRunning, 60000);
+            QCOMPARE(second.exitCode(), 0);
+            QTRY_COMPARE(received.value(0).value(0).toString(), message);
+            QCOMPARE(second.readAllStandardOutput(), QByteArray("QGL\nqglshader\n QGLShader\n"));
+        }
+    }
+};
+
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsSet(Role))
+        return launch(argc, argv);
+    // Apart from every other run of this test.
+    const QTemporaryDir runtime;
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime.path()));
+    QtSingleApplication application(argc, argv);
+    tst_launch test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_launch.moc"
