@@ -3,8 +3,8 @@
 
 namespace zel {
 
-/// Makes the folder above the running executable's folder the working folder, because the toolkit's plug-ins
-/// and the translations are looked up relative to it. False when the operating system does not allow it.
+/// Makes the folder above the executable's folder the working directory: Qt's plug-ins and the translations
+/// are found relative to it. False when the operating system does not allow it.
 bool enterApplicationRoot();
 
 } // namespace zel

@@ -1,8 +1,8 @@
 #ifndef ZEL_ZELEXPORT_H
 #define ZEL_ZELEXPORT_H
 
-// Marks what a library shows to its callers; all else stays hidden. CMake defines <target>_EXPORTS while it
-// compiles the target itself.
+// Marks what a library exports; everything else is hidden. CMake defines <target>_EXPORTS while it compiles
+// the target itself.
 
 #if defined(_WIN32)
 #    define ZEL_SYMBOL_EXPORT __declspec(dllexport)
@@ -26,7 +26,7 @@
 #    define ZEL_KERNEL_EXPORT ZEL_SYMBOL_IMPORT
 #endif
 
-/// The part of the viewer's kernel that does.
+/// The part of the viewer's kernel that needs widgets.
 #if defined(ZelKernelGui_EXPORTS)
 #    define ZEL_KERNEL_GUI_EXPORT ZEL_SYMBOL_EXPORT
 #else

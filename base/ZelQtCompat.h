@@ -1,8 +1,7 @@
 #ifndef ZEL_ZELQTCOMPAT_H
 #define ZEL_ZELQTCOMPAT_H
 
-// The few differences between the toolkit's versions 4.8 and 5, and between operating systems, that product
-// code meets.
+// The differences between Qt 4.8 and Qt 5, and between operating systems, that concern product code.
 
 #include <QCoreApplication>
 #include <QString>
@@ -11,45 +10,45 @@
 
 namespace zel {
 
-/// What QString::split takes to drop empty parts.
+/// Makes QString::split() drop empty parts.
 #if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
 const Qt::SplitBehavior SkipEmptyParts = Qt::SkipEmptyParts;
 #else
 const QString::SplitBehavior SkipEmptyParts = QString::SkipEmptyParts;
 #endif
 
-/// Whether the toolkit's settings replace their file in one step, or else rewrite it in place.
+/// Whether QSettings replaces its file in one step; else it rewrites the file in place.
 const bool SettingsReplaceTheirFile = QT_VERSION >= QT_VERSION_CHECK(5, 10, 0);
 
-/// Hands every message of the toolkit, whatever its type, to a function for as long as it lives.
+/// While it exists, every message of Qt, of any type, goes to a function.
 template <void (*Sink)(const QString& text)>
-class ToolkitMessageSink
+class QtMessageSink
 {
 public:
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
-    ToolkitMessageSink()
-        : m_former(qInstallMessageHandler(&forward))
+    QtMessageSink()
+        : m_previous(qInstallMessageHandler(&forward))
     {
     }
 
-    ~ToolkitMessageSink()
+    ~QtMessageSink()
     {
-        qInstallMessageHandler(m_former);
+        qInstallMessageHandler(m_previous);
     }
 #else
-    ToolkitMessageSink()
-        : m_former(qInstallMsgHandler(&forward))
+    QtMessageSink()
+        : m_previous(qInstallMsgHandler(&forward))
     {
     }
 
-    ~ToolkitMessageSink()
+    ~QtMessageSink()
     {
-        qInstallMsgHandler(m_former);
+        qInstallMsgHandler(m_previous);
     }
 #endif
 
-    ToolkitMessageSink(const ToolkitMessageSink&) = delete;
-    ToolkitMessageSink& operator=(const ToolkitMessageSink&) = delete;
+    QtMessageSink(const QtMessageSink&) = delete;
+    QtMessageSink& operator=(const QtMessageSink&) = delete;
 
 private:
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
@@ -58,25 +57,25 @@ private:
         Sink(text);
     }
 
-    const QtMessageHandler m_former;
+    const QtMessageHandler m_previous;
 #else
     static void forward(QtMsgType, const char* text)
     {
         Sink(QString::fromLocal8Bit(text));
     }
 
-    const QtMsgHandler m_former;
+    const QtMsgHandler m_previous;
 #endif
 };
 
-/// True for the native window by which some versions of the toolkit receive input before a widget does.
+/// True for the native window by which Qt 5 receives input before a widget does.
 inline bool isNativeWindow(const QObject* object)
 {
     return object->inherits("QWindow");
 }
 
-/// Lets the interface follow the screen's scale where the toolkit can. To be called before the application
-/// object exists.
+/// Makes the interface follow the screen's scale, from Qt 5.6 on. Call it before the application object
+/// exists.
 inline void followScreenScale()
 {
 #if QT_VERSION >= QT_VERSION_CHECK(5, 6, 0)
@@ -86,8 +85,8 @@ inline void followScreenScale()
 }
 
 /// Reads and writes file names and arguments as UTF-8, also where the process has no locale: under the "C"
-/// locale the toolkit would replace every other character by a question mark. Windows passes names in
-/// Unicode.
+/// locale Qt would replace each non-ASCII character by a question mark. On Windows names are in Unicode
+/// anyway.
 inline void useUtf8FileNames()
 {
 #if !defined(Q_OS_WIN)

@@ -1,6 +1,5 @@
-// The baseline of a start: the toolkit, and a window with nothing in it.
-//   empty_window [PLUGINS]    the folder of the toolkit's plug-ins, where the toolkit itself has them unless
-//   given
+// The baseline of a start: Qt and an empty window.
+//   empty_window [PLUGINS]    the folder of Qt's plug-ins; Qt's own unless given
 
 #include <QApplication>
 #include <QWidget>

@@ -1,10 +1,9 @@
-// Starts a program and tells, from outside, how long it takes until its window is painted, and what it takes
-// of the memory:
+// Starts a program and measures, from outside, the time until its window is painted and its memory:
 //   first_frame COMMAND [ARGUMENT...]
-// prints the milliseconds until then and the peak of the resident memory, in kilobytes, once the window is at
+// prints the time in milliseconds, and the peak of the resident memory in kilobytes once the window is at
 // rest.
 //
-// The toolkit's windows have no background of their own, so a new window shows what was on the screen before.
+// Qt's windows have no background of their own, so a new window shows what was on the screen before.
 // The screen is therefore filled with a colour that nothing else uses; the first frame is complete when that
 // colour is gone from the middle row and the middle column of the window. The display must have no window
 // manager, which would put its own frame around the window.
@@ -27,7 +26,7 @@ namespace {
 using Clock = std::chrono::system_clock;
 
 const uint32_t Unpainted = 0xff00ff;
-const int SmallestWindow = 100; // Pixels; what is smaller is no window of a user's.
+const int SmallestWindow = 100; // Pixels; smaller windows are not the user's.
 const auto PollInterval = std::chrono::microseconds(500);
 const auto Patience = std::chrono::seconds(30);
 const auto UntilRest = std::chrono::milliseconds(1000); // The slides take 350 ms.
@@ -61,7 +60,7 @@ bool hasEnded(pid_t process)
     return waitpid(process, nullptr, WNOHANG) == process;
 }
 
-/// The program's window, or none if the program has ended or takes too long.
+/// The program's window; none if the program has ended or takes too long.
 bool awaitWindow(xcb_connection_t* display, pid_t process, xcb_get_geometry_reply_t& geometry,
                  xcb_window_t& window)
 {

@@ -75,12 +75,12 @@ def main():
     def seconds(name):
         return MEDIAN(results[name]) / 1e3
 
-    rows = [row("Start to the first painted frame, beside an empty toolkit window",
+    rows = [row("Start to the first painted frame, beside an empty Qt window",
                 seconds("start torvane"), seconds("start empty"), time_text, most_ratio=1.5),
             row("– beside an empty window that loads no more plug-ins than the editor",
                 seconds("start torvane"), seconds("start empty, same plug-ins"), time_text)]
     for name, limit in (("empty", 1.25), ("empty, same plug-ins", None)):
-        rows.append(row("Peak of the memory, beside an empty toolkit window" if limit else "– with the same plug-ins",
+        rows.append(row("Peak of the memory, beside an empty Qt window" if limit else "– with the same plug-ins",
                         MEDIAN(results["memory torvane"]) / 1024, MEDIAN(results["memory " + name]) / 1024,
                         lambda number: text(number, "MB"), most_ratio=limit))
     for keys in (10, 1000, 100000):
@@ -97,7 +97,7 @@ def main():
         where = size.replace(" ", " × ")
         for name, what, most, measure in (
                 ("opening", "First opening of the drawer until it is seen", None, MEDIAN),
-                ("cost", "Dearest frame of all slides, processor time", 0.016, max),
+                ("cost", "Most expensive frame of all slides, processor time", 0.016, max),
                 ("interval", "From one frame to the next", None, MEDIAN)):
             ours, base = (measure([number for run in slides(results, size, kind, name) for number in run]) / 1e3
                           for kind in ("torvane", "plain"))
@@ -122,11 +122,11 @@ The control center and its pages are measured in a start of their own; together 
 - *First painted frame*: an X client fills the empty screen with a colour, starts the program and looks, every half
   millisecond, whether that colour is gone from the middle row and the middle column of the program's window.
 - *Peak of the memory*: `VmHWM` a second after the first frame, when the drawer has opened.
-- *Validation pass*: the file lies in memory and is put there anew each time, so that it is really read. The plain
+- *Validation pass*: the file lies in memory and is written again each time, so that it is really read. The plain
   reading and writing visits the same keys in the same order and stores what it has read.
-- *Slides*: the stand-alone window; the baseline slides a column and a drawer of as many unadorned toolkit widgets. The
+- *Slides*: the stand-alone window; the baseline slides a column and a drawer of the same number of plain Qt widgets. The
   cost of a frame is the processor time of the process from the end of one frame to the end of the next; the interval
-  between them follows the 16 ms clock of the toolkit's animations.""")
+  between them follows the 16 ms clock of Qt's animations.""")
 
 
 if __name__ == "__main__":

@@ -1,5 +1,5 @@
-// What runs inside the process: the validation pass, beside plain reading and writing of the same file, and
-// one edit, beside the same edit of a spin box that nobody listens to.
+// Measures inside the process: the validation pass beside plain reading and writing of the same file, and one
+// edit beside the same edit of a spin box without connections.
 
 #include "ZelAboutSettingsPanel.h"
 #include "ZelControlCenter.h"
@@ -20,7 +20,7 @@ namespace {
 
 using V = ZelSettingsValidators;
 
-/// The kinds of settings, as often as the pages and the library itself have them.
+/// The kinds of settings, in the numbers in which the library has them.
 const struct
 {
     int count;
@@ -120,7 +120,7 @@ void pass(QSettings& settings)
         qFatal("the validation pass fails");
 }
 
-/// What a start does: the pass, and all that protects the file.
+/// The pass of a start, with everything that protects the file.
 void repair(QSettings& settings)
 {
     QString error;

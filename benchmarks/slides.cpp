@@ -2,8 +2,8 @@
 // how smoothly menu and drawer slide.
 //   slides WIDTH HEIGHT [--plain]
 // prints "name <tab> milliseconds" for the first opening and for every frame of the slides: its cost, which
-// is the time that the process is busy for it, and the interval since the frame before. --plain slides,
-// instead, as many unadorned toolkit widgets.
+// is the processor time spent on it, and the interval since the previous frame. --plain slides the same
+// number of plain Qt widgets instead.
 
 #include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
@@ -177,7 +177,7 @@ void measurePlain(int widgets, const QSize& size)
 int main(int argc, char** argv)
 {
     QCoreApplication::setLibraryPaths({"bin"});
-    const QApplication toolkit(argc, argv);
+    const QApplication qt(argc, argv);
     const QStringList arguments = QApplication::arguments();
     const QSize size(arguments.value(1).toInt(), arguments.value(2).toInt());
 

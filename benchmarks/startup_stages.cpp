@@ -1,7 +1,7 @@
-// Tells where the time of a start goes: takes the same steps as launch() and prints what each of them takes,
-// in milliseconds, as "stage <tab> time". To be started by first_frame, which sets the time that all counts
-// from.
-//   startup_stages [--pages]    takes the window apart, instead, into the control center and its pages
+// Measures the stages of a start: takes the same steps as launch() and prints the time of each, in
+// milliseconds, as "stage <tab> time". first_frame starts it and sets the time that the first stage begins
+// at.
+//   startup_stages [--pages]    measures the control center and each page instead of the window
 
 #include "ZelAboutSettingsPanel.h"
 #include "ZelControlCenter.h"

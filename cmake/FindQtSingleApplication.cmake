@@ -1,5 +1,5 @@
 # Finds a genuine single-instance library below QtSingleApplication_ROOT: its headers, and either a library or its two
-# source files. Makes the target QtSingleApplication::QtSingleApplication.
+# source files. Defines the target QtSingleApplication::QtSingleApplication.
 
 include(FindPackageHandleStandardArgs)
 
@@ -27,7 +27,7 @@ if(QtSingleApplication_FOUND AND NOT TARGET QtSingleApplication::QtSingleApplica
     else()
         add_library(GenuineSingleApplication STATIC ${QtSingleApplication_SOURCE_DIR}/qtsingleapplication.cpp
                                                     ${QtSingleApplication_SOURCE_DIR}/qtlocalpeer.cpp)
-        # The sources are not ours to mend.
+        # The sources are not ours, so their warnings do not concern this build.
         target_compile_options(GenuineSingleApplication PRIVATE -w)
         target_include_directories(GenuineSingleApplication SYSTEM PUBLIC ${QtSingleApplication_INCLUDE_DIR})
         target_link_libraries(GenuineSingleApplication PUBLIC ${ZEL_QT_WIDGETS} ${ZEL_QT_NETWORK})

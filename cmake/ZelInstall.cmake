@@ -23,11 +23,13 @@ foreach(folder IN LISTS ZEL_PLUGIN_FOLDERS)
 endforeach()
 set(ZEL_LANGUAGE_DIR resources/languages)
 install(DIRECTORY ${ZEL_STAGE}/${ZEL_LANGUAGE_DIR} DESTINATION resources)
+set(ZEL_DEFAULTS resources/Defaults.ini)
+install(FILES ${ZEL_STAGE}/${ZEL_DEFAULTS} DESTINATION resources)
 
 install(EXPORT ZelTargets NAMESPACE Zel:: DESTINATION ${zel_package_dir} COMPONENT headers)
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/ZelControlCenterConfig.cmake.in
                               ${PROJECT_BINARY_DIR}/ZelControlCenterConfig.cmake
-                              INSTALL_DESTINATION ${zel_package_dir} PATH_VARS ZEL_LANGUAGE_DIR)
+                              INSTALL_DESTINATION ${zel_package_dir} PATH_VARS ZEL_LANGUAGE_DIR ZEL_DEFAULTS)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/ZelControlCenterConfigVersion.cmake
                                  COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/ZelControlCenterConfig.cmake

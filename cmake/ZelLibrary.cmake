@@ -6,7 +6,7 @@ get_property(zel_public_headers GLOBAL PROPERTY ZEL_PUBLIC_HEADERS)
 add_library(ZelControlCenter SHARED)
 add_library(Zel::ControlCenter ALIAS ZelControlCenter)
 set_target_properties(ZelControlCenter PROPERTIES EXPORT_NAME ControlCenter)
-# The modules' objects go into the library; their include folders and links are not its users' business.
+# The modules' objects go into the library; users of the library need neither their include folders nor their links.
 foreach(module IN LISTS zel_modules)
     target_sources(ZelControlCenter PRIVATE $<TARGET_OBJECTS:${module}>)
 endforeach()

@@ -6,7 +6,7 @@ set(CMAKE_AUTOUIC ON)
 set(CMAKE_AUTORCC ON)
 
 # zel_add_module(<name> SOURCES <file>... PUBLIC_HEADERS <file>... LINK <target>...)
-# LINK names toolkit or platform targets, and modules whose headers this one may include.
+# LINK names Qt or platform targets, and modules whose headers this one may include.
 function(zel_add_module name)
     cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC_HEADERS;LINK" ${ARGN})
     add_library(${name} OBJECT ${ARG_SOURCES} ${ARG_PUBLIC_HEADERS})

@@ -1,16 +1,16 @@
-# The runnable tree that the build makes; `install` makes the same one. At run time the library looks for the
-# toolkit's plug-ins in "bin" and for translations in "resources/languages", both below the working folder.
+# The runnable tree that the build makes; `install` makes the same one. At run time the library looks for Qt's
+# plug-ins in "bin" and for translations in "resources/languages", both below the working directory.
 
 set(ZEL_STAGE ${PROJECT_BINARY_DIR}/stage)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${ZEL_STAGE}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${ZEL_STAGE}/lib)
 
-# The trees are alike, so one path relative to the loading file serves both.
+# Both trees have the same shape, so one path relative to the loading file serves both.
 set(CMAKE_INSTALL_LIBDIR lib)
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../lib")
 
-# Without xcbglintegrations: nothing here draws with OpenGL, and finding its drivers takes as long as all pages.
+# Without xcbglintegrations: nothing here draws with OpenGL, and finding its drivers takes as long as building all pages.
 set(ZEL_PLUGIN_FOLDERS iconengines imageformats platforminputcontexts platforms platformthemes styles)
 if(WIN32)
     set(CMAKE_SHARED_LIBRARY_PREFIX "") # MinGW would name them as on Unix.

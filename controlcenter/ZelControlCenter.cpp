@@ -2,13 +2,15 @@
 
 #include "ui_ControlCenter.h"
 
+#include "ControlCenterActions.h"
 #include "DrawerLayout.h"
 #include "EnableButton.h"
+#include "ReturnKey.h"
 #include "StyleSheetPause.h"
 #include "ZelCCActionItem.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsPanel.h"
-#include "base/Accessibility.h"
+#include "base/ZelAccessibility.h"
 #include "base/ZelQtCompat.h"
 
 #include "platform/kqDMGuiPlugin.h"
@@ -52,6 +54,20 @@ QMessageBox::StandardButton showMessage(const QString& text, QMessageBox::Standa
     return kqMessageBox::ShowMessage(QCoreApplication::translate("ZelControlCenter", "Settings Modification"),
                                      text, buttons, nullptr, Qt::WindowFlags(),
                                      QMap<QMessageBox::StandardButton, QString>(), false);
+}
+
+/// Marks the button of a page that has pending edits. The mark keeps its place while there are none.
+void markPending(QPushButton& button, bool pending)
+{
+    const QString tip = pending ? QCoreApplication::translate("ZelControlCenter",
+                                                              "This page has changes that are not applied.")
+                                : QCoreApplication::translate("ZelControlCenter", "Shows this page.");
+    if (button.toolTip() == tip)
+        return;
+    button.setIcon(QIcon(pending ? ":/controlCenter/controlCenter/pending.png"
+                                 : ":/controlCenter/controlCenter/pendingNone.png"));
+    button.setToolTip(tip);
+    button.setAccessibleDescription(tip);
 }
 
 /// Styles a widget and all its descendants. A combo box, for one, learns only from a change which kind of
@@ -110,6 +126,11 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
 
     // The scroll area itself follows the focus only within it.
     connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
+
+    new ReturnKey(this);
+    new ReturnKey(m_drawer);
+    connect(new ControlCenterActions(this, m_drawer, m_ui->applyButton, m_ui->resetButton),
+            SIGNAL(helpRequested(QWidget*)), this, SIGNAL(helpRequested(QWidget*)));
 
     m_pageGroup->setExclusive(true);
     showWriteError(QString());
@@ -255,6 +276,11 @@ void ZelControlCenter::setControlCenterButton(QPushButton* button)
 QScrollArea* ZelControlCenter::settingsWidget() const
 {
     return m_drawer;
+}
+
+int ZelControlCenter::OpenWidth()
+{
+    return MenuWidth + DrawerWidth;
 }
 
 int ZelControlCenter::controlCenterWidth() const
@@ -467,8 +493,17 @@ void ZelControlCenter::onStateChanged()
 {
     enableButton(*m_ui->resetButton,
                  std::any_of(m_panels.begin(), m_panels.end(),
-                             [](const ZelSettingsPanel* panel) { return panel->canResetContent(); }));
-    enableButton(*m_ui->applyButton, hasModifications());
+                             [](const ZelSettingsPanel* panel) { return panel->canResetContent(); }),
+                 m_pageGroup->checkedButton());
+    bool modified = false;
+    for (ZelSettingsPanel* panel : m_panels) {
+        const bool pending = panel->hasModifications();
+        if (QPushButton* button = panel->getActionWidget())
+            markPending(*button, pending);
+        modified = modified || pending;
+    }
+    enableButton(*m_ui->applyButton, modified, m_pageGroup->checkedButton());
+    Q_EMIT evaluated();
 }
 
 void ZelControlCenter::onControlCenterWidthFinished()
@@ -553,6 +588,8 @@ void ZelControlCenter::slideDrawer(bool open, bool keepEdits)
     if (!m_drawer)
         return;
     const bool wasVisible = m_drawer->isVisible();
+    // While the drawer closes, the buttons of the pages are still there, and must not be pushed down.
+    setActionSpace(open);
     m_ui->actionFrame->setVisible(!open);
     m_application->setUpdateEngineEnabled(false);
     if (open) {
@@ -609,8 +646,15 @@ void ZelControlCenter::closeDrawer()
 {
     m_settingsOpen = false;
     m_ui->preferenceFrame->hide();
+    setActionSpace(true);
     if (m_drawer)
         m_drawer->hide();
+}
+
+void ZelControlCenter::setActionSpace(bool given)
+{
+    m_ui->actionFrame->setMaximumHeight(given ? QWIDGETSIZE_MAX : 0);
+    m_ui->verticalLayout_5->setStretchFactor(m_ui->actionFrame, given ? 1 : 0);
 }
 
 void ZelControlCenter::forEachPanel(const std::function<void(ZelSettingsPanel*)>& action) const
@@ -632,7 +676,7 @@ void ZelControlCenter::showWriteError(const QString& error)
     m_ui->writeErrorLabel->setToolTip(error); // The column may be too narrow for a long path.
     m_ui->writeErrorLabel->setVisible(!error.isEmpty());
     if (!error.isEmpty())
-        alertScreenReaders(*m_ui->writeErrorLabel);
+        alertAbout(*m_ui->writeErrorLabel);
 }
 
 void ZelControlCenter::initializePanels()

@@ -43,6 +43,12 @@ class ZelSettingsPanel;
 /// The rules of Settings.ini (registry, validators, catalogue) are reached through this class too; they need
 /// no instance.
 ///
+/// What it can be told to do is among its actions(), by object name: "apply" and "reset", which press these
+/// buttons; "help", which emits helpRequested(); "putBack", which undoes what is being typed in a field;
+/// "pageUp", "pageDown", "top" and "bottom", which scroll the drawer. They have no shortcuts until the
+/// application gives them some; these work while the column or the drawer has the focus, unless it changes
+/// their context, too.
+///
 /// Registered pages and actions belong to their creators, who unregister them before they delete them. The
 /// application must outlive the control center. GUI thread only.
 class ZEL_EXPORT ZelControlCenter : public QWidget,
@@ -86,6 +92,9 @@ public:
     /// The drawer, for applications that lay it out themselves. Owned by the control center.
     QScrollArea* settingsWidget() const;
 
+    /// Width of the menu column and the drawer together, in pixels, while both are open.
+    static int OpenWidth();
+
     /// Width of the menu column in pixels; it is visible from 1 on.
     int controlCenterWidth() const;
     void setControlCenterWidth(int width);
@@ -121,11 +130,18 @@ public Q_SLOTS:
     /// Toggles the drawer.
     void openSettings();
 
+Q_SIGNALS:
+    /// What is stored, or what the pages show, may have changed: an edit, Apply, Reset, or a page that came
+    /// or went.
+    void evaluated();
+    /// The user asks what a field is about; null when no field has the focus.
+    void helpRequested(QWidget* field);
+
 protected Q_SLOTS:
     void on_applyButton_clicked();
     void on_resetButton_clicked();
     void onPanelClicked(const QString& pPanelName);
-    /// Re-evaluates the Apply and Reset buttons.
+    /// Re-evaluates the Apply and Reset buttons and the marks of the pages.
     void onStateChanged();
     void onControlCenterWidthFinished();
     void onSettingsWidthFinished();
@@ -163,6 +179,8 @@ private:
     void slideDrawer(bool open, bool keepEdits);
     void resumeEngineAtRest();
     void closeDrawer();
+    /// Whether the actions have room in the menu column while they are shown.
+    void setActionSpace(bool given);
     /// Calls a function for each page, in the order of registration. A page may register or unregister others
     /// meanwhile.
     void forEachPanel(const std::function<void(ZelSettingsPanel*)>& action) const;

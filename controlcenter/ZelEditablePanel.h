@@ -2,12 +2,17 @@
 #define ZEL_ZELEDITABLEPANEL_H
 
 #include "EnableButton.h"
+#include "ZelPageHelp.h"
 #include "ZelSettingsField.h"
 #include "ZelSettingsPanel.h"
 #include "ZelSettingsRegistry.h"
 
+#include <QCoreApplication>
 #include <QSettings>
+#include <QStringList>
 
+#include <algorithm>
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -84,6 +89,34 @@ public:
     virtual void saveSettings() {}
 
 protected:
+    /// A row of the page's help: a setting, which has one or more keys.
+    struct Help
+    {
+        QList<QWidget*> fields; ///< What shows and edits it.
+        const char* name;       ///< Null where the first field's name or label tells it.
+        const char* description;
+        QString range;
+        ZelSettingEffect effect;
+        QStringList keys;
+        /// The setting's value in a model, as the fields would show it.
+        std::function<QString(const Model&)> shown;
+        /// Takes the setting over from a model into another one. Null for what the fields of the keys hold.
+        std::function<void(Model& to, const Model& from)> take = nullptr;
+        bool tipIsValue = false; ///< The fields need their tool tips for their values.
+    };
+
+    /// Tells of some of the page's settings, or of all. To be called once the form is set up; the registry is
+    /// complete by then.
+    /// @param context  in which names and descriptions are translated
+    void describe(const char* context, const std::vector<Help>& rows)
+    {
+        auto* help = findChild<ZelPageHelp*>();
+        if (!help)
+            help = new ZelPageHelp(this);
+        for (const Help& row : rows)
+            help->add(settingHelp(context, row));
+    }
+
     void readSettings(Model& model) const
     {
         for (const auto& field : m_fields)
@@ -124,7 +157,7 @@ protected:
     void checkContent() const
     {
         if (auto* resetButton = findChild<QPushButton*>("resetButton"))
-            enableButton(*resetButton, canResetContent());
+            enableButton(*resetButton, canResetContent(), getActionWidget());
         else
             qWarning("The form of the page \"%s\" has no push button named \"resetButton\"",
                      qPrintable(getPanelName()));
@@ -138,6 +171,69 @@ protected:
     }
 
 private:
+    typedef void (ZelEditablePanel::*Reader)(Model& model) const;
+    typedef std::function<void(Model& to, const Model& from)> Taker;
+
+    Model read(Reader reader) const
+    {
+        Model model;
+        (this->*reader)(model);
+        return model;
+    }
+
+    /// What the widgets hold, but for a setting that is taken from elsewhere.
+    Model readWith(const Taker& take, Reader elsewhere) const
+    {
+        Model current = read(&ZelEditablePanel::getCurrentModel);
+        take(current, read(elsewhere));
+        return current;
+    }
+
+    ZelSettingHelp settingHelp(const char* context, const Help& row)
+    {
+        const auto keys = row.keys;
+        const auto shown = row.shown;
+        const Taker take = row.take ? row.take : taker(keys);
+        const auto differs = [this, take](Reader from) {
+            return !(readWith(take, from) == read(&ZelEditablePanel::getCurrentModel));
+        };
+        const auto replace = [this, take](Reader from) {
+            applyModel(readWith(take, from));
+            onEdited();
+        };
+        const auto hasDefault = [keys] {
+            return std::none_of(keys.begin(), keys.end(), [](const QString& key) {
+                return ZelSettingsRegistry::GetDefaultSettingsValue(key).isNull();
+            });
+        };
+        const Reader stored = &ZelEditablePanel::readSettings,
+                     defaults = &ZelEditablePanel::getDefaultSettings;
+
+        ZelSettingHelp help;
+        help.fields = row.fields;
+        help.name = row.name ? QCoreApplication::translate(context, row.name) : QString();
+        help.description = QCoreApplication::translate(context, row.description);
+        help.range = row.range;
+        help.effect = ZelPageHelp::effectText(row.effect);
+        help.tipIsValue = row.tipIsValue;
+        help.byDefault = [=] { return hasDefault() ? shown(read(defaults)) : QString(); };
+        help.stored = [=] { return shown(read(stored)); };
+        help.differsFromDefault = [=] { return hasDefault() && differs(defaults); };
+        help.differsFromStored = [=] { return differs(stored); };
+        help.useDefault = [=] { replace(defaults); };
+        help.putBack = [=] { replace(stored); };
+        return help;
+    }
+
+    Taker taker(const QStringList& keys) const
+    {
+        return [this, keys](Model& to, const Model& from) {
+            for (const auto& field : m_fields)
+                if (keys.contains(field.key))
+                    field.copy(to, from);
+        };
+    }
+
     const Fields m_fields;
 };
 

@@ -63,6 +63,7 @@ struct ZelSettingsField
         , readDefault(
               [=](Model& model, const QString& text) { model.*member = conversion.fromDefault(text); })
         , stored([=](const Model& model) { return conversion.toStored(model.*member); })
+        , copy([=](Model& to, const Model& from) { to.*member = from.*member; })
     {
     }
 
@@ -70,6 +71,7 @@ struct ZelSettingsField
     std::function<void(Model&, const QVariant& stored)> readStored;
     std::function<void(Model&, const QString& defaultText)> readDefault;
     std::function<QVariant(const Model&)> stored;
+    std::function<void(Model& to, const Model& from)> copy;
 };
 
 } // namespace zel

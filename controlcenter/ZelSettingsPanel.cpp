@@ -4,6 +4,8 @@
 
 #include "platform/kqDMIApplication.h"
 
+#include <QLocale>
+
 namespace zel {
 
 ZelSettingsPanel::ZelSettingsPanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
@@ -16,6 +18,9 @@ ZelSettingsPanel::ZelSettingsPanel(kqDMIApplication* application, QSettings& set
 {
     m_actionWidget->setCheckable(true);
     m_actionWidget->setAutoExclusive(true);
+    const QString language = application ? application->getLanguageCode() : QString();
+    if (!language.isEmpty())
+        setLocale(QLocale(language));
 }
 
 ZelSettingsPanel::~ZelSettingsPanel()

@@ -30,7 +30,8 @@ public:
     /// What a page is about, for applications that group their pages; the control center makes no use of it.
     enum PanelCategory { ProjectCategory = 0, ApplicationCategory = 1, AdvancedCategory = 2, NoCategory = 3 };
 
-    /// The page has no name and no category yet. The application may be null: nothing is then pushed to it.
+    /// The page has no name and no category yet. Its fields write numbers in the application's language. The
+    /// application may be null: nothing is then pushed to it.
     ZelSettingsPanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
                      Qt::WindowFlags flags);
     ~ZelSettingsPanel() override;

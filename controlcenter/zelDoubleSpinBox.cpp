@@ -3,7 +3,7 @@
 namespace zel {
 
 zelDoubleSpinBox::zelDoubleSpinBox(QWidget* parent)
-    : WheelGuard<QDoubleSpinBox>(parent)
+    : NumberBox<QDoubleSpinBox>(parent)
 {
 }
 

@@ -1,7 +1,7 @@
 #ifndef ZEL_ZELDOUBLESPINBOX_H
 #define ZEL_ZELDOUBLESPINBOX_H
 
-#include "WheelGuard.h"
+#include "NumberBox.h"
 #include "base/ZelExport.h"
 
 #include <QDoubleSpinBox>
@@ -10,7 +10,7 @@ namespace zel {
 
 /// A spin box for floating-point numbers that leaves the mouse wheel to the page around it until it has the
 /// focus.
-class ZEL_EXPORT zelDoubleSpinBox : public WheelGuard<QDoubleSpinBox>
+class ZEL_EXPORT zelDoubleSpinBox : public NumberBox<QDoubleSpinBox>
 {
     Q_OBJECT
 

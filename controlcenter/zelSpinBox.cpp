@@ -3,8 +3,13 @@
 namespace zel {
 
 zelSpinBox::zelSpinBox(QWidget* parent)
-    : WheelGuard<QSpinBox>(parent)
+    : NumberBox<QSpinBox>(parent)
 {
+}
+
+QString zelSpinBox::textFromValue(int value) const
+{
+    return locale().toString(value);
 }
 
 } // namespace zel

@@ -1,7 +1,7 @@
 #ifndef ZEL_ZELSPINBOX_H
 #define ZEL_ZELSPINBOX_H
 
-#include "WheelGuard.h"
+#include "NumberBox.h"
 #include "base/ZelExport.h"
 
 #include <QSpinBox>
@@ -9,12 +9,16 @@
 namespace zel {
 
 /// A spin box for integer numbers that leaves the mouse wheel to the page around it until it has the focus.
-class ZEL_EXPORT zelSpinBox : public WheelGuard<QSpinBox>
+/// It groups the digits as its locale does.
+class ZEL_EXPORT zelSpinBox : public NumberBox<QSpinBox>
 {
     Q_OBJECT
 
 public:
     explicit zelSpinBox(QWidget* parent = nullptr);
+
+protected:
+    QString textFromValue(int value) const override;
 };
 
 } // namespace zel

@@ -3,11 +3,13 @@
 #include "ui_ZelRendererSelector.h"
 
 #include "LabelImage.h"
+#include "base/ZelAccessibility.h"
 
 #include "platform/kqMovableObject.h"
 
 #include <QEvent>
 #include <QKeyEvent>
+#include <QTextDocumentFragment>
 #include <QVariant>
 
 namespace zel {
@@ -29,8 +31,12 @@ ZelRendererSelector::ZelRendererSelector(QWidget* parent, Qt::WindowFlags flags)
     kqMovableObject* movable = new kqMovableObject(this);
     movable->setAnchorObject(m_ui->titleFrame, this);
 
-    m_ui->raytracerButton->installEventFilter(this);
-    m_ui->deferredButton->installEventFilter(this);
+    for (QLabel* engine : {m_ui->raytracerButton, m_ui->deferredButton}) {
+        engine->installEventFilter(this);
+        const auto text = QTextDocumentFragment::fromHtml(engine->text());
+        engine->setAccessibleName(text.toPlainText().simplified());
+    }
+    announceChosen();
     m_ui->okButton->setFocus();
 }
 
@@ -43,7 +49,10 @@ bool ZelRendererSelector::useGPURenderer() const
 
 bool ZelRendererSelector::eventFilter(QObject* watched, QEvent* event)
 {
-    return event->type() == QEvent::MouseButtonRelease && choose(watched);
+    if (event->type() != QEvent::MouseButtonRelease)
+        return false;
+    static_cast<QWidget*>(watched)->setFocus();
+    return choose(watched);
 }
 
 void ZelRendererSelector::keyPressEvent(QKeyEvent* event)
@@ -56,7 +65,7 @@ void ZelRendererSelector::keyPressEvent(QKeyEvent* event)
         QDialog::keyPressEvent(event);
 }
 
-// Tells whether the choice changed.
+// True when the choice changed.
 bool ZelRendererSelector::choose(const QObject* engine)
 {
     const bool software = engine != m_ui->deferredButton;
@@ -65,7 +74,14 @@ bool ZelRendererSelector::choose(const QObject* engine)
     setProperty(SoftwareProperty, software);
     // Rules that depend on a property are evaluated only when the style sheet is set.
     setStyleSheet(styleSheet());
+    announceChosen();
     return true;
+}
+
+void ZelRendererSelector::announceChosen()
+{
+    announceChoice(*m_ui->raytracerButton, !useGPURenderer());
+    announceChoice(*m_ui->deferredButton, useGPURenderer());
 }
 
 void ZelRendererSelector::on_okButton_clicked()

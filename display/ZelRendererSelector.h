@@ -17,14 +17,14 @@ namespace zel {
 /// graphics card, "Low" the software raytracer. The dialog stores nothing: run it with exec() and ask
 /// useGPURenderer() when it was accepted.
 ///
-/// A click on "High" or "Low" chooses it, and so does Space on the one that has the focus. The window has no
-/// frame; it is moved by its title.
+/// A click on "High" or "Low" chooses it and gives it the focus; so does Space on the one that has the focus.
+/// The window has no frame; it is moved by its title.
 class ZEL_EXPORT ZelRendererSelector : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// "High" is chosen at first. The window is always frameless, whatever the flags say.
+    /// "High" is chosen at first. The window is always frameless, for any flags.
     explicit ZelRendererSelector(QWidget* parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
     ~ZelRendererSelector() override;
 
@@ -44,6 +44,7 @@ protected:
 
 private:
     bool choose(const QObject* engine);
+    void announceChosen();
 
     std::unique_ptr<Ui::ZelRendererSelector> m_ui;
 };

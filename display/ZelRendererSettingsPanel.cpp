@@ -32,6 +32,20 @@ const char* const QualityTexts[kqDMRenderer::QualityCount] = {
     QT_TRANSLATE_NOOP("ZelRendererSettingsPanel", "Ultra"),
 };
 
+QString qualityText(int quality)
+{
+    // The kernel may answer an unknown name with an index outside its list.
+    const int shown = qBound(0, quality, kqDMRenderer::QualityCount - 1);
+    return QCoreApplication::translate("ZelRendererSettingsPanel", QualityTexts[shown]);
+}
+
+QString coresText(int cores)
+{
+    const QString text = cores < 2 ? QCoreApplication::translate("ZelRendererSettingsPanel", "%1 core")
+                                   : QCoreApplication::translate("ZelRendererSettingsPanel", "%1 cores");
+    return text.arg(cores);
+}
+
 bool isSoftware(const QString& engine)
 {
     return engine == engines::Software;
@@ -88,7 +102,7 @@ quint64 shownNumber(const QSpinBox* box)
 
 void showNumber(QSpinBox* box, quint64 number)
 {
-    // Limited before the conversion: what exceeds an int must not come out as a small number.
+    // Limited before the conversion, which would make a small number of one that exceeds an int.
     box->setValue(static_cast<int>(qMin<quint64>(number, std::numeric_limits<int>::max())));
 }
 
@@ -132,9 +146,155 @@ ZelRendererSettingsPanel::ZelRendererSettingsPanel(kqDMIApplication* application
         m_ui->coreUsedSlider->setMaximum(cores);
     m_ui->qualitySlider->setMaximum(kqDMRenderer::QualityCount - 1);
     m_ui->extendOptionFrame->hide();
+    for (const auto& rows : {choiceHelp(), effectHelp(), limitHelp()})
+        describe("ZelRendererSettingsPanel", rows);
 }
 
 ZelRendererSettingsPanel::~ZelRendererSettingsPanel() = default;
+
+std::vector<ZelRendererSettingsPanel::Help> ZelRendererSettingsPanel::choiceHelp() const
+{
+    return {
+        {{m_ui->deferredButton, m_ui->raytracerButton},
+         QT_TRANSLATE_NOOP("ZelRendererSettingsPanel", "Rendering engine"),
+         QT_TRANSLATE_NOOP(
+             "ZelRendererSettingsPanel",
+             "Decides what draws your models. The high mode uses the graphics card; the low mode "
+             "uses the processor and runs everywhere. Only the settings of the chosen mode are "
+             "shown."),
+         ZelPageHelp::choiceText({m_ui->deferredButton, m_ui->raytracerButton}),
+         EffectAfterRestart,
+         {keys::Engine},
+         [this](const EngineModel& model) {
+             return (model.useSoftware ? m_ui->raytracerButton : m_ui->deferredButton)->text();
+         }},
+        {{m_ui->sceneUnitComboBox},
+         nullptr,
+         QT_TRANSLATE_NOOP(
+             "ZelRendererSettingsPanel",
+             "The unit in which your scene is modelled. SSAO sizes its shadows by it: with a wrong "
+             "unit they are too strong or cannot be seen. It counts only while SSAO is used."),
+         ZelPageHelp::rangeText(m_ui->sceneUnitComboBox->itemText(0),
+                                m_ui->sceneUnitComboBox->itemText(SceneUnitCount - 1)),
+         EffectAfterRestart,
+         {keys::SceneUnits},
+         [this](const EngineModel& model) {
+             return m_ui->sceneUnitComboBox->itemText(model.sceneUnitIndex);
+         }},
+        {{m_ui->qualitySlider},
+         nullptr,
+         QT_TRANSLATE_NOOP(
+             "ZelRendererSettingsPanel",
+             "How carefully the raytracer computes a picture. A higher quality looks better and "
+             "takes longer."),
+         ZelPageHelp::rangeText(qualityText(0), qualityText(kqDMRenderer::QualityCount - 1)),
+         EffectAfterRestart,
+         {keys::RaytracerQuality},
+         [](const EngineModel& model) { return qualityText(model.quality); }},
+        {{m_ui->coreUsedSlider},
+         nullptr,
+         QT_TRANSLATE_NOOP(
+             "ZelRendererSettingsPanel",
+             "How many cores of the processor the raytracer may use. More cores make it faster and "
+             "leave less to other programs."),
+         ZelPageHelp::rangeText(coresText(m_ui->coreUsedSlider->minimum()),
+                                coresText(m_ui->coreUsedSlider->maximum())),
+         EffectAfterRestart,
+         {keys::CoreNumber},
+         [](const EngineModel& model) { return coresText(model.coreNumber); }},
+    };
+}
+
+std::vector<ZelRendererSettingsPanel::Help> ZelRendererSettingsPanel::effectHelp() const
+{
+    const struct
+    {
+        QCheckBox* box;
+        const char* description;
+        const char* key;
+        bool EngineModel::*value;
+    } effects[] = {
+        {m_ui->deferredFXAACheckBox,
+         QT_TRANSLATE_NOOP(
+             "ZelRendererSettingsPanel",
+             "Smooths the jagged edges of the picture. It takes little time on a current graphics "
+             "card."),
+         keys::UseFxaa, &EngineModel::useFXAA},
+        {m_ui->deferredSSAOCheckBox,
+         QT_TRANSLATE_NOOP(
+             "ZelRendererSettingsPanel",
+             "Darkens corners and gaps as soft light does, so that shapes are easier to see. It "
+             "takes some time in every picture."),
+         keys::UseSsao, &EngineModel::useSSAO},
+        {m_ui->deferredEDCheckBox,
+         QT_TRANSLATE_NOOP("ZelRendererSettingsPanel",
+                           "Draws lines along the edges of the parts. This helps to tell parts of the same "
+                           "colour apart."),
+         keys::UseEdgeDetection, &EngineModel::useED},
+    };
+    std::vector<Help> rows;
+    for (const auto& effect : effects) {
+        const auto value = effect.value;
+        rows.push_back({{effect.box},
+                        nullptr,
+                        effect.description,
+                        ZelPageHelp::flagRange(),
+                        EffectAfterRestart,
+                        {effect.key},
+                        [value](const EngineModel& model) { return ZelPageHelp::flagText(model.*value); }});
+    }
+    return rows;
+}
+
+std::vector<ZelRendererSettingsPanel::Help> ZelRendererSettingsPanel::limitHelp() const
+{
+    const struct
+    {
+        zelSpinBox* box;
+        const char* description;
+        ZelSettingEffect effect;
+        const char* key;
+        quint64 EngineModel::*value;
+        int shift;
+    } limits[] = {
+        {m_ui->maxCPU3DSpinBox,
+         QT_TRANSLATE_NOOP(
+             "ZelRendererSettingsPanel",
+             "How much of the computer's memory the models may take while the graphics card draws "
+             "them. With more of it, more details stay loaded."),
+         EffectAfterRestart, keys::MaxCpuMemory3D, &EngineModel::maxCPUMemory3D, BytesToMebibytes},
+        {m_ui->maxCPURaySpinBox,
+         QT_TRANSLATE_NOOP(
+             "ZelRendererSettingsPanel",
+             "How much of the computer's memory the raytracer may take. With more of it, larger "
+             "models can be drawn."),
+         EffectAfterRestart, keys::MaxCpuMemoryRaytracer, &EngineModel::maxCPUMemoryRaytracer,
+         BytesToMebibytes},
+        {m_ui->maxGPUSPinBox,
+         QT_TRANSLATE_NOOP(
+             "ZelRendererSettingsPanel",
+             "How much of the graphics card's memory the models may take. Stay below what the card "
+             "has: other programs need some too."),
+         EffectAfterRestart, keys::MaxGpuMemory, &EngineModel::maxGPUMemory, BytesToMebibytes},
+        {m_ui->maxTrianglesSpinBox,
+         QT_TRANSLATE_NOOP("ZelRendererSettingsPanel",
+                           "How many triangles one picture may have at most. With fewer, models move more "
+                           "smoothly; with more, they show finer details."),
+         EffectAtOnce, keys::TrianglesCap, &EngineModel::trianglesCap, 0},
+    };
+    std::vector<Help> rows;
+    for (const auto& limit : limits)
+        rows.push_back({{limit.box},
+                        nullptr,
+                        limit.description,
+                        ZelPageHelp::rangeText(limit.box),
+                        limit.effect,
+                        {limit.key},
+                        [limit](const EngineModel& model) {
+                            return limit.box->shownText(double(model.*limit.value >> limit.shift));
+                        }});
+    return rows;
+}
 
 int ZelRendererSettingsPanel::GetSceneUnitComboIndex(float factor)
 {
@@ -184,6 +344,7 @@ void ZelRendererSettingsPanel::on_deferredFXAACheckBox_stateChanged(int)
 
 void ZelRendererSettingsPanel::on_deferredSSAOCheckBox_stateChanged(int)
 {
+    enableSceneUnit();
     onEdited();
 }
 
@@ -246,6 +407,7 @@ void ZelRendererSettingsPanel::applyModel(const EngineModel& model)
     showNumber(m_ui->maxTrianglesSpinBox, model.trianglesCap);
     setRaytracerQuality(model.quality);
     setNbCoresTxt(model.coreNumber);
+    enableSceneUnit();
     forceGPUMode(!model.useSoftware);
 }
 
@@ -289,23 +451,26 @@ void ZelRendererSettingsPanel::forceGPUMode(bool gpu)
 
     zelActionManager* actions = application() ? application()->getActionManager() : nullptr;
     zelAction* renderingMode = actions ? actions->getActionByName("renderingMode") : nullptr;
-    // Of use only while the application runs the deferred renderer, whatever is chosen for the next start.
+    // The running renderer takes it; what is chosen for the next start does not count.
     if (renderingMode)
         renderingMode->setEnabled(m_startGPUMode);
 }
 
 void ZelRendererSettingsPanel::setNbCoresTxt(int cores)
 {
-    const QString text = cores < 2 ? QCoreApplication::translate("ZelRendererSettingsPanel", "%1 core")
-                                   : QCoreApplication::translate("ZelRendererSettingsPanel", "%1 cores");
-    m_ui->coreUsedLabel->setText(text.arg(cores));
+    m_ui->coreUsedLabel->setText(coresText(cores));
+    m_ui->coreUsedSlider->setValueText(coresText(cores));
 }
 
 void ZelRendererSettingsPanel::setRaytracerQuality(int quality)
 {
-    // The kernel may answer an unknown name with an index outside its list.
-    const int shown = qBound(0, quality, kqDMRenderer::QualityCount - 1);
-    m_ui->qualityLabel->setText(QCoreApplication::translate("ZelRendererSettingsPanel", QualityTexts[shown]));
+    m_ui->qualityLabel->setText(qualityText(quality));
+    m_ui->qualitySlider->setValueText(qualityText(quality));
+}
+
+void ZelRendererSettingsPanel::enableSceneUnit()
+{
+    m_ui->SSAOFrame->setEnabled(m_ui->deferredSSAOCheckBox->isChecked());
 }
 
 void ZelRendererSettingsPanel::setTriangleCap(quint64 triangles)

@@ -5,6 +5,7 @@
 #include "base/ZelExport.h"
 
 #include <memory>
+#include <vector>
 
 namespace Ui {
 class ZelRendererSettingsPanel;
@@ -28,13 +29,13 @@ struct EngineModel
     bool useED = false; ///< Edge detection.
 };
 
-/// True when both say the same to the engine that they choose: values of the other engine do not count, nor
+/// True when both are the same to the engine that they choose: values of the other engine do not count, nor
 /// does the scene unit without SSAO.
 ZEL_EXPORT bool operator==(const EngineModel& left, const EngineModel& right);
 
-/// The page "Display": the rendering engine, its effects or its quality, and what it may use of the machine.
-/// Only what concerns the chosen engine is shown. A new engine needs a restart, and so do the raytracer's
-/// quality and cores, unless the running application was started with the very value; the cap of triangles
+/// The page "Display": the rendering engine, its effects or its quality, and which of the machine's resources
+/// it may use. Only what concerns the chosen engine is shown. A new engine needs a restart, and so do the
+/// raytracer's quality and cores, unless the application was started with that value; the cap of triangles
 /// takes effect with Apply.
 class ZEL_EXPORT ZelRendererSettingsPanel : public ZelEditablePanel<EngineModel>
 {
@@ -74,8 +75,13 @@ protected:
     void notifyStateChanged() override;
 
 private:
-    /// True when the raytracer is chosen, with a quality or a number of cores that it takes up only after a
-    /// restart.
+    // What the page tells of the engine and its quality, of the deferred renderer's effects, and of the
+    // numbers.
+    std::vector<Help> choiceHelp() const;
+    std::vector<Help> effectHelp() const;
+    std::vector<Help> limitHelp() const;
+
+    /// True when the raytracer is chosen with a quality or a number of cores that needs a restart.
     bool hasRaytracerRebootChanged() const;
 
     /// Shows what concerns the deferred renderer (true) or the raytracer (false).
@@ -83,10 +89,12 @@ private:
     void setNbCoresTxt(int cores);
     void setRaytracerQuality(int quality);
     void setTriangleCap(quint64 triangles);
+    /// The scene unit can be chosen only while SSAO makes use of it.
+    void enableSceneUnit();
 
     const std::unique_ptr<Ui::ZelRendererSettingsPanel> m_ui;
 
-    // What the running application was started with.
+    // The values that the application was started with.
     const int m_startQuality;
     const int m_startCoreNumber;
     const bool m_startGPUMode;

@@ -1,5 +1,7 @@
 #include "zelTickSlider.h"
 
+#include "base/ZelAccessibility.h"
+
 #include <QPainter>
 #include <QStyleOptionSlider>
 
@@ -17,6 +19,11 @@ const int SmallestTickSpacing = 4;
 zelTickSlider::zelTickSlider(QWidget* parent)
     : WheelGuard<QSlider>(parent)
 {
+}
+
+void zelTickSlider::setValueText(const QString& text)
+{
+    announceValue(*this, text);
 }
 
 void zelTickSlider::paintEvent(QPaintEvent* event)

@@ -1,4 +1,4 @@
-// The receiving end of the single-instance channel, on any bytes, in pieces of any size.
+// The receiving end of the single-instance channel: any bytes, in pieces of any size.
 
 #include "Check.h"
 
@@ -16,7 +16,7 @@ namespace {
 
 const int HeaderSize = 8;
 
-/// What the bytes that have arrived so far must come to.
+/// What the receiver must make of the bytes that have arrived so far.
 LocalMessage::Result expected(const QByteArray& arrived, QString& message)
 {
     const QByteArray mark = "msg1";

@@ -1,4 +1,4 @@
-// The readers of ratios and scene units: on any text, and on any numbers.
+// Parses ratios and scene units from any text and any numbers.
 
 #include "Check.h"
 #include "NumberText.h"
@@ -21,11 +21,11 @@ const char* const GoodRatios = "1/0.75/0.5/0.25/0.1";
 
 bool isCorrect(const std::vector<float>& ratios)
 {
-    float former = 1;
+    float previous = 1;
     for (const float ratio : ratios) {
-        if (!(ratio >= 0.01F && ratio <= former))
+        if (!(ratio >= 0.01F && ratio <= previous))
             return false;
-        former = ratio;
+        previous = ratio;
     }
     return ratios.empty() || ratios.front() == 1;
 }
@@ -81,7 +81,7 @@ void checkNumbers(std::vector<float> numbers)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    // Up to a zero byte the text; behind it, if there is one, the default.
+    // The text, and after a zero byte, if there is one, the default.
     const QList<QByteArray> texts = QByteArray(reinterpret_cast<const char*>(data), int(size)).split('\0');
     const QString text = QString::fromUtf8(texts[0]);
     checkRatios(GoodRatios, text);

@@ -11,6 +11,7 @@
 #include <QCoreApplication>
 #include <QHeaderView>
 #include <QTableWidget>
+#include <QTextDocumentFragment>
 #include <QUrl>
 
 #include <vector>
@@ -80,6 +81,7 @@ ZelAboutSettingsPanel::ZelAboutSettingsPanel(kqDMIApplication* application, QSet
     m_ui->platform->setText("X64");
     m_ui->pluginsFrame->hide();
     m_ui->libUseLabel_2->setText(componentsText());
+    m_ui->libUseLabel_2->setAccessibleName(QTextDocumentFragment::fromHtml(componentsText()).toPlainText());
     connect(m_ui->libUseLabel_2, SIGNAL(linkActivated(const QString&)), this,
             SLOT(onLinkActivated(const QString&)));
     setPanelName(QCoreApplication::translate("ZelAboutSettingsPanel", "About"));

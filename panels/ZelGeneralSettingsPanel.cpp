@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QIcon>
 #include <QKeySequence>
 
 namespace zel {
@@ -46,6 +47,38 @@ ZelGeneralSettingsPanel::ZelGeneralSettingsPanel(kqDMIApplication* application, 
     setNamedStyleSheet("ZelGeneralSettingsPanel");
     setPanelName(QCoreApplication::translate("ZelGeneralSettingsPanel", "Folders"));
     setPanelCategory(ApplicationCategory);
+    describe(
+        "ZelGeneralSettingsPanel",
+        {{{m_ui->screenshotFolderButton},
+          nullptr,
+          QT_TRANSLATE_NOOP("ZelGeneralSettingsPanel",
+                            "Where your screenshots are saved. A click chooses a folder."),
+          QString(),
+          EffectAtOnce,
+          {keys::ScreenshotFolder},
+          [](const GeneralModel& model) { return model.screenshotFolder; },
+          nullptr,
+          true},
+         {{m_ui->databaseButton},
+          nullptr,
+          QT_TRANSLATE_NOOP("ZelGeneralSettingsPanel",
+                            "Where parts of loaded models are kept on the disk. Choose a fast disk with "
+                            "enough free space. A click chooses a folder."),
+          QString(),
+          EffectAfterRestart,
+          {keys::CacheDirectory},
+          [](const GeneralModel& model) { return model.cacheDirectory; },
+          nullptr,
+          true},
+         {{m_ui->databaseSpinBox},
+          nullptr,
+          QT_TRANSLATE_NOOP("ZelGeneralSettingsPanel",
+                            "How large the cache may grow on the disk. With a larger one, models that you "
+                            "have opened before load faster."),
+          ZelPageHelp::rangeText(m_ui->databaseSpinBox),
+          EffectAtOnce,
+          {keys::CacheSize},
+          [this](const GeneralModel& model) { return m_ui->databaseSpinBox->shownText(model.cacheSize); }}});
 }
 
 ZelGeneralSettingsPanel::~ZelGeneralSettingsPanel() = default;
@@ -129,6 +162,13 @@ void ZelGeneralSettingsPanel::elideText()
         button->setText(button->fontMetrics().elidedText(button->toolTip(), Qt::ElideLeft,
                                                          button->width() - ButtonTextMargin));
         button->setShortcut(QKeySequence()); // An "&" in a path is part of its name.
+        // A button without a text must still say what a click does.
+        const bool unset = button->toolTip().isEmpty();
+        button->setIcon(unset ? QIcon(":/controlCenter/controlCenter/folder.png") : QIcon());
+        const QString folder =
+            unset ? QCoreApplication::translate("ZelGeneralSettingsPanel", "No folder is set.")
+                  : button->toolTip();
+        button->setAccessibleDescription(folder + ' ' + button->statusTip());
     }
 }
 

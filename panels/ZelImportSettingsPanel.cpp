@@ -25,6 +25,11 @@ ZelEditablePanel<ImportModel>::Fields importFields()
     };
 }
 
+QString ownChoiceText()
+{
+    return QCoreApplication::translate("ZelImportSettingsPanel", "chosen by Torvane");
+}
+
 // A choice is a switch and the value that matters while it is on.
 template <class T>
 bool sameChoice(const ImportModel& left, const ImportModel& right, bool ImportModel::*set,
@@ -56,6 +61,40 @@ ZelImportSettingsPanel::ZelImportSettingsPanel(kqDMIApplication* application, QS
     setNamedStyleSheet("ZelImportSettingsPanel");
     setPanelName(QCoreApplication::translate("ZelImportSettingsPanel", "Tessellation"));
     setPanelCategory(AdvancedCategory);
+
+    const QList<QWidget*> qualities = {m_ui->defaultQuality, m_ui->highQuality, m_ui->lowQuality};
+    describe(
+        "ZelImportSettingsPanel",
+        {{qualities,
+          nullptr,
+          QT_TRANSLATE_NOOP(
+              "ZelImportSettingsPanel",
+              "How finely curved faces are cut into triangles when a CAD file is imported. "
+              "High quality looks rounder and makes larger models. By default, Torvane decides."),
+          ZelPageHelp::choiceText(qualities),
+          EffectWithNextImport,
+          {keys::TessellationQualitySet, keys::TessellationHighQuality},
+          [this](const ImportModel& model) {
+              const QRadioButton* chosen = model.isHighQuality ? m_ui->highQuality : m_ui->lowQuality;
+              return model.qualitySet ? chosen->text() : ownChoiceText();
+          }},
+         limitHelp(Sag, m_ui->faceSagSpin, &ImportModel::maxFaceSag,
+                   QT_TRANSLATE_NOOP("ZelImportSettingsPanel",
+                                     "How far a triangle may lie from the curved face that it stands for, in "
+                                     "the unit of the model. A smaller value looks rounder and makes more "
+                                     "triangles."),
+                   {keys::MaxFaceSagSet, keys::MaxFaceSag}),
+         limitHelp(Length, m_ui->faceLengthSpin, &ImportModel::maxFaceLength,
+                   QT_TRANSLATE_NOOP("ZelImportSettingsPanel",
+                                     "How long the edges of a triangle may be, in the unit of the model. A "
+                                     "smaller value makes more triangles of more even sizes."),
+                   {keys::MaxFaceLengthSet, keys::MaxFaceLength}),
+         limitHelp(
+             Angle, m_ui->faceAngleSpin, &ImportModel::maxFaceAngle,
+             QT_TRANSLATE_NOOP("ZelImportSettingsPanel",
+                               "How far a curved face may turn from one triangle to the next. A smaller "
+                               "value looks rounder and makes more triangles."),
+             {keys::MaxFaceAngleSet, keys::MaxFaceAngle})});
 }
 
 ZelImportSettingsPanel::~ZelImportSettingsPanel() = default;
@@ -145,6 +184,25 @@ void ZelImportSettingsPanel::applyModel(const ImportModel& model)
 void ZelImportSettingsPanel::notifyStateChanged()
 {
     Q_EMIT stateChanged();
+}
+
+template <class Box, class Value>
+ZelImportSettingsPanel::Help
+ZelImportSettingsPanel::limitHelp(int index, const Box* box, Value ImportModel::*value,
+                                  const char* description, const QStringList& keys) const
+{
+    const Limit limit = m_limits[index];
+    Help help;
+    help.fields << limit.byDefault << limit.byValue << limit.value;
+    help.name = nullptr;
+    help.description = description;
+    help.range = ZelPageHelp::rangeText(box);
+    help.effect = EffectWithNextImport;
+    help.keys = keys;
+    help.shown = [limit, box, value](const ImportModel& model) {
+        return model.*limit.set ? box->shownText(model.*value) : ownChoiceText();
+    };
+    return help;
 }
 
 void ZelImportSettingsPanel::setQuality(bool set, bool high)

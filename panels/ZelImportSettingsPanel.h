@@ -74,6 +74,9 @@ private:
     };
     enum { Sag, Length, Angle };
 
+    template <class Box, class Value>
+    Help limitHelp(int index, const Box* box, Value ImportModel::*value, const char* description,
+                   const QStringList& keys) const;
     void setQuality(bool set, bool high);
     void setFaceSagSet(bool set) { setLimitSet(m_limits[Sag], set); }
     void setFaceLengthSet(bool set) { setLimitSet(m_limits[Length], set); }

@@ -107,6 +107,11 @@ ZelSimplificationSettingsPanel::ZelSimplificationSettingsPanel(kqDMIApplication*
     setNamedStyleSheet("ZelSimplificationSettingsPanel");
     setPanelName(QCoreApplication::translate("ZelSimplificationSettingsPanel", "Simplification"));
     setPanelCategory(ProjectCategory);
+
+    std::vector<Help> help;
+    for (int level = 1; level <= LastLevel; ++level)
+        help.push_back(levelHelp(level));
+    describe("ZelSimplificationSettingsPanel", help);
 }
 
 ZelSimplificationSettingsPanel::~ZelSimplificationSettingsPanel() = default;
@@ -179,6 +184,34 @@ void ZelSimplificationSettingsPanel::setRatios()
     SimplificationModel current;
     getCurrentModel(current);
     manager->setSimplificationRatios(current.ratios);
+}
+
+ZelSimplificationSettingsPanel::Help ZelSimplificationSettingsPanel::levelHelp(int level) const
+{
+    const zelDoubleSpinBox* box = percentage(level);
+    const auto percent = [box](double number) { return box->shownText(number) + " %"; };
+    Help help;
+    help.fields << percentage(level);
+    help.name = nullptr;
+    help.description =
+        level < FirstEditableLevel
+            ? QT_TRANSLATE_NOOP("ZelSimplificationSettingsPanel",
+                                "This level keeps every triangle of the model. It cannot be changed.")
+            : QT_TRANSLATE_NOOP(
+                  "ZelSimplificationSettingsPanel",
+                  "How many of the model's triangles an export at this level keeps, in percent. A "
+                  "level never keeps more than the one above it.");
+    help.range = ZelPageHelp::rangeText(percent(box->minimum()), percent(box->maximum()));
+    help.effect = EffectAtOnce;
+    help.keys << keys::SimplificationRatios;
+    help.shown = [level, percent](const SimplificationModel& model) {
+        return isWellFormed(model.ratios) ? percent(model.ratios[level - 1] * 100) : QString();
+    };
+    help.take = [level](SimplificationModel& to, const SimplificationModel& from) {
+        if (isWellFormed(from.ratios) && level >= FirstEditableLevel)
+            to.ratios[level - 1] = from.ratios[level - 1];
+    };
+    return help;
 }
 
 void ZelSimplificationSettingsPanel::finishEditing(int level)

@@ -60,6 +60,7 @@ protected:
 private:
     /// Brings the neighbours of an edited level, but none beyond them, into descending order with it.
     void finishEditing(int level);
+    Help levelHelp(int level) const;
     zelDoubleSpinBox* percentage(int level) const { return m_percentages[level - 1]; }
 
     const std::unique_ptr<Ui::ZelSimplificationSettingsPanel> m_ui;

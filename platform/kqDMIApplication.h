@@ -38,8 +38,8 @@ struct PostSaveEventItem
     QString argument;
 };
 
-/// What pages and panels know of the application that hosts them: the viewer, or the stand-alone settings
-/// editor, in which everything that would need a loaded scene answers "nothing". GUI thread only.
+/// The interface of the application that hosts pages and panels: the viewer, or the stand-alone settings
+/// editor, which has no scene. GUI thread only.
 class ZEL_KERNEL_GUI_EXPORT kqDMIApplication : public QObject
 {
     Q_OBJECT

@@ -11,7 +11,7 @@
 class QMouseEvent;
 
 /// Lets the user move a frameless window by dragging one of its widgets, the anchor. Presses on buttons
-/// inside the anchor are left alone. Dragging a maximised window restores it first.
+/// inside the anchor are ignored. Dragging a maximised window restores it first.
 class KQ_GL_VIEW_EXPORT kqMovableObject : public QObject
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     /// A double click on the anchor maximises the window, another one restores it. Off by default.
     void setExpandOnDlbClick(bool expand);
 
-    /// Dragging the anchor moves the target; a former anchor is released. Neither is owned.
+    /// Dragging the anchor moves the target; a previous anchor is released. Neither is owned.
     void setAnchorObject(QObject* anchor, QWidget* target);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

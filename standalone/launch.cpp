@@ -185,7 +185,7 @@ int runApplication(QtSingleApplication& singleApplication, ZelSettingsApplicatio
 
 int launch(int argc, char** argv)
 {
-    const ToolkitMessageSink<writeMessage> messageSink;
+    const QtMessageSink<writeMessage> messageSink;
     useUtf8FileNames();
     followScreenScale();
     QCoreApplication::setLibraryPaths(QStringList("bin"));

@@ -2,6 +2,7 @@
 
 #include "ViewerScene.h"
 
+#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QVector3D>
@@ -147,15 +148,12 @@ QColor ModelView::shade(const QVector3D& normal, float along) const
 
 void ModelView::paintCaption(QPainter& painter)
 {
-    const QString engine = m_highlights ? tr("engine deferred") : tr("engine software");
-    const QString updates = m_engineEnabled ? tr("updates on") : tr("updates paused");
-    const QString caption = tr("Level %1 of %2\n%3 of %4 triangles\n%5 painted facets\n%6, %7")
-                                .arg(m_scene.level())
-                                .arg(int(ViewerScene::LevelCount))
-                                .arg(m_scene.triangles())
-                                .arg(int(ViewerScene::ModelTriangles))
-                                .arg(m_facetCount)
-                                .arg(engine, updates);
+    const QLocale language = locale();
+    const QString caption =
+        tr("Level %1 of %2\n%3 of %4 triangles")
+            .arg(m_scene.level())
+            .arg(int(ViewerScene::LevelCount))
+            .arg(language.toString(m_scene.triangles()), language.toString(int(ViewerScene::ModelTriangles)));
     painter.setPen(QColor(40, 48, 60));
     painter.drawText(rect().adjusted(14, 10, -14, -10), Qt::AlignLeft | Qt::AlignTop, caption);
 }

@@ -26,6 +26,23 @@ TurntableSettingsPanel::TurntableSettingsPanel(ViewerScene& scene, kqDMIApplicat
     setNamedStyleSheet("ZelGeneralSettingsPanel");
     setPanelName(tr("Turntable"));
     setPanelCategory(ApplicationCategory);
+    describe("TurntableSettingsPanel",
+             {{{m_ui->turnsCheckBox},
+               nullptr,
+               QT_TR_NOOP("Whether the model turns by itself. You can still turn it with the mouse."),
+               zel::ZelPageHelp::flagRange(),
+               zel::EffectAtOnce,
+               {viewerkeys::Turns},
+               [](const TurntableModel& model) { return zel::ZelPageHelp::flagText(model.turns); }},
+              {{m_ui->speedSpinBox},
+               nullptr,
+               QT_TR_NOOP("How fast the model turns: at 90 degrees per second, once in four seconds."),
+               zel::ZelPageHelp::rangeText(m_ui->speedSpinBox),
+               zel::EffectAtOnce,
+               {viewerkeys::TurnSpeed},
+               [this](const TurntableModel& model) {
+                   return m_ui->speedSpinBox->shownText(model.degreesPerSecond);
+               }}});
 }
 
 TurntableSettingsPanel::~TurntableSettingsPanel() = default;

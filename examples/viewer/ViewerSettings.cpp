@@ -2,11 +2,11 @@
 
 #include <QCoreApplication>
 #include <QSettings>
-#include <QThread>
 
-#include <algorithm>
 #include <zel/SettingsKeys.h>
 #include <zel/ZelControlCenter.h>
+#include <zel/ZelPageDefaults.h>
+#include <zel/ZelSettingsFile.h>
 
 namespace keys = zel::keys;
 
@@ -50,8 +50,6 @@ bool foldersDiffer(QSettings& settings, QString& error)
 
 void ViewerSettings::Register(const QString& applicationName, const QString& folder)
 {
-    const QString cores = QString::number(std::max(1, QThread::idealThreadCount()));
-    const QString twoGiB = QString::number(Q_UINT64_C(2) << 30);
     const struct
     {
         const char* key;
@@ -60,25 +58,6 @@ void ViewerSettings::Register(const QString& applicationName, const QString& fol
     } settings[] = {
         {keys::Language, "en", &Rules::noOp},
         {keys::ScreenshotFolder, folder + "/Screenshots", &ensureScreenshotFolder},
-        {keys::SimplificationRatios, "1/0.75/0.5/0.25/0.1", &Rules::ensureSimplificationRatios},
-        {keys::MaxFaceAngle, "20", &Rules::ensureTesselationMaxFaceAngle},
-        {keys::MaxFaceLength, "10", &Rules::ensureTesselationMaxFaceLength},
-        {keys::MaxFaceSag, "0.1", &Rules::ensureTesselationMaxFaceSag},
-        {keys::MaxFaceAngleSet, "false", &Rules::ensureBool},
-        {keys::MaxFaceLengthSet, "false", &Rules::ensureBool},
-        {keys::MaxFaceSagSet, "false", &Rules::ensureBool},
-        {keys::TessellationQualitySet, "false", &Rules::ensureBool},
-        {keys::TessellationHighQuality, "true", &Rules::ensureBool},
-        {keys::TrianglesCap, "500000", &Rules::ensureLODTrianglesCap},
-        {keys::MaxGpuMemory, twoGiB, &Rules::ensureMaxGPUMemory},
-        {keys::MaxCpuMemoryRaytracer, twoGiB, &Rules::ensureMaxCPUMemoryRaytracer},
-        {keys::MaxCpuMemory3D, twoGiB, &Rules::ensureMaxCPUMemory3D},
-        {keys::SceneUnits, "1000", &Rules::ensureSceneUnit},
-        {keys::UseEdgeDetection, "false", &Rules::ensureBool},
-        {keys::UseFxaa, "true", &Rules::ensureBool},
-        {keys::UseSsao, "true", &Rules::ensureBool},
-        {keys::CoreNumber, cores, &Rules::ensureCoreNumber},
-        {keys::RaytracerQuality, "Medium", &Rules::ensureRaytracerQuality},
         {viewerkeys::Turns, "true", &Rules::ensureBool},
         {viewerkeys::TurnSpeed, "20", &ensureTurnSpeed},
     };
@@ -89,4 +68,9 @@ void ViewerSettings::Register(const QString& applicationName, const QString& fol
     Rules::RegisterSetting(keys::CacheSize, "1024", &Rules::ensureCacheSize);
     Rules::InitDefaultSettingsValues(applicationName);
     Rules::RegisterEndCheckFunction(&foldersDiffer);
+
+    // What the library's pages edit.
+    QSettings defaults(VIEWER_DEFAULTS, QSettings::IniFormat);
+    zel::ZelSettingsFile::UseFileEncoding(defaults);
+    zel::ZelPageDefaults::Register(defaults);
 }

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QLocale>
 #include <QMessageBox>
 #include <QStringList>
 #include <QTranslator>
@@ -60,6 +61,7 @@ int runViewer(const QString& folder, QStringList arguments)
         QCoreApplication::installTranslator(&translator);
     if (toolkitTranslator.load("Toolkit_" + language, VIEWER_LANGUAGE_FOLDER))
         QCoreApplication::installTranslator(&toolkitTranslator);
+    QLocale::setDefault(QLocale(language)); // Decides how numbers are written.
 
     ViewerSettings::Register(ApplicationName, folder);
     if (!zel::ZelSettingsFile::Repair(settings, error))
@@ -82,7 +84,7 @@ int runViewer(const QString& folder, QStringList arguments)
 
 int main(int argc, char** argv)
 {
-    const zel::ToolkitMessageSink<logMessage> messageSink;
+    const zel::QtMessageSink<logMessage> messageSink;
     zel::useUtf8FileNames();
     zel::followScreenScale();
     QApplication toolkit(argc, argv);

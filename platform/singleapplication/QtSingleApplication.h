@@ -10,7 +10,7 @@
 class LocalPeer;
 
 /// The application object of a program that runs once per user: the first process is the instance, later ones
-/// send it a message and end. A genuine single-instance library of the same interface can take its place.
+/// send it a message and end. A genuine single-instance library with the same interface can replace it.
 class QtSingleApplication : public QApplication
 {
     Q_OBJECT

@@ -3,8 +3,8 @@
 
 #include <cstdio>
 
-/// Whether a library runs. Starting it twice, or stopping it when it does not run, is the caller's mistake
-/// and is told on the error output.
+/// Whether a library runs. Starting it twice, or stopping it when it does not run, is a mistake of the caller
+/// and is reported on the error output.
 class LibraryState
 {
 public:

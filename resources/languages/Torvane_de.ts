@@ -46,6 +46,178 @@
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+</context>
+<context>
+    <name>KnotShape</name>
+    <message>
+        <source>&quot;%1&quot; is not a model of this viewer.</source>
+        <translation>„%1“ ist kein Modell dieses Betrachters.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written.</source>
+        <translation>„%1“ kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>ModelView</name>
+    <message>
+        <source>Level %1 of %2
+%3 of %4 triangles</source>
+        <translation>Stufe %1 von %2
+%3 von %4 Dreiecken</translation>
+    </message>
+</context>
+<context>
+    <name>TurntableSettingsPanel</name>
+    <message>
+        <source>Turntable</source>
+        <translation>Drehteller</translation>
+    </message>
+    <message>
+        <source>Reset the turntable</source>
+        <translation>Drehteller zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Resets the turntable to its default values</source>
+        <translation>Setzt den Drehteller auf die Standardwerte zurück</translation>
+    </message>
+    <message>
+        <source>Present your model from all sides without touching the mouse.</source>
+        <translation>Zeigen Sie Ihr Modell von allen Seiten, ohne die Maus zu berühren.</translation>
+    </message>
+    <message>
+        <source>Turn the model by itself</source>
+        <translation>Modell von selbst drehen</translation>
+    </message>
+    <message>
+        <source>Degrees per second</source>
+        <translation>Grad pro Sekunde</translation>
+    </message>
+    <message>
+        <source>Whether the model turns by itself. You can still turn it with the mouse.</source>
+        <translation>Ob sich das Modell von selbst dreht. Sie können es weiterhin mit der Maus drehen.</translation>
+    </message>
+    <message>
+        <source>How fast the model turns: at 90 degrees per second, once in four seconds.</source>
+        <translation>Wie schnell sich das Modell dreht: bei 90 Grad pro Sekunde einmal in vier Sekunden.</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerApplication</name>
+    <message>
+        <source>Opened %1</source>
+        <translation>%1 geöffnet</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerSettings</name>
+    <message>
+        <source>The folder &quot;%1&quot; for screenshots cannot be created.</source>
+        <translation>Der Ordner „%1“ für Screenshots kann nicht erstellt werden.</translation>
+    </message>
+    <message>
+        <source>The cache and the screenshots share the folder &quot;%1&quot;, and screenshots would be lost with the cache. Please change one of them in &quot;%2&quot;.</source>
+        <translation>Cache und Screenshots teilen sich den Ordner „%1“; mit dem Cache gingen die Screenshots verloren. Bitte ändern Sie einen der beiden in „%2“.</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerWindow</name>
+    <message>
+        <source>Torvane Viewer</source>
+        <translation>Torvane-Betrachter</translation>
+    </message>
+    <message>
+        <source>Drag the model to turn it; the button at the top left opens the menu.</source>
+        <translation>Ziehen Sie das Modell, um es zu drehen; die Schaltfläche oben links öffnet das Menü.</translation>
+    </message>
+    <message>
+        <source>Menu and settings</source>
+        <translation>Menü und Einstellungen</translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation>Öffnen...</translation>
+    </message>
+    <message>
+        <source>Opens a model</source>
+        <translation>Öffnet ein Modell</translation>
+    </message>
+    <message>
+        <source>Save...</source>
+        <translation>Speichern...</translation>
+    </message>
+    <message>
+        <source>Saves the model</source>
+        <translation>Speichert das Modell</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <translation>Screenshot</translation>
+    </message>
+    <message>
+        <source>Saves a picture of the view in the screenshot folder</source>
+        <translation>Speichert ein Bild der Ansicht im Screenshot-Ordner</translation>
+    </message>
+    <message>
+        <source>Next Level</source>
+        <translation>Nächste Stufe</translation>
+    </message>
+    <message>
+        <source>Shows the next simplification level</source>
+        <translation>Zeigt die nächste Vereinfachungsstufe</translation>
+    </message>
+    <message>
+        <source>Wire Frame</source>
+        <translation>Drahtgitter</translation>
+    </message>
+    <message>
+        <source>Shows the model&apos;s facets by their edges</source>
+        <translation>Zeigt die Flächen des Modells durch ihre Kanten</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>Vollbild</translation>
+    </message>
+    <message>
+        <source>Gives the viewer the whole screen</source>
+        <translation>Gibt dem Betrachter den ganzen Bildschirm</translation>
+    </message>
+    <message>
+        <source>Settings Modification</source>
+        <translation>Änderung der Einstellungen</translation>
+    </message>
+    <message>
+        <source>Your settings have not been applied. Close the viewer?</source>
+        <translation>Ihre Einstellungen wurden nicht angewendet. Betrachter schließen?</translation>
+    </message>
+    <message>
+        <source>Open a Model</source>
+        <translation>Modell öffnen</translation>
+    </message>
+    <message>
+        <source>Knots (*.knot)</source>
+        <translation>Knoten (*.knot)</translation>
+    </message>
+    <message>
+        <source>Save the Model</source>
+        <translation>Modell speichern</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>%1 konnte nicht gespeichert werden</translation>
+    </message>
 </context>
 <context>
     <name>ZelAboutSettingsPanel</name>
@@ -78,10 +250,6 @@
         <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Diese Software verwendet die folgenden Bibliotheken:&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
-        <source>Libraries</source>
-        <translation>Bibliotheken</translation>
-    </message>
-    <message>
         <source>application toolkit</source>
         <translation>Anwendungs-Toolkit</translation>
     </message>
@@ -92,6 +260,10 @@
     <message>
         <source>fonts</source>
         <translation>Schriftarten</translation>
+    </message>
+    <message>
+        <source>Tab chooses a link, Return opens it.</source>
+        <translation>Mit Tab wählen Sie einen Link, mit der Eingabetaste öffnen Sie ihn.</translation>
     </message>
 </context>
 <context>
@@ -160,11 +332,43 @@ Fortfahren und die Anwendung schließen?</translation>
     </message>
     <message>
         <source>it belongs to another user or group, who would lose it</source>
-        <translation>sie gehört einem anderen Benutzer oder einer anderen Gruppe und ginge diesen verloren</translation>
+        <translation>sie gehört einem anderen Benutzer oder einer anderen Gruppe, die den Zugriff darauf verlieren würden</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is in the way, which no program uses: remove it</source>
-        <translation>„%1“ ist im Weg und wird von keinem Programm benutzt: Entfernen Sie es</translation>
+        <translation>„%1“ blockiert den Vorgang und wird von keinem Programm benutzt: Bitte entfernen</translation>
+    </message>
+    <message>
+        <source>This page has changes that are not applied.</source>
+        <translation>Diese Seite hat Änderungen, die nicht angewendet sind.</translation>
+    </message>
+    <message>
+        <source>Shows this page.</source>
+        <translation>Zeigt diese Seite.</translation>
+    </message>
+    <message>
+        <source>Help on this setting</source>
+        <translation>Hilfe zu dieser Einstellung</translation>
+    </message>
+    <message>
+        <source>Put back what was typed</source>
+        <translation>Eingabe zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Nach oben blättern</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Nach unten blättern</translation>
+    </message>
+    <message>
+        <source>Scroll to the top</source>
+        <translation>Zum Anfang blättern</translation>
+    </message>
+    <message>
+        <source>Scroll to the bottom</source>
+        <translation>Zum Ende blättern</translation>
     </message>
 </context>
 <context>
@@ -226,6 +430,69 @@ Sie können auch den Speicherort Ihres Screenshot-Albums ändern.</translation>
         <source>Please set your screenshot folder</source>
         <translation>Bitte wählen Sie den Screenshot-Ordner</translation>
     </message>
+    <message>
+        <source>Where your screenshots are saved. A click chooses a folder.</source>
+        <translation>Wo Ihre Screenshots gespeichert werden. Mit einem Klick wählen Sie einen Ordner.</translation>
+    </message>
+    <message>
+        <source>Where parts of loaded models are kept on the disk. Choose a fast disk with enough free space. A click chooses a folder.</source>
+        <translation>Wo Teile geladener Modelle auf der Festplatte aufbewahrt werden. Wählen Sie ein schnelles Laufwerk mit genug freiem Platz. Mit einem Klick wählen Sie einen Ordner.</translation>
+    </message>
+    <message>
+        <source>How large the cache may grow on the disk. With a larger one, models that you have opened before load faster.</source>
+        <translation>Wie groß der Cache auf der Festplatte werden darf. Ist er größer, laden Modelle schneller, die Sie schon einmal geöffnet haben.</translation>
+    </message>
+    <message>
+        <source>No folder is set.</source>
+        <translation>Es ist kein Ordner festgelegt.</translation>
+    </message>
+</context>
+<context>
+    <name>ZelHelpArea</name>
+    <message>
+        <source>Range</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Gespeichert</translation>
+    </message>
+    <message>
+        <source>Takes effect</source>
+        <translation>Wirksam</translation>
+    </message>
+    <message>
+        <source>Puts back what is stored</source>
+        <translation>Stellt den gespeicherten Wert wieder her</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Puts in the default</source>
+        <translation>Setzt den Standardwert ein</translation>
+    </message>
+    <message>
+        <source>Changed, and not applied yet.</source>
+        <translation>Geändert und noch nicht angewendet.</translation>
+    </message>
+    <message>
+        <source>Not the default.</source>
+        <translation>Nicht der Standardwert.</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Point at a setting, or move to it with the Tab key, to read here what it does.</source>
+        <translation>Zeigen Sie auf eine Einstellung oder gehen Sie mit der Tabulatortaste zu ihr, um hier zu lesen, was sie bewirkt.</translation>
+    </message>
 </context>
 <context>
     <name>ZelImportSettingsPanel</name>
@@ -279,6 +546,69 @@ Sie können die Parameter, die Ihren Anforderungen am besten entsprechen, auch m
         <source> °</source>
         <translation> °</translation>
     </message>
+    <message>
+        <source>chosen by Torvane</source>
+        <translation>von Torvane gewählt</translation>
+    </message>
+    <message>
+        <source>How finely curved faces are cut into triangles when a CAD file is imported. High quality looks rounder and makes larger models. By default, Torvane decides.</source>
+        <translation>Wie fein gekrümmte Flächen beim Import einer CAD-Datei in Dreiecke zerlegt werden. Hohe Qualität sieht runder aus und ergibt größere Modelle. Normalerweise entscheidet Torvane.</translation>
+    </message>
+    <message>
+        <source>How far a triangle may lie from the curved face that it stands for, in the unit of the model. A smaller value looks rounder and makes more triangles.</source>
+        <translation>Wie weit ein Dreieck von der gekrümmten Fläche abweichen darf, die es darstellt, in der Einheit des Modells. Ein kleinerer Wert sieht runder aus und ergibt mehr Dreiecke.</translation>
+    </message>
+    <message>
+        <source>How long the edges of a triangle may be, in the unit of the model. A smaller value makes more triangles of more even sizes.</source>
+        <translation>Wie lang die Kanten eines Dreiecks sein dürfen, in der Einheit des Modells. Ein kleinerer Wert ergibt mehr und gleichmäßigere Dreiecke.</translation>
+    </message>
+    <message>
+        <source>How far a curved face may turn from one triangle to the next. A smaller value looks rounder and makes more triangles.</source>
+        <translation>Wie weit sich eine gekrümmte Fläche von einem Dreieck zum nächsten drehen darf. Ein kleinerer Wert sieht runder aus und ergibt mehr Dreiecke.</translation>
+    </message>
+</context>
+<context>
+    <name>ZelPageHelp</name>
+    <message>
+        <source>Range: %1.</source>
+        <translation>Bereich: %1.</translation>
+    </message>
+    <message>
+        <source>Default: %1.</source>
+        <translation>Standard: %1.</translation>
+    </message>
+    <message>
+        <source>Takes effect: %1.</source>
+        <translation>Wirksam: %1.</translation>
+    </message>
+    <message>
+        <source>at once</source>
+        <translation>sofort</translation>
+    </message>
+    <message>
+        <source>with the next import</source>
+        <translation>mit dem nächsten Import</translation>
+    </message>
+    <message>
+        <source>after a restart</source>
+        <translation>nach einem Neustart</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>ein</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 oder %2</translation>
+    </message>
 </context>
 <context>
     <name>ZelRendererSelector</name>
@@ -309,6 +639,26 @@ Sie können die Parameter, die Ihren Anforderungen am besten entsprechen, auch m
     <message>
         <source>Ok</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Closes without a choice</source>
+        <translation>Schließt ohne Auswahl</translation>
+    </message>
+    <message>
+        <source>Draws with the processor</source>
+        <translation>Zeichnet mit dem Prozessor</translation>
+    </message>
+    <message>
+        <source>Draws with the graphics card</source>
+        <translation>Zeichnet mit der Grafikkarte</translation>
+    </message>
+    <message>
+        <source>Uses the chosen engine</source>
+        <translation>Verwendet die gewählte Engine</translation>
     </message>
 </context>
 <context>
@@ -465,6 +815,54 @@ Sie können die Parameter, die Ihren Anforderungen am besten entsprechen, auch m
         <source>%1 cores</source>
         <translation>%1 Kerne</translation>
     </message>
+    <message>
+        <source>Rendering engine</source>
+        <translation>Rendering-Engine</translation>
+    </message>
+    <message>
+        <source>Decides what draws your models. The high mode uses the graphics card; the low mode uses the processor and runs everywhere. Only the settings of the chosen mode are shown.</source>
+        <translation>Entscheidet, was Ihre Modelle zeichnet. Der Modus „Hoch“ nutzt die Grafikkarte; der Modus „Niedrig“ nutzt den Prozessor und läuft überall. Nur die Einstellungen des gewählten Modus werden angezeigt.</translation>
+    </message>
+    <message>
+        <source>The unit in which your scene is modelled. SSAO sizes its shadows by it: with a wrong unit they are too strong or cannot be seen. It counts only while SSAO is used.</source>
+        <translation>Die Einheit, in der Ihre Szene modelliert ist. SSAO bemisst danach seine Schatten: Mit einer falschen Einheit sind sie zu stark oder nicht zu sehen. Sie zählt nur, solange SSAO verwendet wird.</translation>
+    </message>
+    <message>
+        <source>How carefully the raytracer computes a picture. A higher quality looks better and takes longer.</source>
+        <translation>Wie sorgfältig der Raytracer ein Bild berechnet. Eine höhere Qualität sieht besser aus und dauert länger.</translation>
+    </message>
+    <message>
+        <source>How many cores of the processor the raytracer may use. More cores make it faster and leave less to other programs.</source>
+        <translation>Wie viele Kerne des Prozessors der Raytracer nutzen darf. Mit mehr Kernen ist er schneller, und anderen Programmen bleibt weniger.</translation>
+    </message>
+    <message>
+        <source>Smooths the jagged edges of the picture. It takes little time on a current graphics card.</source>
+        <translation>Glättet die gezackten Kanten des Bildes. Auf einer aktuellen Grafikkarte kostet das wenig Zeit.</translation>
+    </message>
+    <message>
+        <source>Darkens corners and gaps as soft light does, so that shapes are easier to see. It takes some time in every picture.</source>
+        <translation>Dunkelt Ecken und Spalten ab, wie weiches Licht es tut, sodass Formen besser zu erkennen sind. Das kostet bei jedem Bild etwas Zeit.</translation>
+    </message>
+    <message>
+        <source>Draws lines along the edges of the parts. This helps to tell parts of the same colour apart.</source>
+        <translation>Zeichnet Linien entlang der Kanten der Teile. So lassen sich Teile gleicher Farbe leichter unterscheiden.</translation>
+    </message>
+    <message>
+        <source>How much of the computer&apos;s memory the models may take while the graphics card draws them. With more of it, more details stay loaded.</source>
+        <translation>Wie viel Arbeitsspeicher die Modelle belegen dürfen, während die Grafikkarte sie zeichnet. Mit mehr davon bleiben mehr Details geladen.</translation>
+    </message>
+    <message>
+        <source>How much of the computer&apos;s memory the raytracer may take. With more of it, larger models can be drawn.</source>
+        <translation>Wie viel Arbeitsspeicher der Raytracer belegen darf. Mit mehr davon lassen sich größere Modelle zeichnen.</translation>
+    </message>
+    <message>
+        <source>How much of the graphics card&apos;s memory the models may take. Stay below what the card has: other programs need some too.</source>
+        <translation>Wie viel Speicher der Grafikkarte die Modelle belegen dürfen. Bleiben Sie unter dem, was die Karte hat: Andere Programme brauchen auch etwas davon.</translation>
+    </message>
+    <message>
+        <source>How many triangles one picture may have at most. With fewer, models move more smoothly; with more, they show finer details.</source>
+        <translation>Wie viele Dreiecke ein Bild höchstens haben darf. Mit weniger bewegen sich Modelle flüssiger, mit mehr zeigen sie feinere Details.</translation>
+    </message>
 </context>
 <context>
     <name>ZelSimplificationSettingsPanel</name>
@@ -511,6 +909,14 @@ Komprimierung</translation>
     <message>
         <source>Simplification</source>
         <translation>Vereinfachung</translation>
+    </message>
+    <message>
+        <source>This level keeps every triangle of the model. It cannot be changed.</source>
+        <translation>Diese Stufe behält jedes Dreieck des Modells. Sie lässt sich nicht ändern.</translation>
+    </message>
+    <message>
+        <source>How many of the model&apos;s triangles an export at this level keeps, in percent. A level never keeps more than the one above it.</source>
+        <translation>Wie viel Prozent der Dreiecke des Modells ein Export auf dieser Stufe behält. Eine Stufe behält nie mehr als die über ihr.</translation>
     </message>
 </context>
 </TS>

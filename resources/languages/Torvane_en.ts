@@ -46,6 +46,178 @@
         <source>Close</source>
         <translation>Close</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restore</translation>
+    </message>
+</context>
+<context>
+    <name>KnotShape</name>
+    <message>
+        <source>&quot;%1&quot; is not a model of this viewer.</source>
+        <translation>&quot;%1&quot; is not a model of this viewer.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written.</source>
+        <translation>&quot;%1&quot; cannot be written.</translation>
+    </message>
+</context>
+<context>
+    <name>ModelView</name>
+    <message>
+        <source>Level %1 of %2
+%3 of %4 triangles</source>
+        <translation>Level %1 of %2
+%3 of %4 triangles</translation>
+    </message>
+</context>
+<context>
+    <name>TurntableSettingsPanel</name>
+    <message>
+        <source>Turntable</source>
+        <translation>Turntable</translation>
+    </message>
+    <message>
+        <source>Reset the turntable</source>
+        <translation>Reset the turntable</translation>
+    </message>
+    <message>
+        <source>Resets the turntable to its default values</source>
+        <translation>Resets the turntable to its default values</translation>
+    </message>
+    <message>
+        <source>Present your model from all sides without touching the mouse.</source>
+        <translation>Present your model from all sides without touching the mouse.</translation>
+    </message>
+    <message>
+        <source>Turn the model by itself</source>
+        <translation>Turn the model by itself</translation>
+    </message>
+    <message>
+        <source>Degrees per second</source>
+        <translation>Degrees per second</translation>
+    </message>
+    <message>
+        <source>Whether the model turns by itself. You can still turn it with the mouse.</source>
+        <translation>Whether the model turns by itself. You can still turn it with the mouse.</translation>
+    </message>
+    <message>
+        <source>How fast the model turns: at 90 degrees per second, once in four seconds.</source>
+        <translation>How fast the model turns: at 90 degrees per second, once in four seconds.</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerApplication</name>
+    <message>
+        <source>Opened %1</source>
+        <translation>Opened %1</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>Saved %1</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerSettings</name>
+    <message>
+        <source>The folder &quot;%1&quot; for screenshots cannot be created.</source>
+        <translation>The folder &quot;%1&quot; for screenshots cannot be created.</translation>
+    </message>
+    <message>
+        <source>The cache and the screenshots share the folder &quot;%1&quot;, and screenshots would be lost with the cache. Please change one of them in &quot;%2&quot;.</source>
+        <translation>The cache and the screenshots share the folder &quot;%1&quot;, and screenshots would be lost with the cache. Please change one of them in &quot;%2&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerWindow</name>
+    <message>
+        <source>Torvane Viewer</source>
+        <translation>Torvane Viewer</translation>
+    </message>
+    <message>
+        <source>Drag the model to turn it; the button at the top left opens the menu.</source>
+        <translation>Drag the model to turn it; the button at the top left opens the menu.</translation>
+    </message>
+    <message>
+        <source>Menu and settings</source>
+        <translation>Menu and settings</translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation>Open...</translation>
+    </message>
+    <message>
+        <source>Opens a model</source>
+        <translation>Opens a model</translation>
+    </message>
+    <message>
+        <source>Save...</source>
+        <translation>Save...</translation>
+    </message>
+    <message>
+        <source>Saves the model</source>
+        <translation>Saves the model</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <translation>Screenshot</translation>
+    </message>
+    <message>
+        <source>Saves a picture of the view in the screenshot folder</source>
+        <translation>Saves a picture of the view in the screenshot folder</translation>
+    </message>
+    <message>
+        <source>Next Level</source>
+        <translation>Next Level</translation>
+    </message>
+    <message>
+        <source>Shows the next simplification level</source>
+        <translation>Shows the next simplification level</translation>
+    </message>
+    <message>
+        <source>Wire Frame</source>
+        <translation>Wire Frame</translation>
+    </message>
+    <message>
+        <source>Shows the model&apos;s facets by their edges</source>
+        <translation>Shows the model&apos;s facets by their edges</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>Full Screen</translation>
+    </message>
+    <message>
+        <source>Gives the viewer the whole screen</source>
+        <translation>Gives the viewer the whole screen</translation>
+    </message>
+    <message>
+        <source>Settings Modification</source>
+        <translation>Settings Modification</translation>
+    </message>
+    <message>
+        <source>Your settings have not been applied. Close the viewer?</source>
+        <translation>Your settings have not been applied. Close the viewer?</translation>
+    </message>
+    <message>
+        <source>Open a Model</source>
+        <translation>Open a Model</translation>
+    </message>
+    <message>
+        <source>Knots (*.knot)</source>
+        <translation>Knots (*.knot)</translation>
+    </message>
+    <message>
+        <source>Save the Model</source>
+        <translation>Save the Model</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>Saved %1</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>Could not save %1</translation>
+    </message>
 </context>
 <context>
     <name>ZelAboutSettingsPanel</name>
@@ -78,10 +250,6 @@
         <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;This software uses the following libraries :&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
-        <source>Libraries</source>
-        <translation>Libraries</translation>
-    </message>
-    <message>
         <source>application toolkit</source>
         <translation>application toolkit</translation>
     </message>
@@ -92,6 +260,10 @@
     <message>
         <source>fonts</source>
         <translation>fonts</translation>
+    </message>
+    <message>
+        <source>Tab chooses a link, Return opens it.</source>
+        <translation>Tab chooses a link, Return opens it.</translation>
     </message>
 </context>
 <context>
@@ -166,6 +338,38 @@ Continue and close the application ?</translation>
         <source>&quot;%1&quot; is in the way, which no program uses: remove it</source>
         <translation>&quot;%1&quot; is in the way, which no program uses: remove it</translation>
     </message>
+    <message>
+        <source>This page has changes that are not applied.</source>
+        <translation>This page has changes that are not applied.</translation>
+    </message>
+    <message>
+        <source>Shows this page.</source>
+        <translation>Shows this page.</translation>
+    </message>
+    <message>
+        <source>Help on this setting</source>
+        <translation>Help on this setting</translation>
+    </message>
+    <message>
+        <source>Put back what was typed</source>
+        <translation>Put back what was typed</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Scroll up</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Scroll down</translation>
+    </message>
+    <message>
+        <source>Scroll to the top</source>
+        <translation>Scroll to the top</translation>
+    </message>
+    <message>
+        <source>Scroll to the bottom</source>
+        <translation>Scroll to the bottom</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenterStandAloneWidget</name>
@@ -226,6 +430,69 @@ You may also change the location for your screenshots album.</translation>
         <source>Please set your screenshot folder</source>
         <translation>Please set your screenshot folder</translation>
     </message>
+    <message>
+        <source>Where your screenshots are saved. A click chooses a folder.</source>
+        <translation>Where your screenshots are saved. A click chooses a folder.</translation>
+    </message>
+    <message>
+        <source>Where parts of loaded models are kept on the disk. Choose a fast disk with enough free space. A click chooses a folder.</source>
+        <translation>Where parts of loaded models are kept on the disk. Choose a fast disk with enough free space. A click chooses a folder.</translation>
+    </message>
+    <message>
+        <source>How large the cache may grow on the disk. With a larger one, models that you have opened before load faster.</source>
+        <translation>How large the cache may grow on the disk. With a larger one, models that you have opened before load faster.</translation>
+    </message>
+    <message>
+        <source>No folder is set.</source>
+        <translation>No folder is set.</translation>
+    </message>
+</context>
+<context>
+    <name>ZelHelpArea</name>
+    <message>
+        <source>Range</source>
+        <translation>Range</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Default</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Stored</translation>
+    </message>
+    <message>
+        <source>Takes effect</source>
+        <translation>Takes effect</translation>
+    </message>
+    <message>
+        <source>Puts back what is stored</source>
+        <translation>Puts back what is stored</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Put back</translation>
+    </message>
+    <message>
+        <source>Puts in the default</source>
+        <translation>Puts in the default</translation>
+    </message>
+    <message>
+        <source>Changed, and not applied yet.</source>
+        <translation>Changed, and not applied yet.</translation>
+    </message>
+    <message>
+        <source>Not the default.</source>
+        <translation>Not the default.</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>Point at a setting, or move to it with the Tab key, to read here what it does.</source>
+        <translation>Point at a setting, or move to it with the Tab key, to read here what it does.</translation>
+    </message>
 </context>
 <context>
     <name>ZelImportSettingsPanel</name>
@@ -279,6 +546,69 @@ You may manually choose the parameters that will best fit your needs.</translati
         <source> °</source>
         <translation> °</translation>
     </message>
+    <message>
+        <source>chosen by Torvane</source>
+        <translation>chosen by Torvane</translation>
+    </message>
+    <message>
+        <source>How finely curved faces are cut into triangles when a CAD file is imported. High quality looks rounder and makes larger models. By default, Torvane decides.</source>
+        <translation>How finely curved faces are cut into triangles when a CAD file is imported. High quality looks rounder and makes larger models. By default, Torvane decides.</translation>
+    </message>
+    <message>
+        <source>How far a triangle may lie from the curved face that it stands for, in the unit of the model. A smaller value looks rounder and makes more triangles.</source>
+        <translation>How far a triangle may lie from the curved face that it stands for, in the unit of the model. A smaller value looks rounder and makes more triangles.</translation>
+    </message>
+    <message>
+        <source>How long the edges of a triangle may be, in the unit of the model. A smaller value makes more triangles of more even sizes.</source>
+        <translation>How long the edges of a triangle may be, in the unit of the model. A smaller value makes more triangles of more even sizes.</translation>
+    </message>
+    <message>
+        <source>How far a curved face may turn from one triangle to the next. A smaller value looks rounder and makes more triangles.</source>
+        <translation>How far a curved face may turn from one triangle to the next. A smaller value looks rounder and makes more triangles.</translation>
+    </message>
+</context>
+<context>
+    <name>ZelPageHelp</name>
+    <message>
+        <source>Range: %1.</source>
+        <translation>Range: %1.</translation>
+    </message>
+    <message>
+        <source>Default: %1.</source>
+        <translation>Default: %1.</translation>
+    </message>
+    <message>
+        <source>Takes effect: %1.</source>
+        <translation>Takes effect: %1.</translation>
+    </message>
+    <message>
+        <source>at once</source>
+        <translation>at once</translation>
+    </message>
+    <message>
+        <source>with the next import</source>
+        <translation>with the next import</translation>
+    </message>
+    <message>
+        <source>after a restart</source>
+        <translation>after a restart</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 to %2</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>on</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>off</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 or %2</translation>
+    </message>
 </context>
 <context>
     <name>ZelRendererSelector</name>
@@ -309,6 +639,26 @@ You may manually choose the parameters that will best fit your needs.</translati
     <message>
         <source>Ok</source>
         <translation>Ok</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Closes without a choice</source>
+        <translation>Closes without a choice</translation>
+    </message>
+    <message>
+        <source>Draws with the processor</source>
+        <translation>Draws with the processor</translation>
+    </message>
+    <message>
+        <source>Draws with the graphics card</source>
+        <translation>Draws with the graphics card</translation>
+    </message>
+    <message>
+        <source>Uses the chosen engine</source>
+        <translation>Uses the chosen engine</translation>
     </message>
 </context>
 <context>
@@ -465,6 +815,54 @@ You may manually choose the parameters that will best fit your needs.</translati
         <source>%1 cores</source>
         <translation>%1 cores</translation>
     </message>
+    <message>
+        <source>Rendering engine</source>
+        <translation>Rendering engine</translation>
+    </message>
+    <message>
+        <source>Decides what draws your models. The high mode uses the graphics card; the low mode uses the processor and runs everywhere. Only the settings of the chosen mode are shown.</source>
+        <translation>Decides what draws your models. The high mode uses the graphics card; the low mode uses the processor and runs everywhere. Only the settings of the chosen mode are shown.</translation>
+    </message>
+    <message>
+        <source>The unit in which your scene is modelled. SSAO sizes its shadows by it: with a wrong unit they are too strong or cannot be seen. It counts only while SSAO is used.</source>
+        <translation>The unit in which your scene is modelled. SSAO sizes its shadows by it: with a wrong unit they are too strong or cannot be seen. It counts only while SSAO is used.</translation>
+    </message>
+    <message>
+        <source>How carefully the raytracer computes a picture. A higher quality looks better and takes longer.</source>
+        <translation>How carefully the raytracer computes a picture. A higher quality looks better and takes longer.</translation>
+    </message>
+    <message>
+        <source>How many cores of the processor the raytracer may use. More cores make it faster and leave less to other programs.</source>
+        <translation>How many cores of the processor the raytracer may use. More cores make it faster and leave less to other programs.</translation>
+    </message>
+    <message>
+        <source>Smooths the jagged edges of the picture. It takes little time on a current graphics card.</source>
+        <translation>Smooths the jagged edges of the picture. It takes little time on a current graphics card.</translation>
+    </message>
+    <message>
+        <source>Darkens corners and gaps as soft light does, so that shapes are easier to see. It takes some time in every picture.</source>
+        <translation>Darkens corners and gaps as soft light does, so that shapes are easier to see. It takes some time in every picture.</translation>
+    </message>
+    <message>
+        <source>Draws lines along the edges of the parts. This helps to tell parts of the same colour apart.</source>
+        <translation>Draws lines along the edges of the parts. This helps to tell parts of the same colour apart.</translation>
+    </message>
+    <message>
+        <source>How much of the computer&apos;s memory the models may take while the graphics card draws them. With more of it, more details stay loaded.</source>
+        <translation>How much of the computer&apos;s memory the models may take while the graphics card draws them. With more of it, more details stay loaded.</translation>
+    </message>
+    <message>
+        <source>How much of the computer&apos;s memory the raytracer may take. With more of it, larger models can be drawn.</source>
+        <translation>How much of the computer&apos;s memory the raytracer may take. With more of it, larger models can be drawn.</translation>
+    </message>
+    <message>
+        <source>How much of the graphics card&apos;s memory the models may take. Stay below what the card has: other programs need some too.</source>
+        <translation>How much of the graphics card&apos;s memory the models may take. Stay below what the card has: other programs need some too.</translation>
+    </message>
+    <message>
+        <source>How many triangles one picture may have at most. With fewer, models move more smoothly; with more, they show finer details.</source>
+        <translation>How many triangles one picture may have at most. With fewer, models move more smoothly; with more, they show finer details.</translation>
+    </message>
 </context>
 <context>
     <name>ZelSimplificationSettingsPanel</name>
@@ -511,6 +909,14 @@ compression</translation>
     <message>
         <source>Simplification</source>
         <translation>Simplification</translation>
+    </message>
+    <message>
+        <source>This level keeps every triangle of the model. It cannot be changed.</source>
+        <translation>This level keeps every triangle of the model. It cannot be changed.</translation>
+    </message>
+    <message>
+        <source>How many of the model&apos;s triangles an export at this level keeps, in percent. A level never keeps more than the one above it.</source>
+        <translation>How many of the model&apos;s triangles an export at this level keeps, in percent. A level never keeps more than the one above it.</translation>
     </message>
 </context>
 </TS>

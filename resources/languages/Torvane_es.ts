@@ -46,6 +46,178 @@
         <source>Close</source>
         <translation>Cerrar</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurar</translation>
+    </message>
+</context>
+<context>
+    <name>KnotShape</name>
+    <message>
+        <source>&quot;%1&quot; is not a model of this viewer.</source>
+        <translation>«%1» no es un modelo de este visor.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written.</source>
+        <translation>No se puede escribir «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>ModelView</name>
+    <message>
+        <source>Level %1 of %2
+%3 of %4 triangles</source>
+        <translation>Nivel %1 de %2
+%3 de %4 triángulos</translation>
+    </message>
+</context>
+<context>
+    <name>TurntableSettingsPanel</name>
+    <message>
+        <source>Turntable</source>
+        <translation>Plataforma giratoria</translation>
+    </message>
+    <message>
+        <source>Reset the turntable</source>
+        <translation>Restablecer la plataforma giratoria</translation>
+    </message>
+    <message>
+        <source>Resets the turntable to its default values</source>
+        <translation>Restablece los valores predeterminados de la plataforma giratoria</translation>
+    </message>
+    <message>
+        <source>Present your model from all sides without touching the mouse.</source>
+        <translation>Presente su modelo por todos los lados sin tocar el ratón.</translation>
+    </message>
+    <message>
+        <source>Turn the model by itself</source>
+        <translation>Girar el modelo automáticamente</translation>
+    </message>
+    <message>
+        <source>Degrees per second</source>
+        <translation>Grados por segundo</translation>
+    </message>
+    <message>
+        <source>Whether the model turns by itself. You can still turn it with the mouse.</source>
+        <translation>Indica si el modelo gira por sí solo. Puede seguir girándolo con el ratón.</translation>
+    </message>
+    <message>
+        <source>How fast the model turns: at 90 degrees per second, once in four seconds.</source>
+        <translation>Velocidad de giro del modelo: a 90 grados por segundo, una vuelta cada cuatro segundos.</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerApplication</name>
+    <message>
+        <source>Opened %1</source>
+        <translation>Se abrió %1</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>Se guardó %1</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerSettings</name>
+    <message>
+        <source>The folder &quot;%1&quot; for screenshots cannot be created.</source>
+        <translation>No se puede crear la carpeta «%1» para las capturas.</translation>
+    </message>
+    <message>
+        <source>The cache and the screenshots share the folder &quot;%1&quot;, and screenshots would be lost with the cache. Please change one of them in &quot;%2&quot;.</source>
+        <translation>La caché y las capturas comparten la carpeta «%1», y las capturas se perderían con la caché. Cambie una de las dos en «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerWindow</name>
+    <message>
+        <source>Torvane Viewer</source>
+        <translation>Visor Torvane</translation>
+    </message>
+    <message>
+        <source>Drag the model to turn it; the button at the top left opens the menu.</source>
+        <translation>Arrastre el modelo para girarlo; el botón de arriba a la izquierda abre el menú.</translation>
+    </message>
+    <message>
+        <source>Menu and settings</source>
+        <translation>Menú y ajustes</translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation>Abrir...</translation>
+    </message>
+    <message>
+        <source>Opens a model</source>
+        <translation>Abre un modelo</translation>
+    </message>
+    <message>
+        <source>Save...</source>
+        <translation>Guardar...</translation>
+    </message>
+    <message>
+        <source>Saves the model</source>
+        <translation>Guarda el modelo</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <translation>Captura</translation>
+    </message>
+    <message>
+        <source>Saves a picture of the view in the screenshot folder</source>
+        <translation>Guarda una imagen de la vista en la carpeta de capturas</translation>
+    </message>
+    <message>
+        <source>Next Level</source>
+        <translation>Nivel siguiente</translation>
+    </message>
+    <message>
+        <source>Shows the next simplification level</source>
+        <translation>Muestra el siguiente nivel de simplificación</translation>
+    </message>
+    <message>
+        <source>Wire Frame</source>
+        <translation>Malla de alambre</translation>
+    </message>
+    <message>
+        <source>Shows the model&apos;s facets by their edges</source>
+        <translation>Muestra las facetas del modelo por sus bordes</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>Pantalla completa</translation>
+    </message>
+    <message>
+        <source>Gives the viewer the whole screen</source>
+        <translation>Da al visor toda la pantalla</translation>
+    </message>
+    <message>
+        <source>Settings Modification</source>
+        <translation>Modificación de los ajustes</translation>
+    </message>
+    <message>
+        <source>Your settings have not been applied. Close the viewer?</source>
+        <translation>Sus ajustes no se han aplicado. ¿Cerrar el visor?</translation>
+    </message>
+    <message>
+        <source>Open a Model</source>
+        <translation>Abrir un modelo</translation>
+    </message>
+    <message>
+        <source>Knots (*.knot)</source>
+        <translation>Nudos (*.knot)</translation>
+    </message>
+    <message>
+        <source>Save the Model</source>
+        <translation>Guardar el modelo</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>Se guardó %1</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>No se pudo guardar %1</translation>
+    </message>
 </context>
 <context>
     <name>ZelAboutSettingsPanel</name>
@@ -78,10 +250,6 @@
         <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Este software utiliza las siguientes bibliotecas:&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
-        <source>Libraries</source>
-        <translation>Bibliotecas</translation>
-    </message>
-    <message>
         <source>application toolkit</source>
         <translation>kit de desarrollo de aplicaciones</translation>
     </message>
@@ -92,6 +260,10 @@
     <message>
         <source>fonts</source>
         <translation>fuentes</translation>
+    </message>
+    <message>
+        <source>Tab chooses a link, Return opens it.</source>
+        <translation>Tab elige un enlace, Intro lo abre.</translation>
     </message>
 </context>
 <context>
@@ -164,7 +336,39 @@ Continue and close the application ?</source>
     </message>
     <message>
         <source>&quot;%1&quot; is in the way, which no program uses: remove it</source>
-        <translation>«%1» estorba y ningún programa lo usa: elimínelo</translation>
+        <translation>«%1» impide la operación y ningún programa lo usa: elimínelo</translation>
+    </message>
+    <message>
+        <source>This page has changes that are not applied.</source>
+        <translation>Esta página tiene cambios sin aplicar.</translation>
+    </message>
+    <message>
+        <source>Shows this page.</source>
+        <translation>Muestra esta página.</translation>
+    </message>
+    <message>
+        <source>Help on this setting</source>
+        <translation>Ayuda sobre este ajuste</translation>
+    </message>
+    <message>
+        <source>Put back what was typed</source>
+        <translation>Deshacer lo escrito</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Desplazar hacia arriba</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Desplazar hacia abajo</translation>
+    </message>
+    <message>
+        <source>Scroll to the top</source>
+        <translation>Ir al principio</translation>
+    </message>
+    <message>
+        <source>Scroll to the bottom</source>
+        <translation>Ir al final</translation>
     </message>
 </context>
 <context>
@@ -226,6 +430,69 @@ También puede cambiar la ubicación de su álbum de capturas de pantalla.</tran
         <source>Please set your screenshot folder</source>
         <translation>Seleccione la carpeta de capturas</translation>
     </message>
+    <message>
+        <source>Where your screenshots are saved. A click chooses a folder.</source>
+        <translation>Dónde se guardan sus capturas. Un clic permite elegir una carpeta.</translation>
+    </message>
+    <message>
+        <source>Where parts of loaded models are kept on the disk. Choose a fast disk with enough free space. A click chooses a folder.</source>
+        <translation>Dónde se guardan en el disco partes de los modelos cargados. Elija un disco rápido con espacio libre suficiente. Un clic permite elegir una carpeta.</translation>
+    </message>
+    <message>
+        <source>How large the cache may grow on the disk. With a larger one, models that you have opened before load faster.</source>
+        <translation>Cuánto puede crecer la caché en el disco. Con una mayor, los modelos que ya ha abierto se cargan más rápido.</translation>
+    </message>
+    <message>
+        <source>No folder is set.</source>
+        <translation>No hay ninguna carpeta definida.</translation>
+    </message>
+</context>
+<context>
+    <name>ZelHelpArea</name>
+    <message>
+        <source>Range</source>
+        <translation>Intervalo</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Predeterminado</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Guardado</translation>
+    </message>
+    <message>
+        <source>Takes effect</source>
+        <translation>Surte efecto</translation>
+    </message>
+    <message>
+        <source>Puts back what is stored</source>
+        <translation>Vuelve a poner el valor guardado</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Puts in the default</source>
+        <translation>Pone el valor predeterminado</translation>
+    </message>
+    <message>
+        <source>Changed, and not applied yet.</source>
+        <translation>Cambiado y aún sin aplicar.</translation>
+    </message>
+    <message>
+        <source>Not the default.</source>
+        <translation>No es el valor predeterminado.</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Point at a setting, or move to it with the Tab key, to read here what it does.</source>
+        <translation>Señale un ajuste, o vaya a él con la tecla Tab, para leer aquí para qué sirve.</translation>
+    </message>
 </context>
 <context>
     <name>ZelImportSettingsPanel</name>
@@ -253,7 +520,7 @@ Puede elegir manualmente los parámetros que mejor se adapten a sus necesidades.
     </message>
     <message>
         <source>Default</source>
-        <translation>Por defecto</translation>
+        <translation>Predeterminado</translation>
     </message>
     <message>
         <source>High Quality</source>
@@ -278,6 +545,69 @@ Puede elegir manualmente los parámetros que mejor se adapten a sus necesidades.
     <message>
         <source> °</source>
         <translation> °</translation>
+    </message>
+    <message>
+        <source>chosen by Torvane</source>
+        <translation>a elección de Torvane</translation>
+    </message>
+    <message>
+        <source>How finely curved faces are cut into triangles when a CAD file is imported. High quality looks rounder and makes larger models. By default, Torvane decides.</source>
+        <translation>Con qué finura se dividen en triángulos las caras curvas al importar un archivo CAD. La alta calidad se ve más redonda y produce modelos más grandes. Normalmente decide Torvane.</translation>
+    </message>
+    <message>
+        <source>How far a triangle may lie from the curved face that it stands for, in the unit of the model. A smaller value looks rounder and makes more triangles.</source>
+        <translation>Cuánto puede separarse un triángulo de la cara curva que representa, en la unidad del modelo. Un valor menor se ve más redondo y produce más triángulos.</translation>
+    </message>
+    <message>
+        <source>How long the edges of a triangle may be, in the unit of the model. A smaller value makes more triangles of more even sizes.</source>
+        <translation>Cuánto pueden medir los lados de un triángulo, en la unidad del modelo. Un valor menor produce más triángulos y de tamaño más uniforme.</translation>
+    </message>
+    <message>
+        <source>How far a curved face may turn from one triangle to the next. A smaller value looks rounder and makes more triangles.</source>
+        <translation>Cuánto puede girar una cara curva de un triángulo al siguiente. Un valor menor se ve más redondo y produce más triángulos.</translation>
+    </message>
+</context>
+<context>
+    <name>ZelPageHelp</name>
+    <message>
+        <source>Range: %1.</source>
+        <translation>Intervalo: %1.</translation>
+    </message>
+    <message>
+        <source>Default: %1.</source>
+        <translation>Predeterminado: %1.</translation>
+    </message>
+    <message>
+        <source>Takes effect: %1.</source>
+        <translation>Surte efecto: %1.</translation>
+    </message>
+    <message>
+        <source>at once</source>
+        <translation>de inmediato</translation>
+    </message>
+    <message>
+        <source>with the next import</source>
+        <translation>en la próxima importación</translation>
+    </message>
+    <message>
+        <source>after a restart</source>
+        <translation>tras reiniciar</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 a %2</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>activado</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>desactivado</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 o %2</translation>
     </message>
 </context>
 <context>
@@ -309,6 +639,26 @@ Puede elegir manualmente los parámetros que mejor se adapten a sus necesidades.
     <message>
         <source>Ok</source>
         <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Closes without a choice</source>
+        <translation>Cierra sin elegir</translation>
+    </message>
+    <message>
+        <source>Draws with the processor</source>
+        <translation>Dibuja con el procesador</translation>
+    </message>
+    <message>
+        <source>Draws with the graphics card</source>
+        <translation>Dibuja con la tarjeta gráfica</translation>
+    </message>
+    <message>
+        <source>Uses the chosen engine</source>
+        <translation>Usa el motor elegido</translation>
     </message>
 </context>
 <context>
@@ -465,6 +815,54 @@ Puede elegir manualmente los parámetros que mejor se adapten a sus necesidades.
         <source>%1 cores</source>
         <translation>%1 núcleos</translation>
     </message>
+    <message>
+        <source>Rendering engine</source>
+        <translation>Motor de renderizado</translation>
+    </message>
+    <message>
+        <source>Decides what draws your models. The high mode uses the graphics card; the low mode uses the processor and runs everywhere. Only the settings of the chosen mode are shown.</source>
+        <translation>Decide qué dibuja sus modelos. El modo alto usa la tarjeta gráfica; el modo bajo usa el procesador y funciona en todas partes. Solo se muestran los ajustes del modo elegido.</translation>
+    </message>
+    <message>
+        <source>The unit in which your scene is modelled. SSAO sizes its shadows by it: with a wrong unit they are too strong or cannot be seen. It counts only while SSAO is used.</source>
+        <translation>La unidad en la que está modelada su escena. SSAO ajusta a ella sus sombras: con una unidad equivocada son demasiado fuertes o no se ven. Solo cuenta mientras se usa SSAO.</translation>
+    </message>
+    <message>
+        <source>How carefully the raytracer computes a picture. A higher quality looks better and takes longer.</source>
+        <translation>Con cuánto detalle calcula el trazador de rayos una imagen. Una calidad mayor se ve mejor y tarda más.</translation>
+    </message>
+    <message>
+        <source>How many cores of the processor the raytracer may use. More cores make it faster and leave less to other programs.</source>
+        <translation>Cuántos núcleos del procesador puede usar el trazador de rayos. Con más núcleos es más rápido y deja menos a otros programas.</translation>
+    </message>
+    <message>
+        <source>Smooths the jagged edges of the picture. It takes little time on a current graphics card.</source>
+        <translation>Suaviza los bordes dentados de la imagen. En una tarjeta gráfica actual lleva poco tiempo.</translation>
+    </message>
+    <message>
+        <source>Darkens corners and gaps as soft light does, so that shapes are easier to see. It takes some time in every picture.</source>
+        <translation>Oscurece rincones y huecos como lo hace una luz suave, para que las formas se vean mejor. Lleva algo de tiempo en cada imagen.</translation>
+    </message>
+    <message>
+        <source>Draws lines along the edges of the parts. This helps to tell parts of the same colour apart.</source>
+        <translation>Dibuja líneas a lo largo de los bordes de las piezas. Ayuda a distinguir piezas del mismo color.</translation>
+    </message>
+    <message>
+        <source>How much of the computer&apos;s memory the models may take while the graphics card draws them. With more of it, more details stay loaded.</source>
+        <translation>Cuánta memoria del equipo pueden ocupar los modelos mientras los dibuja la tarjeta gráfica. Con más memoria permanecen cargados más detalles.</translation>
+    </message>
+    <message>
+        <source>How much of the computer&apos;s memory the raytracer may take. With more of it, larger models can be drawn.</source>
+        <translation>Cuánta memoria del equipo puede ocupar el trazador de rayos. Con más memoria se pueden dibujar modelos más grandes.</translation>
+    </message>
+    <message>
+        <source>How much of the graphics card&apos;s memory the models may take. Stay below what the card has: other programs need some too.</source>
+        <translation>Cuánta memoria de la tarjeta gráfica pueden ocupar los modelos. Quédese por debajo de la que tiene la tarjeta: otros programas también la necesitan.</translation>
+    </message>
+    <message>
+        <source>How many triangles one picture may have at most. With fewer, models move more smoothly; with more, they show finer details.</source>
+        <translation>Cuántos triángulos puede tener como máximo una imagen. Con menos, los modelos se mueven con más fluidez; con más, muestran detalles más finos.</translation>
+    </message>
 </context>
 <context>
     <name>ZelSimplificationSettingsPanel</name>
@@ -511,6 +909,14 @@ compresión</translation>
     <message>
         <source>Simplification</source>
         <translation>Simplificación</translation>
+    </message>
+    <message>
+        <source>This level keeps every triangle of the model. It cannot be changed.</source>
+        <translation>Este nivel conserva todos los triángulos del modelo. No se puede cambiar.</translation>
+    </message>
+    <message>
+        <source>How many of the model&apos;s triangles an export at this level keeps, in percent. A level never keeps more than the one above it.</source>
+        <translation>Qué porcentaje de los triángulos del modelo conserva una exportación de este nivel. Un nivel nunca conserva más que el que tiene encima.</translation>
     </message>
 </context>
 </TS>

@@ -46,6 +46,178 @@
         <source>Close</source>
         <translation>閉じる</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>元に戻す</translation>
+    </message>
+</context>
+<context>
+    <name>KnotShape</name>
+    <message>
+        <source>&quot;%1&quot; is not a model of this viewer.</source>
+        <translation>「%1」はこのビューアーのモデルではありません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written.</source>
+        <translation>「%1」に書き込めません。</translation>
+    </message>
+</context>
+<context>
+    <name>ModelView</name>
+    <message>
+        <source>Level %1 of %2
+%3 of %4 triangles</source>
+        <translation>レベル %1 / %2
+三角形 %3 / %4</translation>
+    </message>
+</context>
+<context>
+    <name>TurntableSettingsPanel</name>
+    <message>
+        <source>Turntable</source>
+        <translation>ターンテーブル</translation>
+    </message>
+    <message>
+        <source>Reset the turntable</source>
+        <translation>ターンテーブルをリセット</translation>
+    </message>
+    <message>
+        <source>Resets the turntable to its default values</source>
+        <translation>ターンテーブルをデフォルト値に戻します</translation>
+    </message>
+    <message>
+        <source>Present your model from all sides without touching the mouse.</source>
+        <translation>マウスに触れずに、モデルをあらゆる方向から見せます。</translation>
+    </message>
+    <message>
+        <source>Turn the model by itself</source>
+        <translation>モデルを自動で回転</translation>
+    </message>
+    <message>
+        <source>Degrees per second</source>
+        <translation>毎秒の角度</translation>
+    </message>
+    <message>
+        <source>Whether the model turns by itself. You can still turn it with the mouse.</source>
+        <translation>モデルが自動で回転するかどうかです。マウスでも回転できます。</translation>
+    </message>
+    <message>
+        <source>How fast the model turns: at 90 degrees per second, once in four seconds.</source>
+        <translation>モデルの回転速度です。毎秒 90 度では 4 秒で 1 回転します。</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerApplication</name>
+    <message>
+        <source>Opened %1</source>
+        <translation>%1 を開きました</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 を保存しました</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerSettings</name>
+    <message>
+        <source>The folder &quot;%1&quot; for screenshots cannot be created.</source>
+        <translation>スクリーンショット用のフォルダー「%1」を作成できません。</translation>
+    </message>
+    <message>
+        <source>The cache and the screenshots share the folder &quot;%1&quot;, and screenshots would be lost with the cache. Please change one of them in &quot;%2&quot;.</source>
+        <translation>キャッシュとスクリーンショットが同じフォルダー「%1」を使用しているため、キャッシュとともにスクリーンショットが失われます。「%2」でどちらかを変更してください。</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerWindow</name>
+    <message>
+        <source>Torvane Viewer</source>
+        <translation>Torvane ビューアー</translation>
+    </message>
+    <message>
+        <source>Drag the model to turn it; the button at the top left opens the menu.</source>
+        <translation>ドラッグするとモデルが回転します。左上のボタンでメニューが開きます。</translation>
+    </message>
+    <message>
+        <source>Menu and settings</source>
+        <translation>メニューと設定</translation>
+    </message>
+    <message>
+        <source>Open...</source>
+        <translation>開く...</translation>
+    </message>
+    <message>
+        <source>Opens a model</source>
+        <translation>モデルを開きます</translation>
+    </message>
+    <message>
+        <source>Save...</source>
+        <translation>保存...</translation>
+    </message>
+    <message>
+        <source>Saves the model</source>
+        <translation>モデルを保存します</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <translation>スクリーンショット</translation>
+    </message>
+    <message>
+        <source>Saves a picture of the view in the screenshot folder</source>
+        <translation>ビューの画像をスクリーンショットフォルダーに保存します</translation>
+    </message>
+    <message>
+        <source>Next Level</source>
+        <translation>次のレベル</translation>
+    </message>
+    <message>
+        <source>Shows the next simplification level</source>
+        <translation>次の簡略化レベルを表示します</translation>
+    </message>
+    <message>
+        <source>Wire Frame</source>
+        <translation>ワイヤーフレーム</translation>
+    </message>
+    <message>
+        <source>Shows the model&apos;s facets by their edges</source>
+        <translation>モデルの面を辺で表示します</translation>
+    </message>
+    <message>
+        <source>Full Screen</source>
+        <translation>全画面</translation>
+    </message>
+    <message>
+        <source>Gives the viewer the whole screen</source>
+        <translation>ビューアーを画面全体に表示します</translation>
+    </message>
+    <message>
+        <source>Settings Modification</source>
+        <translation>設定の変更</translation>
+    </message>
+    <message>
+        <source>Your settings have not been applied. Close the viewer?</source>
+        <translation>設定が適用されていません。ビューアーを閉じますか？</translation>
+    </message>
+    <message>
+        <source>Open a Model</source>
+        <translation>モデルを開く</translation>
+    </message>
+    <message>
+        <source>Knots (*.knot)</source>
+        <translation>結び目 (*.knot)</translation>
+    </message>
+    <message>
+        <source>Save the Model</source>
+        <translation>モデルを保存</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 を保存しました</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>%1 を保存できませんでした</translation>
+    </message>
 </context>
 <context>
     <name>ZelAboutSettingsPanel</name>
@@ -78,10 +250,6 @@
         <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;本ソフトウェアは次のライブラリを使用しています：&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
-        <source>Libraries</source>
-        <translation>ライブラリ</translation>
-    </message>
-    <message>
         <source>application toolkit</source>
         <translation>アプリケーションツールキット</translation>
     </message>
@@ -92,6 +260,10 @@
     <message>
         <source>fonts</source>
         <translation>フォント</translation>
+    </message>
+    <message>
+        <source>Tab chooses a link, Return opens it.</source>
+        <translation>Tab でリンクを選び、Enter で開きます。</translation>
     </message>
 </context>
 <context>
@@ -166,6 +338,38 @@ Continue and close the application ?</source>
         <source>&quot;%1&quot; is in the way, which no program uses: remove it</source>
         <translation>「%1」が妨げになっています。どのプログラムも使用していないため、削除してください</translation>
     </message>
+    <message>
+        <source>This page has changes that are not applied.</source>
+        <translation>このページには適用されていない変更があります。</translation>
+    </message>
+    <message>
+        <source>Shows this page.</source>
+        <translation>このページを表示します。</translation>
+    </message>
+    <message>
+        <source>Help on this setting</source>
+        <translation>この設定のヘルプ</translation>
+    </message>
+    <message>
+        <source>Put back what was typed</source>
+        <translation>入力を元に戻す</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>上へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>下へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll to the top</source>
+        <translation>先頭へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll to the bottom</source>
+        <translation>末尾へスクロール</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenterStandAloneWidget</name>
@@ -226,6 +430,69 @@ You may also change the location for your screenshots album.</source>
         <source>Please set your screenshot folder</source>
         <translation>スクリーンショットフォルダーを設定してください</translation>
     </message>
+    <message>
+        <source>Where your screenshots are saved. A click chooses a folder.</source>
+        <translation>スクリーンショットの保存先です。クリックしてフォルダーを選びます。</translation>
+    </message>
+    <message>
+        <source>Where parts of loaded models are kept on the disk. Choose a fast disk with enough free space. A click chooses a folder.</source>
+        <translation>読み込んだモデルの一部をディスクに保存する場所です。空き容量が十分にある高速なディスクを選んでください。クリックしてフォルダーを選びます。</translation>
+    </message>
+    <message>
+        <source>How large the cache may grow on the disk. With a larger one, models that you have opened before load faster.</source>
+        <translation>ディスク上のキャッシュの最大サイズです。大きくすると、一度開いたモデルの読み込みが速くなります。</translation>
+    </message>
+    <message>
+        <source>No folder is set.</source>
+        <translation>フォルダーが設定されていません。</translation>
+    </message>
+</context>
+<context>
+    <name>ZelHelpArea</name>
+    <message>
+        <source>Range</source>
+        <translation>範囲</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>デフォルト</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>保存値</translation>
+    </message>
+    <message>
+        <source>Takes effect</source>
+        <translation>反映</translation>
+    </message>
+    <message>
+        <source>Puts back what is stored</source>
+        <translation>保存値に戻します</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Puts in the default</source>
+        <translation>デフォルト値にします</translation>
+    </message>
+    <message>
+        <source>Changed, and not applied yet.</source>
+        <translation>変更されていますが、まだ適用されていません。</translation>
+    </message>
+    <message>
+        <source>Not the default.</source>
+        <translation>デフォルト値ではありません。</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Point at a setting, or move to it with the Tab key, to read here what it does.</source>
+        <translation>設定にマウスを合わせるか Tab キーで移動すると、その説明がここに表示されます。</translation>
+    </message>
 </context>
 <context>
     <name>ZelImportSettingsPanel</name>
@@ -279,6 +546,69 @@ You may manually choose the parameters that will best fit your needs.</source>
         <source> °</source>
         <translation> °</translation>
     </message>
+    <message>
+        <source>chosen by Torvane</source>
+        <translation>Torvane が選択</translation>
+    </message>
+    <message>
+        <source>How finely curved faces are cut into triangles when a CAD file is imported. High quality looks rounder and makes larger models. By default, Torvane decides.</source>
+        <translation>CAD ファイルのインポート時に、曲面をどれだけ細かく三角形に分割するかです。高品質ではより滑らかに見えますが、モデルが大きくなります。デフォルトでは Torvane が決定します。</translation>
+    </message>
+    <message>
+        <source>How far a triangle may lie from the curved face that it stands for, in the unit of the model. A smaller value looks rounder and makes more triangles.</source>
+        <translation>三角形と、それが表す曲面との許容距離です。単位はモデルの単位です。小さいほど滑らかに見え、三角形が増えます。</translation>
+    </message>
+    <message>
+        <source>How long the edges of a triangle may be, in the unit of the model. A smaller value makes more triangles of more even sizes.</source>
+        <translation>三角形の辺の最大長です。単位はモデルの単位です。小さいほど三角形が増え、大きさが揃います。</translation>
+    </message>
+    <message>
+        <source>How far a curved face may turn from one triangle to the next. A smaller value looks rounder and makes more triangles.</source>
+        <translation>隣り合う三角形の間で曲面が曲がってよい角度です。小さいほど滑らかに見え、三角形が増えます。</translation>
+    </message>
+</context>
+<context>
+    <name>ZelPageHelp</name>
+    <message>
+        <source>Range: %1.</source>
+        <translation>範囲：%1。</translation>
+    </message>
+    <message>
+        <source>Default: %1.</source>
+        <translation>デフォルト：%1。</translation>
+    </message>
+    <message>
+        <source>Takes effect: %1.</source>
+        <translation>反映：%1。</translation>
+    </message>
+    <message>
+        <source>at once</source>
+        <translation>すぐに</translation>
+    </message>
+    <message>
+        <source>with the next import</source>
+        <translation>次回のインポート時</translation>
+    </message>
+    <message>
+        <source>after a restart</source>
+        <translation>再起動後</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 ～ %2</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 または %2</translation>
+    </message>
 </context>
 <context>
     <name>ZelRendererSelector</name>
@@ -309,6 +639,26 @@ You may manually choose the parameters that will best fit your needs.</source>
     <message>
         <source>Ok</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Closes without a choice</source>
+        <translation>選択せずに閉じます</translation>
+    </message>
+    <message>
+        <source>Draws with the processor</source>
+        <translation>プロセッサーで描画します</translation>
+    </message>
+    <message>
+        <source>Draws with the graphics card</source>
+        <translation>グラフィックスカードで描画します</translation>
+    </message>
+    <message>
+        <source>Uses the chosen engine</source>
+        <translation>選択したエンジンを使用します</translation>
     </message>
 </context>
 <context>
@@ -465,6 +815,54 @@ You may manually choose the parameters that will best fit your needs.</source>
         <source>%1 cores</source>
         <translation>%1 コア</translation>
     </message>
+    <message>
+        <source>Rendering engine</source>
+        <translation>レンダリングエンジン</translation>
+    </message>
+    <message>
+        <source>Decides what draws your models. The high mode uses the graphics card; the low mode uses the processor and runs everywhere. Only the settings of the chosen mode are shown.</source>
+        <translation>モデルを何で描画するかを決めます。高モードはグラフィックスカードを使用し、低モードはプロセッサーを使用してどの環境でも動作します。選んだモードの設定だけが表示されます。</translation>
+    </message>
+    <message>
+        <source>The unit in which your scene is modelled. SSAO sizes its shadows by it: with a wrong unit they are too strong or cannot be seen. It counts only while SSAO is used.</source>
+        <translation>シーンをモデリングした単位です。SSAO の影の大きさはこの単位で決まり、間違っていると影が濃すぎたり見えなかったりします。SSAO を使用している間だけ有効です。</translation>
+    </message>
+    <message>
+        <source>How carefully the raytracer computes a picture. A higher quality looks better and takes longer.</source>
+        <translation>レイトレーサーが画像をどれだけ丁寧に計算するかです。品質が高いほど美しく、時間がかかります。</translation>
+    </message>
+    <message>
+        <source>How many cores of the processor the raytracer may use. More cores make it faster and leave less to other programs.</source>
+        <translation>レイトレーサーが使用できるプロセッサーのコア数です。多いほど速くなりますが、ほかのプログラムの分が減ります。</translation>
+    </message>
+    <message>
+        <source>Smooths the jagged edges of the picture. It takes little time on a current graphics card.</source>
+        <translation>画像のギザギザした縁を滑らかにします。最近のグラフィックスカードではほとんど時間がかかりません。</translation>
+    </message>
+    <message>
+        <source>Darkens corners and gaps as soft light does, so that shapes are easier to see. It takes some time in every picture.</source>
+        <translation>柔らかい光のように角や隙間を暗くし、形を見やすくします。画像ごとに少し時間がかかります。</translation>
+    </message>
+    <message>
+        <source>Draws lines along the edges of the parts. This helps to tell parts of the same colour apart.</source>
+        <translation>部品の縁に沿って線を描きます。同じ色の部品を見分けやすくなります。</translation>
+    </message>
+    <message>
+        <source>How much of the computer&apos;s memory the models may take while the graphics card draws them. With more of it, more details stay loaded.</source>
+        <translation>グラフィックスカードで描画する間、モデルが使用できるコンピューターのメモリ量です。多いほど多くの細部が読み込まれたままになります。</translation>
+    </message>
+    <message>
+        <source>How much of the computer&apos;s memory the raytracer may take. With more of it, larger models can be drawn.</source>
+        <translation>レイトレーサーが使用できるコンピューターのメモリ量です。多いほど大きなモデルを描画できます。</translation>
+    </message>
+    <message>
+        <source>How much of the graphics card&apos;s memory the models may take. Stay below what the card has: other programs need some too.</source>
+        <translation>モデルが使用できるグラフィックスカードのメモリ量です。ほかのプログラムも使用するため、カードの容量より小さくしてください。</translation>
+    </message>
+    <message>
+        <source>How many triangles one picture may have at most. With fewer, models move more smoothly; with more, they show finer details.</source>
+        <translation>1 枚の画像に含められる三角形の最大数です。少ないほどモデルの動きが滑らかになり、多いほど細部が表示されます。</translation>
+    </message>
 </context>
 <context>
     <name>ZelSimplificationSettingsPanel</name>
@@ -511,6 +909,14 @@ compression</source>
     <message>
         <source>Simplification</source>
         <translation>簡略化</translation>
+    </message>
+    <message>
+        <source>This level keeps every triangle of the model. It cannot be changed.</source>
+        <translation>このレベルはモデルのすべての三角形を残します。変更できません。</translation>
+    </message>
+    <message>
+        <source>How many of the model&apos;s triangles an export at this level keeps, in percent. A level never keeps more than the one above it.</source>
+        <translation>このレベルのエクスポートで残すモデルの三角形の割合 (%) です。上のレベルより多く残すことはありません。</translation>
     </message>
 </context>
 </TS>

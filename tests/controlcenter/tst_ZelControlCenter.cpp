@@ -5,6 +5,7 @@
 #include "ZelControlCenter.h"
 #include "ZelEditablePanel.h"
 #include "ZelGeneralSettingsPanel.h"
+#include "zelSpinBox.h"
 
 #include "platform/zelAction.h"
 
@@ -104,7 +105,12 @@ private Q_SLOTS:
         QCOMPARE(m_controlCenter->settingsWidth(), 450);
 
         m_controlCenter->setControlCenterVisible(false);
-        QTRY_VERIFY(!m_controlCenter->isSettingsOpen());
+        const auto* pages = m_controlCenter->findChild<QFrame*>("preferenceFrame");
+        while (m_controlCenter->isSettingsOpen()) {
+            QCOMPARE(pages->isVisible() ? pages->y() : 0, 0); // The column stands still.
+            QTest::qWait(10);
+        }
+        QVERIFY(column()->parentWidget()->height() > 100);
         QCOMPARE(m_controlCenter->settingsWidth(), 0);
         QVERIFY(showsActions(true));
 
@@ -252,7 +258,7 @@ private Q_SLOTS:
         for (const int answerAfter : {0, 200}) { // During the slide, and when it is over.
             openEverything();
             m_pages[0]->edit();
-            BoxAnswer answer(QMessageBox::Cancel);
+            BoxAnswer answer(QMessageBox::Cancel, Qt::Key_Return); // What is not destructive is the default.
             answer.setInterval(answerAfter);
             m_controlCenter->openMenu(false);
             QTRY_VERIFY(m_controlCenter->isSettingsOpen());
@@ -383,6 +389,77 @@ private Q_SLOTS:
         }
     }
 
+    void keysDoWhatTheMouseDoes()
+    {
+        addPages(3);
+        zel::zelSpinBox box(m_pages[0].get());
+        QCheckBox check(m_pages[0].get());
+        box.setRange(10, 4096);
+        openEverything();
+        box.setFocus();
+        // Escape puts back what is typed, and only that.
+        const std::pair<Qt::Key, int> ends[] = {
+            {Qt::Key_Escape, 10}, {Qt::Key_Return, 33}, {Qt::Key_Escape, 33}};
+        for (const auto& [end, value] : ends) {
+            box.selectAll();
+            QTest::keyClicks(&box, value == box.value() ? "44" : "33");
+            press(end);
+            QCOMPARE(box.value(), value);
+        }
+        check.setFocus();
+        for (const bool checked : {true, false}) {
+            press(checked ? Qt::Key_Return : Qt::Key_Enter);
+            QCOMPARE(check.isChecked(), checked);
+        }
+        m_pages[0]->getActionWidget()->setFocus();
+        const int bottom = scrollBar()->maximum(), page = scrollBar()->pageStep();
+        const std::pair<Qt::Key, int> scrolls[] = {{Qt::Key_End, bottom},
+                                                   {Qt::Key_PageUp, qMax(0, bottom - page)},
+                                                   {Qt::Key_Home, 0},
+                                                   {Qt::Key_PageDown, qMin(bottom, page)}};
+        for (const auto& [key, place] : scrolls) {
+            press(key);
+            QCOMPARE(scrollBar()->value(), place);
+        }
+        // A button that has been pressed hands the focus on to the page in view.
+        m_pages[0]->edit();
+        button("applyButton")->setFocus();
+        press(Qt::Key_Return);
+        QVERIFY(!canApply() && qobject_cast<QPushButton*>(QApplication::focusWidget())->isChecked());
+    }
+
+    void shortcutsAreTheApplications()
+    {
+        addPages(1);
+        QSpinBox box(m_pages[0].get());
+        openEverything();
+        int key = Qt::Key_1;
+        for (const char* name :
+             {"apply", "reset", "help", "putBack", "pageUp", "pageDown", "top", "bottom"}) {
+            auto* action = m_controlCenter->findChild<QAction*>(name);
+            QVERIFY(action && action->shortcuts().isEmpty() && !action->text().isEmpty());
+            action->setShortcut(QKeySequence(Qt::CTRL + key++));
+        }
+        QVERIFY(!m_controlCenter->findChild<QAction*>("apply")->isEnabled());
+        QSignalSpy help(m_controlCenter.get(), SIGNAL(helpRequested(QWidget*)));
+        QDialog other(m_window.get(), Qt::Tool);
+        QLineEdit field(&other);
+        m_view->setFocusPolicy(Qt::StrongFocus);
+        m_pages[0]->edit();
+        // They do not work in its other widgets and windows.
+        for (QWidget* widget : std::initializer_list<QWidget*>{m_view, &field, &box}) {
+            QVERIFY(m_calls.isEmpty());
+            widget->window()->show();
+            QApplication::setActiveWindow(widget->window());
+            widget->setFocus();
+            for (key = Qt::Key_1; key <= Qt::Key_3; ++key)
+                press(key, Qt::ControlModifier);
+        }
+        QCOMPARE(m_calls.join(","), QString("P0 apply,P0 reset"));
+        QCOMPARE(help.value(0).value(0).value<QWidget*>(), &box);
+        QVERIFY(box.hasFocus());
+    }
+
     void pageKeepsItsStyle()
     {
         FakePage page("Styled", m_application->getSettings(), m_calls);
@@ -466,23 +543,19 @@ private Q_SLOTS:
     {
         QPushButton external;
         m_controlCenter->setControlCenterButton(&external);
-        const QTemporaryDir folder;
-        const QString icons[] = {folder.filePath("off.png"), folder.filePath("on.png")};
-        const QColor colors[] = {Qt::red, Qt::green};
-        for (const int on : {0, 1}) {
-            QPixmap picture(40, 40);
-            picture.fill(colors[on]);
-            QVERIFY(picture.save(icons[on]));
-        }
-        m_controlCenter->setInterfaceColor(QColor(10, 20, 30, 128), icons[1], icons[0]);
+        const QString on(":/controlCenter/controlCenter/controlCenterOn.png");
+        const QString off(":/controlCenter/controlCenter/controlCenterOff.png");
+        m_controlCenter->setInterfaceColor(QColor(10, 20, 30, 128), on, off);
         m_controlCenter->show();
         const QImage column = m_controlCenter->grab().toImage();
         QCOMPARE(column.pixelColor(100, column.height() - 10), QColor(10, 20, 30));
         QCOMPARE(external.iconSize(), QSize(40, 40));
-        for (const int on : {0, 1}) {
-            const QPixmap shown = external.icon().pixmap(40, QIcon::Normal, on ? QIcon::On : QIcon::Off);
-            QCOMPARE(shown.toImage().pixelColor(20, 20), colors[on]);
-        }
+        const auto picture = [](const QIcon& icon, QIcon::State state) {
+            return icon.pixmap(40, QIcon::Normal, state).toImage();
+        };
+        QCOMPARE(picture(external.icon(), QIcon::On), picture(QIcon(on), QIcon::On));
+        QCOMPARE(picture(external.icon(), QIcon::Off), picture(QIcon(off), QIcon::Off));
+        QVERIFY(picture(QIcon(on), QIcon::On) != picture(QIcon(off), QIcon::Off));
     }
 
 private:
@@ -507,6 +580,11 @@ private:
             m_pages.emplace_back(new FakePage(QString("P%1").arg(i), m_application->getSettings(), m_calls));
             m_controlCenter->registerSettingsPanel(m_pages.back().get());
         }
+    }
+
+    static void press(int key, Qt::KeyboardModifier modifier = Qt::NoModifier)
+    {
+        QTest::keyClick(QApplication::activeWindow()->windowHandle(), Qt::Key(key), modifier);
     }
 
     /// Without a slide that is worth a wait.

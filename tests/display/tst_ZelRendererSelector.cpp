@@ -34,6 +34,8 @@ private Q_SLOTS:
             QCOMPARE(selector.useGPURenderer(), before);
             QTest::mouseRelease(selector.child(name), Qt::LeftButton);
             QCOMPARE(selector.useGPURenderer(), gpu);
+            QCOMPARE(selector.child(name)->hasFocus(), name != clicks[0].first && name != clicks[2].first);
+            selector.child("okButton")->setFocus();
             QVERIFY2(selector.grab().toImage() == look, "a choice is not to be highlighted");
         }
     }

@@ -137,6 +137,9 @@ public:
         return shown;
     }
 
+    /// What the editor has written to its standard output.
+    QByteArray output() { return m_process.readAllStandardOutput(); }
+
     bool has(const QString& property, const QString& state) const
     {
         return m_desktop.ask("xprop", {"-id", m_window, property}).contains(state);

@@ -10,7 +10,7 @@ class tst_Directories : public QObject
 private Q_SLOTS:
     void userFolders()
     {
-        // What the variables hold, and the folder that it names; null: the one below the home folder.
+        // The value of the variables, and its folder; null for the one below the home folder.
         const std::pair<QByteArray, QByteArray> rows[] = {
             {"", {}},       {"/data/of me", "/data/of me"},  {"/data//", "/data"}, {"data", {}},
             {"~/data", {}}, {"/d\xc3\xa4ta", "/d\xc3\xa4ta"}};

@@ -5,7 +5,7 @@
 #include <atomic>
 #include <thread>
 
-/// Each test has a log file of its own, in a folder whose name goes beyond ASCII.
+/// Each test has a log file of its own, in a folder with a name beyond ASCII.
 class tst_MTLogger : public QObject
 {
     Q_OBJECT
@@ -44,7 +44,7 @@ private Q_SLOTS:
         MTLogger::Log("warning", "l\xc3\xb6st\r\ntwo\tC:\\new \x1b[31m\xe2\x80\xa8 broken:\xff");
         const char expected[] =
             "[warning] l\xc3\xb6st\\r\\ntwo\tC:\\new \\u001b[31m\\u2028 broken:\xef\xbf\xbd";
-        // The handler still has the file: what was logged is there all the same.
+        // The handler has the file open: events are written at once.
         QCOMPARE(eventsIn(m_path), QStringList(QString::fromUtf8(expected)));
     }
 
@@ -57,7 +57,7 @@ private Q_SLOTS:
             {false, " ,; ,inf,error1", "info,Load Time,error"}};
         for (const auto& [diagnostics, blackList, expected] : rows) {
             init();
-            MTLogger::Log("debug", "kept"); // The handler decides on events before it as well.
+            MTLogger::Log("debug", "kept"); // The rules hold for earlier events too.
             install(diagnostics, blackList);
             for (const char* type : {"info", "Load Time", "error"})
                 MTLogger::Log(type, "");

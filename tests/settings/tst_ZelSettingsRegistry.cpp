@@ -1,3 +1,4 @@
+#include "ZelPageDefaults.h"
 #include "ZelSettingsRegistry.h"
 #include "ZelSettingsValidators.h"
 
@@ -90,6 +91,33 @@ private Q_SLOTS:
         QCOMPARE(error, QString("b failed"));
         QCOMPARE(calls, QStringList("a:missing:MISSING"));
         QVERIFY(!settings.contains("b"));
+    }
+
+    void pageDefaults()
+    {
+        const QTemporaryDir folder;
+        QSettings defaults(folder.filePath("Defaults.ini"), QSettings::IniFormat);
+        ZelPageDefaults::Register(defaults);
+        QVERIFY(Registry::GetDefaultSettingsValues().empty());
+
+        // Key, text, and what is registered; a null text where nothing is.
+        const QString rows[][3] = {
+            {"raytracer/coreNumber", "100000", QString::number(QThread::idealThreadCount())},
+            {"Resources/LODTrianglesCap", "1", "50000"},
+            {"deferred/useED", "yes", {}},
+            {"deferred/useSSAO", "", {}},
+            {"Simplification/Ratios", "1/0.5", {}},
+            {"screenshot/ImageFolder", QString::fromUtf8("/\303\274"), QString::fromUtf8("/\303\274")},
+            {"raytracer/quality", "Ultra", "Low"}, // Registered before.
+            {"unknown", "1", {}}};
+        Registry::RegisterSetting("raytracer/quality", "Low", &upper);
+        for (const auto& [key, text, registered] : rows)
+            defaults.setValue(key, text);
+        ZelPageDefaults::Register(defaults);
+        for (const auto& [key, text, registered] : rows) {
+            QCOMPARE(Registry::GetDefaultSettingsValue(key), registered);
+            QCOMPARE(Registry::GetDefaultSettingsValue(key).isNull(), registered.isNull());
+        }
     }
 
     void endChecks()

@@ -1,3 +1,4 @@
+#include "BoxAnswer.h"
 #include "FakeApplication.h"
 #include "Version.h"
 #include "ZelControlCenter.h"
@@ -9,6 +10,21 @@
 
 using zel::ZelControlCenterStandAloneWidget;
 using zel::ZelSettingsPanel;
+
+namespace {
+
+/// Another window on the same settings, and thus on the same stored place.
+struct NextWindow : ZelControlCenterStandAloneWidget
+{
+    explicit NextWindow(FakeApplication& application)
+        : ZelControlCenterStandAloneWidget(&application, nullptr, Qt::FramelessWindowHint)
+    {
+        findChild<zel::ZelControlCenter*>()->applyModifications(); // So that closing does not ask.
+        show();
+    }
+};
+
+} // namespace
 
 class tst_ZelControlCenterStandAloneWidget : public QObject
 {
@@ -37,6 +53,7 @@ private Q_SLOTS:
         QScrollArea* drawer = m_window.findChild<zel::ZelControlCenter*>()->settingsWidget();
         const QScrollBar* bar = drawer->verticalScrollBar();
         QSet<QString> turned;
+        m_window.findChild<QCheckBox*>("deferredSSAOCheckBox")->setChecked(true); // Enables the scene units.
         for (const char* engine : {"raytracerButton", "deferredButton"}) {
             m_window.findChild<QRadioButton*>(engine)->click();
             for (QWidget* field : m_window.findChildren<QWidget*>()) {
@@ -60,6 +77,154 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(turned.size(), 4); // Numbers of both kinds, sliders and lists.
+    }
+
+    void tabReachesEveryControl()
+    {
+        QSet<const QWidget*> reached;
+        m_window.setMinimumSize(400, 250); // As on a screen that is too small.
+        m_window.resize(400, 250);
+        for (int i = 0; i < 100; ++i) {
+            QTest::keyClick(m_window.windowHandle(), Qt::Key_Tab);
+            const QWidget* focused = QApplication::focusWidget();
+            QCoreApplication::processEvents();
+            QVERIFY2(focused->visibleRegion().contains(focused->rect().center()),
+                     qPrintable(focused->objectName() + " is out of sight"));
+            reached << focused;
+        }
+        m_window.resize(800, 600);
+        m_window.setMinimumSize(702, 300);
+        for (QWidget* widget : m_window.findChildren<QWidget*>()) {
+            const auto* button = qobject_cast<QAbstractButton*>(widget);
+            const bool arrowKeys = button && button->autoExclusive() && !button->isChecked();
+            const bool control = (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy();
+            if (control && widget->isVisible() && widget->isEnabled() && !arrowKeys)
+                QVERIFY2(reached.contains(widget), qPrintable(widget->objectName()));
+        }
+    }
+
+    void windowButtonsWorkByKeyboard()
+    {
+        for (const auto* button : m_window.findChild<QFrame*>("buttonsFrame")->findChildren<QPushButton*>())
+            QVERIFY(qMin(button->width(), button->height()) >= 24 && !button->accessibleName().isEmpty());
+        auto* button = m_window.findChild<QPushButton*>("maximizeButton");
+        button->setFocus();
+        for (const char* tip : {"Restore", "Maximize"}) {
+            QTest::keyClick(m_window.windowHandle(), Qt::Key_Return);
+            QTRY_COMPARE(button->toolTip() + button->accessibleName(), QString(tip) + tip);
+        }
+        QVERIFY(!m_window.isMaximized() && !m_window.windowIcon().isNull());
+        QString product; // Is read as one name, although one half of it is bold.
+        for (QLabel* label : m_window.findChild<QFrame*>("appFrame")->findChildren<QLabel*>()) {
+            const QAccessibleInterface* read = QAccessible::queryAccessibleInterface(label);
+            product += read->state().invisible ? QString() : read->text(QAccessible::Name);
+        }
+        QCOMPARE(product, QString("Torvane"));
+    }
+
+    void shortcuts()
+    {
+        const auto* controlCenter = m_window.findChild<zel::ZelControlCenter*>();
+        auto* check = m_window.findChild<QCheckBox*>("deferredFXAACheckBox");
+        const auto press = [this](Qt::Key key, Qt::KeyboardModifier modifier) {
+            QApplication::setActiveWindow(&m_window); // After a box, too.
+            QTest::keyClick(m_window.windowHandle(), key, modifier);
+        };
+        check->setFocus();
+        for (const bool alt : {false, true}) {
+            press(Qt::Key_Return, Qt::NoModifier);
+            QVERIFY(controlCenter->hasModifications());
+            alt ? press(Qt::Key_A, Qt::AltModifier) : press(Qt::Key_S, Qt::ControlModifier);
+            QTRY_VERIFY(!controlCenter->hasModifications());
+            QVERIFY(check->hasFocus());
+        }
+        check->setChecked(false);
+        press(Qt::Key_Space, Qt::NoModifier);
+        for (const Qt::Key key : {Qt::Key_Q, Qt::Key_W}) {
+            BoxAnswer answer(QMessageBox::NoButton, Qt::Key_Return);
+            press(key, Qt::ControlModifier);
+            QCOMPARE(answer.texts.size(), 1);
+            QVERIFY(m_window.isVisible() && check->isChecked());
+        }
+        press(Qt::Key_R, Qt::AltModifier);
+        QTRY_VERIFY(!check->isChecked());
+    }
+
+    void edgesAndCornersResize()
+    {
+        const QRect start(30, 40, 740, 500);
+        const struct
+        {
+            QPoint press, drag;
+            Qt::CursorShape pointer;
+            QRect result;
+        } rows[] = {
+            {{2, 250}, {-20, 7}, Qt::SizeHorCursor, {10, 40, 760, 500}},
+            {{737, 250}, {10, 7}, Qt::SizeHorCursor, {30, 40, 750, 500}},
+            {{300, 2}, {7, -30}, Qt::SizeVerCursor, {30, 10, 740, 530}},
+            {{300, 498}, {7, 30}, Qt::SizeVerCursor, {30, 40, 740, 530}},
+            {{3, 9}, {10, 20}, Qt::SizeFDiagCursor, {40, 60, 730, 480}},
+            {{730, 497}, {10, 20}, Qt::SizeFDiagCursor, {30, 40, 750, 520}},
+            {{736, 9}, {10, 20}, Qt::SizeBDiagCursor, {30, 60, 750, 480}},
+            {{9, 497}, {10, 20}, Qt::SizeBDiagCursor, {40, 40, 730, 520}},
+            {{2, 250}, {300, 0}, Qt::SizeHorCursor, {68, 40, 702, 500}}, // Menu, drawer and frame.
+            {{300, 498}, {0, 700}, Qt::SizeVerCursor, {30, 40, 740, 600}},
+            {{300, 498}, {0, -700}, Qt::SizeVerCursor, {30, 40, 740, 300}},
+            {{9, 250}, {10, 10}, Qt::ArrowCursor, start},
+        };
+        QWindow* handle = m_window.windowHandle();
+        for (const auto& row : rows) {
+            m_window.setGeometry(start);
+            QTest::mouseMove(handle, row.press);
+            QCOMPARE(m_window.cursor().shape(), row.pointer);
+            QTest::mousePress(handle, Qt::LeftButton, Qt::NoModifier, row.press);
+            QTest::mouseMove(handle, row.press + row.drag);
+            const QPoint released = start.topLeft() + row.press + row.drag - m_window.pos();
+            QTest::mouseRelease(handle, Qt::LeftButton, Qt::NoModifier, released);
+            QCOMPARE(m_window.geometry(), row.result);
+        }
+        m_window.setGeometry(0, 0, 800, 600);
+    }
+
+    void opensWhereItWasClosed()
+    {
+        FakeApplication application;
+        const QRect place(20, 30, 720, 400);
+        {
+            NextWindow window(application);
+            QCOMPARE(window.size(), QSize(800, 600));
+            window.setGeometry(place);
+            window.close();
+        }
+        {
+            NextWindow window(application);
+            QCOMPARE(window.geometry(), place);
+            window.showMaximized();
+            window.close();
+        }
+        {
+            NextWindow window(application);
+            QVERIFY(window.isMaximized());
+            window.triggerMaximize();
+            QTRY_COMPARE(window.geometry(), place);
+            window.close();
+        }
+        const struct
+        {
+            const char* key;
+            QVariant value;
+            QRect opened;
+        } rows[] = {{"geometry", QRect(-500, 900, 3000, 400), {0, 200, 800, 400}},
+                    {"geometry", "nonsense", {0, 0, 800, 600}},
+                    {"geometry", place, place},
+                    {"desktop", QRect(0, 0, 1920, 1080), {0, 0, 800, 600}}};
+        QSettings file(QFileInfo(application.getSettings().fileName()).path() + "/Window.ini",
+                       QSettings::IniFormat);
+        for (const auto& row : rows) {
+            file.setValue(row.key, row.value);
+            file.sync();
+            QCOMPARE(NextWindow(application).geometry(), row.opened);
+        }
     }
 
     void headerMovesAndMaximizes()

@@ -1,29 +1,32 @@
 #ifndef ZEL_BOXANSWER_H
 #define ZEL_BOXANSWER_H
 
+#include <QtTest>
 #include <QtWidgets>
 
 /// Answers the message boxes that open while it lives, as a user would: by a click on one of their buttons,
-/// or by Escape where that is to be. Keeps what they said.
+/// by Escape where that is to be, or by a key. Keeps what they said.
 class BoxAnswer : public QTimer
 {
 public:
-    explicit BoxAnswer(QMessageBox::StandardButton button)
+    explicit BoxAnswer(QMessageBox::StandardButton button, Qt::Key key = Qt::Key_unknown)
     {
-        callOnTimeout([this, button] { answer(button); });
+        callOnTimeout([this, button, key] { answer(button, key); });
         start(20);
     }
 
     QStringList texts;
 
 private:
-    void answer(QMessageBox::StandardButton wanted)
+    void answer(QMessageBox::StandardButton wanted, Qt::Key key)
     {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (!box || !box->isVisible())
             return;
         texts << box->text();
-        if (QAbstractButton* button = box->button(wanted))
+        if (key != Qt::Key_unknown)
+            QTest::keyClick(box->windowHandle(), key);
+        else if (QAbstractButton* button = box->button(wanted))
             button->click();
         else
             box->reject();

@@ -198,6 +198,15 @@ private Q_SLOTS:
         window.openMenu();
         QTRY_VERIFY(controlCenter->isSettingsOpen());
         QCOMPARE(clippedTexts(window), QString());
+
+        window.resize(1035, 800); // Hardly wide enough for the help.
+        const auto* help = window.findChild<QWidget*>("helpFrame");
+        for (QWidget* field : controlCenter->settingsWidget()->findChildren<QWidget*>()) {
+            QEvent enter(QEvent::Enter);
+            QCoreApplication::sendEvent(field, &enter);
+            QVERIFY(help->isVisible());
+            QTRY_COMPARE(clippedTexts(*help), QString());
+        }
     }
 };
 

@@ -18,13 +18,13 @@
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
-// The toolkit's hook for tools that watch its objects.
+// Qt's hook for tools that watch its objects.
 extern Q_CORE_EXPORT quintptr qtHookData[];
 
-/// What the process holds at the moment.
+/// The resources that the process holds at the moment.
 struct Census
 {
-    int objects = 0;       ///< The toolkit's objects, from the first call of start() on.
+    int objects = 0;       ///< QObjects, from the first call of start() on.
     int descriptors = 0;   ///< Open files, sockets and pipes.
     qint64 heap = 0;       ///< Bytes in use.
     QStringList withTimer; ///< Classes of the objects that have a timer running.
@@ -47,7 +47,7 @@ struct Census
         census.heap = heapInUse();
         for (QObject* object : alive) {
             const QString name = object->metaObject()->className();
-            // The toolkit's caches tidy themselves up from time to time.
+            // Qt clears its caches from time to time.
             if (name != "QPMCache" && name != "QFontCache" &&
                 !QAbstractEventDispatcher::instance(object->thread())->registeredTimers(object).isEmpty())
                 census.withTimer << name;

@@ -23,9 +23,8 @@ const QStringList Qualities = {"Low", "Medium", "High", "Ultra"};
 const QStringList Units = {"0.001", "0.01", "0.1", "1", "10", "100", "1000"};
 const QStringList Number;
 
-/// A widget; the one that decides whether its value counts, which it does while that is checked or, behind a
-/// "!", while it is not; the key, its default, and the texts that stand for the values, if those are not
-/// numbers.
+/// A widget; the button that decides whether its value counts (while it is checked or, after a "!", while it
+/// is not); the key; its default; and the stored texts of the values, if those are not numbers.
 const struct Field
 {
     QString page, widget, decider;
@@ -78,7 +77,7 @@ QVariant shownValue(const QWidget* widget)
     return QVariant();
 }
 
-/// Whether the value of a widget counts beside those of the others.
+/// Whether the value of a widget counts, given the others.
 bool counts(const Values& values, const QString& widget)
 {
     const auto field = std::find_if(std::begin(Fields), std::end(Fields),
@@ -88,7 +87,7 @@ bool counts(const Values& values, const QString& widget)
            (values[decider].toBool() != field->decider.startsWith('!') && counts(values, decider));
 }
 
-/// Whether two states of a page, or of any for an empty name, say something different.
+/// Whether two states of a page, or of any page for an empty name, differ.
 bool differ(const Values& left, const Values& right, const QString& page = QString())
 {
     return std::any_of(std::begin(Fields), std::end(Fields), [&](const Field& field) {
@@ -107,7 +106,7 @@ QString textIn(const QString& file, const QString& key)
     return values.section("\n" + key.section('/', -1) + "=", 1).section('\n', 0, 0);
 }
 
-/// A user in front of the stand-alone window, who does anything, and a small model of what must come of it.
+/// A user who does random things in the stand-alone window, and a small model of the expected results.
 class Walk
 {
 public:
@@ -156,7 +155,7 @@ public:
             reload();
     }
 
-    /// What in the window or in the file is not as it must be; empty when nothing.
+    /// What is wrong in the window or in the file; empty if nothing is.
     QString difference()
     {
         for (const Field& field : Fields) {
@@ -203,7 +202,7 @@ private:
         evaluate();
     }
 
-    /// The pages that differ take over what another state says.
+    /// The pages that differ take the values of another state.
     static void take(const Values& from, Values& to)
     {
         for (const char* page : {"General", "Display", "Simplification", "Import"}) {
@@ -241,14 +240,14 @@ private:
             value = widget->inherits("QComboBox") ? (last ? 6 : 0)
                                                   : widget->property(last ? "maximum" : "minimum");
         }
-        // What comes of it elsewhere on the page is for the page's own test; other pages stay as they are.
+        // Effects on the same page are for the page's own test; other pages must not change.
         for (const Field& other : Fields) {
             if (other.page == field.page)
                 m_shown[other.widget] = shownValue(find(other.widget));
         }
         m_shown[field.widget] = value;
-        // The numbers of the Import page tell no one; buttons there, and ratios, tell of each visit, others
-        // of changes.
+        // The numbers of the Import page emit nothing; its buttons, and ratios, emit on each visit, the other
+        // widgets on changes.
         if (field.page == "Import" ? radio : !field.key || m_shown != before)
             evaluate();
     }
@@ -299,7 +298,7 @@ private:
         settle();
     }
 
-    /// Lets all slides come to their end, and chooses how long the next ones take.
+    /// Waits for the end of all slides, and chooses how long the next ones take.
     void settle()
     {
         const auto slides = m_controlCenter.findChildren<QPropertyAnimation*>();
@@ -319,7 +318,7 @@ private:
     ZelControlCenterStandAloneWidget m_window;
     ZelControlCenter& m_controlCenter;
     Values m_defaults, m_stored, m_shown;
-    bool m_canApply = false, m_canReset = false; ///< As of the last evaluation.
+    bool m_canApply = false, m_canReset = false; ///< At the last evaluation.
 };
 
 void registerSettings()
@@ -334,11 +333,10 @@ void registerSettings()
 
 } // namespace
 
-/// Long use, compressed: edits, applies, resets, reopenings and scrolls in any order. After each step window
-/// and file must be as the rules say; after each round nothing may have grown; when all is closed nothing may
-/// be left.
+/// Edits, applies, resets, reopenings and scrolls in random order. Window and file must follow the model
+/// after each step; no resource may have grown after each round; none may be left after the window is closed.
 ///
-/// WALK_SEED and WALK_ROUNDS in the environment make another walk, or a longer one.
+/// The environment variables WALK_SEED and WALK_ROUNDS make another walk, or a longer one.
 class tst_RandomWalk : public QObject
 {
     Q_OBJECT

@@ -26,6 +26,9 @@ kqMessageBox::ShowMessage(const QString& title, const QString& text, QMessageBox
                                                     flags | Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint));
     box->setIcon(icon(*box, critical));
     box->setTextFormat(Qt::PlainText);
+    // What is asked may lose something, which a key pressed in passing must not do.
+    if (buttons & QMessageBox::Cancel)
+        box->setDefaultButton(QMessageBox::Cancel);
     box->setStyleSheet(kqDMIApplication::GetStylesheet("kqMessageBox"));
     for (auto entry = buttonTexts.begin(); entry != buttonTexts.end(); ++entry) {
         if (QAbstractButton* button = box->button(entry.key()))

@@ -1,0 +1,170 @@
+#include "ControlCenterActions.h"
+
+#include <QAbstractSpinBox>
+#include <QAction>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+
+namespace zel {
+
+namespace {
+
+const char* const ValueProperty = "value";
+
+const struct Command
+{
+    const char* name;
+    const char* text;
+    const char* slot;
+    int columnKey; ///< The key that triggers it from the column, if any.
+    QAbstractSlider::SliderAction scrolling;
+} Commands[] = {
+    {"help", QT_TRANSLATE_NOOP("ZelControlCenter", "Help on this setting"), SLOT(requestHelp()), 0,
+     QAbstractSlider::SliderNoAction},
+    {"putBack", QT_TRANSLATE_NOOP("ZelControlCenter", "Put back what was typed"), SLOT(putBack()), 0,
+     QAbstractSlider::SliderNoAction},
+    {"pageUp", QT_TRANSLATE_NOOP("ZelControlCenter", "Scroll up"), SLOT(scroll()), Qt::Key_PageUp,
+     QAbstractSlider::SliderPageStepSub},
+    {"pageDown", QT_TRANSLATE_NOOP("ZelControlCenter", "Scroll down"), SLOT(scroll()), Qt::Key_PageDown,
+     QAbstractSlider::SliderPageStepAdd},
+    {"top", QT_TRANSLATE_NOOP("ZelControlCenter", "Scroll to the top"), SLOT(scroll()), Qt::Key_Home,
+     QAbstractSlider::SliderToMinimum},
+    {"bottom", QT_TRANSLATE_NOOP("ZelControlCenter", "Scroll to the bottom"), SLOT(scroll()), Qt::Key_End,
+     QAbstractSlider::SliderToMaximum},
+};
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("ZelControlCenter", text);
+}
+
+/// Clicks a button, and is enabled exactly while the button is.
+class ButtonAction : public QAction
+{
+public:
+    explicit ButtonAction(QPushButton* button)
+        : QAction(button->text(), nullptr)
+    {
+        setToolTip(button->toolTip());
+        setEnabled(button->isEnabled());
+        button->installEventFilter(this);
+        connect(this, SIGNAL(triggered()), button, SLOT(click()));
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::EnabledChange)
+            setEnabled(static_cast<QPushButton*>(watched)->isEnabled());
+        return false;
+    }
+};
+
+} // namespace
+
+ControlCenterActions::ControlCenterActions(QWidget* column, QScrollArea* drawer, QPushButton* apply,
+                                           QPushButton* reset)
+    : QObject(column)
+    , m_column(column)
+    , m_drawer(drawer)
+{
+    column->installEventFilter(this);
+    drawer->installEventFilter(this);
+    connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
+
+    add("apply", new ButtonAction(apply));
+    add("reset", new ButtonAction(reset));
+    // The focus may stay in a field, whose value is then no longer one that is being typed.
+    connect(apply, SIGNAL(clicked()), this, SLOT(rememberField()));
+    connect(reset, SIGNAL(clicked()), this, SLOT(rememberField()));
+    for (const Command& command : Commands) {
+        QAction* action = add(command.name, new QAction(translated(command.text), nullptr));
+        action->setData(command.scrolling);
+        connect(action, SIGNAL(triggered()), this, command.slot);
+    }
+    m_putBack = findChild<QAction*>("putBack");
+    m_putBack->setEnabled(false);
+}
+
+QAction* ControlCenterActions::add(const char* name, QAction* action)
+{
+    action->setParent(this);
+    action->setObjectName(name);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    m_column->addAction(action);
+    m_drawer->addAction(action);
+    return action;
+}
+
+bool ControlCenterActions::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool inColumn = watched == m_column;
+    const auto* key = static_cast<QKeyEvent*>(event);
+    // A number that is being typed counts before a shortcut is looked up: "Apply" depends on it.
+    if (event->type() == QEvent::ShortcutOverride && m_field &&
+        (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier)))
+        m_field->interpretText();
+    return event->type() == QEvent::KeyPress && press(*key, inColumn);
+}
+
+bool ControlCenterActions::press(const QKeyEvent& event, bool inColumn)
+{
+    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    if (modifiers != Qt::NoModifier)
+        return false;
+    if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
+        rememberField(); // Qt's fields take over what was typed, and let the key pass.
+    if (event.key() == Qt::Key_Escape && m_field && m_field->text() != m_text) {
+        m_putBack->trigger();
+        return true;
+    }
+    for (const Command& command : Commands) {
+        if (inColumn && command.columnKey == event.key()) {
+            findChild<QAction*>(command.name)->trigger();
+            return true;
+        }
+    }
+    return false;
+}
+
+void ControlCenterActions::onFocusChanged(QWidget*, QWidget* current)
+{
+    m_field =
+        m_drawer && m_drawer->isAncestorOf(current) ? qobject_cast<QAbstractSpinBox*>(current) : nullptr;
+    m_putBack->setEnabled(m_field);
+    rememberField();
+}
+
+void ControlCenterActions::rememberField()
+{
+    if (!m_field)
+        return;
+    m_value = m_field->property(ValueProperty);
+    m_text = m_field->text();
+}
+
+void ControlCenterActions::putBack()
+{
+    if (!m_field)
+        return;
+    m_field->setProperty(ValueProperty, m_value);
+    m_field->selectAll();
+}
+
+void ControlCenterActions::requestHelp()
+{
+    QWidget* focused = QApplication::focusWidget();
+    Q_EMIT helpRequested(m_drawer && m_drawer->isAncestorOf(focused) ? focused : nullptr);
+}
+
+void ControlCenterActions::scroll()
+{
+    const auto* action = qobject_cast<QAction*>(sender());
+    if (action && m_drawer)
+        m_drawer->verticalScrollBar()->triggerAction(
+            static_cast<QAbstractSlider::SliderAction>(action->data().toInt()));
+}
+
+} // namespace zel

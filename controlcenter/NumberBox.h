@@ -1,0 +1,70 @@
+#ifndef ZEL_NUMBERBOX_H
+#define ZEL_NUMBERBOX_H
+
+#include "WheelGuard.h"
+
+#include <QLocale>
+#include <QString>
+#include <QValidator>
+
+#include <type_traits>
+#include <utility>
+
+namespace zel {
+
+/// What the spin boxes of the pages have in common: the guard of the mouse wheel, and that a number outside
+/// the range can be typed and becomes the nearest one inside it as soon as the typing ends.
+template <class Box>
+class NumberBox : public WheelGuard<Box>
+{
+public:
+    typedef decltype(std::declval<Box>().value()) Number;
+
+    using WheelGuard<Box>::WheelGuard;
+
+    /// A number as the box would show it: within its range, with prefix and suffix.
+    QString shownText(double number) const { return this->prefix() + nearestText(number) + this->suffix(); }
+
+protected:
+    QValidator::State validate(QString& input, int& position) const override
+    {
+        const QValidator::State state = Box::validate(input, position);
+        double number = 0;
+        const bool outside = parse(input, number) && (number < this->minimum() || number > this->maximum());
+        return state == QValidator::Invalid && outside ? QValidator::Intermediate : state;
+    }
+
+    void fixup(QString& input) const override
+    {
+        double number = 0;
+        if (parse(input, number))
+            input = nearestText(number);
+        else
+            Box::fixup(input);
+    }
+
+private:
+    QString nearestText(double number) const
+    {
+        const double nearest = qBound(double(this->minimum()), number, double(this->maximum()));
+        return this->textFromValue(static_cast<Number>(nearest));
+    }
+
+    bool parse(QString text, double& number) const
+    {
+        const QLocale locale = this->locale();
+        if (text.startsWith(this->prefix()))
+            text.remove(0, this->prefix().size());
+        if (text.endsWith(this->suffix()))
+            text.chop(this->suffix().size());
+        if (std::is_integral<Number>::value && text.contains(locale.decimalPoint()))
+            return false;
+        bool ok = false;
+        number = locale.toDouble(text.remove(locale.groupSeparator()).trimmed(), &ok);
+        return ok;
+    }
+};
+
+} // namespace zel
+
+#endif

@@ -1,0 +1,148 @@
+#include "ZelPageHelp.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMetaMethod>
+#include <QMetaProperty>
+#include <QTextDocument>
+
+#include <algorithm>
+
+namespace zel {
+
+namespace {
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("ZelPageHelp", text);
+}
+
+QString withoutColon(const QString& label)
+{
+    QString text = label.trimmed();
+    while (text.endsWith(':') || text.endsWith(QChar(0xFF1A))) // Also the one of East Asian writing.
+        text = text.left(text.size() - 1).trimmed();
+    return text.simplified();
+}
+
+} // namespace
+
+QString ZelSettingHelp::summary() const
+{
+    QStringList parts(description);
+    if (!range.isEmpty())
+        parts << translated(QT_TRANSLATE_NOOP("ZelPageHelp", "Range: %1.")).arg(range);
+    if (!byDefault().isEmpty())
+        parts << translated(QT_TRANSLATE_NOOP("ZelPageHelp", "Default: %1.")).arg(byDefault());
+    parts << translated(QT_TRANSLATE_NOOP("ZelPageHelp", "Takes effect: %1.")).arg(effect);
+    return parts.join(" ");
+}
+
+ZelPageHelp::ZelPageHelp(QWidget* page)
+    : QObject(page)
+{
+}
+
+void ZelPageHelp::add(const ZelSettingHelp& setting)
+{
+    m_settings.push_back(setting);
+    ZelSettingHelp& added = m_settings.back();
+    if (added.name.isEmpty())
+        added.name = nameOf(*added.fields.first());
+    const QString text = added.summary();
+    for (QWidget* field : added.fields) {
+        field->setAccessibleDescription(text);
+        if (added.tipIsValue)
+            field->setStatusTip(text);
+        else // Rich text, which a tool tip wraps.
+            field->setToolTip(Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal));
+        watch(field, field);
+    }
+    for (QLabel* label : static_cast<QWidget*>(parent())->findChildren<QLabel*>())
+        if (added.fields.contains(label->buddy()))
+            watch(label, label->buddy());
+}
+
+const ZelSettingHelp* ZelPageHelp::setting(const QWidget* field) const
+{
+    const auto found =
+        std::find_if(m_settings.begin(), m_settings.end(), [field](const ZelSettingHelp& each) {
+            return each.fields.contains(const_cast<QWidget*>(field));
+        });
+    return found == m_settings.end() ? nullptr : &*found;
+}
+
+QString ZelPageHelp::effectText(ZelSettingEffect effect)
+{
+    const char* const texts[] = {QT_TRANSLATE_NOOP("ZelPageHelp", "at once"),
+                                 QT_TRANSLATE_NOOP("ZelPageHelp", "with the next import"),
+                                 QT_TRANSLATE_NOOP("ZelPageHelp", "after a restart")};
+    return translated(texts[effect]);
+}
+
+QString ZelPageHelp::rangeText(const QString& least, const QString& greatest)
+{
+    return translated(QT_TRANSLATE_NOOP("ZelPageHelp", "%1 to %2")).arg(least, greatest);
+}
+
+QString ZelPageHelp::flagText(bool on)
+{
+    return on ? translated(QT_TRANSLATE_NOOP("ZelPageHelp", "on"))
+              : translated(QT_TRANSLATE_NOOP("ZelPageHelp", "off"));
+}
+
+QString ZelPageHelp::flagRange()
+{
+    return translated(QT_TRANSLATE_NOOP("ZelPageHelp", "%1 or %2")).arg(flagText(true), flagText(false));
+}
+
+QString ZelPageHelp::choiceText(const QList<QWidget*>& buttons)
+{
+    QStringList texts;
+    for (QWidget* button : buttons)
+        if (const auto* choice = qobject_cast<QAbstractButton*>(button))
+            texts << choice->text();
+    return texts.join(" / ");
+}
+
+bool ZelPageHelp::eventFilter(QObject* watched, QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    QWidget* field = m_fields.value(watched);
+    // Under a pointer that rests while the page scrolls, a field learns only from the tool tip that it is
+    // reached.
+    if (type == QEvent::Enter || type == QEvent::FocusIn || type == QEvent::ToolTip)
+        Q_EMIT reached(field);
+    return type == QEvent::ToolTip && m_shown && !setting(field)->tipIsValue;
+}
+
+QString ZelPageHelp::nameOf(const QWidget& field) const
+{
+    if (!field.accessibleName().isEmpty())
+        return field.accessibleName();
+    for (const QWidget* around = field.parentWidget(); around && around != parent();
+         around = around->parentWidget())
+        if (const auto* group = qobject_cast<const QGroupBox*>(around))
+            return group->title();
+    for (const QLabel* label : static_cast<QWidget*>(parent())->findChildren<QLabel*>())
+        if (label->buddy() == &field)
+            return withoutColon(label->text());
+    const auto* button = qobject_cast<const QAbstractButton*>(&field);
+    return button ? button->text().trimmed() : QString();
+}
+
+void ZelPageHelp::watch(QWidget* widget, QWidget* field)
+{
+    m_fields.insert(widget, field);
+    widget->installEventFilter(this);
+    // What a field edits is the property that its class is meant for.
+    const QMetaProperty edits = widget->metaObject()->userProperty();
+    if (widget == field && edits.hasNotifySignal())
+        connect(widget, edits.notifySignal(), this,
+                metaObject()->method(metaObject()->indexOfSignal("edited()")));
+}
+
+} // namespace zel

@@ -1,0 +1,78 @@
+#include "ZelPageDefaults.h"
+
+#include "SettingsKeys.h"
+#include "ZelSettingsRegistry.h"
+#include "ZelSettingsValidators.h"
+
+#include "platform/MTLogger.h"
+
+#include <QSettings>
+#include <QString>
+
+#include <algorithm>
+#include <iterator>
+
+namespace zel {
+
+namespace {
+
+using Rules = ZelSettingsValidators;
+
+const struct
+{
+    const char* key;
+    ZelSettingsRegistry::Validator validator;
+} Settings[] = {
+    {keys::SimplificationRatios, &Rules::ensureSimplificationRatios},
+    {keys::MaxFaceAngle, &Rules::ensureTesselationMaxFaceAngle},
+    {keys::MaxFaceLength, &Rules::ensureTesselationMaxFaceLength},
+    {keys::MaxFaceSag, &Rules::ensureTesselationMaxFaceSag},
+    {keys::MaxFaceAngleSet, &Rules::ensureBool},
+    {keys::MaxFaceLengthSet, &Rules::ensureBool},
+    {keys::MaxFaceSagSet, &Rules::ensureBool},
+    {keys::TessellationQualitySet, &Rules::ensureBool},
+    {keys::TessellationHighQuality, &Rules::ensureBool},
+    {keys::TrianglesCap, &Rules::ensureLODTrianglesCap},
+    {keys::MaxGpuMemory, &Rules::ensureMaxGPUMemory},
+    {keys::MaxCpuMemoryRaytracer, &Rules::ensureMaxCPUMemoryRaytracer},
+    {keys::MaxCpuMemory3D, &Rules::ensureMaxCPUMemory3D},
+    {keys::SceneUnits, &Rules::ensureSceneUnit},
+    {keys::UseEdgeDetection, &Rules::ensureBool},
+    {keys::UseFxaa, &Rules::ensureBool},
+    {keys::UseSsao, &Rules::ensureBool},
+    {keys::CoreNumber, &Rules::ensureCoreNumber},
+    {keys::RaytracerQuality, &Rules::ensureRaytracerQuality},
+    {keys::ScreenshotFolder, &Rules::noOp},
+};
+
+// No setting has this text, so a validator that falls back to it has refused the other one.
+const char* const Refused = "\n";
+
+void warn(const QSettings& defaults, const QString& text)
+{
+    MTLogger::Log("warning", QString("%1: %2").arg(defaults.fileName(), text).toUtf8().constData());
+}
+
+} // namespace
+
+void ZelPageDefaults::Register(const QSettings& defaults)
+{
+    if (defaults.status() != QSettings::NoError)
+        warn(defaults, "cannot be read to its end");
+    for (const QString& key : defaults.allKeys()) {
+        const auto* known = std::find_if(std::begin(Settings), std::end(Settings),
+                                         [&key](const auto& setting) { return key == setting.key; });
+        if (known == std::end(Settings)) {
+            warn(defaults, QString("no page has a setting \"%1\"").arg(key));
+            continue;
+        }
+        const QString given = defaults.value(key).toString();
+        QString text = given, error;
+        if (known->validator(key, Refused, text, error) && text != Refused)
+            ZelSettingsRegistry::RegisterSetting(key, text, known->validator);
+        else
+            warn(defaults, QString("\"%1\" cannot be \"%2\"").arg(key, given));
+    }
+}
+
+} // namespace zel
