@@ -1,9 +1,13 @@
 #ifndef ZEL_FILEREPLACEMENT_H
 #define ZEL_FILEREPLACEMENT_H
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QString>
+
+#include <chrono>
+#include <thread>
 
 #if !defined(Q_OS_WIN)
 #    include <cerrno>
@@ -22,6 +26,19 @@ const int BusyFileTime = 1000;
 #else
 const int BusyFileTime = 0;
 #endif
+
+/// Opens a file. Where another program keeps it to itself, waits until that ends, for BusyFileTime at most.
+inline bool openWhenFree(QFile& file, QIODevice::OpenMode mode)
+{
+    QElapsedTimer clock;
+    clock.start();
+    while (!file.open(mode)) {
+        if (clock.elapsed() >= BusyFileTime || !file.exists())
+            return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    }
+    return true;
+}
 
 /// True for a file of the user who runs the process.
 inline bool isOwn(const QFileInfo& file)

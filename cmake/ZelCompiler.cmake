@@ -15,12 +15,14 @@ option(ZEL_WARNINGS_AS_ERRORS "Stop at the first compiler warning, as the preset
 option(ZEL_HARDENING "Let the compiler and the linker guard against memory errors" ON)
 set(ZEL_SANITIZE "" CACHE STRING "Sanitizers to build with, separated by commas")
 
-set(zel_is_gnu_like "$<CXX_COMPILER_ID:GNU,Clang,AppleClang>")
-add_compile_options("$<${zel_is_gnu_like}:-Wall;-Wextra>" "$<$<CXX_COMPILER_ID:MSVC>:/W4;/utf-8>")
+# Only what the compiler knows, and only the C++ one: the resources of Windows have a compiler of their own.
+set(zel_gnu_like $<COMPILE_LANG_AND_ID:CXX,GNU,Clang,AppleClang>)
+set(zel_msvc $<COMPILE_LANG_AND_ID:CXX,MSVC>)
+add_compile_options("$<${zel_gnu_like}:-Wall;-Wextra>" "$<${zel_msvc}:/W4;/utf-8;/Zc:__cplusplus>")
 # A library with symbols that are unique in the process is never unloaded.
-add_compile_options($<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
+add_compile_options($<$<COMPILE_LANG_AND_ID:CXX,GNU>:-fno-gnu-unique>)
 if(ZEL_WARNINGS_AS_ERRORS)
-    add_compile_options("$<${zel_is_gnu_like}:-Werror>" "$<$<CXX_COMPILER_ID:MSVC>:/WX>")
+    add_compile_options($<${zel_gnu_like}:-Werror> $<${zel_msvc}:/WX>)
 endif()
 if(ZEL_HARDENING AND CMAKE_SYSTEM_NAME STREQUAL Linux)
     # Not with sanitizers, which do the same and more, nor without optimisation, which the first one needs.

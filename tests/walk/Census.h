@@ -7,7 +7,13 @@
 #include <QPixmapCache>
 #include <QSet>
 
-#include <malloc.h>
+#if defined(_WIN32)
+#    include <windows.h>
+// After it.
+#    include <psapi.h>
+#else
+#    include <malloc.h>
+#endif
 #ifdef __SANITIZE_ADDRESS__
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
@@ -37,7 +43,7 @@ struct Census
         Census census;
         const QMutexLocker lock(&mutex);
         census.objects = alive.size();
-        census.descriptors = int(QDir("/proc/self/fd", "", {}, QDir::AllEntries | QDir::System).count());
+        census.descriptors = openDescriptors();
         census.heap = heapInUse();
         for (QObject* object : alive) {
             const QString name = object->metaObject()->className();
@@ -60,9 +66,25 @@ private:
             alive.remove(object);
     }
 
+    static int openDescriptors()
+    {
+#if defined(_WIN32)
+        DWORD handles = 0;
+        GetProcessHandleCount(GetCurrentProcess(), &handles);
+        return int(handles);
+#else
+        return int(QDir("/proc/self/fd", "", {}, QDir::AllEntries | QDir::System).count());
+#endif
+    }
+
     static qint64 heapInUse()
     {
-#ifdef __SANITIZE_ADDRESS__
+#if defined(_WIN32)
+        PROCESS_MEMORY_COUNTERS_EX memory = {};
+        GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&memory),
+                             sizeof(memory));
+        return qint64(memory.PrivateUsage);
+#elif defined(__SANITIZE_ADDRESS__)
         return qint64(__sanitizer_get_current_allocated_bytes());
 #else
         const auto heap = mallinfo2();
