@@ -3,7 +3,6 @@
 #include "FakePage.h"
 #include "ZelCCActionItem.h"
 #include "ZelControlCenter.h"
-#include "ZelEditablePanel.h"
 #include "ZelGeneralSettingsPanel.h"
 #include "zelSpinBox.h"
 
@@ -83,7 +82,6 @@ private Q_SLOTS:
         addPages(2);
         m_controlCenter->openMenu(true);
         QTRY_VERIFY(m_controlCenter->isMenuOpen());
-        QVERIFY(showsActions(true));
         m_calls.clear();
         QTest::mouseClick(button("actionButton"), Qt::LeftButton);
         QCOMPARE(m_calls, QStringList({"P0 initialize", "P1 initialize"}));
@@ -93,10 +91,8 @@ private Q_SLOTS:
         const int pageWidth = m_pages.front()->width();
         QTRY_VERIFY(m_controlCenter->isSettingsOpen());
         QCOMPARE(pageWidth, m_pages.front()->width());
-        QVERIFY(m_controlCenter->isMenuOpen()); // "Settings" alone does not close the menu.
-        QCOMPARE(m_controlCenter->settingsWidget()->width(), 450);
+        QVERIFY(m_controlCenter->isMenuOpen() && showsActions(false)); // "Settings" does not close the menu.
         QTRY_COMPARE(m_window->findChild<QWidget*>("settingsContent")->width(), 450 - scrollBar()->width());
-        QVERIFY(scrollBar()->isVisible() && showsActions(false));
 
         m_window->resize(1200, 300); // Changes the range of the scroll bar.
         m_window->hide();
@@ -110,15 +106,11 @@ private Q_SLOTS:
             QCOMPARE(pages->isVisible() ? pages->y() : 0, 0); // The column stands still.
             QTest::qWait(10);
         }
-        QVERIFY(column()->parentWidget()->height() > 100);
+        QVERIFY(column()->parentWidget()->height() > 100 && showsActions(true));
         QCOMPARE(m_controlCenter->settingsWidth(), 0);
-        QVERIFY(showsActions(true));
-
-        openEverything();
         m_window->hide(); // Nothing slides out of sight.
         m_controlCenter->openMenu(false);
-        QVERIFY(!m_controlCenter->isMenuOpen() && !m_controlCenter->isSettingsOpen());
-        QVERIFY(m_application->engineUpdates.last());
+        QVERIFY(!m_controlCenter->isMenuOpen() && m_application->engineUpdates.last());
     }
 
     void engineGoesOnWhenTheDrawerClosesOutOfSight()
@@ -140,22 +132,6 @@ private Q_SLOTS:
                 QVERIFY(!m_controlCenter->isSettingsOpen() && showsActions(true));
             }
         m_controlCenter->settingsWidget()->setParent(nullptr);
-    }
-
-    void buttonsReachEveryPage()
-    {
-        addPages(3);
-        openEverything();
-        QPushButton* reset = button("resetButton");
-        QVERIFY(!canApply() && !reset->isEnabled());
-        m_pages[1]->edit();
-        QVERIFY(canApply());
-        QTest::mouseClick(reset, Qt::LeftButton);
-        m_pages[1]->resettable = false;
-        QVERIFY(reset->isEnabled()); // Only a page's own signal re-evaluates after a reset.
-        QTest::mouseClick(button("applyButton"), Qt::LeftButton);
-        QCOMPARE(m_calls.join(","), QString("P0 reset,P1 reset,P2 reset,P0 apply,P1 apply,P2 apply"));
-        QVERIFY(!canApply() && !reset->isEnabled());
     }
 
     void restartIsToldInsideTheViewerOnly()
@@ -184,9 +160,16 @@ private Q_SLOTS:
         settings.sync();
         zel::ZelGeneralSettingsPanel page(m_application.get(), settings, nullptr, Qt::WindowFlags());
         m_controlCenter->registerSettingsPanel(&page);
-        openEverything();
         auto* size = page.findChild<QSpinBox*>("databaseSpinBox");
         auto* error = m_controlCenter->findChild<QLabel*>("writeErrorLabel");
+        // What cannot be written is told when the drawer opens.
+        QVERIFY(QDir().mkpath(file + ".lock"));
+        openEverything();
+        QVERIFY(error->isVisible() && error->text().contains(".lock") && error->focusPolicy() != Qt::NoFocus);
+        m_controlCenter->setControlCenterVisible(false);
+        QTRY_VERIFY(!m_controlCenter->isSettingsOpen());
+        QVERIFY(QDir().rmdir(file + ".lock"));
+        openEverything();
         QVERIFY(error->isHidden());
         // What stands in the way is known beforehand, or shows only when the file is written.
         const std::pair<std::function<bool()>, std::function<bool()>> obstacles[] = {
@@ -210,45 +193,23 @@ private Q_SLOTS:
         m_controlCenter->unregisterSettingsPanel(&page, true);
     }
 
-    void fileThatCannotBeWrittenIsTold()
-    {
-        addPages(1);
-        const QString lock = m_application->getSettings().fileName() + ".lock";
-        QVERIFY(QDir().mkpath(lock));
-        openEverything();
-        auto* error = m_controlCenter->findChild<QLabel*>("writeErrorLabel");
-        QVERIFY(error->isVisible() && error->text().contains(lock) && error->focusPolicy() != Qt::NoFocus);
-        m_controlCenter->setControlCenterVisible(false);
-        QTRY_VERIFY(!m_controlCenter->isSettingsOpen());
-        QVERIFY(QDir().rmdir(lock));
-        m_controlCenter->setControlCenterVisible(true);
-        QVERIFY(error->isHidden());
-    }
-
     void closingAsksInsideTheViewerOnly()
     {
         addPages(1);
-        const struct
-        {
-            bool insideViewer, modified, agree, closes;
-        } cases[] = {{true, true, false, false},
-                     {true, true, true, true},
-                     {true, false, false, true},
-                     {false, true, false, true}};
-        for (const auto& one : cases) {
-            m_application->guiPlugin = one.insideViewer ? &m_guiPlugin : nullptr;
-            openEverything();
-            if (one.modified)
-                m_pages[0]->edit();
-            BoxAnswer answer(one.agree ? QMessageBox::Ok : QMessageBox::Cancel);
-            m_controlCenter->openMenu(false);
-            const QString question = "You have pending modifications. Continue and discard your changes ?";
-            QCOMPARE(answer.texts, QStringList(question).mid(one.insideViewer && one.modified ? 0 : 1));
-            QTRY_COMPARE(m_controlCenter->isMenuOpen(), !one.closes);
-            QTRY_COMPARE(m_controlCenter->isSettingsOpen(), !one.closes);
-            QCOMPARE(m_calls, one.modified && one.closes ? QStringList("P0 initialize") : QStringList());
-            QTRY_VERIFY(m_application->engineUpdates.last());
-        }
+        const QStringList question("You have pending modifications. Continue and discard your changes ?");
+        for (const bool insideViewer : {true, false})
+            for (const bool modified : {true, false}) {
+                m_application->guiPlugin = insideViewer ? &m_guiPlugin : nullptr;
+                openEverything();
+                if (modified)
+                    m_pages[0]->edit();
+                BoxAnswer answer(QMessageBox::Ok);
+                m_controlCenter->openMenu(false);
+                QCOMPARE(answer.texts, insideViewer && modified ? question : QStringList());
+                QTRY_VERIFY(!m_controlCenter->isMenuOpen() && !m_controlCenter->isSettingsOpen());
+                QCOMPARE(m_calls, modified ? QStringList("P0 initialize") : QStringList());
+                QTRY_VERIFY(m_application->engineUpdates.last());
+            }
     }
 
     void refusedCloseKeepsTheEdits()
@@ -263,7 +224,6 @@ private Q_SLOTS:
             m_controlCenter->openMenu(false);
             QTRY_VERIFY(m_controlCenter->isSettingsOpen());
             QVERIFY(canApply() && showsActions(false) && m_calls.isEmpty());
-            QCOMPARE(m_controlCenter->settingsWidth(), 450);
             m_controlCenter->openSettings();
             QTRY_VERIFY(!m_controlCenter->isSettingsOpen() && m_application->engineUpdates.last());
         }
@@ -299,11 +259,9 @@ private Q_SLOTS:
         m_controlCenter->unregisterSettingsPanel(m_pages[0].get(), false);
         QVERIFY(canApply());
         m_controlCenter->unregisterSettingsPanel(m_pages[1].get(), true);
-        QVERIFY(!canApply());
-        QVERIFY(!m_pages[0]->parent() && !m_pages[0]->getActionWidget()->parent());
+        QVERIFY(!canApply() && !m_pages[0]->parent() && !m_pages[0]->getActionWidget()->parent());
         m_pages[0]->edit();
         QVERIFY(!canApply());
-
         m_pages[2]->edit();
         m_pages.pop_back();
         QVERIFY(!m_controlCenter->hasModifications() && !canApply());
@@ -314,7 +272,6 @@ private Q_SLOTS:
         openEverything();
         scrollBar()->setValue(5);
         m_controlCenter->unregisterSettingsPanel(m_pages[1].get(), true);
-
         // The window owns the drawer as well, and with it the pages that are in it.
         m_controlCenter->registerSettingsPanel(m_pages[0].release());
         delete m_controlCenter->settingsWidget();
@@ -323,49 +280,20 @@ private Q_SLOTS:
         m_controlCenter->openMenu(false);
     }
 
-    void pageWithoutAResetButtonIsReported()
-    {
-        struct Model
-        {
-            bool operator==(const Model&) const { return true; }
-        };
-        struct Page : zel::ZelEditablePanel<Model>
-        {
-            using ZelEditablePanel::ZelEditablePanel;
-            void getCurrentModel(Model&) const override {}
-            void applyModel(const Model&) override {}
-            void notifyStateChanged() override {}
-        } page(m_application.get(), m_application->getSettings(), nullptr, Qt::WindowFlags(), {});
-        page.setPanelName("Bare");
-        QTest::ignoreMessage(QtWarningMsg,
-                             "The form of the page \"Bare\" has no push button named \"resetButton\"");
-        QTest::ignoreMessage(QtWarningMsg,
-                             "QObject::connect: No such signal zel::ZelSettingsPanel::stateChanged()");
-        m_controlCenter->registerSettingsPanel(&page);
-    }
-
     void clickOutsideCloses()
     {
         QWidget foreign;
         m_application->guiPlugin = &m_guiPlugin;
         openEverything();
-        const struct
-        {
-            const char* name;
-            bool wait, resize, foreign, closes;
-        } presses[] = {{"in a foreign window", true, false, true, false},
-                       {"just after another", false, false, false, false},
-                       {"just after a resize", true, true, false, false},
-                       {"on the view", true, false, false, true}};
-        for (const auto& press : presses) {
-            m_controlCenter->setGUIHandler(press.foreign ? &foreign : m_window.get());
-            if (press.wait)
-                QTest::qWait(GuardTime);
-            if (press.resize)
+        for (const QString press :
+             {"later in a foreign window", "at once", "later after a resize", "later"}) {
+            m_controlCenter->setGUIHandler(press.contains("foreign") ? &foreign : m_window.get());
+            QTest::qWait(press.startsWith("later") ? GuardTime : 0);
+            if (press.contains("resize"))
                 m_view->resize(m_view->size() - QSize(0, 1));
             QTest::mousePress(m_view, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
             // Whatever closes stops the engine first.
-            QVERIFY2(m_application->engineUpdates.isEmpty() != press.closes, press.name);
+            QVERIFY2(m_application->engineUpdates.isEmpty() == (press != "later"), qPrintable(press));
         }
         QTRY_VERIFY(!m_controlCenter->isMenuOpen() && !m_controlCenter->isSettingsOpen());
     }
@@ -397,14 +325,13 @@ private Q_SLOTS:
         box.setRange(10, 4096);
         openEverything();
         box.setFocus();
-        // Escape puts back what is typed, and only that.
-        const std::pair<Qt::Key, int> ends[] = {
-            {Qt::Key_Escape, 10}, {Qt::Key_Return, 33}, {Qt::Key_Escape, 33}};
-        for (const auto& [end, value] : ends) {
-            box.selectAll();
-            QTest::keyClicks(&box, value == box.value() ? "44" : "33");
-            press(end);
-            QCOMPARE(box.value(), value);
+        for (const int value : {10, 33}) { // Escape puts back what is typed, and only that.
+            for (const Qt::Key end : {Qt::Key_Return, Qt::Key_Escape}) {
+                box.selectAll();
+                QTest::keyClicks(&box, end == Qt::Key_Return ? QString::number(value) : "44");
+                press(end);
+                QCOMPARE(box.value(), value);
+            }
         }
         check.setFocus();
         for (const bool checked : {true, false}) {
@@ -413,13 +340,11 @@ private Q_SLOTS:
         }
         m_pages[0]->getActionWidget()->setFocus();
         const int bottom = scrollBar()->maximum(), page = scrollBar()->pageStep();
-        const std::pair<Qt::Key, int> scrolls[] = {{Qt::Key_End, bottom},
-                                                   {Qt::Key_PageUp, qMax(0, bottom - page)},
-                                                   {Qt::Key_Home, 0},
-                                                   {Qt::Key_PageDown, qMin(bottom, page)}};
-        for (const auto& [key, place] : scrolls) {
-            press(key);
-            QCOMPARE(scrollBar()->value(), place);
+        const int places[] = {0, bottom, qMax(0, bottom - page), qMin(bottom, page)};
+        const Qt::Key keys[] = {Qt::Key_Home, Qt::Key_End, Qt::Key_PageUp, Qt::Key_PageDown};
+        for (const int scroll : {1, 2, 0, 3}) {
+            press(keys[scroll]);
+            QCOMPARE(scrollBar()->value(), places[scroll]);
         }
         // A button that has been pressed hands the focus on to the page in view.
         m_pages[0]->edit();
@@ -543,19 +468,19 @@ private Q_SLOTS:
     {
         QPushButton external;
         m_controlCenter->setControlCenterButton(&external);
-        const QString on(":/controlCenter/controlCenter/controlCenterOn.png");
-        const QString off(":/controlCenter/controlCenter/controlCenterOff.png");
+        const QString picture = ":/controlCenter/controlCenter/controlCenter%1.png";
+        const QString on = picture.arg("On"), off = picture.arg("Off");
         m_controlCenter->setInterfaceColor(QColor(10, 20, 30, 128), on, off);
         m_controlCenter->show();
         const QImage column = m_controlCenter->grab().toImage();
         QCOMPARE(column.pixelColor(100, column.height() - 10), QColor(10, 20, 30));
         QCOMPARE(external.iconSize(), QSize(40, 40));
-        const auto picture = [](const QIcon& icon, QIcon::State state) {
+        const auto look = [](const QIcon& icon, QIcon::State state) {
             return icon.pixmap(40, QIcon::Normal, state).toImage();
         };
-        QCOMPARE(picture(external.icon(), QIcon::On), picture(QIcon(on), QIcon::On));
-        QCOMPARE(picture(external.icon(), QIcon::Off), picture(QIcon(off), QIcon::Off));
-        QVERIFY(picture(QIcon(on), QIcon::On) != picture(QIcon(off), QIcon::Off));
+        QCOMPARE(look(external.icon(), QIcon::On), look(QIcon(on), QIcon::On));
+        QCOMPARE(look(external.icon(), QIcon::Off), look(QIcon(off), QIcon::Off));
+        QVERIFY(look(QIcon(on), QIcon::On) != look(QIcon(off), QIcon::Off));
     }
 
 private:

@@ -37,15 +37,11 @@ private Q_SLOTS:
         m_window.openMenu();
         QVERIFY(QTest::qWaitForWindowActive(&m_window));
         QTRY_VERIFY(m_window.findChild<zel::ZelControlCenter*>()->isSettingsOpen());
-    }
-
-    void pagesStandInTheirOrder()
-    {
-        QMap<int, QString> byPosition;
+        QMap<int, QString> pages;
         for (const ZelSettingsPanel* page : m_window.findChildren<ZelSettingsPanel*>())
-            byPosition.insert(page->y(), page->getPanelName());
-        const QStringList expected = {"Display", "Folders", "Simplification", "Tessellation", "About"};
-        QCOMPARE(QStringList(byPosition.values()), expected);
+            pages.insert(page->y(), page->getPanelName());
+        QCOMPARE(QStringList(pages.values()).join(' '),
+                 QString("Display Folders Simplification Tessellation About"));
     }
 
     void wheelScrollsTheDrawerUntilAFieldHasTheFocus()
@@ -57,11 +53,10 @@ private Q_SLOTS:
         for (const char* engine : {"raytracerButton", "deferredButton"}) {
             m_window.findChild<QRadioButton*>(engine)->click();
             for (QWidget* field : m_window.findChildren<QWidget*>()) {
-                const bool list = field->inherits("QComboBox");
-                const bool number = field->inherits("QAbstractSpinBox") || field->inherits("QSlider");
-                if ((!list && !number) || !field->isVisible() || !field->isEnabled())
+                const char* const value = field->inherits("QComboBox") ? "currentIndex" : "value";
+                if (!field->property(value).isValid() || !field->focusPolicy() || !field->isVisible() ||
+                    !field->isEnabled())
                     continue;
-                const char* const value = list ? "currentIndex" : "value";
                 field->setProperty("value", field->property("maximum"));
                 for (const bool focused : {false, true, false}) {
                     focused ? field->setFocus() : m_window.setFocus();
@@ -153,12 +148,8 @@ private Q_SLOTS:
     void edgesAndCornersResize()
     {
         const QRect start(30, 40, 740, 500);
-        const struct
-        {
-            QPoint press, drag;
-            Qt::CursorShape pointer;
-            QRect result;
-        } rows[] = {
+        // Where the mouse presses, its way, its shape, and what comes of the window.
+        const std::tuple<QPoint, QPoint, Qt::CursorShape, QRect> rows[] = {
             {{2, 250}, {-20, 7}, Qt::SizeHorCursor, {10, 40, 760, 500}},
             {{737, 250}, {10, 7}, Qt::SizeHorCursor, {30, 40, 750, 500}},
             {{300, 2}, {7, -30}, Qt::SizeVerCursor, {30, 10, 740, 530}},
@@ -172,16 +163,12 @@ private Q_SLOTS:
             {{300, 498}, {0, -700}, Qt::SizeVerCursor, {30, 40, 740, 300}},
             {{9, 250}, {10, 10}, Qt::ArrowCursor, start},
         };
-        QWindow* handle = m_window.windowHandle();
-        for (const auto& row : rows) {
+        for (const auto& [press, way, pointer, result] : rows) {
             m_window.setGeometry(start);
-            QTest::mouseMove(handle, row.press);
-            QCOMPARE(m_window.cursor().shape(), row.pointer);
-            QTest::mousePress(handle, Qt::LeftButton, Qt::NoModifier, row.press);
-            QTest::mouseMove(handle, row.press + row.drag);
-            const QPoint released = start.topLeft() + row.press + row.drag - m_window.pos();
-            QTest::mouseRelease(handle, Qt::LeftButton, Qt::NoModifier, released);
-            QCOMPARE(m_window.geometry(), row.result);
+            QTest::mouseMove(m_window.windowHandle(), press);
+            QCOMPARE(m_window.cursor().shape(), pointer);
+            drag(press, way, start.topLeft() + press + way - result.topLeft());
+            QCOMPARE(m_window.geometry(), result);
         }
         m_window.setGeometry(0, 0, 800, 600);
     }
@@ -189,55 +176,38 @@ private Q_SLOTS:
     void opensWhereItWasClosed()
     {
         FakeApplication application;
-        const QRect place(20, 30, 720, 400);
-        {
+        const QRect place(20, 30, 720, 400), usual(0, 0, 800, 600);
+        for (int start = 0; start < 3; ++start) {
             NextWindow window(application);
-            QCOMPARE(window.size(), QSize(800, 600));
+            QCOMPARE(window.isMaximized(), start == 2);
+            if (start == 2)
+                window.triggerMaximize();
+            QTRY_COMPARE(window.geometry(), start ? place : usual);
             window.setGeometry(place);
+            if (start == 1)
+                window.showMaximized();
             window.close();
         }
-        {
-            NextWindow window(application);
-            QCOMPARE(window.geometry(), place);
-            window.showMaximized();
-            window.close();
-        }
-        {
-            NextWindow window(application);
-            QVERIFY(window.isMaximized());
-            window.triggerMaximize();
-            QTRY_COMPARE(window.geometry(), place);
-            window.close();
-        }
-        const struct
-        {
-            const char* key;
-            QVariant value;
-            QRect opened;
-        } rows[] = {{"geometry", QRect(-500, 900, 3000, 400), {0, 200, 800, 400}},
-                    {"geometry", "nonsense", {0, 0, 800, 600}},
-                    {"geometry", place, place},
-                    {"desktop", QRect(0, 0, 1920, 1080), {0, 0, 800, 600}}};
+        const std::tuple<const char*, QVariant, QRect> rows[] = {
+            {"geometry", QRect(-500, 900, 3000, 400), {0, 200, 800, 400}},
+            {"geometry", "nonsense", usual},
+            {"geometry", place, place},
+            {"desktop", QRect(0, 0, 1920, 1080), usual}};
         QSettings file(QFileInfo(application.getSettings().fileName()).path() + "/Window.ini",
                        QSettings::IniFormat);
-        for (const auto& row : rows) {
-            file.setValue(row.key, row.value);
+        for (const auto& [key, value, opened] : rows) {
+            file.setValue(key, value);
             file.sync();
-            QCOMPARE(NextWindow(application).geometry(), row.opened);
+            QCOMPARE(NextWindow(application).geometry(), opened);
         }
     }
 
     void headerMovesAndMaximizes()
     {
-        const QPoint start = m_window.pos();
-        const QPoint onHeader(300, 15);
-        QWindow* handle = m_window.windowHandle();
-        QTest::mousePress(handle, Qt::LeftButton, Qt::NoModifier, onHeader);
-        QTest::mouseMove(handle, onHeader + QPoint(30, 20));
-        QTest::mouseRelease(handle, Qt::LeftButton, Qt::NoModifier, onHeader);
-        const QRect moved = m_window.geometry();
-        QCOMPARE(moved, QRect(start + QPoint(30, 20), QSize(800, 600)));
-
+        const QPoint onHeader(300, 15), way(30, 20);
+        const QRect moved = m_window.geometry().translated(way);
+        drag(onHeader, way, onHeader);
+        QCOMPARE(m_window.geometry(), moved);
         auto* button = m_window.findChild<QPushButton*>("maximizeButton");
         QTest::mouseDClick(m_window.findChild<QWidget*>("headerFrame"), Qt::LeftButton);
         QVERIFY(m_window.isMaximized());
@@ -258,6 +228,14 @@ private Q_SLOTS:
     }
 
 private:
+    void drag(const QPoint& press, const QPoint& way, const QPoint& release)
+    {
+        QWindow* window = m_window.windowHandle();
+        QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, press);
+        QTest::mouseMove(window, press + way);
+        QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, release);
+    }
+
     void turnWheelOver(const QWidget& field)
     {
         const QPoint place = field.mapTo(&m_window, field.rect().center());

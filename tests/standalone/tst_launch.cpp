@@ -31,16 +31,12 @@ private Q_SLOTS:
         auto* application = static_cast<QtSingleApplication*>(QCoreApplication::instance());
         QVERIFY(!application->isRunning());
         QSignalSpy received(application, SIGNAL(messageReceived(QString)));
-        const QPair<QStringList, QString> messages[] = {
-            {{}, ""},
-            {{"a", "b"}, "a?b?"},
-            {{"", "c?d", QString::fromUtf8("\303\274 \360\237\252\221")},
-             QString::fromUtf8("?c?d?\303\274 \360\237\252\221?")}};
-        for (const auto& [arguments, message] : messages) {
+        const QString name = QString::fromUtf8("\303\274 \360\237\252\221");
+        for (const QStringList& arguments :
+             {QStringList(), QStringList({"a", "b"}), QStringList({"", "c?d", name})}) {
+            const QString message = (arguments + QStringList("")).join('?');
             QProcess second;
-            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-            environment.insert(Role, "second");
-            second.setProcessEnvironment(environment);
+            second.setEnvironment(QProcess::systemEnvironment() << QString(Role) + "=second");
             second.setWorkingDirectory(QCoreApplication::applicationDirPath() + "/../stage");
             second.start(QCoreApplication::applicationFilePath(), arguments);
             received.clear();

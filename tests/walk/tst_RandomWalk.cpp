@@ -98,14 +98,6 @@ bool differ(const Values& left, const Values& right, const QString& page = QStri
     });
 }
 
-/// What a settings file holds for a key; what the walk writes needs neither quotes nor escapes.
-QString textIn(const QString& file, const QString& key)
-{
-    const QString group = key.contains('/') ? key.section('/', 0, 0) : "General";
-    const QString values = file.section("[" + group + "]", 1).section("\n\n", 0, 0);
-    return values.section("\n" + key.section('/', -1) + "=", 1).section('\n', 0, 0);
-}
-
 /// A user who does random things in the stand-alone window, and a small model of the expected results.
 class Walk
 {
@@ -167,20 +159,20 @@ public:
         if (find("applyButton")->isEnabled() != m_canApply || resetButton()->isEnabled() != m_canReset)
             return "Apply or Reset";
 
-        QMap<QString, QString> expected = {{"viewer/own", "kept"}, {keys::SimplificationRatios, "1"}};
+        QString ratios = "Ratios=1";
+        QStringList lines = {"own=kept"};
         for (const Field& field : Fields) {
+            const QVariant value = m_stored[field.widget];
             if (field.key)
-                expected[field.key] = storedText(field, m_stored[field.widget]);
+                lines << QString(field.key).section('/', -1) + '=' + storedText(field, value);
             else
-                expected[keys::SimplificationRatios] +=
-                    "/" + QString::number(m_stored[field.widget].toDouble() / 100);
+                ratios += '/' + QString::number(value.toDouble() / 100);
         }
         QFile file(m_path);
-        const QString content = file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : "";
-        for (const QString& key : expected.keys()) {
-            const QString text = textIn(content, key);
-            if (text != expected[key])
-                return QString("the file holds %1=%2, not %3").arg(key, text, expected[key]);
+        const QByteArray content = file.open(QIODevice::ReadOnly) ? file.readAll() : "";
+        for (const QString& line : lines << ratios) {
+            if (!content.contains(('\n' + line + '\n').toUtf8()))
+                return "the file does not hold " + line;
         }
         return QString();
     }
@@ -229,12 +221,16 @@ private:
             QWidget* clicked = radio ? group[below(group.size())] : widget;
             QTest::mouseClick(clicked, Qt::LeftButton, Qt::NoModifier, QPoint(8, clicked->height() / 2));
             value = radio ? clicked == widget : !before[field.widget].toBool();
-        } else if (auto* integer = qobject_cast<QSpinBox*>(widget)) {
-            value = integer->minimum() + below(integer->maximum() - integer->minimum() + 1);
-            type(*integer, value);
-        } else if (auto* real = qobject_cast<QDoubleSpinBox*>(widget)) {
-            value = field.key ? below(99990) / 1000. : 1. + below(100);
-            type(*real, value);
+        } else if (auto* box = qobject_cast<QAbstractSpinBox*>(widget)) {
+            if (auto* integer = qobject_cast<QSpinBox*>(box))
+                value = integer->minimum() + below(integer->maximum() - integer->minimum() + 1);
+            else
+                value = field.key ? below(99990) / 1000. : 1. + below(100);
+            if (before[field.widget] != value || !field.key) {
+                box->selectAll();
+                QTest::keyClicks(box, value.toString());
+                QTest::keyClick(box, Qt::Key_Return);
+            }
         } else {
             QTest::keyClick(widget, last ? Qt::Key_End : Qt::Key_Home);
             value = widget->inherits("QComboBox") ? (last ? 6 : 0)
@@ -250,15 +246,6 @@ private:
         // widgets on changes.
         if (field.page == "Import" ? radio : !field.key || m_shown != before)
             evaluate();
-    }
-
-    static void type(QAbstractSpinBox& box, const QVariant& value)
-    {
-        if (shownValue(&box) != value || box.objectName().startsWith("ratio")) {
-            box.selectAll();
-            QTest::keyClicks(&box, value.toString());
-            QTest::keyClick(&box, Qt::Key_Return);
-        }
     }
 
     void apply()
@@ -301,16 +288,13 @@ private:
     /// Waits for the end of all slides, and chooses how long the next ones take.
     void settle()
     {
-        const auto slides = m_controlCenter.findChildren<QPropertyAnimation*>();
-        const auto moves = [](const QPropertyAnimation* slide) {
-            return slide->state() == QAbstractAnimation::Running;
-        };
-        while (std::any_of(slides.begin(), slides.end(), moves))
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        QCoreApplication::processEvents();
         const int duration = below(10) ? 0 : 30;
-        for (QPropertyAnimation* slide : slides)
+        for (QPropertyAnimation* slide : m_controlCenter.findChildren<QPropertyAnimation*>()) {
+            while (slide->state() == QAbstractAnimation::Running)
+                QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
             slide->setDuration(duration);
+        }
+        QCoreApplication::processEvents();
     }
 
     std::mt19937& m_random;
@@ -320,16 +304,6 @@ private:
     Values m_defaults, m_stored, m_shown;
     bool m_canApply = false, m_canReset = false; ///< At the last evaluation.
 };
-
-void registerSettings()
-{
-    const auto noOp = &ZelControlCenter::noOp;
-    ZelControlCenter::RegisterSetting(keys::SimplificationRatios, "1/0.75/0.5/0.25/0.1", noOp);
-    for (const Field& field : Fields) {
-        if (field.key)
-            ZelControlCenter::RegisterSetting(field.key, field.defaultText, noOp);
-    }
-}
 
 } // namespace
 
@@ -350,7 +324,11 @@ private Q_SLOTS:
         qInfo("WALK_SEED=%d", seed);
         std::mt19937 random(static_cast<unsigned>(seed));
         FakeApplication application;
-        registerSettings();
+        ZelControlCenter::RegisterSetting(keys::SimplificationRatios, "1/0.75/0.5/0.25/0.1",
+                                          &ZelControlCenter::noOp);
+        for (const Field& field : Fields)
+            if (field.key)
+                ZelControlCenter::RegisterSetting(field.key, field.defaultText, &ZelControlCenter::noOp);
         Census closed;
         for (const bool first : {true, false}) {
             application.getSettings().clear();
