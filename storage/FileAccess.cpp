@@ -5,13 +5,13 @@
 
 #include "platform/MTLogger.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryFile>
 
 #include <chrono>
 #include <system_error>
-#include <thread>
 
 namespace zel {
 
@@ -21,7 +21,6 @@ const qint64 LockSize = 8192; // What the lock of QSettings and rounding up to b
 const qint64 MaximumFileSize = qint64(64) * 1024 * 1024;
 const std::chrono::minutes StaleLockAge(1); // QSettings removes a lock of half a minute.
 const int LongestLock = 2000;               // ms; a write takes milliseconds.
-const int LockPause = 50;                   // ms
 
 /// The file itself where the path is a link; it may not exist.
 QFileInfo fileBehind(const QFileInfo& file)
@@ -37,21 +36,14 @@ QString lockReason(const QString& lock)
     const QFileInfo file(lock);
     if (!file.isSymLink() && !file.exists())
         return QString();
-    if (file.isSymLink() || !file.isFile() || !file.isWritable())
+    if (file.isSymLink() || !file.isFile() || !mayReplace(file))
         return Text::tr("\"%1\" is in the way, which no program uses: remove it").arg(lock);
-    qint64 process = 1;
-    for (int waited = 0; waited < LongestLock && process > 0; waited += LockPause) {
-        QFile reader(lock);
-        if (!reader.open(QIODevice::ReadOnly))
-            return QString();
-        process = reader.readLine(32).trimmed().toLongLong();
-        if (process > 0 && !isRunning(process))
-            return QString(); // QSettings removes the lock of a process that has ended.
-        if (process > 0)
-            std::this_thread::sleep_for(std::chrono::milliseconds(LockPause));
-    }
-    if (process > 0)
-        return Text::tr("another program has locked it");
+    QFile reader(lock);
+    const qint64 process = reader.open(QIODevice::ReadOnly) ? reader.readLine(32).trimmed().toLongLong() : 1;
+    const qint64 age = file.lastModified().msecsTo(QDateTime::currentDateTime());
+    if (process > 0) // QSettings removes the lock of a process that has ended.
+        return age > LongestLock && isRunning(process) ? Text::tr("another program has locked it")
+                                                       : QString();
     // The process died while it took the lock. Not removed here: by now it may be another's. QSettings
     // removes an old one if no process holds it.
     std::error_code error;

@@ -24,7 +24,8 @@ protected:
     QByteArray convertFromUnicode(const QChar* text, int length, ConverterState*) const override
     {
         QString whole(text, length);
-        if (!m_firstHalf.isNull())
+        // A first half whose other half does not follow is dropped: the text may be another value's by now.
+        if (!m_firstHalf.isNull() && !whole.isEmpty() && whole.at(0).isLowSurrogate())
             whole.prepend(m_firstHalf);
         m_firstHalf = QChar();
         if (!whole.isEmpty() && whole.at(whole.length() - 1).isHighSurrogate()) {

@@ -19,8 +19,6 @@
 #include <chrono>
 #include <system_error>
 #include <thread>
-#include <utility>
-#include <vector>
 
 // QSettings locks the file, merges what others have written into it, and replaces it in one step. What that
 // leaves open is closed here:
@@ -29,7 +27,9 @@
 //   content stands beside it for that long.
 // - A file that begins with the UTF-8 mark brings Qt's own codec back, which loses characters.
 // - The new file belongs to the user who has written it.
-// - Whether others have changed the file is told by its size and its time alone, so every write has its own.
+// - Whether others have changed the file is told by its size and its time alone, so the file gets another
+// time
+//   before QSettings merges.
 // - The status keeps the first error, so after one the content tells whether a write has succeeded.
 // - What could not be written is written later, unprotected, as soon as QSettings comes to events.
 
@@ -39,16 +39,9 @@ namespace {
 
 using FileTime = std::filesystem::file_time_type;
 
+const std::chrono::milliseconds ClockTick(10); // Systems count the time of files in ticks of up to this.
 const std::chrono::milliseconds RetryPause(50);
 const qint64 Growth = 8192; // More bytes than one write is likely to add.
-
-/// The least time there is when there is no file.
-FileTime timeOf(const QString& path)
-{
-    std::error_code error;
-    const FileTime time = std::filesystem::last_write_time(nativePath(path), error);
-    return error ? FileTime::min() : time;
-}
 
 /// False for a name that QSettings reads from a file, but takes for another one when it is asked for it.
 bool isPlain(const QString& key)
@@ -89,7 +82,7 @@ public:
             UnfinishedWrite::end(m_path, m_written);
         else if (!m_written && !isWhole())
             restoreContent();
-        restoreAttributes();
+        restoreOwner();
     }
 
     SettingsWrite(const SettingsWrite&) = delete;
@@ -114,7 +107,7 @@ public:
         const QFileInfo file(m_path);
         m_owner = file.ownerId();
         m_group = file.groupId();
-        m_time = timeOf(m_path);
+        m_existed = file.exists();
         m_prepared = loss.isEmpty() || keepBackup(m_path, loss, error);
         return m_prepared;
     }
@@ -141,6 +134,9 @@ public:
         if (!SettingsReplaceTheirFile && !UnfinishedWrite::begin(m_path, error))
             return false;
         m_guarded = !SettingsReplaceTheirFile;
+        // Reading the UTF-8 mark once more would bring Qt's own codec back.
+        if (m_allNoted && hasChanged() && !m_content.startsWith("\xEF\xBB\xBF"))
+            forceReading();
         QElapsedTimer clock;
         clock.start();
         m_settings.sync();
@@ -155,6 +151,19 @@ public:
 private:
     bool hasChanged() const { return m_allNoted ? valuesOf(m_settings) != m_former : hasNoted(); }
 
+    /// Gives the file a time at which QSettings cannot have read it.
+    void forceReading() const
+    {
+        std::error_code error;
+        const FileTime time = std::filesystem::last_write_time(nativePath(m_path), error);
+        const FileTime now = FileTime::clock::now();
+        if (error)
+            return; // There is no file.
+        if (time <= now && now < time + ClockTick)
+            std::this_thread::sleep_until(time + ClockTick); // Only where others have just written.
+        std::filesystem::last_write_time(nativePath(m_path), time + std::chrono::milliseconds(1), error);
+    }
+
     /// Whether the file holds a line for every value. QSettings does not notice when the disk is full before
     /// the last of them; the file then ends with a block.
     bool isWhole() const
@@ -165,7 +174,7 @@ private:
         int lines = 0;
         for (const QByteArray& line : contentOfFile(m_path).split('\n'))
             lines += !line.trimmed().isEmpty() && !line.startsWith('[');
-        return lines == m_settings.allKeys().size();
+        return lines >= m_settings.allKeys().size(); // Others may have added some by now.
     }
 
     bool isWritten() const
@@ -216,19 +225,15 @@ private:
             m_settings.setValue(key + '/' + child.key(), *child);
     }
 
-    /// Gives the new file to the owner of the former one, and a later time than it had.
-    void restoreAttributes() const
+    /// Gives the new file to the owner of the former one.
+    void restoreOwner() const
     {
         const QFileInfo file(m_path);
-        if (!file.isFile() || m_time == FileTime::min())
+        if (!file.isFile() || !m_existed)
             return;
         if ((file.ownerId() != m_owner || file.groupId() != m_group) &&
             !giveFileTo(file.canonicalFilePath(), m_owner, m_group))
             logWarning(QString("Could not give \"%1\" back to its owner and group.").arg(m_path));
-        const FileTime next = m_time + std::chrono::milliseconds(1); // QSettings counts in these.
-        std::error_code error; // Then a change by others in this very moment goes unnoticed.
-        if (m_written && timeOf(m_path) < next && hasChanged())
-            std::filesystem::last_write_time(nativePath(m_path), next, error);
     }
 
     QSettings& m_settings;
@@ -237,7 +242,7 @@ private:
     bool m_lostContent = false;
     uint m_owner = 0;
     uint m_group = 0;
-    FileTime m_time; ///< The least there is when there was no file.
+    bool m_existed = false;
     QVariantMap m_former;
     bool m_allNoted = false;
     bool m_prepared = false;
@@ -325,8 +330,11 @@ bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
         settings.setValue(text.key(), *text);
     // What is damaged goes when QSettings writes anything.
     const auto& registered = ZelSettingsRegistry::GetDefaultSettingsValues();
-    if (repaired.isEmpty() && !registered.empty())
-        settings.setValue(registered.begin()->first, settings.value(registered.begin()->first));
+    if (repaired.isEmpty() && !registered.empty()) {
+        const QString& key = registered.begin()->first;
+        write.noteFormer(key, settings.value(key));
+        settings.setValue(key, settings.value(key));
+    }
     return write.commit(error) && runEndChecks(settings, error);
 }
 

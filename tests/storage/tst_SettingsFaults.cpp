@@ -489,6 +489,7 @@ private Q_SLOTS:
     {
         store(m_path, Foreign);
         store(m_path + ".lock", QByteArray::number(::getpid()) + "\nother\n\n");
+        makeOld(m_path + ".lock");
         QElapsedTimer clock;
         clock.start();
         QVERIFY(!apply(m_path) && error.contains("another program") && clock.elapsed() < Patience);
