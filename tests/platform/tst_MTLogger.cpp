@@ -20,7 +20,7 @@ private:
     static QStringList eventsIn(const QString& path)
     {
         QFile file(path);
-        file.open(QIODevice::ReadOnly);
+        file.open(QIODevice::ReadOnly | QIODevice::Text);
         QStringList events = QString::fromUtf8(file.readAll()).trimmed().split('\n');
         return events.replaceInStrings(QRegExp("^\\S+ "), "");
     }
