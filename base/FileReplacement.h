@@ -10,6 +10,8 @@
 #include <thread>
 
 #if !defined(Q_OS_WIN)
+#    include <cerrno>
+#    include <csignal>
 #    include <unistd.h>
 #endif
 
@@ -56,6 +58,18 @@ inline bool mayReplace(const QFileInfo& file)
     return isOwn(file);
 #else
     return isOwn(file) || ::geteuid() == 0;
+#endif
+}
+
+/// True for a process that has not ended. Whether one runs is not asked on Windows, where a lock ends with
+/// it.
+inline bool isRunning(qint64 process)
+{
+#if defined(Q_OS_WIN)
+    Q_UNUSED(process)
+    return false;
+#else
+    return ::kill(static_cast<pid_t>(process), 0) == 0 || errno == EPERM;
 #endif
 }
 

@@ -6,7 +6,6 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${ZEL_STAGE}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${ZEL_STAGE}/lib)
 
 # Both trees have the same shape, so one path relative to the loading file serves both.
-set(CMAKE_INSTALL_LIBDIR lib)
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../lib")
 

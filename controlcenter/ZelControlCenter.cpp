@@ -13,6 +13,7 @@
 #include "base/ZelAccessibility.h"
 #include "base/ZelQtCompat.h"
 
+#include "platform/MTLogger.h"
 #include "platform/kqDMGuiPlugin.h"
 #include "platform/kqDMIApplication.h"
 #include "platform/kqMessageBox.h"
@@ -54,6 +55,21 @@ QMessageBox::StandardButton showMessage(const QString& text, QMessageBox::Standa
     return kqMessageBox::ShowMessage(QCoreApplication::translate("ZelControlCenter", "Settings Modification"),
                                      text, buttons, nullptr, Qt::WindowFlags(),
                                      QMap<QMessageBox::StandardButton, QString>(), false);
+}
+
+void logUnregisteredKeys(const ZelSettingsPanel& panel)
+{
+    const auto& registered = ZelSettingsRegistry::GetDefaultSettingsValues();
+    QStringList keys = panel.getSettingsKeys();
+    keys.erase(std::remove_if(keys.begin(), keys.end(),
+                              [&](const QString& key) { return registered.count(key) > 0; }),
+               keys.end());
+    if (!keys.isEmpty())
+        MTLogger::Log("warning", QString("The page \"%1\" has keys without a default or a validator, because "
+                                         "they are not registered: %2")
+                                     .arg(panel.getPanelName(), keys.join(", "))
+                                     .toUtf8()
+                                     .constData());
 }
 
 /// Marks the button of a page that has pending edits. The mark keeps its place while there are none.
@@ -104,7 +120,7 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     // The sliding menu uncovers its buttons instead of squeezing them.
     m_ui->mainPanel->setMinimumWidth(MenuWidth);
 
-    // The drawer is placed by its width, not by the form's layout; whoever embeds it may lay it out.
+    // The drawer is placed by its width, not by the form's layout; an application may lay it out.
     m_drawer = m_ui->settingsScrollArea;
     m_ui->horizontalLayout_30->removeWidget(m_drawer);
     m_drawer->setParent(this);
@@ -182,6 +198,7 @@ void ZelControlCenter::registerSettingsPanel(ZelSettingsPanel* panel)
     if (m_panels.contains(panel))
         return;
     m_panels.append(panel);
+    logUnregisteredKeys(*panel);
     connect(panel, SIGNAL(stateChanged()), this, SLOT(onStateChanged()));
     connect(panel, SIGNAL(destroyed(QObject*)), this, SLOT(onPanelDestroyed(QObject*)));
 
@@ -385,7 +402,7 @@ bool ZelControlCenter::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Resize)
         m_clickTimer.restart();
-    // A press into a modal box is an answer, not a click outside. Presses that the toolkit first hands to its
+    // A press into a modal box is an answer, not a click outside. Presses that Qt first hands to its
     // native window come again for the widget.
     if (event->type() != QEvent::MouseButtonPress || m_pressHandled || QApplication::activeModalWidget() ||
         isNativeWindow(watched))

@@ -89,7 +89,7 @@ QByteArray bytes(const QString& path)
     return file.readAll();
 }
 
-/// A value without the form in which the toolkit has read it: numbers and truth values are stored as text,
+/// A value without the form in which QSettings has read it: numbers and truth values are stored as text,
 /// and a list of texts is one of values when a text of it starts with "@" in the file.
 QByteArray comparable(const QVariant& value)
 {
@@ -106,7 +106,7 @@ QByteArray comparable(const QVariant& value)
     return result;
 }
 
-/// What is stored under keys that nobody has registered.
+/// What is stored under keys that are not registered.
 Content unknownContent(const QString& path)
 {
     const auto settings = ZelSettingsFile::Open(path);
@@ -118,7 +118,7 @@ Content unknownContent(const QString& path)
     return content;
 }
 
-/// Names that the toolkit reads from a file but writes as others: "/engine" becomes "engine", beside or over
+/// Names that QSettings reads from a file but writes as others: "/engine" becomes "engine", beside or over
 /// the key of that name, and the group "[%general]" becomes "[%General]".
 bool hasUnkeptName(const Content& content)
 {
@@ -164,7 +164,7 @@ bool hasFolderWithSlash(const QString& path)
                        [&](const char* key) { return settings->value(key).toString().endsWith('/'); });
 }
 
-/// Copies of a file under other names, because the toolkit remembers a file that it has read by its name, its
+/// Copies of a file under other names, because QSettings remembers a file that it has read by its name, its
 /// size and a time that does not tell two inputs of one millisecond apart.
 QString writeInput(const uint8_t* data, size_t size)
 {
@@ -202,7 +202,7 @@ void testInput(const uint8_t* data, size_t size)
     const Content unknown = unknownContent(once);
     const bool namesKept = !hasUnkeptName(unknown);
     if (!namesKept)
-        runPass(once); // Gives them the names that the toolkit writes.
+        runPass(once); // Gives them the names that QSettings writes.
     // Each pass takes one slash off the end of a folder, so one that ends in several takes as many passes.
     do
         runPass(once);
@@ -233,7 +233,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     try {
         testInput(data, size);
     } catch (const std::bad_alloc&) {
-        // The toolkit believes the counts in a stored "@Variant(...)", be they beyond all memory.
+        // QSettings believes the counts in a stored "@Variant(...)", be they beyond all memory.
     }
     return 0;
 }

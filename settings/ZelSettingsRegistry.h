@@ -27,13 +27,14 @@ public:
     /// fails.
     using EndCheck = bool (*)(QSettings& settings, QString& error);
 
+    /// The registered keys: to each its default text and its validator.
     using Settings = std::map<QString, std::pair<QString, Validator>>;
 
     /// Adds a key. The first registration of a key wins: false, and no change, for a key that is there
     /// already.
     static bool RegisterSetting(const QString& key, const QString& defaultValue, Validator validator);
 
-    /// The registered default of a key; a null text for a key that nobody registered.
+    /// The registered default of a key; a null text for a key that is not registered.
     static QString GetDefaultSettingsValue(const QString& key);
 
     /// Every registered key with its default and validator, in key order.

@@ -115,7 +115,7 @@ private Q_SLOTS:
         QVERIFY(showsActions(true));
 
         openEverything();
-        m_window->hide(); // Nothing slides where nobody can see it.
+        m_window->hide(); // Nothing slides out of sight.
         m_controlCenter->openMenu(false);
         QVERIFY(!m_controlCenter->isMenuOpen() && !m_controlCenter->isSettingsOpen());
         QVERIFY(m_application->engineUpdates.last());

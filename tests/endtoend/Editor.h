@@ -163,9 +163,9 @@ int runOnDesktop(int argc, char** argv)
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     qputenv("QT_XCB_GL_INTEGRATION", "none");
     Desktop desktop;
-    const QString mishap = desktop.start();
-    if (!mishap.isEmpty())
-        return qWarning("%s", qPrintable(mishap)), 1;
+    const QString problem = desktop.start();
+    if (!problem.isEmpty())
+        return qWarning("%s", qPrintable(problem)), 1;
     QApplication application(argc, argv);
     Test test(desktop);
     return QTest::qExec(&test, argc, argv);

@@ -26,7 +26,7 @@ private Q_SLOTS:
                 return;
             QVERIFY2(plugin.unload(), qPrintable(plugin.errorString()));
             QVERIFY2(!dlopen(CONTROL_CENTER, RTLD_LAZY | RTLD_NOLOAD), "the library is still there");
-            // What was left behind in the toolkit would now be called.
+            // What was left behind in Qt would now be called.
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
             QTest::qWait(0);
         }

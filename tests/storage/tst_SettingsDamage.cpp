@@ -9,7 +9,7 @@ class tst_SettingsDamage : public QObject
 private Q_SLOTS:
     void damage()
     {
-        // That the toolkit keeps what is not called damaged is for the fuzzer to refute.
+        // That QSettings keeps what is not called damaged is for the fuzzer to refute.
         const std::tuple<const char*, QByteArray, QString> rows[] = {
             {"empty", "", ""},
             {"usual", "[General]\nkey=value\n; note\n\n[a b]\nk = \"x;y=z\" ; note = \"\r\n", ""},
@@ -19,7 +19,7 @@ private Q_SLOTS:
             {"takes in the next line", "key=C:\\\nb=1\n", "line 2 cannot be read"},
             {"cut value", "a=1 ; 2\npath=/a;/b\n", "line 2 cannot be read"},
             {"escapes", "a=\"\\x1f642\"\n", "line 1 cannot be read"},
-            {"the toolkit's escapes", "a=\\0\\x1f\\xfeff\\n\\\"\\\\,@Invalid()\n", ""},
+            {"escapes of QSettings", "a=\\0\\x1f\\xfeff\\n\\\"\\\\,@Invalid()\n", ""},
             {"no escape", "a=\"C:\\Users\"\n", "line 1 cannot be read"},
             {"zero bytes", QByteArray("key=\0\n", 6), "it holds zero bytes"},
             {"Latin-1", "key=\xFC\n", "it is not UTF-8 text"},

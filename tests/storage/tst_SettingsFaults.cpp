@@ -55,7 +55,7 @@ void store(const QString& path, const QByteArray& content)
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
 }
 
-/// Makes the file an hour old, so that nobody waits for the clock to go on.
+/// Makes the file an hour old, older than any write of the test.
 void makeOld(const QString& path)
 {
     std::filesystem::last_write_time(path.toStdString(),
@@ -141,7 +141,7 @@ private:
     {
         const QByteArray before = general + Foreign;
         QByteArray after;
-        qint64 duration = Patience; // Microseconds of an operation that nobody disturbs.
+        qint64 duration = Patience; // Microseconds of an undisturbed operation.
         int unchanged = 0, changed = 0, locked = 0;
         for (int round = 0; round < UndisturbedRounds + Kills / 4; ++round) {
             init();
@@ -313,6 +313,20 @@ private Q_SLOTS:
             QVERIFY2(write(settings, {{"new/key", "text"}}), qPrintable(error));
             QVERIFY(holdsForeign(contentOf(m_path)) && contentOf(m_path).contains("[new]\nkey=text\n"));
         }
+        // Room for the lock and a part of the content, known beforehand or not.
+        for (const int freePages : {1, 2, 3, 6}) {
+            store(m_path, Foreign);
+            QFile filler(m_folder->filePath("filler"));
+            QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+            while (filler.write(QByteArray(4096, 'x')) == 4096)
+                continue;
+            QVERIFY(filler.resize((filler.size() / 4096 - freePages) * 4096));
+            Settings settings(m_path);
+            QVERIFY(!write(settings, {{"new/key", QString(40000, 'y')}}) && error.contains("No space left"));
+            QVERIFY(!settings.contains("new/key"));
+            QCOMPARE(contentOf(m_path), Foreign);
+            filler.remove();
+        }
         const QByteArray path = m_path.toUtf8(), other = path + ".other";
         store(other, Foreign);
         QVERIFY(::mount(other, path, nullptr, MS_BIND, nullptr) == 0);
@@ -481,6 +495,30 @@ private Q_SLOTS:
         }
     }
 
+    void groupNamedLikeAMissingKey()
+    {
+        ZelSettingsRegistry::RegisterSetting("Foreign", "text", &ZelSettingsValidators::noOp);
+        store(m_path, Foreign);
+        Settings settings(m_path);
+        const auto giveUp = [](QSettings& changed, QString&) {
+            changed.setValue("Foreign", "text");
+            return false;
+        };
+        QVERIFY(!ZelSettingsFile::Write(settings, giveUp, error) && holdsForeign(contentOf(m_path)));
+        QVERIFY(validate(m_path) && holdsForeign(contentOf(m_path)));
+        ZelSettingsRegistry::ClearSettingsValues();
+        initTestCase();
+    }
+
+    void lockOfAStoppedProcess()
+    {
+        store(m_path, Foreign);
+        store(m_path + ".lock", QByteArray::number(::getpid()) + "\nother\n\n");
+        QElapsedTimer clock;
+        clock.start();
+        QVERIFY(!apply(m_path) && error.contains("another program") && clock.elapsed() < Patience);
+    }
+
     void newerVersions()
     {
         for (const char* version : {"2", "7", "2147483648", "4294967297", "99999999999999999999"}) {
@@ -557,7 +595,7 @@ private Q_SLOTS:
         const QString text = QString::fromUtf8("\360\237\231\202\360\240\256\267f, \"\303\274\"; \n\t\\=");
         const QString mark(QChar(QChar::ByteOrderMark));
         QVERIFY(change(m_path, {{"list", QStringList({text, text})}, {"mark", mark}}));
-        // Under another name, as the toolkit remembers files, and by the toolkit's own means.
+        // Under another name, as QSettings remembers files, and by Qt's own codec.
         for (const bool own : {true, false}) {
             const QString path = m_folder->filePath(own ? "own" : "toolkit");
             QVERIFY(QFile::copy(m_path, path));

@@ -146,7 +146,7 @@ private Q_SLOTS:
         // Shell commands, because they say it shortest.
         const std::pair<const char*, QString> rows[] = {
             {"mkdir \"$1\"", "it is not a file"},
-            {"mkfifo \"$1\"", "it is not a file"}, // Nobody ever writes to it.
+            {"mkfifo \"$1\"", "it is not a file"}, // It never gets a writer.
             {"truncate -s 5G \"$1\"", "it is too large"},
             {"touch \"$2\"", "could not be created"},
             {"ln -s /gone/there \"$2\"", "could not be created"},
@@ -240,7 +240,9 @@ private Q_SLOTS:
             QCOMPARE(m_output.startsWith("usage:"), exitCode == 0);
         }
         const std::pair<QString, int> commands[] = {{"exec \"$0\" \"$(printf 'caf\\351')\"", 3},
-                                                    {"exec \"$0\" --help >/dev/full", 2}};
+                                                    {"exec \"$0\" --help >/dev/full", 2},
+                                                    {"printf 'caf\\351' | \"$0\" -", 3},
+                                                    {"exec \"$0\" - <&-", 0}};
         for (const auto& [command, exitCode] : commands)
             QCOMPARE(QProcess::execute("sh", {"-c", command, TORVANE_SETTINGS_CHECK}), exitCode);
     }
