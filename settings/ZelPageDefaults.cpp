@@ -1,7 +1,7 @@
 #include "ZelPageDefaults.h"
 
 #include "SettingsKeys.h"
-#include "ZelSettingsRegistry.h"
+#include "SettingsValidation.h"
 #include "ZelSettingsValidators.h"
 
 #include "platform/MTLogger.h"
@@ -66,12 +66,12 @@ void ZelPageDefaults::Register(const QSettings& defaults)
             warn(defaults, QString("no page has a setting \"%1\"").arg(key));
             continue;
         }
-        const QString given = defaults.value(key).toString();
-        QString text = given, error;
-        if (known->validator(key, Refused, text, error) && text != Refused)
+        const QVariant given = defaults.value(key);
+        QString text = given.toString(), error;
+        if (!isList(given) && known->validator(key, Refused, text, error) && text != Refused)
             ZelSettingsRegistry::RegisterSetting(key, text, known->validator);
         else
-            warn(defaults, QString("\"%1\" cannot be \"%2\"").arg(key, given));
+            warn(defaults, QString("\"%1\" cannot be \"%2\"").arg(key, given.toStringList().join(", ")));
     }
 }
 

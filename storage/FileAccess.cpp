@@ -8,6 +8,7 @@
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
+#include <QStringList>
 #include <QTemporaryFile>
 
 #include <chrono>
@@ -79,7 +80,7 @@ std::filesystem::path nativePath(const QString& path)
 QByteArray contentOfFile(const QString& path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) ? file.readAll() : QByteArray();
+    return openWhenFree(file, QIODevice::ReadOnly | QIODevice::Unbuffered) ? file.readAll() : QByteArray();
 }
 
 QString unreadableReason(const QString& path)
@@ -96,7 +97,9 @@ QString unreadableReason(const QString& path)
     if (file.size() > MaximumFileSize)
         return Text::tr("it is too large");
     QFile reader(path);
-    return file.isReadable() || reader.open(QIODevice::ReadOnly) ? QString() : reader.errorString();
+    // Permissions tell nothing of a file that another program keeps to itself, as on Windows.
+    const bool readable = BusyFileTime == 0 ? file.isReadable() : openWhenFree(reader, QIODevice::ReadOnly);
+    return readable || reader.open(QIODevice::ReadOnly) ? QString() : reader.errorString();
 }
 
 QString unwritableReason(const QString& path)
@@ -130,9 +133,12 @@ QString probeWriteError(const QString& path)
     QFile writer(file.filePath());
     if (file.exists() && !writer.open(QIODevice::ReadWrite))
         return writer.errorString();
-    for (const QString& beside : {path, file.filePath()}) {
-        const qint64 size = file.size() + LockSize;
-        QTemporaryFile probe(beside + ".XXXXXX");
+    const qint64 size = file.size() + LockSize;
+    QStringList places(path); // The lock stands beside a link, and the new file beside its target.
+    if (file.filePath() != path)
+        places += file.filePath();
+    for (const QString& place : places) {
+        QTemporaryFile probe(place + ".XXXXXX");
         if (!probe.open())
             return probe.errorString();
         if (probe.write(QByteArray(static_cast<int>(size), '\0')) != size || !probe.flush())

@@ -78,7 +78,7 @@ public:
             return;
         if (!m_written)
             rollBack();
-        if (m_guarded)
+        if (!SettingsReplaceTheirFile)
             UnfinishedWrite::end(m_path, m_written);
         else if (!m_written && !isWhole())
             restoreContent();
@@ -108,7 +108,8 @@ public:
         m_owner = file.ownerId();
         m_group = file.groupId();
         m_existed = file.exists();
-        m_prepared = loss.isEmpty() || keepBackup(m_path, loss, error);
+        m_prepared = (loss.isEmpty() || keepBackup(m_path, loss, error)) &&
+                     (SettingsReplaceTheirFile || UnfinishedWrite::begin(m_path, error));
         return m_prepared;
     }
 
@@ -125,15 +126,10 @@ public:
         m_allNoted = true;
     }
 
-    bool hasNoted() const { return !m_former.isEmpty(); }
-
     /// Writes the values and verifies that they are in the file. False, with a translated text, when they are
     /// not.
     bool commit(QString& error)
     {
-        if (!SettingsReplaceTheirFile && !UnfinishedWrite::begin(m_path, error))
-            return false;
-        m_guarded = !SettingsReplaceTheirFile;
         // Reading the UTF-8 mark once more would bring Qt's own codec back.
         if (m_allNoted && hasChanged() && !m_content.startsWith("\xEF\xBB\xBF"))
             forceReading();
@@ -149,7 +145,7 @@ public:
     }
 
 private:
-    bool hasChanged() const { return m_allNoted ? valuesOf(m_settings) != m_former : hasNoted(); }
+    bool hasChanged() const { return m_allNoted ? valuesOf(m_settings) != m_former : !m_former.isEmpty(); }
 
     /// Gives the file a time at which QSettings cannot have read it.
     void forceReading() const
@@ -246,7 +242,6 @@ private:
     QVariantMap m_former;
     bool m_allNoted = false;
     bool m_prepared = false;
-    bool m_guarded = false;
     bool m_written = false;
 };
 

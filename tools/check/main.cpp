@@ -140,7 +140,8 @@ bool runPass(const QString& path, QString& error)
 {
     if (!ZelSettingsFile::Repair(*ZelSettingsFile::Open(path), error))
         return false;
-    // Else QSettings would remember what it has written, which need not be what it reads from the file.
+    // QSettings keeps what it has written in memory while the size and the time of the file stay. A later
+    // time makes the next pass read the file.
     std::error_code ignored;
     const std::filesystem::path file = nativePath(path);
     std::filesystem::last_write_time(
