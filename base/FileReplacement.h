@@ -1,11 +1,17 @@
 #ifndef ZEL_FILEREPLACEMENT_H
 #define ZEL_FILEREPLACEMENT_H
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QString>
 
+#include <chrono>
+#include <thread>
+
 #if !defined(Q_OS_WIN)
+#    include <cerrno>
+#    include <csignal>
 #    include <unistd.h>
 #endif
 
@@ -20,6 +26,19 @@ const int BusyFileTime = 1000;
 #else
 const int BusyFileTime = 0;
 #endif
+
+/// Opens a file. Where another program keeps it to itself, waits until that ends, for BusyFileTime at most.
+inline bool openWhenFree(QFile& file, QIODevice::OpenMode mode)
+{
+    QElapsedTimer clock;
+    clock.start();
+    while (!file.open(mode)) {
+        if (clock.elapsed() >= BusyFileTime || !file.exists())
+            return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    }
+    return true;
+}
 
 /// True for a file of the user who runs the process.
 inline bool isOwn(const QFileInfo& file)
@@ -39,6 +58,18 @@ inline bool mayReplace(const QFileInfo& file)
     return isOwn(file);
 #else
     return isOwn(file) || ::geteuid() == 0;
+#endif
+}
+
+/// True for a process that has not ended. Whether one runs is not asked on Windows, where a lock ends with
+/// it.
+inline bool isRunning(qint64 process)
+{
+#if defined(Q_OS_WIN)
+    Q_UNUSED(process)
+    return false;
+#else
+    return ::kill(static_cast<pid_t>(process), 0) == 0 || errno == EPERM;
 #endif
 }
 

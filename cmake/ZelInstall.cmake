@@ -1,21 +1,21 @@
-# What `install` makes: the runnable tree, the public headers and a CMake package.
+# What `install` makes below one folder: the runnable tree (component "runtime"), and what those need who build on the
+# library (component "development"). The tree is one because the program looks for Qt's plug-ins in "bin" and for the
+# translations in "resources" beside it, so the names of its folders are fixed.
 
 include(CMakePackageConfigHelpers)
 
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME runtime)
 
-set(zel_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ZelControlCenter)
 get_property(zel_public_headers GLOBAL PROPERTY ZEL_PUBLIC_HEADERS)
 get_property(zel_platform_libraries GLOBAL PROPERTY ZEL_PLATFORM_LIBRARIES)
 file(GLOB zel_platform_headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/platform/*.h)
 
-install(FILES ${zel_public_headers} DESTINATION include/zel COMPONENT headers)
-install(FILES ${zel_platform_headers} DESTINATION include/zel/platform COMPONENT headers)
-install(FILES ${PROJECT_SOURCE_DIR}/base/ZelExport.h ${PROJECT_SOURCE_DIR}/base/ZelQtCompat.h
-        DESTINATION include/zel/base COMPONENT headers)
-install(TARGETS torvane-settings RUNTIME DESTINATION bin)
+# The runnable tree.
+install(TARGETS torvane-settings torvane-settings-check RUNTIME DESTINATION bin)
 install(TARGETS ZelControlCenter ZelPlatform ${zel_platform_libraries} EXPORT ZelTargets
-        RUNTIME DESTINATION bin LIBRARY DESTINATION lib ARCHIVE DESTINATION lib)
+        RUNTIME DESTINATION bin
+        LIBRARY DESTINATION lib NAMELINK_COMPONENT development
+        ARCHIVE DESTINATION lib COMPONENT development)
 foreach(folder IN LISTS ZEL_PLUGIN_FOLDERS)
     if(EXISTS ${ZEL_STAGE}/bin/${folder})
         install(DIRECTORY ${ZEL_STAGE}/bin/${folder} DESTINATION bin)
@@ -26,17 +26,30 @@ install(DIRECTORY ${ZEL_STAGE}/${ZEL_LANGUAGE_DIR} DESTINATION resources)
 set(ZEL_DEFAULTS resources/Defaults.ini)
 install(FILES ${ZEL_STAGE}/${ZEL_DEFAULTS} DESTINATION resources)
 
-install(EXPORT ZelTargets NAMESPACE Zel:: DESTINATION ${zel_package_dir} COMPONENT headers)
+# Headers and CMake package.
+set(zel_package_dir lib/cmake/ZelControlCenter)
+install(FILES ${zel_public_headers} DESTINATION include/zel COMPONENT development)
+install(FILES ${zel_platform_headers} DESTINATION include/zel/platform COMPONENT development)
+install(FILES ${PROJECT_SOURCE_DIR}/base/ZelExport.h DESTINATION include/zel/base COMPONENT development)
+install(EXPORT ZelTargets NAMESPACE Zel:: DESTINATION ${zel_package_dir} COMPONENT development)
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/ZelControlCenterConfig.cmake.in
                               ${PROJECT_BINARY_DIR}/ZelControlCenterConfig.cmake
                               INSTALL_DESTINATION ${zel_package_dir} PATH_VARS ZEL_LANGUAGE_DIR ZEL_DEFAULTS)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/ZelControlCenterConfigVersion.cmake
-                                 COMPATIBILITY SameMajorVersion)
+                                 COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/ZelControlCenterConfig.cmake
               ${PROJECT_BINARY_DIR}/ZelControlCenterConfigVersion.cmake
-        DESTINATION ${zel_package_dir} COMPONENT headers)
+        DESTINATION ${zel_package_dir} COMPONENT development)
 
-install(TARGETS torvane-settings-check RUNTIME DESTINATION bin)
+# zel_install_guide(<folder> <install option>...): the guide to embedding, and the examples.
+function(zel_install_guide folder)
+    install(FILES ${PROJECT_SOURCE_DIR}/docs/embedding.md DESTINATION ${folder} ${ARGN})
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${folder} ${ARGN})
+endfunction()
+set(zel_doc_dir share/doc/ZelControlCenter)
+zel_install_guide(${zel_doc_dir} COMPONENT guide)
+install(FILES ${PROJECT_SOURCE_DIR}/CHANGELOG.md ${PROJECT_SOURCE_DIR}/docs/third-party.md DESTINATION ${zel_doc_dir}
+        COMPONENT guide)
 
 # Builds what `install` copies, and nothing else.
 add_custom_target(ZelInstalled DEPENDS torvane-settings torvane-settings-check)

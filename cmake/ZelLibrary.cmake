@@ -14,8 +14,18 @@ target_sources(ZelControlCenter PRIVATE $<TARGET_OBJECTS:ZelResources>)
 target_link_libraries(ZelControlCenter
                       PUBLIC ZelPlatform ${ZEL_QT_CORE} ${ZEL_QT_WIDGETS}
                       PRIVATE ZelSingleApplication)
-target_include_directories(ZelControlCenter INTERFACE $<INSTALL_INTERFACE:include>
-                                                     $<INSTALL_INTERFACE:include/zel>)
+# Users name a header with its folder, <zel/Version.h>: its bare name could be one of their own.
+target_include_directories(ZelControlCenter INTERFACE $<INSTALL_INTERFACE:include>)
+target_compile_features(ZelControlCenter PUBLIC cxx_std_17)
+
+# The classes show their members, so a new minor version may change the layout of their objects; releases and revisions
+# do not. The package's version file promises the same.
+get_property(zel_platform_libraries GLOBAL PROPERTY ZEL_PLATFORM_LIBRARIES)
+foreach(library IN ITEMS ZelControlCenter LISTS zel_platform_libraries)
+    set_target_properties(${library} PROPERTIES VERSION ${PROJECT_VERSION}
+                                                SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+endforeach()
+
 foreach(header IN LISTS zel_public_headers)
     get_filename_component(folder ${header} DIRECTORY)
     target_include_directories(ZelControlCenter INTERFACE $<BUILD_INTERFACE:${folder}>)

@@ -10,7 +10,8 @@ set(CMAKE_AUTORCC ON)
 function(zel_add_module name)
     cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC_HEADERS;LINK" ${ARGN})
     add_library(${name} OBJECT ${ARG_SOURCES} ${ARG_PUBLIC_HEADERS})
-    target_compile_definitions(${name} PRIVATE ZelControlCenter_EXPORTS)
+    # Public, because a program that has the objects compiled in does not import them from the library.
+    target_compile_definitions(${name} PUBLIC ZelControlCenter_EXPORTS)
     target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}
                                               ${PROJECT_BINARY_DIR}/generated)
     target_link_libraries(${name} PUBLIC ${ARG_LINK})

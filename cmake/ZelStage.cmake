@@ -6,12 +6,15 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${ZEL_STAGE}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${ZEL_STAGE}/lib)
 
 # Both trees have the same shape, so one path relative to the loading file serves both.
-set(CMAKE_INSTALL_LIBDIR lib)
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../lib")
 
 # Without xcbglintegrations: nothing here draws with OpenGL, and finding its drivers takes as long as building all pages.
 set(ZEL_PLUGIN_FOLDERS iconengines imageformats platforminputcontexts platforms platformthemes styles)
+if(WIN32)
+    set(CMAKE_SHARED_LIBRARY_PREFIX "") # MinGW would name them as on Unix.
+    set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
+endif()
 
 file(MAKE_DIRECTORY ${ZEL_STAGE}/bin ${ZEL_STAGE}/resources/languages)
 foreach(folder IN LISTS ZEL_PLUGIN_FOLDERS)
@@ -19,7 +22,8 @@ foreach(folder IN LISTS ZEL_PLUGIN_FOLDERS)
         continue()
     endif()
     if(WIN32)
-        file(COPY ${ZEL_QT_PLUGINS}/${folder} DESTINATION ${ZEL_STAGE}/bin)
+        file(COPY ${ZEL_QT_PLUGINS}/${folder} DESTINATION ${ZEL_STAGE}/bin
+             FILES_MATCHING PATTERN *.dll PATTERN qminimal* EXCLUDE PATTERN qoffscreen* EXCLUDE)
     else()
         file(CREATE_LINK ${ZEL_QT_PLUGINS}/${folder} ${ZEL_STAGE}/bin/${folder} SYMBOLIC)
     endif()

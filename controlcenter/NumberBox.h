@@ -18,7 +18,8 @@ template <class Box>
 class NumberBox : public WheelGuard<Box>
 {
 public:
-    typedef decltype(std::declval<Box>().value()) Number;
+    /// The type of the box's value.
+    using Number = decltype(std::declval<Box>().value());
 
     using WheelGuard<Box>::WheelGuard;
 
@@ -26,6 +27,7 @@ public:
     QString shownText(double number) const { return this->prefix() + nearestText(number) + this->suffix(); }
 
 protected:
+    /// Lets numbers outside the range be typed.
     QValidator::State validate(QString& input, int& position) const override
     {
         const QValidator::State state = Box::validate(input, position);
@@ -34,6 +36,7 @@ protected:
         return state == QValidator::Invalid && outside ? QValidator::Intermediate : state;
     }
 
+    /// Puts the nearest number of the range in the place of one outside.
     void fixup(QString& input) const override
     {
         double number = 0;

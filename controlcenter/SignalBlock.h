@@ -14,12 +14,14 @@ namespace zel {
 class SignalBlock
 {
 public:
+    /// Blocks the signals of these objects, which must outlive it.
     SignalBlock(std::initializer_list<QObject*> objects)
     {
         for (QObject* object : objects)
             m_former.emplace_back(object, object->blockSignals(true));
     }
 
+    /// Puts each object back into the state in which it was.
     ~SignalBlock()
     {
         for (const auto& [object, blocked] : m_former)

@@ -13,6 +13,7 @@ template <class Field>
 class WheelGuard : public Field
 {
 public:
+    /// Guarded at first. The parent, if any, owns the field.
     explicit WheelGuard(QWidget* parent)
         : Field(parent)
     {
@@ -22,6 +23,7 @@ public:
 
     ~WheelGuard() override { this->removeEventFilter(this); }
 
+    /// Passes the wheel on to the page while the field has no focus.
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         // Mouse moves too: an unfocused field does not track the pointer.
@@ -33,21 +35,23 @@ public:
     }
 
 protected:
+    /// Takes the wheel from now on.
     void focusInEvent(QFocusEvent* event) override
     {
         this->setFocusPolicy(Qt::WheelFocus);
         Field::focusInEvent(event);
     }
 
+    /// Leaves the wheel to the page from now on.
     void focusOutEvent(QFocusEvent* event) override
     {
         this->setFocusPolicy(Qt::StrongFocus);
         Field::focusOutEvent(event);
     }
 
+    /// Undoes a focus policy of the form by which the wheel itself would give the focus.
     void showEvent(QShowEvent* event) override
     {
-        // A form may have set a policy by which the wheel itself would give the focus.
         if (!this->hasFocus())
             this->setFocusPolicy(Qt::StrongFocus);
         Field::showEvent(event);

@@ -23,6 +23,7 @@ class ZEL_EXPORT ZelCCActionItem : public QWidget
     Q_OBJECT
 
 public:
+    /// Mirrors the action from now on; it must not be null.
     ZelCCActionItem(zelAction* action, QWidget* parent, Qt::WindowFlags flags = Qt::WindowFlags());
     ~ZelCCActionItem() override;
 
@@ -31,6 +32,7 @@ public:
 
     /// Whether the action belongs to the workflow at hand; for the application to read. False at first.
     void setIsWorkflowSpecific(bool specific);
+    /// As it was set.
     bool isWorkflowSpecific() const;
 
 public Q_SLOTS:

@@ -13,6 +13,7 @@
 #include "base/ZelAccessibility.h"
 #include "base/ZelQtCompat.h"
 
+#include "platform/MTLogger.h"
 #include "platform/kqDMGuiPlugin.h"
 #include "platform/kqDMIApplication.h"
 #include "platform/kqMessageBox.h"
@@ -54,6 +55,21 @@ QMessageBox::StandardButton showMessage(const QString& text, QMessageBox::Standa
     return kqMessageBox::ShowMessage(QCoreApplication::translate("ZelControlCenter", "Settings Modification"),
                                      text, buttons, nullptr, Qt::WindowFlags(),
                                      QMap<QMessageBox::StandardButton, QString>(), false);
+}
+
+void logUnregisteredKeys(const ZelSettingsPanel& panel)
+{
+    const auto& registered = ZelSettingsRegistry::GetDefaultSettingsValues();
+    QStringList keys = panel.getSettingsKeys();
+    keys.erase(std::remove_if(keys.begin(), keys.end(),
+                              [&](const QString& key) { return registered.count(key) > 0; }),
+               keys.end());
+    if (!keys.isEmpty())
+        MTLogger::Log("warning", QString("The page \"%1\" has keys without a default or a validator, because "
+                                         "they are not registered: %2")
+                                     .arg(panel.getPanelName(), keys.join(", "))
+                                     .toUtf8()
+                                     .constData());
 }
 
 /// Marks the button of a page that has pending edits. The mark keeps its place while there are none.
@@ -182,6 +198,7 @@ void ZelControlCenter::registerSettingsPanel(ZelSettingsPanel* panel)
     if (m_panels.contains(panel))
         return;
     m_panels.append(panel);
+    logUnregisteredKeys(*panel);
     connect(panel, SIGNAL(stateChanged()), this, SLOT(onStateChanged()));
     connect(panel, SIGNAL(destroyed(QObject*)), this, SLOT(onPanelDestroyed(QObject*)));
 

@@ -76,6 +76,7 @@ public:
 
     /// True from the end of the opening slide to the end of the closing one.
     bool isMenuOpen() const;
+    /// The same of the drawer.
     bool isSettingsOpen() const;
 
     /// True when any page has pending edits.
@@ -97,10 +98,12 @@ public:
 
     /// Width of the menu column in pixels; it is visible from 1 on.
     int controlCenterWidth() const;
+    /// Sets it; 0 hides the menu column. What the slide does.
     void setControlCenterWidth(int width);
 
     /// Width of the drawer in pixels, 0 while it is hidden; it is visible from 1 on.
     int settingsWidth() const;
+    /// Sets it; 0 hides the drawer. What the slide does.
     void setSettingsWidth(int width);
 
     /// Adds an action to the menu column, before or after the item of the action named anchorName; on top
@@ -119,6 +122,8 @@ public:
     /// icons for the checked and the unchecked state.
     void setInterfaceColor(const QColor& color, const QString& iconOnFile, const QString& iconOffFile);
 
+    /// Watches the application, inside the viewer and while the menu is open, for clicks that close it.
+    /// Consumes nothing.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 public Q_SLOTS:
@@ -138,17 +143,26 @@ Q_SIGNALS:
     void helpRequested(QWidget* field);
 
 protected Q_SLOTS:
+    /// Applies the edits of all pages and tells if a restart is needed.
     void on_applyButton_clicked();
+    /// As resetControlCenter().
     void on_resetButton_clicked();
+    /// Opens the drawer, if need be, and scrolls to the pages of that name.
     void onPanelClicked(const QString& pPanelName);
     /// Re-evaluates the Apply and Reset buttons and the marks of the pages.
     void onStateChanged();
+    /// @{
+    /// The end of a slide of the menu column, and of the drawer: from then on it counts as open or closed.
     void onControlCenterWidthFinished();
     void onSettingsWidthFinished();
+    /// @}
+    /// Marks the page at the top of the drawer in the list.
     void onScrollBarValueChanged(int value);
+    /// As openMenu(false).
     void closeMenu();
     /// Gives the pages the width that the scroll bar leaves them.
     void onScrollBarRangeChanged();
+    /// Forgets a page that was deleted without being unregistered.
     void onPanelDestroyed(QObject* panel);
     /// Brings a field into view that the keyboard enters the drawer at.
     void onFocusChanged(QWidget* former, QWidget* current);
@@ -156,15 +170,18 @@ protected Q_SLOTS:
     void onPressDelivered();
 
 protected:
+    /// Slides the drawer open or closed. Opening it from closed loads the stored values into every page.
     void openSettingsPanel(bool open);
     /// Scrolls the drawer until a page is at its top, as far as it goes.
     void ensureSettingVisible(QWidget* widget);
     /// Puts the defaults into every page, as pending edits.
     void resetControlCenter();
 
-    // Part of the class's interface; they only forward.
+    /// @{
+    /// Only forwards to QWidget; for classes that derive from this one.
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    /// @}
 
 private:
     /// The plug-in that draws the viewer's interface; null outside the full viewer.

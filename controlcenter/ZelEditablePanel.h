@@ -27,15 +27,22 @@ template <class Model>
 class ZelEditablePanel : public ZelSettingsPanel
 {
 public:
+    /// The table of a page: a row for each key.
     using Fields = std::vector<ZelSettingsField<Model>>;
 
+    /// The first four arguments are those of ZelSettingsPanel.
     ZelEditablePanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
                      Qt::WindowFlags flags, Fields fields)
         : ZelSettingsPanel(application, settings, parent, flags)
         , m_fields(std::move(fields))
     {
+        QStringList keys;
+        for (const auto& field : m_fields)
+            keys.append(field.key);
+        setSettingsKeys(keys);
     }
 
+    /// Reads the stored values into the widgets.
     void initializeWidget() override
     {
         Model stored;
@@ -44,6 +51,7 @@ public:
         checkContent();
     }
 
+    /// True when the widgets do not hold the stored values.
     bool hasModifications() const override
     {
         Model stored, current;
@@ -52,6 +60,7 @@ public:
         return !(stored == current);
     }
 
+    /// Hands the edits to the running application, then stores them. True when shouldRestart() says so.
     bool applyModifications() override
     {
         if (!hasModifications())
@@ -64,6 +73,7 @@ public:
         return restart;
     }
 
+    /// True when the widgets do not hold the defaults.
     bool canResetContent() const override
     {
         Model defaults, current;
@@ -72,6 +82,7 @@ public:
         return !(defaults == current);
     }
 
+    /// Puts the defaults into the widgets, as an edit.
     void resetContent() override
     {
         if (!canResetContent())
@@ -92,12 +103,12 @@ protected:
     /// A row of the page's help: a setting, which has one or more keys.
     struct Help
     {
-        QList<QWidget*> fields; ///< What shows and edits it.
-        const char* name;       ///< Null where the first field's name or label tells it.
-        const char* description;
-        QString range;
-        ZelSettingEffect effect;
-        QStringList keys;
+        QList<QWidget*> fields;  ///< What shows and edits it.
+        const char* name;        ///< Null where the first field's name or label tells it.
+        const char* description; ///< What the setting does, in a few sentences.
+        QString range;           ///< Empty when there is none to tell.
+        ZelSettingEffect effect; ///< When an applied edit counts.
+        QStringList keys;        ///< Those that the fields hold.
         /// The setting's value in a model, as the fields would show it.
         std::function<QString(const Model&)> shown;
         /// Takes the setting over from a model into another one. Null for what the fields of the keys hold.
@@ -117,12 +128,14 @@ protected:
             help->add(settingHelp(context, row));
     }
 
+    /// Reads what is stored.
     void readSettings(Model& model) const
     {
         for (const auto& field : m_fields)
             field.readStored(model, settings().value(field.key));
     }
 
+    /// Reads the registered defaults.
     void getDefaultSettings(Model& model) const
     {
         for (const auto& field : m_fields)
@@ -156,7 +169,7 @@ protected:
     /// Refreshes the reset button.
     void checkContent() const
     {
-        if (auto* resetButton = findChild<QPushButton*>("resetButton"))
+        if (auto* resetButton = findChild<QPushButton*>(QLatin1String("resetButton")))
             enableButton(*resetButton, canResetContent(), getActionWidget());
         else
             qWarning("The form of the page \"%s\" has no push button named \"resetButton\"",

@@ -23,8 +23,8 @@ enum ZelSettingEffect { EffectAtOnce, EffectWithNextImport, EffectAfterRestart }
 /// with it. All functions are there.
 struct ZelSettingHelp
 {
-    QList<QWidget*> fields; ///< What shows and edits it.
-    QString name;
+    QList<QWidget*> fields;                   ///< What shows and edits it.
+    QString name;                             ///< What the user knows it by.
     QString description;                      ///< What it does, in a few sentences.
     QString range;                            ///< Empty when there is none to tell.
     QString effect;                           ///< When an applied edit counts.
@@ -32,9 +32,9 @@ struct ZelSettingHelp
     std::function<QString()> byDefault;       ///< As a field would show it; empty without a default.
     std::function<QString()> stored;          ///< As a field would show it.
     std::function<bool()> differsFromDefault; ///< False also without a default.
-    std::function<bool()> differsFromStored;
-    std::function<void()> useDefault; ///< Puts the default into the fields, as a pending edit.
-    std::function<void()> putBack;    ///< Puts what is stored into the fields.
+    std::function<bool()> differsFromStored;  ///< True while an edit is pending.
+    std::function<void()> useDefault;         ///< Puts the default into the fields, as a pending edit.
+    std::function<void()> putBack;            ///< Puts what is stored into the fields.
 
     /// All that does not change while the page lives, in a paragraph.
     QString summary() const;
@@ -49,8 +49,10 @@ class ZEL_EXPORT ZelPageHelp : public QObject
     Q_OBJECT
 
 public:
+    /// The page owns it.
     explicit ZelPageHelp(QWidget* page);
 
+    /// Tells of one more setting, with tool tips and accessible descriptions for its fields.
     void add(const ZelSettingHelp& setting);
 
     /// The setting that a field of this page shows; null for any other widget. Valid until the next add().
@@ -59,8 +61,9 @@ public:
     /// Whether a help area shows the help, so that tool tips need not say it over the fields.
     void setShown(bool shown) { m_shown = shown; }
 
-    // Words that pages have in common.
+    /// When an edit counts, as a sentence.
     static QString effectText(ZelSettingEffect effect);
+    /// From the least to the greatest value.
     static QString rangeText(const QString& least, const QString& greatest);
     /// Of a NumberBox.
     template <class Box>
@@ -68,11 +71,14 @@ public:
     {
         return rangeText(box->shownText(box->minimum()), box->shownText(box->maximum()));
     }
+    /// The state of a check box.
     static QString flagText(bool on);
+    /// Both states of a check box.
     static QString flagRange();
     /// The texts of the buttons between which the user chooses.
     static QString choiceText(const QList<QWidget*>& buttons);
 
+    /// Watches the fields for the pointer, the focus and edits. Consumes nothing.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:

@@ -56,6 +56,16 @@ void ZelSettingsPanel::setPanelName(const QString& name)
         m_actionWidget->setText(name);
 }
 
+const QStringList& ZelSettingsPanel::getSettingsKeys() const
+{
+    return m_settingsKeys;
+}
+
+void ZelSettingsPanel::setSettingsKeys(const QStringList& keys)
+{
+    m_settingsKeys = keys;
+}
+
 void ZelSettingsPanel::refreshWidgetContent()
 {
 }

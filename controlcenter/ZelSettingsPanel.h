@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 
 class QSettings;
@@ -36,16 +37,23 @@ public:
                      Qt::WindowFlags flags);
     ~ZelSettingsPanel() override;
 
+    /// NoCategory unless the page has set one.
     PanelCategory getPanelCategory() const;
+    /// Sets the category; nothing else changes.
     void setPanelCategory(PanelCategory category);
 
     /// The checkable button that brings the page into view. The page owns it, wherever it is shown. Null once
     /// it has been deleted, with a widget that it was put into.
     QPushButton* getActionWidget() const;
 
+    /// Empty until it is set.
     const QString& getPanelName() const;
     /// Names the page and labels its button.
     void setPanelName(const QString& name);
+
+    /// The keys of Settings.ini that the page edits. The control center logs those that are not registered
+    /// when it gets the page.
+    const QStringList& getSettingsKeys() const;
 
     /// Loads the stored values into the widgets and forgets pending edits. Called at registration, whenever
     /// the drawer opens, and when pending edits are discarded.
@@ -77,7 +85,12 @@ public:
     virtual void unregisterCCActionByName(const QString& name);
 
 protected:
+    /// To be called by the constructor of a page that edits settings; ZelEditablePanel does it.
+    void setSettingsKeys(const QStringList& keys);
+
+    /// What was given to the constructor; may be null.
     kqDMIApplication* application() const { return m_application; }
+    /// What was given to the constructor.
     QSettings& settings() const { return *m_settings; }
 
     /// Sets the style sheet that the application keeps under this name; to be called once the form is set up.
@@ -87,6 +100,7 @@ private:
     kqDMIApplication* m_application;
     QSettings* m_settings;
     QString m_panelName;
+    QStringList m_settingsKeys;
     PanelCategory m_category;
     QPointer<QPushButton> m_actionWidget;
 };

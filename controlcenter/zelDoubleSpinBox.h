@@ -15,6 +15,7 @@ class ZEL_EXPORT zelDoubleSpinBox : public NumberBox<QDoubleSpinBox>
     Q_OBJECT
 
 public:
+    /// As QDoubleSpinBox. The parent, if any, owns it.
     explicit zelDoubleSpinBox(QWidget* parent = nullptr);
 };
 

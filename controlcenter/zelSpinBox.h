@@ -15,9 +15,11 @@ class ZEL_EXPORT zelSpinBox : public NumberBox<QSpinBox>
     Q_OBJECT
 
 public:
+    /// As QSpinBox. The parent, if any, owns it.
     explicit zelSpinBox(QWidget* parent = nullptr);
 
 protected:
+    /// The number as the locale of the box writes it.
     QString textFromValue(int value) const override;
 };
 

@@ -36,10 +36,14 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected Q_SLOTS:
+    /// @{
+    /// Accepts and rejects the dialog; connected by name to the form's buttons.
     void on_okButton_clicked();
     void on_closeButton_clicked();
+    /// @}
 
 protected:
+    /// Space chooses the engine that has the focus.
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

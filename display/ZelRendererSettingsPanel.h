@@ -24,9 +24,9 @@ struct EngineModel
     int quality = 0;                   ///< Of the raytracer: index into the kernel's list of names.
     int sceneUnitIndex = 0;            ///< From 0, the kilometre, to 6, the millimetre.
     bool useSoftware = false;          ///< True for the raytracer, false for the deferred renderer.
-    bool useSSAO = false;
-    bool useFXAA = false;
-    bool useED = false; ///< Edge detection.
+    bool useSSAO = false;              ///< Shades corners and creases.
+    bool useFXAA = false;              ///< Antialiasing.
+    bool useED = false;                ///< Edge detection.
 };
 
 /// True when both are the same to the engine that they choose: values of the other engine do not count, nor
@@ -42,6 +42,7 @@ class ZEL_EXPORT ZelRendererSettingsPanel : public ZelEditablePanel<EngineModel>
     Q_OBJECT
 
 public:
+    /// Names the page and fills nothing yet. The arguments are those of ZelSettingsPanel.
     ZelRendererSettingsPanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
                              Qt::WindowFlags flags);
     ~ZelRendererSettingsPanel() override;
@@ -50,9 +51,12 @@ public:
     static int GetSceneUnitComboIndex(float factor);
 
 Q_SIGNALS:
+    /// Emitted after each edit.
     void stateChanged();
 
 protected Q_SLOTS:
+    /// @{
+    /// What the user does in the form; connected by the names of its widgets.
     void on_resetButton_clicked();
     void on_maxTrianglesSpinBox_valueChanged(int triangles);
     void on_maxGPUSPinBox_valueChanged(int mebibytes);
@@ -66,6 +70,7 @@ protected Q_SLOTS:
     void on_qualitySlider_valueChanged(int quality);
     void on_deferredButton_toggled(bool checked);
     void on_raytracerButton_toggled(bool checked);
+    /// @}
 
 protected:
     void getCurrentModel(EngineModel& model) const override;

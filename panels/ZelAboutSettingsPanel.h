@@ -19,6 +19,7 @@ class ZEL_EXPORT ZelAboutSettingsPanel : public ZelSettingsPanel
     Q_OBJECT
 
 public:
+    /// Names the page and fills nothing yet. The arguments are those of ZelSettingsPanel.
     ZelAboutSettingsPanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
                           Qt::WindowFlags flags);
     ~ZelAboutSettingsPanel() override;
@@ -30,6 +31,7 @@ public:
     bool canResetContent() const override { return false; }
     void resetContent() override {}
     bool cancelModifications() override { return false; }
+    /// Does nothing.
     virtual void saveSettings() {}
 
 Q_SIGNALS:
@@ -37,9 +39,11 @@ Q_SIGNALS:
     void stateChanged();
 
 protected Q_SLOTS:
+    /// Opens a link of the page in the browser.
     void onLinkActivated(const QString& link);
 
 protected:
+    /// Fits the table of the plug-ins.
     void resizeEvent(QResizeEvent* event) override;
 
 private:

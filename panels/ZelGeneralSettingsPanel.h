@@ -19,7 +19,9 @@ namespace zel {
 /// What the General page edits.
 struct GeneralModel
 {
+    /// Folder of the 3D database cache.
     QString cacheDirectory;
+    /// Folder of the screenshots.
     QString screenshotFolder;
     int cacheSize = 0; ///< Megabytes.
 };
@@ -33,22 +35,30 @@ class ZEL_EXPORT ZelGeneralSettingsPanel : public ZelEditablePanel<GeneralModel>
     Q_OBJECT
 
 public:
+    /// Names the page and fills nothing yet. The arguments are those of ZelSettingsPanel.
     ZelGeneralSettingsPanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
                             Qt::WindowFlags flags);
     ~ZelGeneralSettingsPanel() override;
 
 Q_SIGNALS:
+    /// Emitted after each edit.
     void stateChanged();
 
 protected Q_SLOTS:
+    /// @{
+    /// What the user does in the form; connected by the names of its widgets.
     void on_databaseButton_clicked();
     void on_screenshotFolderButton_clicked();
     void on_databaseSpinBox_valueChanged(int megabytes);
     void on_resetButton_clicked();
+    /// @}
 
 protected:
+    /// @{
+    /// Shows as much of the folders' paths as there is room for.
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    /// @}
 
     void getCurrentModel(GeneralModel& model) const override;
     void applyModel(const GeneralModel& model) override;
@@ -62,7 +72,9 @@ protected:
 
     /// Shows the end of each folder's path, as much of it as its button can hold.
     void elideText();
+    /// Hands the folder of the screenshots to the running application.
     void setScreenshotFolder();
+    /// Hands the size of the cache to the running application.
     void setMaxCacheSize();
 
 private:

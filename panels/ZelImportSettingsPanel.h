@@ -19,14 +19,14 @@ namespace zel {
 /// What the Import page edits.
 struct ImportModel
 {
-    double maxFaceSag = 0;    ///< In the unit of the imported model.
-    double maxFaceLength = 0; ///< In the unit of the imported model.
-    int maxFaceAngle = 0;     ///< Degrees.
-    bool isHighQuality = false;
-    bool qualitySet = false;
-    bool maxFaceSagSet = false;
-    bool maxFaceLengthSet = false;
-    bool maxFaceAngleSet = false;
+    double maxFaceSag = 0;         ///< In the unit of the imported model.
+    double maxFaceLength = 0;      ///< In the unit of the imported model.
+    int maxFaceAngle = 0;          ///< Degrees.
+    bool isHighQuality = false;    ///< True for high quality, false for low.
+    bool qualitySet = false;       ///< The quality is in force.
+    bool maxFaceSagSet = false;    ///< The limit of the sag is in force.
+    bool maxFaceLengthSet = false; ///< The limit of the length is in force.
+    bool maxFaceAngleSet = false;  ///< The limit of the angle is in force.
 };
 
 /// A value that is not set is not in force, and so makes no difference.
@@ -39,14 +39,18 @@ class ZEL_EXPORT ZelImportSettingsPanel : public ZelEditablePanel<ImportModel>
     Q_OBJECT
 
 public:
+    /// Names the page and fills nothing yet. The arguments are those of ZelSettingsPanel.
     ZelImportSettingsPanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
                            Qt::WindowFlags flags);
     ~ZelImportSettingsPanel() override;
 
 Q_SIGNALS:
+    /// Emitted after each edit.
     void stateChanged();
 
 protected Q_SLOTS:
+    /// @{
+    /// What the user does in the form; connected by the names of its widgets.
     void on_defaultQuality_clicked();
     void on_highQuality_clicked();
     void on_lowQuality_clicked();
@@ -57,6 +61,7 @@ protected Q_SLOTS:
     void on_resetButton_clicked();
     void on_defaultAngle_clicked();
     void on_angle_clicked();
+    /// @}
 
 protected:
     void getCurrentModel(ImportModel& model) const override;

@@ -31,6 +31,7 @@ class ZEL_EXPORT ZelSimplificationSettingsPanel : public ZelEditablePanel<Simpli
     Q_OBJECT
 
 public:
+    /// Names the page and fills nothing yet. The arguments are those of ZelSettingsPanel.
     ZelSimplificationSettingsPanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
                                    Qt::WindowFlags flags);
     ~ZelSimplificationSettingsPanel() override;
@@ -39,14 +40,18 @@ public:
     bool hasModifications() const override;
 
 Q_SIGNALS:
+    /// Emitted after each edit.
     void stateChanged();
 
 protected Q_SLOTS:
+    /// @{
+    /// What the user does in the form; connected by the names of its widgets.
     void on_resetButton_clicked();
     void on_ratio2_editingFinished();
     void on_ratio3_editingFinished();
     void on_ratio4_editingFinished();
     void on_ratio5_editingFinished();
+    /// @}
 
 protected:
     void getCurrentModel(SimplificationModel& model) const override;
@@ -61,7 +66,7 @@ private:
     /// Brings the neighbours of an edited level, but none beyond them, into descending order with it.
     void finishEditing(int level);
     Help levelHelp(int level) const;
-    zelDoubleSpinBox* percentage(int level) const { return m_percentages[level - 1]; }
+    zelDoubleSpinBox* percentage(int level) const { return m_percentages[std::size_t(level - 1)]; }
 
     const std::unique_ptr<Ui::ZelSimplificationSettingsPanel> m_ui;
     std::vector<zelDoubleSpinBox*> m_percentages; ///< The form's spin boxes, level 1 first.

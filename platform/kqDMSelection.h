@@ -14,9 +14,11 @@ class ZEL_KERNEL_GUI_EXPORT kqDMSelection : public QObject
     Q_OBJECT
 
 public:
+    /// Empty at first.
     explicit kqDMSelection(QObject* parent = nullptr);
     ~kqDMSelection() override;
 
+    /// True when nothing is selected.
     bool isEmpty() const;
 
 private:

@@ -27,6 +27,7 @@ public:
     /// Dragging the anchor moves the target; a previous anchor is released. Neither is owned.
     void setAnchorObject(QObject* anchor, QWidget* target);
 
+    /// Watches the anchor; consumes the presses and moves that drag.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

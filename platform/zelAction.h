@@ -21,6 +21,7 @@ public:
     zelAction(const QString& name, const QString& guiName, zelActionManager* manager);
     ~zelAction() override;
 
+    /// What code knows the action by.
     const QString& getActionName() const;
 
     /// The text that the user reads; follows the action's text.

@@ -15,6 +15,7 @@ class ZEL_KERNEL_GUI_EXPORT zelActionManager : public QObject
     Q_OBJECT
 
 public:
+    /// Without actions at first.
     explicit zelActionManager(QObject* parent = nullptr);
     ~zelActionManager() override;
 

@@ -27,6 +27,7 @@ public:
     /// fails.
     using EndCheck = bool (*)(QSettings& settings, QString& error);
 
+    /// The registered keys: to each its default text and its validator.
     using Settings = std::map<QString, std::pair<QString, Validator>>;
 
     /// Adds a key. The first registration of a key wins: false, and no change, for a key that is there

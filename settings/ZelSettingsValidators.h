@@ -13,6 +13,7 @@ namespace zel {
 class ZEL_EXPORT ZelSettingsValidators
 {
 public:
+    /// The form of all validators.
     using Validate = bool(const QString& key, const QString& defaultValue, QString& value, QString& error);
 
     /// Normalises a folder path: every "\" becomes "/", then one trailing "/" is dropped.

@@ -36,15 +36,19 @@ class ZEL_EXPORT ZelControlCenterStandAloneWidget : public QWidget
     Q_OBJECT
 
 public:
+    /// Creates all pages. The application must not be null.
     ZelControlCenterStandAloneWidget(kqDMIApplication* application, QWidget* parent, Qt::WindowFlags flags);
     ~ZelControlCenterStandAloneWidget() override;
 
+    /// Gives the focus to the list of pages when that slides in. Consumes nothing.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 public Q_SLOTS:
+    /// Minimises the window.
     void triggerMinimize();
     /// Maximises the window, or restores it.
     void triggerMaximize();
+    /// Closes the window, as its frame's button does.
     void closeWidget();
     /// Slides the menu and the drawer open.
     void openMenu();
@@ -54,6 +58,7 @@ public Q_SLOTS:
 protected:
     /// Asks before pending edits are lost.
     void closeEvent(QCloseEvent* event) override;
+    /// Lets the maximise button say what it does now.
     void changeEvent(QEvent* event) override;
 
 private Q_SLOTS:

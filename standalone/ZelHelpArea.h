@@ -28,6 +28,7 @@ class ZEL_EXPORT ZelHelpArea : public QWidget
     Q_OBJECT
 
 public:
+    /// Empty until it follows a tree of widgets.
     explicit ZelHelpArea(QWidget* parent = nullptr);
     ~ZelHelpArea() override;
 
@@ -42,6 +43,7 @@ public Q_SLOTS:
     void refresh();
 
 protected:
+    /// Hides what there is no room for.
     void resizeEvent(QResizeEvent* event) override;
 
 private Q_SLOTS:

@@ -63,6 +63,7 @@ public:
     void setWorkFlowWidget(QWidget*) override {}
     void registerMouseReleaseEventFilter(zelReleaseEventFilter*, bool) override {}
 
+    /// Sets what getLanguageCode() answers; empty at first.
     void setLanguageCode(const QString& code) { m_languageCode = code; }
 
 private:

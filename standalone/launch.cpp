@@ -32,6 +32,7 @@ using namespace zel;
 const char* const FallbackLanguage = "en";
 const int SendTimeout = 5000; // ms
 const int FirstStart = 1;     // Exit code that tells the host of a renderer chosen just now.
+const int Refused = 3; // Exit code of a call that could not work; hosts use 2 for troubles of their own.
 
 /// The viewer's libraries in the order in which they are started.
 const struct
@@ -185,6 +186,14 @@ int runApplication(QtSingleApplication& singleApplication, ZelSettingsApplicatio
 
 int launch(int argc, char** argv)
 {
+    static bool isSpent = false;
+    if (isSpent || QCoreApplication::instance()) {
+        qWarning("launch() refuses: %s", isSpent ? "it has been called in this process before"
+                                                 : "this process has an application object already");
+        return Refused;
+    }
+    isSpent = true;
+
     const QtMessageSink<writeMessage> messageSink;
     useUtf8FileNames();
     followScreenScale();

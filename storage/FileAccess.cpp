@@ -11,13 +11,17 @@
 
 #include <chrono>
 #include <system_error>
+#include <thread>
 
 namespace zel {
 
 namespace {
 
+const qint64 LockSize = 8192; // What the lock of QSettings and rounding up to blocks take besides.
 const qint64 MaximumFileSize = qint64(64) * 1024 * 1024;
 const std::chrono::minutes StaleLockAge(1); // QSettings removes a lock of half a minute.
+const int LongestLock = 2000;               // ms; a write takes milliseconds.
+const int LockPause = 50;                   // ms
 
 /// The file itself where the path is a link; it may not exist.
 QFileInfo fileBehind(const QFileInfo& file)
@@ -27,23 +31,38 @@ QFileInfo fileBehind(const QFileInfo& file)
     return QFileInfo(file.exists() ? file.canonicalFilePath() : file.symLinkTarget());
 }
 
-/// Lets QSettings take its lock, for which it waits without end. False when it never could.
-bool makeLockable(const QString& lock)
+/// Why QSettings, which waits for its lock without end, could not take it; empty when it can.
+QString lockReason(const QString& lock)
 {
     const QFileInfo file(lock);
     if (!file.isSymLink() && !file.exists())
-        return true;
+        return QString();
     if (file.isSymLink() || !file.isFile() || !file.isWritable())
-        return false;
-    QFile reader(lock);
-    if (!reader.open(QIODevice::ReadOnly) || reader.readLine(32).trimmed().toLongLong() > 0)
-        return true;
-    // An orphaned lock of a process that died while it took it. Not removed here: by now it may be another's.
-    // QSettings removes an old one if no process holds it.
+        return Text::tr("\"%1\" is in the way, which no program uses: remove it").arg(lock);
+    qint64 process = 1;
+    for (int waited = 0; waited < LongestLock && process > 0; waited += LockPause) {
+        QFile reader(lock);
+        if (!reader.open(QIODevice::ReadOnly))
+            return QString();
+        process = reader.readLine(32).trimmed().toLongLong();
+        if (process > 0 && !isRunning(process))
+            return QString(); // QSettings removes the lock of a process that has ended.
+        if (process > 0)
+            std::this_thread::sleep_for(std::chrono::milliseconds(LockPause));
+    }
+    if (process > 0)
+        return Text::tr("another program has locked it");
+    // The process died while it took the lock. Not removed here: by now it may be another's. QSettings
+    // removes an old one if no process holds it.
     std::error_code error;
     std::filesystem::last_write_time(nativePath(lock),
                                      std::filesystem::file_time_type::clock::now() - StaleLockAge, error);
-    return true;
+    return QString();
+}
+
+QString noRoom()
+{
+    return QString::fromLocal8Bit(std::make_error_code(std::errc::no_space_on_device).message().c_str());
 }
 
 } // namespace
@@ -97,16 +116,20 @@ QString unwritableReason(const QString& path)
     const bool isFile = file.isFile();
     if (isFile && !mayReplace(file))
         return Text::tr("it belongs to another user or group, who would lose it");
-    // The folder of a link's target is not created.
-    const QFileInfo folder(file.path());
-    const bool writable =
-        isFile ? file.isWritable() && folder.isWritable()
-               : (named.isSymLink() ? folder.isDir() && folder.isWritable() : canCreateFolder(file.path()));
-    if (!writable)
-        return probeWriteError(path);
-    const QString lock = path + ".lock";
-    return makeLockable(lock) ? QString()
-                              : Text::tr("\"%1\" is in the way, which no program uses: remove it").arg(lock);
+    // The lock stands beside a link, and the new file beside its target, whose folder is not created.
+    const QFileInfo folder(file.path()), linkFolder(named.path());
+    const bool writable = named.isSymLink() ? folder.isDir() && folder.isWritable() && linkFolder.isWritable()
+                          : isFile          ? folder.isWritable()
+                                            : canCreateFolder(file.path());
+    return writable && (!isFile || file.isWritable()) ? lockReason(path + ".lock") : probeWriteError(path);
+}
+
+QString roomReason(const QString& path, qint64 size)
+{
+    std::error_code error;
+    const auto space = std::filesystem::space(nativePath(QFileInfo(path).path()), error);
+    const bool fits = error || space.available >= static_cast<std::uintmax_t>(size + LockSize);
+    return fits ? QString() : noRoom();
 }
 
 QString probeWriteError(const QString& path)
@@ -115,10 +138,14 @@ QString probeWriteError(const QString& path)
     QFile writer(file.filePath());
     if (file.exists() && !writer.open(QIODevice::ReadWrite))
         return writer.errorString();
-    const qint64 size = file.size() + 4096; // The lock of QSettings takes some room, too.
-    QTemporaryFile probe(file.filePath() + ".XXXXXX");
-    if (!probe.open() || probe.write(QByteArray(static_cast<int>(size), '\0')) != size || !probe.flush())
-        return probe.errorString();
+    for (const QString& beside : {path, file.filePath()}) {
+        const qint64 size = file.size() + LockSize;
+        QTemporaryFile probe(beside + ".XXXXXX");
+        if (!probe.open())
+            return probe.errorString();
+        if (probe.write(QByteArray(static_cast<int>(size), '\0')) != size || !probe.flush())
+            return noRoom();
+    }
     // As where it is mounted on its own, or where another program has it open.
     return Text::tr("it cannot be replaced by a new one");
 }

@@ -32,6 +32,9 @@ QString unreadableReason(const QString& path);
 /// is known.
 QString unwritableReason(const QString& path);
 
+/// Why there is no room for a settings file of so many bytes beside the present one; empty when there is.
+QString roomReason(const QString& path, qint64 size);
+
 /// Why writing has failed: what the system says when it is tried again, in a new file beside this one.
 QString probeWriteError(const QString& path);
 

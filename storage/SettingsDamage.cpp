@@ -43,9 +43,18 @@ char firstCharacter(const QByteArray& line)
     return first == line.end() ? 0 : *first;
 }
 
-bool isComment(const QByteArray& line)
+/// True for a line with a ';' outside quotation marks, if it can be read at all.
+bool hasComment(const QByteArray& line)
 {
-    return firstCharacter(line) == ';';
+    bool quoted = false;
+    for (int at = 0; at < line.size(); ++at) {
+        if (line.at(at) == ';' && !quoted)
+            return true;
+        quoted = quoted != (line.at(at) == '"');
+        if (line.at(at) == '\\')
+            ++at;
+    }
+    return false;
 }
 
 bool isReadable(const QByteArray& line)
@@ -80,7 +89,8 @@ int firstLine(const QByteArray& text, bool (*isWanted)(const QByteArray& line))
     for (int begin = text.startsWith(ByteOrderMark) ? 3 : 0, end = 0; begin < text.size(); begin = end + 1) {
         end = lineEnd(text, begin);
         const auto line = [&] { return QByteArray::fromRawData(text.constData() + begin, end - begin); };
-        while (end < text.size() && goesOn(line()) && isUnreadable(line())) {
+        const bool isJoined = goesOn(line()) && isUnreadable(line());
+        while (isJoined && end < text.size() && goesOn(line())) {
             number += text.at(end) == '\n';
             end = lineEnd(text, end + 1);
         }
@@ -105,8 +115,8 @@ QString settingsDamage(const QByteArray& text)
 
 QString droppedComment(const QByteArray& text)
 {
-    const int line = text.contains(';') ? firstLine(text, &isComment) : 0;
-    return line ? QString("line %1 is a comment, which is not kept").arg(line) : QString();
+    const int line = text.contains(';') ? firstLine(text, &hasComment) : 0;
+    return line ? QString("line %1 has a comment, which is not kept").arg(line) : QString();
 }
 
 } // namespace zel

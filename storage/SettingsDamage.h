@@ -12,7 +12,7 @@ namespace zel {
 /// ("C:\Users") or takes in the next line. Empty when nothing would be lost; comments do not count.
 QString settingsDamage(const QByteArray& text);
 
-/// Which comment line of a text QSettings would drop; empty when there is none.
+/// Which line of a text has a comment, which QSettings drops; empty when none has.
 QString droppedComment(const QByteArray& text);
 
 } // namespace zel

@@ -83,10 +83,10 @@ void UnfinishedWrite::recover(const QString& path)
     // A file that another program has written later is whole.
     const bool isWhole = writtenAt(path) > writtenAt(copy).addMSecs(LongestWrite);
     QString error;
-    if (contentOfFile(path) != contentOfFile(copy) &&
-        !keepBackup(path, "its writing was cut short", error, isWhole ? copy : path))
-        return;
-    end(path, isWhole);
+    const bool isKept = contentOfFile(path) == contentOfFile(copy) ||
+                        keepBackup(path, "its writing was cut short", error, isWhole ? copy : path);
+    if (isKept || !isWhole) // Half a file is given up even where there is no room for a copy of it.
+        end(path, isWhole);
 }
 
 } // namespace zel

@@ -11,6 +11,7 @@
 
 #include <QElapsedTimer>
 #include <QEvent>
+#include <QFile>
 #include <QFileInfo>
 #include <QStringList>
 
@@ -39,6 +40,7 @@ namespace {
 using FileTime = std::filesystem::file_time_type;
 
 const std::chrono::milliseconds RetryPause(50);
+const qint64 Growth = 8192; // More bytes than one write is likely to add.
 
 /// The least time there is when there is no file.
 FileTime timeOf(const QString& path)
@@ -48,11 +50,17 @@ FileTime timeOf(const QString& path)
     return error ? FileTime::min() : time;
 }
 
+/// False for a name that QSettings reads from a file, but takes for another one when it is asked for it.
+bool isPlain(const QString& key)
+{
+    return !key.isEmpty() && !key.startsWith('/') && !key.endsWith('/') && !key.contains("//");
+}
+
 QVariantMap valuesOf(const QSettings& settings)
 {
     QVariantMap values;
     for (const QString& key : settings.allKeys()) {
-        if (!key.isEmpty()) // QSettings reads a key without a name, but sets none.
+        if (isPlain(key))
             values.insert(key, settings.value(key));
     }
     return values;
@@ -77,8 +85,10 @@ public:
             return;
         if (!m_written)
             rollBack();
-        if (!SettingsReplaceTheirFile)
+        if (m_guarded)
             UnfinishedWrite::end(m_path, m_written);
+        else if (!m_written && !isWhole())
+            restoreContent();
         restoreAttributes();
     }
 
@@ -95,6 +105,9 @@ public:
         if (!refusal.isEmpty())
             return refuseWriting(m_path, refusal, error);
         m_content = contentOfFile(m_path);
+        const QString noRoom = roomReason(m_path, m_content.size() + Growth);
+        if (!noRoom.isEmpty())
+            return refuseWriting(m_path, noRoom, error);
         const QString damage = settingsDamage(m_content);
         const QString loss = damage.isEmpty() ? droppedComment(m_content) : damage;
         m_lostContent = m_content.isEmpty() || !damage.isEmpty();
@@ -102,8 +115,7 @@ public:
         m_owner = file.ownerId();
         m_group = file.groupId();
         m_time = timeOf(m_path);
-        m_prepared = (loss.isEmpty() || keepBackup(m_path, loss, error)) &&
-                     (SettingsReplaceTheirFile || UnfinishedWrite::begin(m_path, error));
+        m_prepared = loss.isEmpty() || keepBackup(m_path, loss, error);
         return m_prepared;
     }
 
@@ -126,6 +138,9 @@ public:
     /// not.
     bool commit(QString& error)
     {
+        if (!SettingsReplaceTheirFile && !UnfinishedWrite::begin(m_path, error))
+            return false;
+        m_guarded = !SettingsReplaceTheirFile;
         QElapsedTimer clock;
         clock.start();
         m_settings.sync();
@@ -140,28 +155,65 @@ public:
 private:
     bool hasChanged() const { return m_allNoted ? valuesOf(m_settings) != m_former : hasNoted(); }
 
+    /// Whether the file holds a line for every value. QSettings does not notice when the disk is full before
+    /// the last of them; the file then ends with a block.
+    bool isWhole() const
+    {
+        const int smallestBlock = 512;
+        if (SettingsReplaceTheirFile && QFileInfo(m_path).size() % smallestBlock != 0)
+            return true;
+        int lines = 0;
+        for (const QByteArray& line : contentOfFile(m_path).split('\n'))
+            lines += !line.trimmed().isEmpty() && !line.startsWith('[');
+        return lines == m_settings.allKeys().size();
+    }
+
     bool isWritten() const
     {
-        if (SettingsReplaceTheirFile && m_settings.status() == QSettings::NoError)
-            return true;
-        const QByteArray content = contentOfFile(m_path);
-        return content == m_content ? !hasChanged() : content.endsWith('\n'); // Half a file ends anywhere.
+        if (!isWhole())
+            return false;
+        return m_settings.status() == QSettings::NoError || contentOfFile(m_path) != m_content ||
+               !hasChanged();
+    }
+
+    /// Puts the old content into the place of a file that is cut short, which has made room for it.
+    void restoreContent() const
+    {
+        QFile file(m_path);
+        if (m_content.isEmpty() || contentOfFile(m_path) == m_content)
+            return;
+        if (!file.open(QIODevice::WriteOnly) || file.write(m_content) != m_content.size() || !file.flush())
+            logWarning(
+                QString("Could not put the content of \"%1\" back: %2.").arg(m_path, file.errorString()));
     }
 
     void rollBack()
     {
         for (const QString& key : m_allNoted ? m_settings.allKeys() : QStringList()) {
-            if (!m_former.contains(key))
-                m_settings.remove(key);
+            if (isPlain(key) && !m_former.contains(key))
+                m_former.insert(key, QVariant());
         }
         for (auto former = m_former.constBegin(); former != m_former.constEnd(); ++former) {
             if (!former->isValid())
-                m_settings.remove(former.key());
+                removeAlone(former.key());
             else if (m_settings.value(former.key()) != *former)
                 m_settings.setValue(former.key(), *former);
         }
         m_settings.sync();
         QCoreApplication::removePostedEvents(&m_settings, QEvent::UpdateRequest);
+    }
+
+    /// Removes a key, but not what stands in a group of that name.
+    void removeAlone(const QString& key)
+    {
+        if (!m_settings.contains(key))
+            return;
+        m_settings.beginGroup(key);
+        const QVariantMap children = valuesOf(m_settings);
+        m_settings.endGroup();
+        m_settings.remove(key);
+        for (auto child = children.constBegin(); child != children.constEnd(); ++child)
+            m_settings.setValue(key + '/' + child.key(), *child);
     }
 
     /// Gives the new file to the owner of the former one, and a later time than it had.
@@ -189,6 +241,7 @@ private:
     QVariantMap m_former;
     bool m_allNoted = false;
     bool m_prepared = false;
+    bool m_guarded = false;
     bool m_written = false;
 };
 
@@ -251,30 +304,30 @@ bool ZelSettingsFile::Write(QSettings& settings, const Change& change, QString& 
 bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
 {
     SettingsWrite write(settings);
-    QString refusal;
-    const bool writable = write.prepare(refusal);
-    std::vector<std::pair<const QString*, QString>> texts;
+    QVariantMap repaired;
     bool losesList = false;
     const auto take = [&](const auto& entry, const QVariant& stored, const QString& text) {
-        texts.emplace_back(&entry.first, text);
+        if (!isRepair(stored, text))
+            return;
+        repaired.insert(entry.first, text);
         losesList = losesList || isList(stored);
-        if (isRepair(stored, text))
-            write.noteFormer(entry.first, stored);
+        write.noteFormer(entry.first, stored);
     };
     if (!validateSettings(settings, error, take))
         return false;
-    if (writable && losesList &&
-        !keepBackup(settings.fileName(), "it holds a list in place of a text", error))
+    const QString path = settings.fileName();
+    if (repaired.isEmpty() && settingsDamage(contentOfFile(path)).isEmpty())
+        return runEndChecks(settings, error);
+    if (!write.prepare(error) ||
+        (losesList && !keepBackup(path, "it holds a list in place of a text", error)))
         return false;
-    if (writable) {
-        for (const auto& [key, text] : texts)
-            settings.setValue(*key, text);
-    }
-    if ((!writable || !write.commit(refusal)) && write.hasNoted()) {
-        error = refusal;
-        return false;
-    }
-    return runEndChecks(settings, error);
+    for (auto text = repaired.constBegin(); text != repaired.constEnd(); ++text)
+        settings.setValue(text.key(), *text);
+    // What is damaged goes when QSettings writes anything.
+    const auto& registered = ZelSettingsRegistry::GetDefaultSettingsValues();
+    if (repaired.isEmpty() && !registered.empty())
+        settings.setValue(registered.begin()->first, settings.value(registered.begin()->first));
+    return write.commit(error) && runEndChecks(settings, error);
 }
 
 } // namespace zel

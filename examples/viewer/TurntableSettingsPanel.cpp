@@ -5,6 +5,8 @@
 #include "ViewerScene.h"
 #include "ViewerSettings.h"
 
+#include <zel/SignalBlock.h>
+
 bool TurntableModel::operator==(const TurntableModel& other) const
 {
     return turns == other.turns && degreesPerSecond == other.degreesPerSecond;
@@ -70,13 +72,10 @@ void TurntableSettingsPanel::getCurrentModel(TurntableModel& model) const
 
 void TurntableSettingsPanel::applyModel(const TurntableModel& model)
 {
-    // Blocked, so that filling the page does not look like an edit.
-    m_ui->turnsCheckBox->blockSignals(true);
-    m_ui->speedSpinBox->blockSignals(true);
+    // So that filling the page does not look like an edit.
+    const zel::SignalBlock block{m_ui->turnsCheckBox, m_ui->speedSpinBox};
     m_ui->turnsCheckBox->setChecked(model.turns);
     m_ui->speedSpinBox->setValue(model.degreesPerSecond);
-    m_ui->turnsCheckBox->blockSignals(false);
-    m_ui->speedSpinBox->blockSignals(false);
 }
 
 void TurntableSettingsPanel::pushToApplication()

@@ -2,8 +2,6 @@
 
 #include "ViewerSettings.h"
 
-#include <QStringList>
-
 #include <zel/SettingsKeys.h>
 #include <zel/Version.h>
 #include <zel/ZelSettingsFile.h>
@@ -53,25 +51,4 @@ void ViewerApplication::setUpdateEngineEnabled(bool enabled)
 void ViewerApplication::setScreenshotImageFolder(const QString& folder)
 {
     m_screenshotFolder = folder;
-}
-
-void ViewerApplication::loadDocument(const QStringList& files, bool)
-{
-    KnotShape shape;
-    QString error;
-    if (files.isEmpty() || !shape.load(files.first(), error)) {
-        emit message(error);
-        return;
-    }
-    m_documentFile = files.first();
-    m_scene.setShape(shape);
-    emit message(tr("Opened %1").arg(m_documentFile));
-}
-
-bool ViewerApplication::saveDocument()
-{
-    QString error;
-    const bool saved = m_scene.shape().save(m_documentFile, error);
-    emit message(saved ? tr("Saved %1").arg(m_documentFile) : error);
-    return saved;
 }

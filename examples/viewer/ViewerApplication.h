@@ -45,12 +45,6 @@ public:
     void setScreenshotImageFolder(const QString& folder) override;
     const QString& getScreenshotImageFolder() const override { return m_screenshotFolder; }
 
-    /// Loads the first of the files; what goes wrong is told by message().
-    void loadDocument(const QStringList& files, bool append) override;
-    bool saveDocument() override;
-    QString documentFile() const { return m_documentFile; }
-    void setDocumentFile(const QString& file) { m_documentFile = file; }
-
     // What a larger viewer has and this one does not.
     void clearViewerApp() override {}
     QDeclarativeEngine* getDeclarativeEngine() const override { return nullptr; }
@@ -66,6 +60,8 @@ public:
     void notifyAppEvent(zelAppEvent) override {}
     bool removeComponent(kqDMComponentId) override { return false; }
     void applicationFinished() override {}
+    bool saveDocument() override { return false; }
+    void loadDocument(const QStringList&, bool) override {}
     void loadDocument(bool) override {}
     void set3DSelectionPickingEnabled(bool) override {}
     bool is3DSelectionPickingEnabled() const override { return false; }
@@ -75,14 +71,12 @@ public:
 
 Q_SIGNALS:
     void updateEngineEnabled(bool enabled);
-    void message(const QString& text);
 
 private:
     const QString m_folder;
     QSettings m_settings;
     QString m_language;
     QString m_screenshotFolder;
-    QString m_documentFile;
     ViewerScene m_scene;
     mutable ViewerManager m_manager;
     mutable ViewerRenderer m_renderer;

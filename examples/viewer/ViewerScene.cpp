@@ -11,13 +11,6 @@ ViewerScene::ViewerScene(QObject* parent)
 {
 }
 
-void ViewerScene::setShape(const KnotShape& shape)
-{
-    m_shape = shape;
-    m_meshes.clear();
-    emit changed();
-}
-
 void ViewerScene::setLevel(int level)
 {
     m_level = level;

@@ -10,7 +10,7 @@
 #include <memory>
 #include <vector>
 
-/// The loaded model and how much of it is shown: a simplification level keeps a part of the model's
+/// The model and how much of it is shown: a simplification level keeps a part of the model's
 /// triangles, and the triangle cap limits what is left.
 class ViewerScene : public QObject
 {
@@ -23,9 +23,6 @@ public:
     enum { TrianglesPerFacet = 100 };
 
     explicit ViewerScene(QObject* parent = nullptr);
-
-    const KnotShape& shape() const { return m_shape; }
-    void setShape(const KnotShape& shape);
 
     /// The level that is shown, from 1 (everything) to LevelCount.
     int level() const { return m_level; }
@@ -49,7 +46,7 @@ Q_SIGNALS:
     void changed();
 
 private:
-    KnotShape m_shape;
+    const KnotShape m_shape;
     int m_level;
     quint64 m_triangleCap;
     std::vector<float> m_ratios;

@@ -8,7 +8,6 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QPixmap>
 #include <QPushButton>
@@ -44,7 +43,6 @@ ViewerWindow::ViewerWindow(ViewerApplication* application)
     createLayout();
     createActions();
     createPages();
-    connect(application, SIGNAL(message(QString)), statusBar(), SLOT(showMessage(QString)));
     statusBar()->showMessage(tr("Drag the model to turn it; the button at the top left opens the menu."));
 }
 
@@ -111,8 +109,6 @@ void ViewerWindow::createActions()
         bool checkable;
         const char* slot;
     } rows[] = {
-        {"open", tr("Open..."), tr("Opens a model"), "Ctrl+O", true, false, SLOT(onOpen())},
-        {"save", tr("Save..."), tr("Saves the model"), "Ctrl+S", true, false, SLOT(onSave())},
         {"screenshot", tr("Screenshot"), tr("Saves a picture of the view in the screenshot folder"), "F12",
          true, false, SLOT(onScreenshot())},
         {"nextLevel", tr("Next Level"), tr("Shows the next simplification level"), "Ctrl+L", false, false,
@@ -168,24 +164,6 @@ void ViewerWindow::closeEvent(QCloseEvent* event)
         QMessageBox::Ok | QMessageBox::Cancel, this, Qt::WindowFlags(),
         QMap<QMessageBox::StandardButton, QString>(), false);
     event->setAccepted(answer == QMessageBox::Ok);
-}
-
-void ViewerWindow::onOpen()
-{
-    const QString file = QFileDialog::getOpenFileName(this, tr("Open a Model"), m_application->documentFile(),
-                                                      tr("Knots (*.knot)"));
-    if (!file.isEmpty())
-        m_application->loadDocument(QStringList(file), false);
-}
-
-void ViewerWindow::onSave()
-{
-    const QString file = QFileDialog::getSaveFileName(this, tr("Save the Model"),
-                                                      m_application->documentFile(), tr("Knots (*.knot)"));
-    if (file.isEmpty())
-        return;
-    m_application->setDocumentFile(file);
-    m_application->saveDocument();
 }
 
 void ViewerWindow::onScreenshot()

@@ -33,8 +33,6 @@ protected:
 
 private Q_SLOTS:
     void onMenuButtonClicked(bool open);
-    void onOpen();
-    void onSave();
     void onScreenshot();
     void onNextLevel();
     void onRenderingMode(bool wireFrame);

@@ -14,7 +14,6 @@
 #include <zel/SettingsKeys.h>
 #include <zel/ZelControlCenter.h>
 #include <zel/ZelSettingsFile.h>
-#include <zel/base/ZelQtCompat.h>
 #include <zel/platform/MTLogger.h>
 #include <zel/platform/kqDirUtils.h>
 #include <zel/platform/kqLibraries.h>
@@ -25,7 +24,7 @@ namespace {
 
 const char* const ApplicationName = "TorvaneViewer";
 
-const char* const Usage = "usage: torvane-viewer [--once] [FILE.knot]\n"
+const char* const Usage = "usage: torvane-viewer [--once]\n"
                           "  --once  end as soon as the first frame has been painted\n"
                           "  --help  show this text\n";
 
@@ -34,7 +33,7 @@ std::string utf8(const QString& text)
     return text.toUtf8().constData();
 }
 
-void logMessage(const QString& text)
+void logMessage(QtMsgType, const QMessageLogContext&, const QString& text)
 {
     MTLogger::Log("warning", utf8(text));
 }
@@ -47,7 +46,7 @@ int showFatalError(const QString& error)
     return 1;
 }
 
-int runViewer(const QString& folder, QStringList arguments)
+int runViewer(const QString& folder, bool once)
 {
     QString error;
     if (!zel::ZelSettingsFile::IsUsable(folder + "/Settings.ini", error))
@@ -55,12 +54,12 @@ int runViewer(const QString& folder, QStringList arguments)
     ViewerApplication application(folder);
     QSettings& settings = application.getSettings();
 
-    QTranslator translator, toolkitTranslator;
+    QTranslator translator, qtTranslator;
     const QString language = settings.value(keys::Language, "en").toString();
     if (translator.load("Torvane_" + language, VIEWER_LANGUAGE_FOLDER))
         QCoreApplication::installTranslator(&translator);
-    if (toolkitTranslator.load("Toolkit_" + language, VIEWER_LANGUAGE_FOLDER))
-        QCoreApplication::installTranslator(&toolkitTranslator);
+    if (qtTranslator.load("Toolkit_" + language, VIEWER_LANGUAGE_FOLDER))
+        QCoreApplication::installTranslator(&qtTranslator);
     QLocale::setDefault(QLocale(language)); // Decides how numbers are written.
 
     ViewerSettings::Register(ApplicationName, folder);
@@ -72,11 +71,9 @@ int runViewer(const QString& folder, QStringList arguments)
 
     application.applicationStarted();
     ViewerWindow window(&application);
-    if (arguments.removeAll("--once") > 0)
+    if (once)
         QObject::connect(window.view(), SIGNAL(framePainted()), qApp, SLOT(quit()), Qt::QueuedConnection);
     window.show();
-    if (!arguments.isEmpty())
-        application.loadDocument(arguments, false);
     return QApplication::exec();
 }
 
@@ -84,10 +81,10 @@ int runViewer(const QString& folder, QStringList arguments)
 
 int main(int argc, char** argv)
 {
-    const zel::QtMessageSink<logMessage> messageSink;
-    zel::useUtf8FileNames();
-    zel::followScreenScale();
-    QApplication toolkit(argc, argv);
+    qInstallMessageHandler(&logMessage);
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication qt(argc, argv);
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     if (arguments.contains("--help")) {
         std::fputs(Usage, stdout);
@@ -103,7 +100,7 @@ int main(int argc, char** argv)
     const QString folder =
         QString::fromUtf8(kqDirUtils::GetAppDataFolderUtf8().c_str()) + "/" + ApplicationName;
     QDir().mkpath(folder);
-    const int result = runViewer(folder, arguments);
+    const int result = runViewer(folder, arguments.contains("--once"));
     zel::ZelControlCenter::ClearSettingsValues();
 
     zel::zelTerminateKernelLibrary();

@@ -52,17 +52,6 @@
     </message>
 </context>
 <context>
-    <name>KnotShape</name>
-    <message>
-        <source>&quot;%1&quot; is not a model of this viewer.</source>
-        <translation>„%1“ ist kein Modell dieses Betrachters.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot be written.</source>
-        <translation>„%1“ kann nicht geschrieben werden.</translation>
-    </message>
-</context>
-<context>
     <name>ModelView</name>
     <message>
         <source>Level %1 of %2
@@ -107,17 +96,6 @@
     </message>
 </context>
 <context>
-    <name>ViewerApplication</name>
-    <message>
-        <source>Opened %1</source>
-        <translation>%1 geöffnet</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>%1 gespeichert</translation>
-    </message>
-</context>
-<context>
     <name>ViewerSettings</name>
     <message>
         <source>The folder &quot;%1&quot; for screenshots cannot be created.</source>
@@ -141,22 +119,6 @@
     <message>
         <source>Menu and settings</source>
         <translation>Menü und Einstellungen</translation>
-    </message>
-    <message>
-        <source>Open...</source>
-        <translation>Öffnen...</translation>
-    </message>
-    <message>
-        <source>Opens a model</source>
-        <translation>Öffnet ein Modell</translation>
-    </message>
-    <message>
-        <source>Save...</source>
-        <translation>Speichern...</translation>
-    </message>
-    <message>
-        <source>Saves the model</source>
-        <translation>Speichert das Modell</translation>
     </message>
     <message>
         <source>Screenshot</source>
@@ -197,18 +159,6 @@
     <message>
         <source>Your settings have not been applied. Close the viewer?</source>
         <translation>Ihre Einstellungen wurden nicht angewendet. Betrachter schließen?</translation>
-    </message>
-    <message>
-        <source>Open a Model</source>
-        <translation>Modell öffnen</translation>
-    </message>
-    <message>
-        <source>Knots (*.knot)</source>
-        <translation>Knoten (*.knot)</translation>
-    </message>
-    <message>
-        <source>Save the Model</source>
-        <translation>Modell speichern</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -369,6 +319,10 @@ Fortfahren und die Anwendung schließen?</translation>
     <message>
         <source>Scroll to the bottom</source>
         <translation>Zum Ende blättern</translation>
+    </message>
+    <message>
+        <source>another program has locked it</source>
+        <translation>ein anderes Programm hat sie gesperrt</translation>
     </message>
 </context>
 <context>

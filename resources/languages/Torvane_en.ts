@@ -52,17 +52,6 @@
     </message>
 </context>
 <context>
-    <name>KnotShape</name>
-    <message>
-        <source>&quot;%1&quot; is not a model of this viewer.</source>
-        <translation>&quot;%1&quot; is not a model of this viewer.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot be written.</source>
-        <translation>&quot;%1&quot; cannot be written.</translation>
-    </message>
-</context>
-<context>
     <name>ModelView</name>
     <message>
         <source>Level %1 of %2
@@ -107,17 +96,6 @@
     </message>
 </context>
 <context>
-    <name>ViewerApplication</name>
-    <message>
-        <source>Opened %1</source>
-        <translation>Opened %1</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>Saved %1</translation>
-    </message>
-</context>
-<context>
     <name>ViewerSettings</name>
     <message>
         <source>The folder &quot;%1&quot; for screenshots cannot be created.</source>
@@ -141,22 +119,6 @@
     <message>
         <source>Menu and settings</source>
         <translation>Menu and settings</translation>
-    </message>
-    <message>
-        <source>Open...</source>
-        <translation>Open...</translation>
-    </message>
-    <message>
-        <source>Opens a model</source>
-        <translation>Opens a model</translation>
-    </message>
-    <message>
-        <source>Save...</source>
-        <translation>Save...</translation>
-    </message>
-    <message>
-        <source>Saves the model</source>
-        <translation>Saves the model</translation>
     </message>
     <message>
         <source>Screenshot</source>
@@ -197,18 +159,6 @@
     <message>
         <source>Your settings have not been applied. Close the viewer?</source>
         <translation>Your settings have not been applied. Close the viewer?</translation>
-    </message>
-    <message>
-        <source>Open a Model</source>
-        <translation>Open a Model</translation>
-    </message>
-    <message>
-        <source>Knots (*.knot)</source>
-        <translation>Knots (*.knot)</translation>
-    </message>
-    <message>
-        <source>Save the Model</source>
-        <translation>Save the Model</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -369,6 +319,10 @@ Continue and close the application ?</translation>
     <message>
         <source>Scroll to the bottom</source>
         <translation>Scroll to the bottom</translation>
+    </message>
+    <message>
+        <source>another program has locked it</source>
+        <translation>another program has locked it</translation>
     </message>
 </context>
 <context>

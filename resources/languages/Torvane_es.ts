@@ -52,17 +52,6 @@
     </message>
 </context>
 <context>
-    <name>KnotShape</name>
-    <message>
-        <source>&quot;%1&quot; is not a model of this viewer.</source>
-        <translation>«%1» no es un modelo de este visor.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot be written.</source>
-        <translation>No se puede escribir «%1».</translation>
-    </message>
-</context>
-<context>
     <name>ModelView</name>
     <message>
         <source>Level %1 of %2
@@ -107,17 +96,6 @@
     </message>
 </context>
 <context>
-    <name>ViewerApplication</name>
-    <message>
-        <source>Opened %1</source>
-        <translation>Se abrió %1</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>Se guardó %1</translation>
-    </message>
-</context>
-<context>
     <name>ViewerSettings</name>
     <message>
         <source>The folder &quot;%1&quot; for screenshots cannot be created.</source>
@@ -141,22 +119,6 @@
     <message>
         <source>Menu and settings</source>
         <translation>Menú y ajustes</translation>
-    </message>
-    <message>
-        <source>Open...</source>
-        <translation>Abrir...</translation>
-    </message>
-    <message>
-        <source>Opens a model</source>
-        <translation>Abre un modelo</translation>
-    </message>
-    <message>
-        <source>Save...</source>
-        <translation>Guardar...</translation>
-    </message>
-    <message>
-        <source>Saves the model</source>
-        <translation>Guarda el modelo</translation>
     </message>
     <message>
         <source>Screenshot</source>
@@ -197,18 +159,6 @@
     <message>
         <source>Your settings have not been applied. Close the viewer?</source>
         <translation>Sus ajustes no se han aplicado. ¿Cerrar el visor?</translation>
-    </message>
-    <message>
-        <source>Open a Model</source>
-        <translation>Abrir un modelo</translation>
-    </message>
-    <message>
-        <source>Knots (*.knot)</source>
-        <translation>Nudos (*.knot)</translation>
-    </message>
-    <message>
-        <source>Save the Model</source>
-        <translation>Guardar el modelo</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -369,6 +319,10 @@ Continue and close the application ?</source>
     <message>
         <source>Scroll to the bottom</source>
         <translation>Ir al final</translation>
+    </message>
+    <message>
+        <source>another program has locked it</source>
+        <translation>otro programa lo ha bloqueado</translation>
     </message>
 </context>
 <context>

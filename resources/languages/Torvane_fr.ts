@@ -52,17 +52,6 @@
     </message>
 </context>
 <context>
-    <name>KnotShape</name>
-    <message>
-        <source>&quot;%1&quot; is not a model of this viewer.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un modèle de cette visionneuse.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot be written.</source>
-        <translation>Impossible d’écrire «&#xa0;%1&#xa0;».</translation>
-    </message>
-</context>
-<context>
     <name>ModelView</name>
     <message>
         <source>Level %1 of %2
@@ -107,17 +96,6 @@
     </message>
 </context>
 <context>
-    <name>ViewerApplication</name>
-    <message>
-        <source>Opened %1</source>
-        <translation>%1 ouvert</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>%1 enregistré</translation>
-    </message>
-</context>
-<context>
     <name>ViewerSettings</name>
     <message>
         <source>The folder &quot;%1&quot; for screenshots cannot be created.</source>
@@ -141,22 +119,6 @@
     <message>
         <source>Menu and settings</source>
         <translation>Menu et paramètres</translation>
-    </message>
-    <message>
-        <source>Open...</source>
-        <translation>Ouvrir...</translation>
-    </message>
-    <message>
-        <source>Opens a model</source>
-        <translation>Ouvre un modèle</translation>
-    </message>
-    <message>
-        <source>Save...</source>
-        <translation>Enregistrer...</translation>
-    </message>
-    <message>
-        <source>Saves the model</source>
-        <translation>Enregistre le modèle</translation>
     </message>
     <message>
         <source>Screenshot</source>
@@ -197,18 +159,6 @@
     <message>
         <source>Your settings have not been applied. Close the viewer?</source>
         <translation>Vos paramètres n’ont pas été appliqués. Fermer la visionneuse&#xa0;?</translation>
-    </message>
-    <message>
-        <source>Open a Model</source>
-        <translation>Ouvrir un modèle</translation>
-    </message>
-    <message>
-        <source>Knots (*.knot)</source>
-        <translation>Nœuds (*.knot)</translation>
-    </message>
-    <message>
-        <source>Save the Model</source>
-        <translation>Enregistrer le modèle</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -369,6 +319,10 @@ Continuer et fermer l’application&#xa0;?</translation>
     <message>
         <source>Scroll to the bottom</source>
         <translation>Aller à la fin</translation>
+    </message>
+    <message>
+        <source>another program has locked it</source>
+        <translation>un autre programme l’a verrouillé</translation>
     </message>
 </context>
 <context>

@@ -52,17 +52,6 @@
     </message>
 </context>
 <context>
-    <name>KnotShape</name>
-    <message>
-        <source>&quot;%1&quot; is not a model of this viewer.</source>
-        <translation>&quot;%1&quot; non è un modello di questo visualizzatore.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot be written.</source>
-        <translation>Impossibile scrivere &quot;%1&quot;.</translation>
-    </message>
-</context>
-<context>
     <name>ModelView</name>
     <message>
         <source>Level %1 of %2
@@ -107,17 +96,6 @@
     </message>
 </context>
 <context>
-    <name>ViewerApplication</name>
-    <message>
-        <source>Opened %1</source>
-        <translation>%1 aperto</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>%1 salvato</translation>
-    </message>
-</context>
-<context>
     <name>ViewerSettings</name>
     <message>
         <source>The folder &quot;%1&quot; for screenshots cannot be created.</source>
@@ -141,22 +119,6 @@
     <message>
         <source>Menu and settings</source>
         <translation>Menu e impostazioni</translation>
-    </message>
-    <message>
-        <source>Open...</source>
-        <translation>Apri...</translation>
-    </message>
-    <message>
-        <source>Opens a model</source>
-        <translation>Apre un modello</translation>
-    </message>
-    <message>
-        <source>Save...</source>
-        <translation>Salva...</translation>
-    </message>
-    <message>
-        <source>Saves the model</source>
-        <translation>Salva il modello</translation>
     </message>
     <message>
         <source>Screenshot</source>
@@ -197,18 +159,6 @@
     <message>
         <source>Your settings have not been applied. Close the viewer?</source>
         <translation>Le impostazioni non sono state applicate. Chiudere il visualizzatore?</translation>
-    </message>
-    <message>
-        <source>Open a Model</source>
-        <translation>Apri un modello</translation>
-    </message>
-    <message>
-        <source>Knots (*.knot)</source>
-        <translation>Nodi (*.knot)</translation>
-    </message>
-    <message>
-        <source>Save the Model</source>
-        <translation>Salva il modello</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -369,6 +319,10 @@ Continuare e chiudere l’applicazione?</translation>
     <message>
         <source>Scroll to the bottom</source>
         <translation>Vai alla fine</translation>
+    </message>
+    <message>
+        <source>another program has locked it</source>
+        <translation>un altro programma l’ha bloccato</translation>
     </message>
 </context>
 <context>

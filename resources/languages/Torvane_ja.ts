@@ -52,17 +52,6 @@
     </message>
 </context>
 <context>
-    <name>KnotShape</name>
-    <message>
-        <source>&quot;%1&quot; is not a model of this viewer.</source>
-        <translation>「%1」はこのビューアーのモデルではありません。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot be written.</source>
-        <translation>「%1」に書き込めません。</translation>
-    </message>
-</context>
-<context>
     <name>ModelView</name>
     <message>
         <source>Level %1 of %2
@@ -107,17 +96,6 @@
     </message>
 </context>
 <context>
-    <name>ViewerApplication</name>
-    <message>
-        <source>Opened %1</source>
-        <translation>%1 を開きました</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>%1 を保存しました</translation>
-    </message>
-</context>
-<context>
     <name>ViewerSettings</name>
     <message>
         <source>The folder &quot;%1&quot; for screenshots cannot be created.</source>
@@ -141,22 +119,6 @@
     <message>
         <source>Menu and settings</source>
         <translation>メニューと設定</translation>
-    </message>
-    <message>
-        <source>Open...</source>
-        <translation>開く...</translation>
-    </message>
-    <message>
-        <source>Opens a model</source>
-        <translation>モデルを開きます</translation>
-    </message>
-    <message>
-        <source>Save...</source>
-        <translation>保存...</translation>
-    </message>
-    <message>
-        <source>Saves the model</source>
-        <translation>モデルを保存します</translation>
     </message>
     <message>
         <source>Screenshot</source>
@@ -197,18 +159,6 @@
     <message>
         <source>Your settings have not been applied. Close the viewer?</source>
         <translation>設定が適用されていません。ビューアーを閉じますか？</translation>
-    </message>
-    <message>
-        <source>Open a Model</source>
-        <translation>モデルを開く</translation>
-    </message>
-    <message>
-        <source>Knots (*.knot)</source>
-        <translation>結び目 (*.knot)</translation>
-    </message>
-    <message>
-        <source>Save the Model</source>
-        <translation>モデルを保存</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -369,6 +319,10 @@ Continue and close the application ?</source>
     <message>
         <source>Scroll to the bottom</source>
         <translation>末尾へスクロール</translation>
+    </message>
+    <message>
+        <source>another program has locked it</source>
+        <translation>別のプログラムがロックしています</translation>
     </message>
 </context>
 <context>

@@ -52,17 +52,6 @@
     </message>
 </context>
 <context>
-    <name>KnotShape</name>
-    <message>
-        <source>&quot;%1&quot; is not a model of this viewer.</source>
-        <translation>“%1”不是此查看器的模型。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; cannot be written.</source>
-        <translation>无法写入“%1”。</translation>
-    </message>
-</context>
-<context>
     <name>ModelView</name>
     <message>
         <source>Level %1 of %2
@@ -107,17 +96,6 @@
     </message>
 </context>
 <context>
-    <name>ViewerApplication</name>
-    <message>
-        <source>Opened %1</source>
-        <translation>已打开 %1</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>已保存 %1</translation>
-    </message>
-</context>
-<context>
     <name>ViewerSettings</name>
     <message>
         <source>The folder &quot;%1&quot; for screenshots cannot be created.</source>
@@ -141,22 +119,6 @@
     <message>
         <source>Menu and settings</source>
         <translation>菜单和设置</translation>
-    </message>
-    <message>
-        <source>Open...</source>
-        <translation>打开...</translation>
-    </message>
-    <message>
-        <source>Opens a model</source>
-        <translation>打开模型</translation>
-    </message>
-    <message>
-        <source>Save...</source>
-        <translation>保存...</translation>
-    </message>
-    <message>
-        <source>Saves the model</source>
-        <translation>保存模型</translation>
     </message>
     <message>
         <source>Screenshot</source>
@@ -197,18 +159,6 @@
     <message>
         <source>Your settings have not been applied. Close the viewer?</source>
         <translation>您的设置尚未应用。是否关闭查看器？</translation>
-    </message>
-    <message>
-        <source>Open a Model</source>
-        <translation>打开模型</translation>
-    </message>
-    <message>
-        <source>Knots (*.knot)</source>
-        <translation>结 (*.knot)</translation>
-    </message>
-    <message>
-        <source>Save the Model</source>
-        <translation>保存模型</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -369,6 +319,10 @@ Continue and close the application ?</source>
     <message>
         <source>Scroll to the bottom</source>
         <translation>滚动到底部</translation>
+    </message>
+    <message>
+        <source>another program has locked it</source>
+        <translation>其他程序已将其锁定</translation>
     </message>
 </context>
 <context>

@@ -145,7 +145,7 @@ private Q_SLOTS:
         editor.act("key Tab Return");
         QCOMPARE(editor.exitCode(), 0);
         QCOMPARE(cacheSize(), QString("512"));
-        QCOMPARE(editor.output(), QByteArray());
+        QVERIFY(!editor.output().contains("QCssParser")); // X may report windows that are gone.
     }
 
     void outlivesItsOutput()

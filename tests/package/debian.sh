@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Makes the Debian package of a build, installs it, starts the editor by the command of its desktop entry, and removes
-# it. Leaves the machine as it was; ends with 77 where that cannot be tried.
+# Makes the Debian packages of a build, has them checked by lintian, installs them, builds the smallest host against them,
+# starts the editor by the command of its desktop entry, and removes them. Leaves the machine as it was; ends with 77 where
+# that cannot be tried.
 #   debian.sh BUILD
 set -euo pipefail
 
@@ -9,18 +10,38 @@ fail() { echo "Failed: $1" >&2; exit 1; }
 
 [ "$(id -u)" -eq 0 ] || skip "only root installs packages"
 command -v dpkg-shlibdeps >/dev/null || skip "dpkg-dev is not installed"
+command -v lintian >/dev/null || skip "lintian is not installed"
 ! dpkg-query -s torvane-settings >/dev/null 2>&1 || skip "the package is installed already"
 
 work=$(mktemp -d)
 cleanup() {
     [ -z "${editor:-}" ] || kill "$editor" 2>/dev/null || true
-    dpkg --purge torvane-settings >/dev/null 2>&1 || true
+    dpkg --purge libzelcontrolcenter-dev torvane-settings >/dev/null 2>&1 || true
     rm -rf "$work"
 }
 trap cleanup EXIT
 
 (cd "$1" && cpack -G DEB -B "$work") >/dev/null
+lintian --allow-root --fail-on error,warning --tag-display-limit 0 "$work"/*.deb || fail "lintian objects"
 dpkg --install --force-depends "$work"/*.deb >/dev/null
+
+# What a link leads to is there without recommended packages.
+depends=$(dpkg-query -W -f='${Depends}' torvane-settings)
+while read -r link; do
+    owner=$(dpkg-query --search "$(readlink -f "$link")") || fail "$link leads to nothing"
+    owner=${owner%%:*}
+    [[ $owner == torvane-settings || $depends == *"$owner"* ]] || fail "$link leads to $owner, which need not be there"
+done < <(dpkg-query -L torvane-settings | xargs -I{} find {} -maxdepth 0 -type l)
+
+for program in /usr/lib/torvane-settings/bin/torvane-settings{,-check}; do
+    readelf -dlW $program | grep -q BIND_NOW && readelf -hW $program | grep -q 'DYN (Pos' || fail "$program is not hardened"
+done
+printf 'settingsVersion=1\n' >"$work/old.ini"
+torvane-settings-check "$work/old.ini" >"$work/report" && fail "the checker finds nothing"
+grep -q 'needs repair' "$work/report" || fail "the checker does not run: $(cat "$work/report")"
+
+cmake -S /usr/share/doc/libzelcontrolcenter-dev/examples/minimal -B "$work/minimal" >"$work/output" &&
+    cmake --build "$work/minimal" >>"$work/output" 2>&1 || fail "the example does not build: $(cat "$work/output")"
 
 entry=/usr/share/applications/torvane-settings.desktop
 read -r -a command < <(sed -n 's/^Exec=//p' $entry)
@@ -44,8 +65,8 @@ pkill -P "$editor" || fail "the editor was gone"
 wait "$editor" 2>/dev/null || true
 editor=
 
-dpkg --remove torvane-settings >/dev/null
-for left in /opt/torvane-settings "$entry" "/usr/bin/${command[0]}"; do
+dpkg --remove libzelcontrolcenter-dev torvane-settings >/dev/null
+for left in /usr/lib/torvane-settings /usr/include/zel "$entry" "/usr/bin/${command[0]}"; do
     [ ! -e "$left" ] || fail "$left was left behind"
 done
 echo "Installed, started and removed."

@@ -1,5 +1,5 @@
-# Checks that the code which the guide shows stands in the example, line by line; indentation aside.
-#   cmake -DGUIDE=<file> -DEXAMPLE=<folder> -P guide.cmake
+# Checks that the code which the guide shows stands in one of the examples, line by line; indentation aside.
+#   cmake -DGUIDE=<file> -DEXAMPLES=<folder> -P guide.cmake
 
 function(read_unindented file text)
     file(READ ${file} content)
@@ -7,8 +7,8 @@ function(read_unindented file text)
     set(${text} "${content}" PARENT_SCOPE)
 endfunction()
 
-file(GLOB cpp_files ${EXAMPLE}/*.cpp ${EXAMPLE}/*.h)
-set(cmake_files ${EXAMPLE}/CMakeLists.txt)
+file(GLOB cpp_files ${EXAMPLES}/*/*.cpp ${EXAMPLES}/*/*.h)
+file(GLOB cmake_files ${EXAMPLES}/*/CMakeLists.txt)
 foreach(language cpp cmake)
     set(${language}_sources "")
     foreach(file IN LISTS ${language}_files)
@@ -31,10 +31,16 @@ while(rest MATCHES "\n```([a-z]+)(\n.*)")
     string(FIND "${${language}_sources}" "${snippet}\n" position)
     if(position EQUAL -1)
         math(EXPR missing "${missing} + 1")
-        message("The example does not have this ${language} code of the guide:${snippet}\n")
+        message("The examples do not have this ${language} code of the guide:${snippet}\n")
     endif()
 endwhile()
-message("${shown} pieces of code, ${missing} of them not in the example")
+file(READ ${EXAMPLES}/minimal/main.cpp text)
+string(REGEX MATCHALL "\n" ends "${text}")
+list(LENGTH ends length)
+if(length GREATER 120)
+    message(FATAL_ERROR "The smallest host has grown to ${length} lines")
+endif()
+message("${shown} pieces of code, ${missing} of them not in the examples")
 if(shown EQUAL 0 OR missing GREATER 0)
-    message(FATAL_ERROR "The guide and the example have drifted apart")
+    message(FATAL_ERROR "The guide and the examples have drifted apart")
 endif()

@@ -4,7 +4,7 @@
 #         -DLIBRARY_FLAGS=<flags> -P package.cmake
 
 function(run what)
-    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output TIMEOUT 250)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output TIMEOUT 500)
     if(NOT result EQUAL 0)
         message(FATAL_ERROR "${what}: ${result}\n${output}")
     endif()
@@ -17,10 +17,11 @@ function(expect text pattern what)
     endif()
 endfunction()
 
-function(build project)
-    run("Configuring ${project}" ${CMAKE_COMMAND} -S ${SCRATCH}/${project} -B ${SCRATCH}/${project}-build ${OPTIONS}
-        -DCMAKE_CXX_FLAGS=${LIBRARY_FLAGS} -DCMAKE_PREFIX_PATH=${SCRATCH}/moved)
-    run("Building ${project}" ${CMAKE_COMMAND} --build ${SCRATCH}/${project}-build)
+# build(<project> <suffix of the build folder> <option>...)
+function(build project suffix)
+    set(folder ${SCRATCH}/${project}-build${suffix})
+    run("Configuring ${project}" ${CMAKE_COMMAND} -S ${SCRATCH}/${project} -B ${folder} ${OPTIONS} ${ARGN})
+    run("Building ${project}" ${CMAKE_COMMAND} --build ${folder})
 endfunction()
 
 # The tree works wherever it is moved to, and does not tell where it was made.
@@ -43,27 +44,47 @@ foreach(path IN ITEMS bin/torvane-settings bin/platforms lib resources/languages
     endif()
 endforeach()
 
-# Every public header compiles on its own; both ways to name it find it.
-file(GLOB headers RELATIVE ${SCRATCH}/moved/include/zel
-     ${SCRATCH}/moved/include/zel/*.h ${SCRATCH}/moved/include/zel/platform/*.h
-     ${SCRATCH}/moved/include/zel/base/*.h)
-set(sources "")
+# Every public header compiles on its own, and the smallest host with it, under the warnings and the defines of strict
+# teams. Not by the imported target, whose headers would not be warned of.
+set(strict "-Werror -Wall -Wextra -Wpedantic -Wshadow -Wconversion -DQT_NO_CAST_FROM_ASCII -DQT_NO_CAST_TO_ASCII \
+-DQT_NO_KEYWORDS -DQT_STRICT_ITERATORS -DQT_NO_URL_CAST_FROM_STRING")
+file(GLOB_RECURSE headers RELATIVE ${SCRATCH}/moved/include ${SCRATCH}/moved/include/*.h)
+set(sources ${SOURCE}/examples/minimal/main.cpp)
 foreach(header IN LISTS headers)
-    string(REGEX REPLACE "[/.]" "_" name ${header})
-    file(WRITE ${SCRATCH}/headers/${name}.cpp "#include <zel/${header}>\n#include <${header}>\n")
+    string(MAKE_C_IDENTIFIER ${header} name)
+    file(WRITE ${SCRATCH}/strict/${name}.cpp "#include <${header}>\n")
     list(APPEND sources ${name}.cpp)
 endforeach()
 list(JOIN sources " " sources)
-file(WRITE ${SCRATCH}/headers/CMakeLists.txt
-     "cmake_minimum_required(VERSION 3.20)\nproject(Headers LANGUAGES CXX)\nset(CMAKE_CXX_STANDARD 17)\n"
-     "find_package(ZelControlCenter REQUIRED)\n"
-     "add_library(headers OBJECT ${sources})\ntarget_link_libraries(headers PRIVATE Zel::ControlCenter)\n")
-build(headers)
+file(WRITE ${SCRATCH}/strict/CMakeLists.txt
+     "cmake_minimum_required(VERSION 3.20)\nproject(Strict LANGUAGES CXX)\nset(CMAKE_CXX_STANDARD 17)\n"
+     "set(CMAKE_AUTOMOC ON)\nfind_package(Qt5 REQUIRED COMPONENTS Widgets)\nadd_library(strict OBJECT ${sources})\n"
+     "target_include_directories(strict PRIVATE ${SCRATCH}/moved/include)\n"
+     "target_link_libraries(strict PRIVATE Qt5::Widgets)\n")
+foreach(compiler IN ITEMS g++ clang++)
+    build(strict ${compiler} -DCMAKE_CXX_COMPILER=${compiler} -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS=${strict})
+endforeach()
 
-file(COPY ${SOURCE}/examples/viewer DESTINATION ${SCRATCH})
-build(viewer)
+# A component that does not exist is called by its name, and the version is one of those that the library keeps to.
+function(expect_find request expected)
+    file(WRITE ${SCRATCH}/find/CMakeLists.txt "cmake_minimum_required(VERSION 3.20)\nproject(Find LANGUAGES CXX)\n"
+         "find_package(ZelControlCenter ${request})\n"
+         "message(\"result: \${ZelControlCenter_FOUND} \${ZelControlCenter_NOT_FOUND_MESSAGE}\")\n")
+    run("Asking for ${request}" ${CMAKE_COMMAND} -S ${SCRATCH}/find -B ${SCRATCH}/find-build ${OPTIONS}
+        -DCMAKE_PREFIX_PATH=${SCRATCH}/moved -UZelControlCenter_DIR)
+    expect("${output}" "result: ${expected}" "Asking for ${request}")
+endfunction()
+expect_find("1.1 COMPONENTS ControlCenter Platform" "1")
+expect_find("1.1 COMPONENTS Widgets" "(0|FALSE) There is no component \"Widgets\"")
+expect_find("1.0" "0")
+expect_find("1.2" "0")
 
-# Asked for a platform that nobody has, the toolkit names those that it finds, and ends.
+foreach(example IN ITEMS minimal viewer)
+    file(COPY ${SCRATCH}/moved/share/doc/ZelControlCenter/examples/${example} DESTINATION ${SCRATCH})
+    build(${example} "" -DCMAKE_CXX_FLAGS=${LIBRARY_FLAGS} -DCMAKE_PREFIX_PATH=${SCRATCH}/moved)
+endforeach()
+
+# Asked for a platform that does not exist, Qt names those that it finds, and ends.
 set(ENV{QT_QPA_PLATFORM} nothing)
 execute_process(COMMAND ${SCRATCH}/moved/bin/torvane-settings WORKING_DIRECTORY /
                 OUTPUT_VARIABLE output ERROR_VARIABLE output)
@@ -76,7 +97,7 @@ set(ENV{XDG_CACHE_HOME} ${SCRATCH}/home/cache)
 set(folder ${SCRATCH}/home/config/TorvaneViewer)
 file(WRITE ${folder}/Settings.ini
      "[General]\nenablediag=true\n[raytracer]\nquality=Nonsense\n[Resources]\nLODTrianglesCap=100000\n")
-run("The viewer" ${SCRATCH}/viewer-build/torvane-viewer --once ${SOURCE}/examples/viewer/models/ring.knot)
+run("The viewer" ${SCRATCH}/viewer-build/torvane-viewer --once)
 file(READ ${folder}/Settings.ini settings)
 file(READ ${folder}/log.txt log)
 foreach(line IN ITEMS quality=Medium Ratios=1/0.75/0.5/0.25/0.1 LODTrianglesCap=100000 cacheSize=1024

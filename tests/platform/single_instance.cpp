@@ -9,19 +9,31 @@
 #include <QTextStream>
 #include <QTimer>
 
-#include <grp.h>
-#include <sys/prctl.h>
-#include <unistd.h>
+#if defined(_WIN32)
+#    include <fcntl.h>
+#    include <io.h>
+#else
+#    include <grp.h>
+#    include <sys/prctl.h>
+#    include <unistd.h>
+#endif
 
 /// By itself, because another user may not be able to start it where it is.
-static bool becomeUser(uid_t user)
+static bool becomeUser(uint user)
 {
+#if defined(_WIN32)
+    return user == 0;
+#else
     return ::setgroups(0, nullptr) == 0 && ::setgid(user) == 0 && ::setuid(user) == 0 &&
            ::prctl(PR_SET_DUMPABLE, 1) == 0; // Else it could not even find out its own path.
+#endif
 }
 
 int main(int argc, char** argv)
 {
+#if defined(_WIN32)
+    _setmode(_fileno(stdin), _O_BINARY);
+#endif
     if (argc > 2 && !becomeUser(QByteArray(argv[2]).toUInt()))
         return 2;
     QtSingleApplication application(argc, argv);

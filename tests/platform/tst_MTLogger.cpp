@@ -26,7 +26,8 @@ private Q_SLOTS:
             MTLogger::Log("error", "l\xc3\xb6st\r\ntwo\tC:\\new \x1b[31m\xe2\x80\xa8 broken:\xff");
             // The handler has the file open: events are written at once.
             QVERIFY(file.open(QIODevice::ReadOnly));
-            const QString events = QString::fromUtf8(file.readAll()).replace(QRegExp("(^|\n)\\S+ ?"), "").trimmed();
+            const QString events =
+                QString::fromUtf8(file.readAll()).replace(QRegExp("(^|\n)\\S+ ?"), "").trimmed();
             const char error[] =
                 "[error] l\xc3\xb6st\\r\\ntwo\tC:\\new \\u001b[31m\\u2028 broken:\xef\xbf\xbd";
             QCOMPARE(events, expected + QString::fromUtf8(error));

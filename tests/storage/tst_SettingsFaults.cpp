@@ -159,6 +159,17 @@ private:
         QVERIFY(Kills < 1000 || (unchanged > 0 && changed > 0 && locked > 0));
     }
 
+    /// Leaves some pages free.
+    static void fillDisk(QFile& filler, int freePages)
+    {
+        const QByteArray page(4096, 'x');
+        filler.close();
+        QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+        while (filler.write(page) == page.size())
+            continue;
+        QVERIFY(filler.resize((filler.size() / page.size() - freePages) * page.size()));
+    }
+
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_path;
 
@@ -210,6 +221,10 @@ private Q_SLOTS:
             QVERIFY(!ZelSettingsFile::IsWritable(m_path, error) && error.contains(".lock"));
             QVERIFY(contentOf(m_path).endsWith(accepted ? "=77" : "=7"));
         }
+        // One of a process that lives, but is stopped.
+        QVERIFY(QDir().rmdir(m_path + ".lock"));
+        store(m_path + ".lock", QByteArray::number(::getpid()) + "\nother\n\n");
+        QVERIFY(!apply(m_path) && error.contains("another program"));
         QVERIFY(clock.elapsed() < Patience);
     }
 
@@ -280,13 +295,11 @@ private Q_SLOTS:
             ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
             ::mount("tmpfs", qPrintable(m_folder->path()), "tmpfs", 0, "size=64k") != 0)
             QSKIP("not allowed to mount a small disk");
+        QFile filler(m_folder->filePath("filler"));
         for (const bool damaged : {false, true}) {
             const QByteArray content = (damaged ? "no settings\n" : "") + Foreign;
             store(m_path, content);
-            QFile filler(m_folder->filePath("filler"));
-            QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
-            while (filler.write(QByteArray(4096, 'x')) == 4096)
-                continue;
+            fillDisk(filler, 0);
             const auto settings = ZelSettingsFile::Open(m_path);
             QVERIFY(!write(*settings, {{"new/key", "text"}, {"Foreign/emoji", "none"}}));
             QVERIFY2(error.contains(m_path) && error.contains("No space left"), qPrintable(error));
@@ -301,6 +314,14 @@ private Q_SLOTS:
             QVERIFY(contentOf(m_path) == content && QFileInfo(m_path).lastModified() == time);
             QVERIFY2(write(*settings, {{"new/key", "text"}}), qPrintable(error));
             QVERIFY(holdsForeign(contentOf(m_path)) && contentOf(m_path).contains("[new]\nkey=text\n"));
+        }
+        // Room for the lock and a part of the content, known beforehand or not.
+        for (const int freePages : {1, 2, 3, 6}) {
+            store(m_path, Foreign);
+            fillDisk(filler, freePages);
+            const auto settings = ZelSettingsFile::Open(m_path);
+            QVERIFY(!write(*settings, {{"new/key", QString(40000, 'y')}}) && error.contains("No space left"));
+            QVERIFY(!settings->contains("new/key") && contentOf(m_path) == Foreign);
         }
         const QByteArray path = m_path.toUtf8(), other = path + ".other";
         store(other, Foreign);
@@ -431,6 +452,21 @@ private Q_SLOTS:
                 QVERIFY(once(m_path));
             }
         }
+    }
+
+    void groupNamedLikeAMissingKey()
+    {
+        ZelSettingsRegistry::RegisterSetting("Foreign", "text", &ZelSettingsValidators::noOp);
+        store(m_path, Foreign);
+        const auto settings = ZelSettingsFile::Open(m_path);
+        const auto giveUp = [](QSettings& changed, QString&) {
+            changed.setValue("Foreign", "text");
+            return false;
+        };
+        QVERIFY(!ZelSettingsFile::Write(*settings, giveUp, error) && holdsForeign(contentOf(m_path)));
+        QVERIFY(validate(m_path) && holdsForeign(contentOf(m_path)));
+        ZelSettingsRegistry::ClearSettingsValues();
+        initTestCase();
     }
 
     void nothingToWrite()

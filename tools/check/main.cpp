@@ -16,7 +16,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStringList>
-#include <QTextStream>
 
 #include <algorithm>
 #include <cerrno>
@@ -103,24 +102,30 @@ bool areUnderstood(const QStringList& arguments, char** given)
     return true;
 }
 
-/// The files, with those that standard input names in place of "-".
-QStringList named(const QStringList& files)
+/// Replaces "-" by the files that standard input names, a line each. False when a name is not UTF-8 text.
+bool readNames(Options& options)
 {
     QStringList all;
-    for (const QString& file : files) {
+    for (const QString& file : options.files) {
         if (file != "-") {
             all += file;
             continue;
         }
-        QTextStream input(stdin);
-        input.setCodec("UTF-8");
-        while (!input.atEnd()) {
-            const QString line = input.readLine();
-            if (!line.isEmpty())
-                all += line;
+        QFile input;
+        input.open(stdin, QIODevice::ReadOnly);
+        // Empty at the end, and also when it cannot be read.
+        for (QByteArray line = input.readLine(); !line.isEmpty(); line = input.readLine()) {
+            if (line.endsWith('\n'))
+                line.chop(1);
+            const QString name = QFile::decodeName(line);
+            if (QFile::encodeName(name) != line || line.contains('\0'))
+                return false;
+            if (!name.isEmpty())
+                all += name;
         }
     }
-    return all;
+    options.files = all;
+    return true;
 }
 
 /// Creates the folders that the validators need, and tells whether they will let the pass through: it would
@@ -226,7 +231,7 @@ bool print(const QByteArray& text)
 CheckState run(const Options& options)
 {
     CheckState worst = CheckState::Clean;
-    for (const QString& file : named(options.files)) {
+    for (const QString& file : options.files) {
         const CheckReport report = check(file, options.repair);
         worst = worseOf(worst, report.state);
         if (!print(options.json ? report.toJson() : report.toText()))
@@ -256,7 +261,8 @@ int main(int argc, char** argv)
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     Options options;
-    if (!areUnderstood(arguments, argv + 1) || !parse(arguments, options)) {
+    if (!areUnderstood(arguments, argv + 1) || !parse(arguments, options) ||
+        (!options.help && !readNames(options))) {
         std::fputs(Usage, stderr);
         return UsageError;
     }

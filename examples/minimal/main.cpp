@@ -1,0 +1,120 @@
+// A host in a page of code: the control center beside a view, with an action, a settings page and a key of
+// its own.
+
+#include <QApplication>
+#include <QDir>
+#include <QFormLayout>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <zel/SettingsKeys.h>
+#include <zel/SignalBlock.h>
+#include <zel/ZelControlCenter.h>
+#include <zel/ZelEditablePanel.h>
+#include <zel/ZelSettingsApplication.h>
+#include <zel/ZelSettingsFile.h>
+#include <zel/platform/MTLogger.h>
+#include <zel/platform/kqDMGuiPlugin.h>
+#include <zel/platform/kqDirUtils.h>
+#include <zel/platform/zelAction.h>
+#include <zel/zelSpinBox.h>
+
+const char* const MinutesKey = "backup/minutes";
+
+bool ensureMinutes(const QString&, const QString& defaultValue, QString& value, QString&)
+{
+    bool isNumber = false;
+    const int minutes = value.toInt(&isNumber);
+    value = isNumber ? QString::number(qBound(0, minutes, 60)) : defaultValue;
+    return true;
+}
+
+struct BackupModel
+{
+    int minutes = 0;
+    bool operator==(const BackupModel& other) const { return minutes == other.minutes; }
+};
+
+class BackupPage : public zel::ZelEditablePanel<BackupModel>
+{
+    Q_OBJECT
+
+public:
+    explicit BackupPage(kqDMIApplication& host)
+        : ZelEditablePanel(&host, host.getSettings(), nullptr, Qt::WindowFlags(),
+                           {{MinutesKey, &BackupModel::minutes, zel::integerConversion()}})
+        , m_minutes(new zel::zelSpinBox(this))
+    {
+        auto* reset = new QPushButton(tr("Default"), this);
+        reset->setObjectName(QLatin1String("resetButton"));
+        m_minutes->setRange(0, 60);
+        auto* layout = new QFormLayout(this);
+        layout->addRow(tr("Minutes between backups"), m_minutes);
+        layout->addRow(reset);
+        setPanelName(tr("Backups"));
+        connect(m_minutes, QOverload<int>::of(&QSpinBox::valueChanged), this, &BackupPage::onEdited);
+        connect(reset, &QPushButton::clicked, this, &BackupPage::resetContent);
+    }
+
+Q_SIGNALS:
+    void stateChanged();
+
+private:
+    void getCurrentModel(BackupModel& model) const override { model.minutes = m_minutes->value(); }
+    void applyModel(const BackupModel& model) override
+    {
+        const zel::SignalBlock block{m_minutes};
+        m_minutes->setValue(model.minutes);
+    }
+    void notifyStateChanged() override { Q_EMIT stateChanged(); }
+
+    zel::zelSpinBox* const m_minutes;
+};
+
+/// What the control center and its pages see of this host. The plug-in allows them to ask the user.
+class Host : public zel::ZelSettingsApplication, public kqDMGuiPlugin
+{
+public:
+    using ZelSettingsApplication::ZelSettingsApplication;
+
+    kqDMGuiPlugin* getGuiPlugin() const override { return const_cast<Host*>(this); }
+    QWidget* getMainViewWidget() const override { return nullptr; }
+};
+
+int main(int argc, char** argv)
+{
+    QApplication qt(argc, argv);
+    const QString name = QLatin1String("TorvaneMinimal");
+    const QString folder =
+        QString::fromUtf8(kqDirUtils::GetAppDataFolderUtf8().c_str()) + QLatin1String("/") + name;
+    QDir().mkpath(folder);
+    zel::ZelControlCenter::RegisterSetting(QLatin1String(MinutesKey), QLatin1String("10"), &ensureMinutes);
+    zel::ZelControlCenter::InitDefaultSettingsValues(name);
+    Host host(folder);
+    QString error;
+    if (!zel::ZelSettingsFile::Repair(host.getSettings(), error)) {
+        QMessageBox::critical(nullptr, name, error);
+        return 1;
+    }
+    const QString log = host.getSettings().value(QLatin1String(zel::keys::LogFile)).toString();
+    MTLogger::InstallFileHandler(log.toStdString(), host.isDiagModeEnable(), std::string());
+    QWidget window;
+    BackupPage page(host);
+    zelAction about(QLatin1String("about"), QLatin1String("About Qt"), nullptr);
+    QObject::connect(&about, &QAction::triggered, &QApplication::aboutQt);
+    zel::ZelControlCenter center(&host, nullptr, Qt::WindowFlags());
+    center.settingsWidget()->setStyleSheet(
+        kqDMIApplication::GetStylesheet(QLatin1String("ZelControlCenter")));
+    center.registerCCAction(&about, QLatin1String("Settings"), false, false, true);
+    center.registerSettingsPanel(&page);
+    QPushButton view(QLatin1String("Menu"));
+    QObject::connect(&view, &QPushButton::clicked, [&] { center.openMenu(!center.isMenuOpen()); });
+    QHBoxLayout layout(&window);
+    layout.addWidget(&center);
+    layout.addWidget(center.settingsWidget());
+    layout.addWidget(&view, 1);
+    window.show();
+    return QApplication::exec();
+}
+
+#include "main.moc"
