@@ -6,6 +6,7 @@
 #include "ZelGeneralSettingsPanel.h"
 #include "zelSpinBox.h"
 
+#include "platform/MTLogger.h"
 #include "platform/zelAction.h"
 
 #include <QtTest>
@@ -361,6 +362,26 @@ private Q_SLOTS:
         QVERIFY(box.hasFocus());
     }
 
+    void unregisteredKeysAreLoggedOnce()
+    {
+        const QString path = m_application->getApplicationFolder() + "/log.txt";
+        for (const char* log : {".before", ""}) // What has been logged until now is in the first one.
+            MTLogger::InstallFileHandler((path + log).toStdString(), false, "");
+        ZelControlCenter::RegisterSetting("DBCache/cacheSize", "1024", &ZelControlCenter::noOp);
+        zel::ZelGeneralSettingsPanel page(m_application.get(), m_application->getSettings(), nullptr,
+                                          Qt::WindowFlags());
+        m_controlCenter->registerSettingsPanel(&page);
+        openEverything();
+        m_controlCenter->unregisterSettingsPanel(&page, true);
+        MTLogger::RemoveFileHandler();
+        ZelControlCenter::ClearSettingsValues();
+        const QString warning =
+            QStringList(QString(contentOf(path)).split('\n').filter("not registered")).join("twice");
+        QVERIFY2(warning.contains("\"Folders\"") && warning.contains("screenshot/ImageFolder") &&
+                     !warning.contains("cacheSize") && !warning.contains("twice"),
+                 qPrintable(warning));
+    }
+
     void pageKeepsItsStyle()
     {
         FakePage page("Styled", m_application->getSettings(), m_calls);
@@ -374,6 +395,24 @@ private Q_SLOTS:
         QCOMPARE(QStringList({page.styleSheet(), frame.styleSheet()}), sheets);
         QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::red));
         QCOMPARE(label.palette().color(QPalette::Window), QColor(Qt::green));
+    }
+
+    void plainTextsAreReadable()
+    {
+        FakePage page("Plain", m_application->getSettings(), m_calls);
+        auto* dialog = new QDialog(&page);
+        QWidget* const readable[] = {new QLabel("text", &page), new QCheckBox("text", &page),
+                                     new QRadioButton("text", &page), new QLabel("text", dialog)};
+        ZelControlCenter controlCenter(m_application.get(), nullptr, Qt::WindowFlags());
+        controlCenter.registerSettingsPanel(&page);
+        for (QWidget* widget : readable) {
+            widget->ensurePolished();
+            const bool inDrawer = widget->window() != dialog;
+            const QColor behind = inDrawer ? QColor(69, 69, 69) : dialog->palette().color(QPalette::Window);
+            const int difference =
+                widget->palette().color(QPalette::WindowText).lightness() - behind.lightness();
+            QVERIFY2(inDrawer ? difference > 128 : difference < -128, widget->metaObject()->className());
+        }
     }
 
     void mirrorsItsAction()
