@@ -125,6 +125,10 @@ private Q_SLOTS:
             renderingMode->setEnabled(!started);
             viewer.actionManager = &actions;
             Display display(viewer);
+            for (const bool used : {false, true}) {
+                display.find<QCheckBox>("deferredSSAOCheckBox")->setChecked(used);
+                QCOMPARE(display.find("sceneUnitComboBox")->isEnabled(), used);
+            }
             for (const bool gpu : {started, !started, started}) {
                 display.click(gpu ? "deferredButton" : "raytracerButton");
                 for (const char* name : {"hardwareFrame", "SSAOFrame", "GPUMemoryFrame", "GPUMemory"})
@@ -139,9 +143,8 @@ private Q_SLOTS:
     void resetsToTheDefaults()
     {
         SettingsTexts defaults = Plain;
-        defaults["engine"] = "software";
-        defaults["raytracer/quality"] = "Ultra";
-        defaults["Resources/LODTrianglesCap"] = "50000";
+        defaults.insert(
+            {{"engine", "software"}, {"raytracer/quality", "Ultra"}, {"Resources/LODTrianglesCap", "50000"}});
         registerDefaults(defaults);
         Viewer viewer;
         Display display(viewer);

@@ -16,8 +16,8 @@ class tst_ZelSettingsValidators : public QObject
 private Q_SLOTS:
     void values()
     {
-        const QString no =
-            "1/0.75/0.5/0.25/0.1"; // Not valid but for ratios: a default is taken as it stands.
+        // Not valid but for ratios: a default is taken as it stands.
+        const QString no = "1/0.75/0.5/0.25/0.1";
         const QString threads = QString::number(QThread::idealThreadCount());
         const QString longHost = QString("a.").repeated(127) + "a";
         // Values and what they become, alternating.
@@ -71,12 +71,7 @@ private Q_SLOTS:
     {
         // Below a folder in which "there" is a folder, and "file" a file that no folder can be made in: the
         // value, the default, what comes of it, and the error, or nothing when the validator is to succeed.
-        const struct
-        {
-            Validator validator;
-            const char *value, *defaultValue, *expected;
-            QString error;
-        } rows[] = {
+        const std::tuple<Validator, QString, QString, QString, QString> rows[] = {
             {&V::ensureDMCacheFolder, "there\\", "new", "there", ""},
             {&V::ensureDMCacheFolder, "gone", "a\\b/", "a/b", ""},
             {&V::ensureDMCacheFolder, "file", "new", "new", ""},
@@ -90,22 +85,22 @@ private Q_SLOTS:
             {&V::ensureTmpFolder, "there\\", "deep/made", "there", ""},
             {&V::ensureTmpFolder, "gone", "made/", "made/", ""},
             {&V::ensureTmpFolder, "there", "file/x", "file/x", "Could not create compulsory folder \"%1\""}};
-        for (const auto& row : rows) {
+        for (const auto& [validator, before, byDefault, after, failure] : rows) {
             const QTemporaryDir folder;
-            const QString root = folder.path() + "/", expected = root + row.expected;
+            const QString root = folder.path() + "/", expected = root + after;
             QVERIFY(QDir(root).mkdir("there") && QFile(root + "file").open(QIODevice::WriteOnly));
-            QString value = root + row.value, error;
-            const bool good = row.validator("key", root + row.defaultValue, value, error);
-            QCOMPARE(error, QString(row.error).replace("%1", expected));
-            QCOMPARE(good, row.error.isEmpty());
+            QString value = root + before, error;
+            const bool good = validator("key", root + byDefault, value, error);
+            QCOMPARE(error, QString(failure).replace("%1", expected));
+            QCOMPARE(good, failure.isEmpty());
             if (!good)
                 continue;
             QCOMPARE(value, expected);
-            const bool file = row.validator == &V::ensureFile;
+            const bool file = validator == &V::ensureFile;
             QVERIFY(QFileInfo(file ? QFileInfo(value).path() : value).isDir());
             QVERIFY(!file || !QFile::exists(value));
             // The compulsory folder is made in any case.
-            QVERIFY(row.validator != &V::ensureTmpFolder || QFileInfo(root + row.defaultValue).isDir());
+            QVERIFY(validator != &V::ensureTmpFolder || QFileInfo(root + byDefault).isDir());
         }
     }
 };

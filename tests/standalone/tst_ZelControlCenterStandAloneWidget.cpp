@@ -1,6 +1,5 @@
 #include "BoxAnswer.h"
 #include "FakeApplication.h"
-#include "Version.h"
 #include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
 #include "ZelSettingsPanel.h"
@@ -215,16 +214,6 @@ private Q_SLOTS:
         QTRY_COMPARE(m_window.geometry(), moved);
         QTest::mouseClick(button, Qt::LeftButton);
         QVERIFY(m_window.isMaximized());
-    }
-
-    void versionTextsAgree()
-    {
-        using Version = ZelControlCenter::Version;
-        const QString numbers = Version::GetDescStringMajorMinorReleaseRevision(false);
-        QCOMPARE(numbers, QString(kqDMIApplication::GetKernelVersion()));
-        QCOMPARE(numbers.section('.', 0, 2), QString(Version::GetDescStringMajorMinorRelease(false)));
-        QCOMPARE(numbers.section('.', 0, 1), QString(Version::GetDescStringMajorMinor(false)));
-        QCOMPARE(QString(Version::GetDescStringMajorMinorReleaseRevisionDate()), numbers + " 2024-1");
     }
 
 private:

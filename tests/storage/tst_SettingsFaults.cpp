@@ -1,3 +1,4 @@
+#include "../support/Files.h"
 #include "SettingsKeys.h"
 #include "SettingsMigration.h"
 #include "UnfinishedWrite.h"
@@ -43,18 +44,6 @@ bool holdsForeign(const QByteArray& content)
     return content.contains(ForeignGroup) && content.contains(OtherGroup);
 }
 
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
-}
-
-void store(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-}
-
 /// Makes the file an hour old, older than any write of the test.
 void makeOld(const QString& path)
 {
@@ -78,15 +67,6 @@ bool succeeds(pid_t child)
     return ::waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
-struct Settings : QSettings
-{
-    explicit Settings(const QString& path)
-        : QSettings(path, IniFormat)
-    {
-        ZelSettingsFile::UseFileEncoding(*this);
-    }
-};
-
 QString error; ///< Of the last operation that failed.
 
 bool write(QSettings& settings, const QVariantMap& values)
@@ -101,8 +81,8 @@ bool write(QSettings& settings, const QVariantMap& values)
 
 bool change(const QString& path, const QVariantMap& values)
 {
-    Settings settings(path);
-    return write(settings, values);
+    const auto settings = ZelSettingsFile::Open(path);
+    return write(*settings, values);
 }
 
 bool apply(const QString& path)
@@ -112,8 +92,8 @@ bool apply(const QString& path)
 
 bool validate(const QString& path)
 {
-    Settings settings(path);
-    return ZelSettingsFile::Repair(settings, error);
+    const auto settings = ZelSettingsFile::Open(path);
+    return ZelSettingsFile::Repair(*settings, error);
 }
 
 bool migrate(const QString& path)
@@ -179,6 +159,17 @@ private:
         QVERIFY(Kills < 1000 || (unchanged > 0 && changed > 0 && locked > 0));
     }
 
+    /// Leaves some pages free.
+    static void fillDisk(QFile& filler, int freePages)
+    {
+        const QByteArray page(4096, 'x');
+        filler.close();
+        QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+        while (filler.write(page) == page.size())
+            continue;
+        QVERIFY(filler.resize((filler.size() / page.size() - freePages) * page.size()));
+    }
+
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_path;
 
@@ -230,6 +221,11 @@ private Q_SLOTS:
             QVERIFY(!ZelSettingsFile::IsWritable(m_path, error) && error.contains(".lock"));
             QVERIFY(contentOf(m_path).endsWith(accepted ? "=77" : "=7"));
         }
+        // One of a process that lives, but is stopped.
+        QVERIFY(QDir().rmdir(m_path + ".lock"));
+        store(m_path + ".lock", QByteArray::number(::getpid()) + "\nother\n\n");
+        makeOld(m_path + ".lock");
+        QVERIFY(!apply(m_path) && error.contains("another program"));
         QVERIFY(clock.elapsed() < Patience);
     }
 
@@ -270,9 +266,9 @@ private Q_SLOTS:
         for (int writer = 0; writer < writers; ++writer) {
             children.push_back(startChild([=] {
                 std::srand(unsigned(writer));
-                Settings settings(m_path);
+                const auto settings = ZelSettingsFile::Open(m_path);
                 for (int i = 100; i < end; ++i) {
-                    if (!write(settings, {{key.arg(writer).arg(i % 3), i}}))
+                    if (!write(*settings, {{key.arg(writer).arg(i % 3), i}}))
                         return false;
                     ::usleep(useconds_t(std::rand() % 3000));
                     // The others may write, but not over this one's values.
@@ -300,41 +296,33 @@ private Q_SLOTS:
             ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
             ::mount("tmpfs", qPrintable(m_folder->path()), "tmpfs", 0, "size=64k") != 0)
             QSKIP("not allowed to mount a small disk");
+        QFile filler(m_folder->filePath("filler"));
         for (const bool damaged : {false, true}) {
             const QByteArray content = (damaged ? "no settings\n" : "") + Foreign;
             store(m_path, content);
-            QFile filler(m_folder->filePath("filler"));
-            QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
-            while (filler.write(QByteArray(4096, 'x')) == 4096)
-                continue;
-            Settings settings(m_path);
-            QVERIFY(!write(settings, {{"new/key", "text"}, {"Foreign/emoji", "none"}}));
+            fillDisk(filler, 0);
+            const auto settings = ZelSettingsFile::Open(m_path);
+            QVERIFY(!write(*settings, {{"new/key", "text"}, {"Foreign/emoji", "none"}}));
             QVERIFY2(error.contains(m_path) && error.contains("No space left"), qPrintable(error));
             QCOMPARE(contentOf(m_path), content);
             QVERIFY(copies().isEmpty());
 
             // The settings hold what the file holds, and write nothing on their own once there is room.
-            QVERIFY(!settings.contains("new/key") && settings.value("Foreign/emoji") != "none");
+            QVERIFY(!settings->contains("new/key") && settings->value("Foreign/emoji") != "none");
             QVERIFY(filler.remove());
             const QDateTime time = QFileInfo(m_path).lastModified();
-            QCoreApplication::sendPostedEvents(&settings, 0);
+            QCoreApplication::sendPostedEvents(settings.get(), 0);
             QVERIFY(contentOf(m_path) == content && QFileInfo(m_path).lastModified() == time);
-            QVERIFY2(write(settings, {{"new/key", "text"}}), qPrintable(error));
+            QVERIFY2(write(*settings, {{"new/key", "text"}}), qPrintable(error));
             QVERIFY(holdsForeign(contentOf(m_path)) && contentOf(m_path).contains("[new]\nkey=text\n"));
         }
         // Room for the lock and a part of the content, known beforehand or not.
         for (const int freePages : {1, 2, 3, 6}) {
             store(m_path, Foreign);
-            QFile filler(m_folder->filePath("filler"));
-            QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
-            while (filler.write(QByteArray(4096, 'x')) == 4096)
-                continue;
-            QVERIFY(filler.resize((filler.size() / 4096 - freePages) * 4096));
-            Settings settings(m_path);
-            QVERIFY(!write(settings, {{"new/key", QString(40000, 'y')}}) && error.contains("No space left"));
-            QVERIFY(!settings.contains("new/key"));
-            QCOMPARE(contentOf(m_path), Foreign);
-            filler.remove();
+            fillDisk(filler, freePages);
+            const auto settings = ZelSettingsFile::Open(m_path);
+            QVERIFY(!write(*settings, {{"new/key", QString(40000, 'y')}}) && error.contains("No space left"));
+            QVERIFY(!settings->contains("new/key") && contentOf(m_path) == Foreign);
         }
         const QByteArray path = m_path.toUtf8(), other = path + ".other";
         store(other, Foreign);
@@ -365,11 +353,11 @@ private Q_SLOTS:
                 if (::geteuid() == 0 &&
                     (::setgroups(0, nullptr) != 0 || ::setgid(65534) != 0 || ::setuid(65534) != 0))
                     return false;
-                Settings settings(m_path);
-                const QVariant former = settings.value("Foreign/list");
-                return ::system(qPrintable(command)) == 0 && !write(settings, {{"Foreign/list", "none"}}) &&
+                const auto settings = ZelSettingsFile::Open(m_path);
+                const QVariant former = settings->value("Foreign/list");
+                return ::system(qPrintable(command)) == 0 && !write(*settings, {{"Foreign/list", "none"}}) &&
                        error.contains(m_path) && error.contains(reason) &&
-                       settings.value("Foreign/list") == former;
+                       settings->value("Foreign/list") == former;
             }));
             ::chmod(qPrintable(folder), 0755);
             QVERIFY2(told, obstacle);
@@ -384,19 +372,19 @@ private Q_SLOTS:
         m_path = folder + "/Settings.ini";
         QVERIFY(QDir().mkpath(folder));
         store(m_path, Foreign);
-        Settings settings(m_path);
+        const auto settings = ZelSettingsFile::Open(m_path);
         QVERIFY(QFile::remove(m_path) && QDir().mkpath(m_path));
-        QVERIFY(!write(settings, {{"key", "value"}}) && error.contains(m_path));
+        QVERIFY(!write(*settings, {{"key", "value"}}) && error.contains(m_path));
         // What is gone comes back with everything, not only with the change.
         QVERIFY(QDir(folder).removeRecursively());
-        QVERIFY2(write(settings, {{"key", "value"}}), qPrintable(error));
+        QVERIFY2(write(*settings, {{"key", "value"}}), qPrintable(error));
         QVERIFY(contentOf(m_path).startsWith("[General]\nkey=value\n\n"));
         QVERIFY2(holdsForeign(contentOf(m_path)), contentOf(m_path).constData());
         // Unless a file now stands where its folder was.
         QVERIFY(QDir(folder).removeRecursively());
         store(folder, "");
-        QVERIFY(!write(settings, {{"key", "other"}}) && error.contains(m_path));
-        QCOMPARE(settings.value("key").toString(), QString("value"));
+        QVERIFY(!write(*settings, {{"key", "other"}}) && error.contains(m_path));
+        QCOMPARE(settings->value("key").toString(), QString("value"));
     }
 
     void damagedByOthers()
@@ -408,11 +396,11 @@ private Q_SLOTS:
         for (const auto& [left, kept] : rows) {
             init();
             store(m_path, complete);
-            Settings settings(m_path);
-            QVERIFY(settings.contains("own"));
+            const auto settings = ZelSettingsFile::Open(m_path);
+            QVERIFY(settings->contains("own"));
             store(m_path, left);
             makeOld(m_path);
-            QVERIFY(write(settings, {{"engine", "software"}}));
+            QVERIFY(write(*settings, {{"engine", "software"}}));
             for (const QByteArray& line : {QByteArray("engine=software"), QByteArray("settingsVersion=2"),
                                            QByteArray("cacheSize=77"), kept})
                 QVERIFY2(contentOf(m_path).contains(line + '\n'), (left + " loses " + line).constData());
@@ -446,9 +434,6 @@ private Q_SLOTS:
             {&migrate, "settingsVersion=1\nx\n", 1},
             {&validate, version2 + "key=a" + QByteArray(9, '\0'), 1},
             {&migrate, QByteArray(4096, '\0'), 1},
-            {&validate, version2 + "key=\374\n", 1},
-            {&validate, version2 + "path=/a;/b\n", 1},
-            {&apply, version2 + "win=C:\\Users\\me\n", 1},
             {&validate, "=1\n[open\n", 1}, // A key without a name.
             {&validate, version2 + "[DBCache]\ncacheSize=1, 2\n", 1},
             {&apply, "; mine\n" + version2, 1},
@@ -474,25 +459,15 @@ private Q_SLOTS:
     {
         ZelSettingsRegistry::RegisterSetting("Foreign", "text", &ZelSettingsValidators::noOp);
         store(m_path, Foreign);
-        Settings settings(m_path);
+        const auto settings = ZelSettingsFile::Open(m_path);
         const auto giveUp = [](QSettings& changed, QString&) {
             changed.setValue("Foreign", "text");
             return false;
         };
-        QVERIFY(!ZelSettingsFile::Write(settings, giveUp, error) && holdsForeign(contentOf(m_path)));
+        QVERIFY(!ZelSettingsFile::Write(*settings, giveUp, error) && holdsForeign(contentOf(m_path)));
         QVERIFY(validate(m_path) && holdsForeign(contentOf(m_path)));
         ZelSettingsRegistry::ClearSettingsValues();
         initTestCase();
-    }
-
-    void lockOfAStoppedProcess()
-    {
-        store(m_path, Foreign);
-        store(m_path + ".lock", QByteArray::number(::getpid()) + "\nother\n\n");
-        makeOld(m_path + ".lock");
-        QElapsedTimer clock;
-        clock.start();
-        QVERIFY(!apply(m_path) && error.contains("another program") && clock.elapsed() < Patience);
     }
 
     void nothingToWrite()
@@ -561,11 +536,11 @@ private Q_SLOTS:
         for (const bool own : {true, false}) {
             const QString path = m_folder->filePath(own ? "own" : "toolkit");
             QVERIFY(QFile::copy(m_path, path));
-            Settings copy(path);
+            const auto copy = ZelSettingsFile::Open(path);
             if (!own)
-                copy.setIniCodec("UTF-8");
-            QCOMPARE(copy.value("list").toStringList(), QStringList({text, text}));
-            QVERIFY(!own || copy.value("mark").toString() == mark);
+                copy->setIniCodec("UTF-8");
+            QCOMPARE(copy->value("list").toStringList(), QStringList({text, text}));
+            QVERIFY(!own || copy->value("mark").toString() == mark);
         }
     }
 };

@@ -1,6 +1,7 @@
 #ifndef ZEL_FAKEAPPLICATION_H
 #define ZEL_FAKEAPPLICATION_H
 
+#include "Files.h"
 #include "ZelSettingsApplication.h"
 
 #include "platform/kqDMGuiPlugin.h"
@@ -9,7 +10,6 @@
 #include "platform/kqDMRenderer.h"
 #include "platform/zelActionManager.h"
 
-#include <QFile>
 #include <QList>
 #include <QTemporaryDir>
 
@@ -60,8 +60,7 @@ public:
     QByteArray storedFile()
     {
         getSettings().sync();
-        QFile file(getSettings().fileName());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        return contentOf(getSettings().fileName());
     }
 
     mutable FakeManager manager;

@@ -1,3 +1,5 @@
+#include "../support/Files.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -33,18 +35,6 @@ private:
         return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
     }
 
-    static QByteArray contentOf(const QString& path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
-    bool write(const QByteArray& content) const
-    {
-        QFile file(m_file);
-        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-    }
-
     QStringList everything() const
     {
         QStringList names;
@@ -58,9 +48,12 @@ private:
     void tellsAndRepairs(const QByteArray& before, const QJsonValue& oldText, const QStringList& texts)
     {
         const QString key = texts[0], reason = texts[2], damage = texts.value(3);
-        QVERIFY(before.isNull() || write(before));
+        if (!before.isNull())
+            store(m_file, before);
         const QStringList untouched = everything();
+        const bool fresh = !before.isNull() && !before.contains("settingsVersion=1");
         QCOMPARE(run({m_file}), 1);
+        QCOMPARE(m_output.contains("fresh start: its version is too old"), fresh);
         QVERIFY2(!m_output.contains('\x1b') && !m_output.contains("\342\200\256"), m_output.constData());
         QVERIFY2(m_output.contains("needs repair"), m_output.constData());
         QCOMPARE(run({"--json", m_file}), 1);
@@ -68,6 +61,7 @@ private:
         QCOMPARE(contentOf(m_file), before);
         QCOMPARE(m_json["file"].toString(), m_file);
         QCOMPARE(m_json["damage"].toString(), damage);
+        QCOMPARE(m_json["freshStart"].toBool(), fresh);
         const QJsonArray changes = m_json["changes"].toArray();
         const auto change = std::find_if(changes.begin(), changes.end(), [&](const QJsonValue& candidate) {
             return candidate.toObject()["key"] == key;
@@ -173,7 +167,7 @@ private Q_SLOTS:
     {
         // Of these each pass leaves something to the next one.
         for (const char* content : {"[DBCache]\ncacheDirectory=/tmp///\n", "//=1\n"}) {
-            QVERIFY(write(content));
+            store(m_file, content);
             QCOMPARE(run({"--repair", m_file}), 4);
             QCOMPARE(run({m_file}), 0);
         }
@@ -183,30 +177,18 @@ private Q_SLOTS:
                 m_json["changes"].toArray().isEmpty());
         QVERIFY(QDir().rmdir(m_file + ".lock"));
         const QByteArray before = "[DBCache]\ncacheDirectory=/gone\n";
-        QVERIFY(write(before));
+        store(m_file, before);
         m_config = QString(300, 'a'); // Too long to be created.
         QCOMPARE(run({"--repair", m_file}), 2);
         m_config = "config";
         QCOMPARE(contentOf(m_file), before);
     }
 
-    void freshStart()
-    {
-        for (const QByteArray old :
-             {"settingsVersion=0", "engine=software", "settingsVersion=1", "settingsVersion=4294967297"}) {
-            const bool fresh = old.endsWith("=0") || old.startsWith("engine");
-            QVERIFY(write(old + '\n'));
-            run({m_file});
-            QCOMPARE(m_output.contains("fresh start: its version is too old"), fresh);
-            run({"--json", m_file});
-            QCOMPARE(m_json["freshStart"].toBool(), fresh);
-        }
-    }
-
     void manyFiles()
     {
         const QString clean = m_root + "/clean.ini", broken = m_file, folder = m_root;
-        QVERIFY(run({"--repair", clean}) == 4 && write("garbage\n"));
+        QCOMPARE(run({"--repair", clean}), 4);
+        store(broken, "garbage\n");
         // Files, the exit code, and how many reports there are.
         const std::tuple<QStringList, int, int> rows[] = {{{clean, broken}, 1, 2},
                                                           {{broken, folder, clean}, 2, 3},
@@ -229,22 +211,16 @@ private Q_SLOTS:
             QCOMPARE(run(arguments), exitCode);
             QCOMPARE(m_output.startsWith("usage:"), exitCode == 0);
         }
-        const std::pair<QString, int> commands[] = {{"exec \"$0\" \"$(printf 'caf\\351')\"", 3},
-                                                    {"exec \"$0\" --help >/dev/full", 2},
-                                                    {"printf 'caf\\351' | \"$0\" -", 3},
-                                                    {"exec \"$0\" - <&-", 0}};
-        for (const auto& [command, exitCode] : commands)
-            QCOMPARE(QProcess::execute("sh", {"-c", command, TORVANE_SETTINGS_CHECK}), exitCode);
-    }
-
-    void needsNoWidgets()
-    {
-        QProcess ldd;
-        ldd.start("ldd", {TORVANE_SETTINGS_CHECK});
-        QVERIFY(ldd.waitForFinished());
-        const QByteArray libraries = ldd.readAllStandardOutput();
-        QVERIFY2(libraries.contains("Core") && !libraries.contains("Widgets") && !libraries.contains("Gui"),
-                 libraries.constData());
+        const auto shell = [](const char* command) {
+            return QProcess::execute("sh", {"-c", command, TORVANE_SETTINGS_CHECK});
+        };
+        QCOMPARE(shell("exec \"$0\" \"$(printf 'caf\\351')\""), 3);
+        QCOMPARE(shell("exec \"$0\" --help >/dev/full"), 2);
+        QCOMPARE(shell("printf 'caf\\351' | \"$0\" -"), 3);
+        QCOMPARE(shell("exec \"$0\" - <&-"), 0);
+        // It needs no display's libraries.
+        QCOMPARE(shell("ldd \"$0\" | grep Core"), 0);
+        QCOMPARE(shell("ldd \"$0\" | grep -E 'Widgets|Gui'"), 1);
     }
 };
 

@@ -1,4 +1,5 @@
 #include "FakeApplication.h"
+#include "Files.h"
 #include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
 #include "ZelRendererSelector.h"
@@ -11,14 +12,6 @@ using namespace zel;
 
 namespace {
 
-QString readAll(const QString& path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("%s cannot be read", qPrintable(path));
-    return QString::fromUtf8(file.readAll());
-}
-
 /// What a translation has to keep: place markers, tags, line breaks, and the blanks at both ends.
 QStringList marks(const QString& text)
 {
@@ -30,23 +23,11 @@ QStringList marks(const QString& text)
     return found;
 }
 
-/// What a button's text needs, with the frame and the mark around it.
-QSize neededSize(const QAbstractButton& button)
-{
-    QStyleOptionButton option;
-    option.initFrom(&button);
-    const auto contents = button.inherits("QRadioButton") ? QStyle::SE_RadioButtonContents
-                          : button.inherits("QCheckBox")  ? QStyle::SE_CheckBoxContents
-                                                          : QStyle::SE_PushButtonContents;
-    return button.size() - button.style()->subElementRect(contents, &option, &button).size() +
-           button.fontMetrics().size(0, button.text());
-}
-
 /// Not valid for a widget without a text of its own.
 QSize neededSize(const QWidget& widget)
 {
     if (auto* button = qobject_cast<const QAbstractButton*>(&widget))
-        return button->text().isEmpty() ? QSize() : neededSize(*button);
+        return button->text().isEmpty() ? QSize() : button->minimumSizeHint();
     if (auto* label = qobject_cast<const QLabel*>(&widget))
         return label->wordWrap()
                    ? QSize(label->minimumSizeHint().width(), label->heightForWidth(label->width()))
@@ -123,8 +104,9 @@ private Q_SLOTS:
     void hasEveryTextOfTheSources()
     {
         const QString name = "/Torvane_" + m_language + ".ts";
-        const QString all = readAll(ZEL_SOURCES "/resources/languages" + name);
-        QVERIFY2(all == readAll(m_updated.path() + name), "scripts/update-translations would change it");
+        const QString all = contentOf(ZEL_SOURCES "/resources/languages" + name);
+        QVERIFY2(all.toUtf8() == contentOf(m_updated.path() + name),
+                 "scripts/update-translations would change it");
         const QRegularExpression pattern(
             "<source>([^<]*)</source>\\s*<translation>([^<]*[^<\\s][^<]*)</translation>");
         int complete = 0;
@@ -133,7 +115,7 @@ private Q_SLOTS:
             QCOMPARE(marks(text[2]), marks(text[1]));
             QVERIFY2(m_language != "en" || text[2] == text[1], qPrintable(text[1]));
         }
-        QCOMPARE(complete, all.count("<message>"));
+        QVERIFY(complete > 0 && complete == all.count("<message>"));
     }
 
     void windowsShowTheirTexts()
@@ -167,7 +149,7 @@ private Q_SLOTS:
             }
         }
         for (const QWidget* page : window.findChildren<ZelSettingsPanel*>())
-            QCOMPARE(page->width(), 435);
+            QVERIFY2(page->minimumSizeHint().width() <= 435, qPrintable(page->objectName()));
 
         window.resize(1035, 800); // Hardly wide enough for the help.
         const auto* help = window.findChild<QWidget*>("helpFrame");

@@ -1,0 +1,19 @@
+#ifndef ZEL_FILES_H
+#define ZEL_FILES_H
+
+#include <QtTest>
+
+/// Empty when the file cannot be read.
+inline QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+inline void store(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+}
+
+#endif
