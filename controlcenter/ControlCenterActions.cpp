@@ -100,13 +100,15 @@ QAction* ControlCenterActions::add(const char* name, QAction* action)
 
 bool ControlCenterActions::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool inColumn = watched == m_column;
+    if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
+        return false;
     const auto* key = static_cast<QKeyEvent*>(event);
+    if (event->type() == QEvent::KeyPress)
+        return press(*key, watched == m_column);
     // A number that is being typed counts before a shortcut is looked up: "Apply" depends on it.
-    if (event->type() == QEvent::ShortcutOverride && m_field &&
-        (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier)))
+    if (m_field && (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier)))
         m_field->interpretText();
-    return event->type() == QEvent::KeyPress && press(*key, inColumn);
+    return false;
 }
 
 bool ControlCenterActions::press(const QKeyEvent& event, bool inColumn)
