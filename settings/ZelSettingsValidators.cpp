@@ -26,7 +26,7 @@ namespace zel {
 
 namespace {
 
-const quint64 MiB = 1024 * 1024;
+const quint64 MiB = quint64{1024} * 1024;
 const quint64 MaximumMemory = 8096 * MiB;
 const std::size_t RatioCount = 5;
 

@@ -40,7 +40,7 @@ int lineEnd(const QByteArray& text, int begin)
 char firstCharacter(const QByteArray& line)
 {
     const auto first = std::find_if_not(line.begin(), line.end(), isBlank);
-    return first == line.end() ? 0 : *first;
+    return first == line.end() ? '\0' : *first;
 }
 
 /// True for a line with a ';' outside quotation marks, if it can be read at all.
