@@ -28,7 +28,7 @@ ZelRendererSelector::ZelRendererSelector(QWidget* parent, Qt::WindowFlags flags)
     setWindowFlags(Qt::FramelessWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
 
-    kqMovableObject* movable = new kqMovableObject(this);
+    auto* movable = new kqMovableObject(this);
     movable->setAnchorObject(m_ui->titleFrame, this);
 
     for (QLabel* engine : {m_ui->raytracerButton, m_ui->deferredButton}) {

@@ -252,9 +252,9 @@ std::vector<ZelRendererSettingsPanel::Help> ZelRendererSettingsPanel::limitHelp(
     {
         zelSpinBox* box;
         const char* description;
-        ZelSettingEffect effect;
         const char* key;
         quint64 EngineModel::*value;
+        ZelSettingEffect effect;
         int shift;
     } limits[] = {
         {m_ui->maxCPU3DSpinBox,
@@ -262,25 +262,25 @@ std::vector<ZelRendererSettingsPanel::Help> ZelRendererSettingsPanel::limitHelp(
              "ZelRendererSettingsPanel",
              "How much of the computer's memory the models may take while the graphics card draws "
              "them. With more of it, more details stay loaded."),
-         EffectAfterRestart, keys::MaxCpuMemory3D, &EngineModel::maxCPUMemory3D, BytesToMebibytes},
+         keys::MaxCpuMemory3D, &EngineModel::maxCPUMemory3D, EffectAfterRestart, BytesToMebibytes},
         {m_ui->maxCPURaySpinBox,
          QT_TRANSLATE_NOOP(
              "ZelRendererSettingsPanel",
              "How much of the computer's memory the raytracer may take. With more of it, larger "
              "models can be drawn."),
-         EffectAfterRestart, keys::MaxCpuMemoryRaytracer, &EngineModel::maxCPUMemoryRaytracer,
+         keys::MaxCpuMemoryRaytracer, &EngineModel::maxCPUMemoryRaytracer, EffectAfterRestart,
          BytesToMebibytes},
         {m_ui->maxGPUSPinBox,
          QT_TRANSLATE_NOOP(
              "ZelRendererSettingsPanel",
              "How much of the graphics card's memory the models may take. Stay below what the card "
              "has: other programs need some too."),
-         EffectAfterRestart, keys::MaxGpuMemory, &EngineModel::maxGPUMemory, BytesToMebibytes},
+         keys::MaxGpuMemory, &EngineModel::maxGPUMemory, EffectAfterRestart, BytesToMebibytes},
         {m_ui->maxTrianglesSpinBox,
          QT_TRANSLATE_NOOP("ZelRendererSettingsPanel",
                            "How many triangles one picture may have at most. With fewer, models move more "
                            "smoothly; with more, they show finer details."),
-         EffectAtOnce, keys::TrianglesCap, &EngineModel::trianglesCap, 0},
+         keys::TrianglesCap, &EngineModel::trianglesCap, EffectAtOnce, 0},
     };
     std::vector<Help> rows;
     for (const auto& limit : limits)
