@@ -23,14 +23,6 @@ const qint64 MaximumFileSize = qint64(64) * 1024 * 1024;
 const std::chrono::minutes StaleLockAge(1); // QSettings removes a lock of half a minute.
 const int LongestLock = 2000;               // ms; a write takes milliseconds.
 
-/// The file itself where the path is a link; it may not exist.
-QFileInfo fileBehind(const QFileInfo& file)
-{
-    if (!file.isSymLink())
-        return file;
-    return QFileInfo(file.exists() ? file.canonicalFilePath() : file.symLinkTarget());
-}
-
 /// Why QSettings, which waits for its lock without end, could not take it; empty when it can.
 QString lockReason(const QString& lock)
 {
@@ -77,6 +69,14 @@ std::filesystem::path nativePath(const QString& path)
     return std::filesystem::u8path(path.toUtf8().constData());
 }
 
+QFileInfo fileBehind(const QString& path)
+{
+    const QFileInfo file(path);
+    if (!file.isSymLink())
+        return file;
+    return QFileInfo(file.exists() ? file.canonicalFilePath() : file.symLinkTarget());
+}
+
 QByteArray contentOfFile(const QString& path)
 {
     QFile file(path);
@@ -107,7 +107,7 @@ QString unwritableReason(const QString& path)
     const QString unreadable = unreadableReason(path);
     if (!unreadable.isEmpty())
         return unreadable;
-    const QFileInfo named(path), file = fileBehind(named);
+    const QFileInfo named(path), file = fileBehind(path);
     const bool isFile = file.isFile();
     if (isFile && !mayReplace(file))
         return Text::tr("it belongs to another user or group, who would lose it");
@@ -129,7 +129,7 @@ QString roomReason(const QString& path, qint64 size)
 
 QString probeWriteError(const QString& path)
 {
-    const QFileInfo file = fileBehind(QFileInfo(path));
+    const QFileInfo file = fileBehind(path);
     QFile writer(file.filePath());
     if (file.exists() && !writer.open(QIODevice::ReadWrite))
         return writer.errorString();

@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QString>
 
 #include <filesystem>
@@ -21,6 +22,9 @@ void logWarning(const QString& text);
 bool fail(const QString& text, QString& error);
 
 std::filesystem::path nativePath(const QString& path);
+
+/// The file that a link leads to, which may not exist; the file itself if it is no link.
+QFileInfo fileBehind(const QString& path);
 
 /// All of a file; empty when it cannot be read.
 QByteArray contentOfFile(const QString& path);

@@ -19,16 +19,9 @@ namespace {
 const int LongestWrite = 3000; // ms
 const int Pause = 50;          // ms
 
-/// The file itself where the path is a link, so that the link stays one.
-QString fileBehind(const QString& path)
-{
-    const QString file = QFileInfo(path).canonicalFilePath();
-    return file.isEmpty() ? path : file;
-}
-
 QString copyOf(const QString& path)
 {
-    return fileBehind(path) + ".unfinished";
+    return fileBehind(path).filePath() + ".unfinished"; // So that a link stays one.
 }
 
 QDateTime writtenAt(const QString& path)
@@ -40,7 +33,7 @@ QDateTime writtenAt(const QString& path)
 void putBack(const QString& path)
 {
     std::error_code error;
-    std::filesystem::rename(nativePath(copyOf(path)), nativePath(fileBehind(path)), error);
+    std::filesystem::rename(nativePath(copyOf(path)), nativePath(fileBehind(path).filePath()), error);
     logWarning(QString(error
                            ? "Writing \"%1\" was cut short, and its former content \"%2\" cannot be put back."
                            : "Writing \"%1\" was cut short; its former content is back from \"%2\".")

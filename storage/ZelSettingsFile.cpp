@@ -136,11 +136,12 @@ public:
         QElapsedTimer clock;
         clock.start();
         m_settings.sync();
-        while (!isWritten() && clock.elapsed() < BusyFileTime) {
+        m_written = isWritten();
+        while (!m_written && clock.elapsed() < BusyFileTime) {
             std::this_thread::sleep_for(RetryPause);
             m_settings.sync();
+            m_written = isWritten();
         }
-        m_written = isWritten();
         return m_written || refuseWriting(m_path, probeWriteError(m_path), error);
     }
 
