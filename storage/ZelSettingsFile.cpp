@@ -13,6 +13,7 @@
 #include <QEvent>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 #include <QStringList>
 
 #include <algorithm>
@@ -28,8 +29,7 @@
 // - A file that begins with the UTF-8 mark brings Qt's own codec back, which loses characters.
 // - The new file belongs to the user who has written it.
 // - Whether others have changed the file is told by its size and its time alone, so the file gets another
-// time
-//   before QSettings merges.
+//   time before QSettings merges.
 // - The status keeps the first error, so after one the content tells whether a write has succeeded.
 // - What could not be written is written later, unprotected, as soon as QSettings comes to events.
 
@@ -57,6 +57,15 @@ QVariantMap valuesOf(const QSettings& settings)
             values.insert(key, settings.value(key));
     }
     return values;
+}
+
+/// How many lines QSettings writes for keys: one for "/name" and "name" together.
+int lineCount(const QStringList& keys)
+{
+    QSet<QString> names;
+    for (const QString& key : keys)
+        names.insert(key.startsWith('/') ? key.mid(1) : key);
+    return names.size();
 }
 
 /// One write of a settings file. At any moment, also when the process is killed, the file holds its old
@@ -171,7 +180,7 @@ private:
         int lines = 0;
         for (const QByteArray& line : contentOfFile(m_path).split('\n'))
             lines += !line.trimmed().isEmpty() && !line.startsWith('[');
-        return lines >= m_settings.allKeys().size(); // Others may have added some by now.
+        return lines >= lineCount(m_settings.allKeys()); // Others may have added some by now.
     }
 
     bool isWritten() const
