@@ -6,6 +6,7 @@
 namespace {
 
 const char* const Role = "TST_LAUNCH_ROLE"; // Set in the second instance.
+const int Refused = 3;
 
 /// Runs inside launch(), as soon as there is an application.
 void writeMessages()
@@ -20,7 +21,7 @@ void writeMessages()
 
 Q_COREAPP_STARTUP_FUNCTION(writeMessages)
 
-/// Starts this program a second time, as a second instance of the editor.
+/// launch() in a second instance of the editor, and where it cannot work.
 class tst_launch : public QObject
 {
     Q_OBJECT
@@ -41,17 +42,29 @@ private Q_SLOTS:
             second.start(QCoreApplication::applicationFilePath(), arguments);
             received.clear();
             QTRY_COMPARE_WITH_TIMEOUT(second.state(), QProcess::NotRunning, 60000);
-            QCOMPARE(second.exitCode(), 0);
+            QCOMPARE(second.exitCode(), Refused);
+            QVERIFY(second.readAllStandardError().contains("called in this process before"));
             QTRY_COMPARE(received.value(0).value(0).toString(), message);
             QCOMPARE(second.readAllStandardOutput(), QByteArray("QGL\nqglshader\n QGLShader\n"));
         }
+    }
+
+    void refusesBesideAnApplication()
+    {
+        const QStringList paths = QCoreApplication::libraryPaths();
+        QTest::ignoreMessage(QtWarningMsg,
+                             "launch() refuses: this process has an application object already");
+        QCOMPARE(launch(0, nullptr), Refused);
+        QCOMPARE(QCoreApplication::libraryPaths(), paths);
     }
 };
 
 int main(int argc, char** argv)
 {
-    if (qEnvironmentVariableIsSet(Role))
-        return launch(argc, argv);
+    if (qEnvironmentVariableIsSet(Role)) {
+        const int exitCode = launch(argc, argv);
+        return exitCode ? exitCode : launch(argc, argv); // The second call is refused.
+    }
     // Apart from every other run of this test.
     const QTemporaryDir runtime;
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime.path()));
