@@ -1,4 +1,4 @@
-#include "FakeApplication.h"
+#include "ShownPage.h"
 #include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
 #include "ZelHelpArea.h"
@@ -38,30 +38,13 @@ QString poorlyAnnounced(QAccessibleInterface* tree, int& controls)
 } // namespace
 
 /// What the user is told about the settings, by the eye, the pointer, the keyboard and the ear.
-class tst_PageHelp : public QObject
+class tst_PageHelp : public QObject, private User
 {
     Q_OBJECT
 
 private:
-    template <class T = QWidget>
-    T* find(const char* name)
-    {
-        return m_window->findChild<T*>(name);
-    }
-
     QString said(const char* label) { return find<QLabel>(label)->text(); }
     QSettings& settings() { return m_application->getSettings(); }
-
-    /// Types over the number in a spin box; another field gets the focus afterwards.
-    QString typed(const char* name, const char* number)
-    {
-        auto* box = find<QAbstractSpinBox>(name);
-        box->setFocus();
-        box->selectAll();
-        QTest::keyClicks(box, number);
-        find("databaseButton")->setFocus();
-        return box->text();
-    }
 
     void open(const char* language)
     {
@@ -72,6 +55,7 @@ private:
         QVERIFY(ZelControlCenter::EnsureSettings(settings(), error));
         m_window = std::make_unique<ZelControlCenterStandAloneWidget>(m_application.get(), nullptr,
                                                                       Qt::FramelessWindowHint);
+        window = m_window.get();
         m_window->resize(1200, 800);
         m_window->show();
         QApplication::setActiveWindow(m_window.get());
@@ -137,7 +121,7 @@ private Q_SLOTS:
             return pages.join(' ');
         };
         QCOMPARE(marked(), QString());
-        QCOMPARE(typed("databaseSpinBox", "512"), QString("512 Mo"));
+        QCOMPARE(type("databaseSpinBox", "512"), QString("512 Mo"));
         QCOMPARE(marked(), QString("Folders"));
         find("databaseSpinBox")->setFocus();
         QVERIFY(!said("stateLabel").isEmpty());
@@ -145,8 +129,8 @@ private Q_SLOTS:
         QCOMPARE(find<QSpinBox>("databaseSpinBox")->value(), 1024);
         QVERIFY(said("stateLabel").isEmpty() && marked().isEmpty() && !find("putBackButton")->isEnabled());
 
-        QCOMPARE(typed("ratio3", "20"), QString("20"));
-        QCOMPARE(typed("ratio2", "30"), QString("30"));
+        QCOMPARE(type("ratio3", "20"), QString("20"));
+        QCOMPARE(type("ratio2", "30"), QString("30"));
         QTest::mouseClick(find("applyButton"), Qt::LeftButton);
         find("ratio2")->setFocus();
         QCOMPARE(said("storedLabel"), QString("30 %"));
@@ -163,9 +147,9 @@ private Q_SLOTS:
                                        {"fr", "5", "10 Mo", "0,125"}};
         for (const auto& [language, size, shown, sag] : rows) {
             open(language);
-            QCOMPARE(typed("databaseSpinBox", size).section(' ', 0, 0), QString(shown).section(' ', 0, 0));
+            QCOMPARE(type("databaseSpinBox", size).section(' ', 0, 0), QString(shown).section(' ', 0, 0));
             find<QRadioButton>("sag")->click();
-            QCOMPARE(typed("faceSagSpin", sag), QString(sag));
+            QCOMPARE(type("faceSagSpin", sag), QString(sag));
             QTest::mouseClick(find("applyButton"), Qt::LeftButton);
             QCOMPARE(settings().value("Tesselation/TesselationMaxFaceSag").toString(), QString("0.125"));
         }

@@ -24,27 +24,13 @@ inline void store(QSettings& settings, const SettingsTexts& texts)
         settings.setValue(key, texts[key]);
 }
 
-/// A page in an active window of the drawer's width, loaded from the settings, and the user in front of it.
-template <class Page>
-struct ShownPage
+/// The user in front of a window.
+struct User
 {
-    ShownPage(kqDMIApplication* application, QSettings& settings)
-        : page(application, settings, nullptr, Qt::WindowFlags())
-        , changes(&page, SIGNAL(stateChanged()))
-    {
-        // As in the drawer, which shows it elsewhere.
-        page.getActionWidget()->setParent(&elsewhere);
-        page.initializeWidget();
-        page.resize(435, page.heightForWidth(435));
-        page.show();
-        QApplication::setActiveWindow(&page);
-        QVERIFY(QTest::qWaitForWindowActive(&page));
-    }
-
     template <class T = QWidget>
     T* find(const QString& name)
     {
-        return page.template findChild<T*>(name);
+        return window->findChild<T*>(name);
     }
 
     void click(const QString& name)
@@ -53,14 +39,36 @@ struct ShownPage
         QTest::mouseClick(find(name), Qt::LeftButton, Qt::NoModifier, QPoint(8, find(name)->height() / 2));
     }
 
-    /// Types a number over the one in a spin box and leaves the box by the tabulator.
-    void type(const QString& name, const QString& number)
+    /// Types a number over the one in a spin box and leaves the box by the tabulator. Returns its text then.
+    QString type(const QString& name, const QString& number)
     {
         auto* box = find<QAbstractSpinBox>(name);
         box->setFocus();
         box->selectAll();
         QTest::keyClicks(box, number);
         QTest::keyClick(box, Qt::Key_Tab);
+        return box->text();
+    }
+
+    QWidget* window = nullptr;
+};
+
+/// A page in an active window of the drawer's width, loaded from the settings, and the user in front of it.
+template <class Page>
+struct ShownPage : User
+{
+    ShownPage(kqDMIApplication* application, QSettings& settings)
+        : page(application, settings, nullptr, Qt::WindowFlags())
+        , changes(&page, SIGNAL(stateChanged()))
+    {
+        window = &page;
+        // As in the drawer, which shows it elsewhere.
+        page.getActionWidget()->setParent(&elsewhere);
+        page.initializeWidget();
+        page.resize(435, page.heightForWidth(435));
+        page.show();
+        QApplication::setActiveWindow(&page);
+        QVERIFY(QTest::qWaitForWindowActive(&page));
     }
 
     /// Presses the reset button from the keyboard; how often the page says that it changed.
