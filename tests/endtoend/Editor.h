@@ -35,14 +35,14 @@ public:
         qputenv("DISPLAY", ':' + m_server.readLine().trimmed());
 
         m_windowManager.start("openbox", {"--sm-disable"});
-        const auto manages = [this] {
+        const auto manages = [] {
             return ask("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains("window id");
         };
         return QTest::qWaitFor(manages, Patience) ? QString() : "openbox does not start";
     }
 
     /// What a tool that sees the screen writes, without white space around it.
-    QString ask(const QString& tool, const QStringList& arguments) const
+    static QString ask(const QString& tool, const QStringList& arguments)
     {
         QProcess process;
         process.start(tool, arguments);
@@ -51,7 +51,7 @@ public:
     }
 
     /// What a window shows as soon as nothing in it moves any more. Windows go by the numbers of the X tools.
-    QImage picture(const QString& window) const
+    static QImage picture(const QString& window)
     {
         const int stillTime = 250; // Milliseconds. Even a slow animation shows something new within them.
         QImage now;
@@ -72,8 +72,7 @@ private:
 class Editor
 {
 public:
-    Editor(const Desktop& desktop, const QString& home)
-        : m_desktop(desktop)
+    explicit Editor(const QString& home)
     {
         // What a sanitizer finds must not look like a first start.
         QStringList environment = {"LC_ALL=C",
@@ -100,12 +99,6 @@ public:
                                     << arguments);
     }
 
-    void kill()
-    {
-        m_process.kill();
-        m_process.waitForFinished(Patience);
-    }
-
     /// Waits for the end; -1 when it does not come in time or is a crash.
     int exitCode()
     {
@@ -120,14 +113,14 @@ public:
         const QStringList search = {"search", "--all",  "--onlyvisible",  "--pid",
                                     process,  "--name", '^' + title + '$'};
         const auto appears = [&] {
-            m_window = m_desktop.ask("xdotool", {"getactivewindow"});
-            return !m_window.isEmpty() && m_desktop.ask("xdotool", search).split('\n').contains(m_window);
+            m_window = Desktop::ask("xdotool", {"getactivewindow"});
+            return !m_window.isEmpty() && Desktop::ask("xdotool", search).split('\n').contains(m_window);
         };
         return m_process.waitForStarted(Patience) && QTest::qWaitFor(appears, Patience);
     }
 
     /// Moves the mouse, clicks and types, in the words of xdotool; %1 stands for the window.
-    void act(QString action) const { m_desktop.ask("xdotool", action.replace("%1", m_window).split(' ')); }
+    void act(QString action) const { Desktop::ask("xdotool", action.replace("%1", m_window).split(' ')); }
 
     /// Waits for a window, then does something that closes it.
     bool isAnswered(const QString& title, const QString& action)
@@ -142,18 +135,17 @@ public:
 
     bool has(const QString& property, const QString& state) const
     {
-        return m_desktop.ask("xprop", {"-id", m_window, property}).contains(state);
+        return Desktop::ask("xprop", {"-id", m_window, property}).contains(state);
     }
 
-    QImage picture() const { return m_desktop.picture(m_window); }
+    QImage picture() const { return Desktop::picture(m_window); }
 
 private:
-    const Desktop& m_desktop;
     QString m_window;
     Program m_process;
 };
 
-/// The main function of a test that is made with a desktop.
+/// The main function of a test that needs a desktop.
 template <class Test>
 int runOnDesktop(int argc, char** argv)
 {
@@ -167,7 +159,7 @@ int runOnDesktop(int argc, char** argv)
     if (!problem.isEmpty())
         return qWarning("%s", qPrintable(problem)), 1;
     QApplication application(argc, argv);
-    Test test(desktop);
+    Test test;
     return QTest::qExec(&test, argc, argv);
 }
 

@@ -1,4 +1,5 @@
 #include "../endtoend/Editor.h"
+#include "../support/Files.h"
 
 namespace {
 
@@ -21,17 +22,11 @@ class tst_Viewer : public QObject
 {
     Q_OBJECT
 
-public:
-    explicit tst_Viewer(const Desktop& desktop)
-        : m_desktop(desktop)
-    {
-    }
-
 private Q_SLOTS:
     void init()
     {
         m_home = std::make_unique<QTemporaryDir>();
-        m_viewer = std::make_unique<Editor>(m_desktop, m_home->path());
+        m_viewer = std::make_unique<Editor>(m_home->path());
         QSettings settings(file("Settings.ini"), QSettings::IniFormat);
         settings.setValue("enablediag", "true");
         settings.setValue("turntable/enabled", "false");
@@ -73,10 +68,8 @@ private:
 
     int paintedFacets() const
     {
-        QFile log(file("log.txt"));
-        const bool open = log.open(QIODevice::ReadOnly);
-        const QString text = QString::fromUtf8(open ? log.readAll() : "");
-        return text.section("painting ", -1).section(' ', 0, 0).toInt();
+        const QString log = contentOf(file("log.txt"));
+        return log.section("painting ", -1).section(' ', 0, 0).toInt();
     }
 
     /// What is open once nothing moves any more, by the colour of the place where the menu column is.
@@ -106,7 +99,6 @@ private:
         QCOMPARE(state(), QString("drawer"));
     }
 
-    const Desktop& m_desktop;
     std::unique_ptr<QTemporaryDir> m_home;
     std::unique_ptr<Editor> m_viewer;
 };
