@@ -5,14 +5,11 @@
 #include "ZelPageDefaults.h"
 #include "ZelRendererSelector.h"
 
-#include <QtTest>
-#include <QtWidgets>
-
 using namespace zel;
 
 namespace {
 
-/// What an assistive technology is told of the controls below a widget and does not suffice, a line each.
+/// The controls below a widget that assistive technology cannot announce well, a line each.
 QString poorlyAnnounced(QAccessibleInterface* tree, int& controls)
 {
     QString poor;
@@ -37,7 +34,7 @@ QString poorlyAnnounced(QAccessibleInterface* tree, int& controls)
 
 } // namespace
 
-/// What the user is told about the settings, by the eye, the pointer, the keyboard and the ear.
+/// What the user is told about the settings: by texts, tool tips, marks and assistive technology.
 class tst_PageHelp : public QObject, private User
 {
     Q_OBJECT

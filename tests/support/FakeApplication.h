@@ -10,9 +10,6 @@
 #include "platform/kqDMRenderer.h"
 #include "platform/zelActionManager.h"
 
-#include <QList>
-#include <QTemporaryDir>
-
 // Each fake records what it is handed, in order.
 
 struct FakeManager : kqDMManager
