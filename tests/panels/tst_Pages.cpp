@@ -5,8 +5,6 @@
 #include "ZelImportSettingsPanel.h"
 #include "ZelSimplificationSettingsPanel.h"
 
-#include <QtWidgets>
-
 using namespace zel;
 
 using About = ShownPage<ZelAboutSettingsPanel>;
@@ -167,9 +165,11 @@ private Q_SLOTS:
             Simplification page(m_application.get(), settings());
             page.type("ratio2", "70");
             QVERIFY(page.changes.count() == 1 && page.canClickReset() &&
-                    m_application->manager.ratios.isEmpty() && !page.page.applyModifications());
-            QCOMPARE(stored(keys::SimplificationRatios), QString("1/0.7/0.5/0.25/0.1"));
-            QCOMPARE(m_application->manager.ratios, (QList<std::vector<float>>{{1.f, .7f, .5f, .25f, .1f}}));
+                    m_application->manager.ratios.isEmpty());
+            page.type("ratio4", "60"); // The level above keeps as much.
+            QVERIFY(!page.page.applyModifications());
+            QCOMPARE(stored(keys::SimplificationRatios), QString("1/0.7/0.6/0.6/0.1"));
+            QCOMPARE(m_application->manager.ratios, (QList<std::vector<float>>{{1.f, .7f, .6f, .6f, .1f}}));
         }
         registerDefaults({}); // Without them the page keeps what it shows.
         settings().remove(keys::SimplificationRatios);
@@ -192,7 +192,6 @@ private Q_SLOTS:
         const QStringList texts = {"Reader", "v. 1.2", second.name, "v. 1.2"};
         for (int cell = 0; cell < texts.size(); ++cell)
             QCOMPARE(table->item(cell / 2, cell % 2)->text(), texts[cell]);
-        // Nothing of the table is out of view.
         QVERIFY(table->isVisible() && table->rowHeight(1) > table->rowHeight(0));
         QVERIFY(table->viewport()->rect().contains(table->visualItemRect(table->item(1, 1))));
     }
