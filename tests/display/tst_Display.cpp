@@ -1,9 +1,8 @@
 #include "ShownPage.h"
+#include "ZelRendererSelector.h"
 #include "ZelRendererSettingsPanel.h"
 
 #include "platform/zelAction.h"
-
-#include <QtWidgets>
 
 using zel::ZelRendererSettingsPanel;
 
@@ -36,7 +35,7 @@ struct Display : ShownPage<ZelRendererSettingsPanel>
     explicit Display(FakeApplication& viewer)
         : ShownPage(&viewer, viewer.getSettings())
     {
-        // As if on a machine that has more cores than any of the tests asks for.
+        // Enough for all rows, whatever this machine has.
         find<QSlider>("coreUsedSlider")->setMaximum(8);
     }
     void slide(const char* name, int steps)
@@ -50,7 +49,8 @@ struct Display : ShownPage<ZelRendererSettingsPanel>
 
 } // namespace
 
-class tst_ZelRendererSettingsPanel : public QObject
+/// The display page, and the selector that asks for the renderer.
+class tst_Display : public QObject
 {
     Q_OBJECT
 
@@ -172,7 +172,43 @@ private Q_SLOTS:
             marks += image.pixelColor(x, image.height() - 4) == Qt::white;
         QCOMPARE(marks, 4);
     }
+
+    void selectorChoosesByMouseAndKeyboard()
+    {
+        zel::ZelRendererSelector selector(nullptr, Qt::WindowFlags());
+        const auto child = [&](const char* name) { return selector.findChild<QWidget*>(name); };
+        selector.show();
+        selector.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&selector));
+        const std::pair<const char*, bool> clicks[] = {
+            {"label_2", true}, {"raytracerButton", false}, {"label_2", false}, {"deferredButton", true}};
+        const QImage window = selector.grab().toImage();
+        for (const auto& [name, gpu] : clicks) {
+            const bool before = selector.useGPURenderer();
+            QTest::mousePress(child(name), Qt::LeftButton);
+            QCOMPARE(selector.useGPURenderer(), before);
+            QTest::mouseRelease(child(name), Qt::LeftButton);
+            QCOMPARE(selector.useGPURenderer(), gpu);
+            QCOMPARE(child(name)->hasFocus(), name != std::string("label_2"));
+            child("okButton")->setFocus();
+            QVERIFY2(selector.grab().toImage() == window, "a choice is not to be highlighted");
+        }
+        for (const char* name : {"raytracerButton", "deferredButton", "raytracerButton"}) {
+            QWidget* engine = child(name);
+            const bool before = selector.useGPURenderer();
+            const QImage look = engine->grab().toImage();
+            for (int stop = 0; stop < 4 && !engine->hasFocus(); ++stop)
+                QTest::keyClick(selector.focusWidget(), Qt::Key_Tab);
+            QVERIFY2(engine->grab().toImage() != look, "the focus is to be seen");
+            QCOMPARE(selector.useGPURenderer(), before);
+            QTest::keyClick(engine, Qt::Key_Space);
+            QCOMPARE(selector.useGPURenderer(), !before);
+        }
+        QTest::keyClick(selector.focusWidget(), Qt::Key_Return); // Wherever the focus is.
+        QVERIFY(!selector.isVisible() && !selector.useGPURenderer());
+        QCOMPARE(selector.result(), int(QDialog::Accepted));
+    }
 };
 
-QTEST_MAIN(tst_ZelRendererSettingsPanel)
-#include "tst_ZelRendererSettingsPanel.moc"
+QTEST_MAIN(tst_Display)
+#include "tst_Display.moc"
