@@ -52,6 +52,6 @@ int main(int argc, char** argv)
     QObject::connect(&application, &QtSingleApplication::messageReceived,
                      [&](const QString& message) { output << message.toUtf8().toHex() << Qt::endl; });
     output << (application.sendMessage("", 1000) ? "client of itself" : "instance") << Qt::endl;
-    QTimer::singleShot(120000, &application, SLOT(quit())); // It does not outlive a test that broke down.
+    QTimer::singleShot(120000, &application, SLOT(quit())); // After a test that crashed.
     return application.exec();
 }

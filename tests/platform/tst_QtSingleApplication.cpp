@@ -25,7 +25,7 @@ const uid_t OtherUser = 65534;
 const QStringList AsOther = {"30000", "65534"};
 #endif
 
-/// A process that is killed, by a signal that it cannot catch, when it is no longer needed.
+/// Killed with the object, by a signal that it cannot catch.
 struct Process : QProcess
 {
     ~Process() override
@@ -43,7 +43,7 @@ struct Process : QProcess
         return readLine().trimmed();
     }
 
-    /// The part that it plays, once it is let go on.
+    /// Lets it go on. Returns the part that it plays.
     QByteArray part()
     {
         const QByteArray first = line();
@@ -73,7 +73,7 @@ private:
         return process;
     }
 
-    /// Starts a client to its end, and tells how that was.
+    /// Runs a client to its end. Returns its last line.
     QByteArray send(const QByteArray& message, const QStringList& arguments = Patient) const
     {
         const auto client = start(message, arguments);
@@ -139,7 +139,7 @@ private Q_SLOTS:
         const auto isClient = [](const auto& process) { return process->line() == "client"; };
         const auto instance = std::find_if_not(processes.begin(), processes.end(), isClient);
         QVERIFY(std::all_of(instance + 1, processes.end(), isClient));
-        sent.removeAt(int(instance - processes.begin()));
+        sent.removeAt(static_cast<int>(instance - processes.begin()));
         for (auto client = processes.begin(); client != processes.end(); ++client) {
             if (client == instance)
                 continue;
@@ -173,7 +173,7 @@ private Q_SLOTS:
             {4, QByteArray("msg1\xff\xff\xff\xff", 8)},
             {4, QByteArray("msg1\0\0\0\1", 8) + QByteArray(64 * 1024 * 1024, 'x')}};
         for (const auto& [peers, bytes] : crowds) {
-            const auto instance = start();
+            const auto instance = start(); // The one before, which was killed, leaves nothing behind.
             QCOMPARE(instance->part(), QByteArray("instance"));
             std::vector<std::unique_ptr<QLocalSocket>> sockets;
             for (int i = 0; i < peers; ++i) {
@@ -193,12 +193,6 @@ private Q_SLOTS:
             for (const auto& socket : sockets)
                 QTRY_COMPARE_WITH_TIMEOUT(socket->state(), QLocalSocket::UnconnectedState, Patience);
         }
-    }
-
-    void killedInstanceLeavesNothingBehind()
-    {
-        QCOMPARE(start()->part(), QByteArray("instance"));
-        QCOMPARE(start()->part(), QByteArray("instance"));
     }
 
 #if !defined(_WIN32)
@@ -246,7 +240,7 @@ private Q_SLOTS:
             QCOMPARE(instance->part(), QByteArray("instance"));
             const QString socket = find(place, "*.socket");
 
-            // The other one is led to the same place, and knows the name, but is an instance of its own.
+            // The other user's process looks for the same name, but becomes an instance of its own.
             const auto other = start("", AsOther);
             QCOMPARE(other->part(), QByteArray("instance"));
             const QString own = find(m_folder->filePath("single-instance-65534"), "*.socket");
@@ -255,7 +249,7 @@ private Q_SLOTS:
             QCOMPARE(send("other", AsOther), QByteArray("sent"));
             QCOMPARE(other->line(), QByteArray("other").toHex());
 
-            // Nor does a program of that user come through that is not ours.
+            // A foreign program of that user cannot connect either.
             QLocalSocket intruder;
             QCOMPARE(::seteuid(OtherUser), 0);
             intruder.connectToServer(socket);
