@@ -1,13 +1,5 @@
 #include "../support/Files.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
-#include <QSettings>
-#include <QTemporaryDir>
-#include <QtTest>
-
 #include <unistd.h>
 
 /// The console program as an administrator runs it, without a display.
@@ -137,7 +129,6 @@ private Q_SLOTS:
 
     void cannotBeRepaired()
     {
-        // Shell commands, because they say it shortest.
         const std::pair<const char*, QString> rows[] = {
             {"mkdir \"$1\"", "it is not a file"},
             {"mkfifo \"$1\"", "it is not a file"}, // It never gets a writer.
@@ -165,7 +156,7 @@ private Q_SLOTS:
 
     void repairsAllOrNothing()
     {
-        // Of these each pass leaves something to the next one.
+        // Files that one pass does not repair completely.
         for (const char* content : {"[DBCache]\ncacheDirectory=/tmp///\n", "//=1\n"}) {
             store(m_file, content);
             QCOMPARE(run({"--repair", m_file}), 4);
@@ -218,7 +209,7 @@ private Q_SLOTS:
         QCOMPARE(shell("exec \"$0\" --help >/dev/full"), 2);
         QCOMPARE(shell("printf 'caf\\351' | \"$0\" -"), 3);
         QCOMPARE(shell("exec \"$0\" - <&-"), 0);
-        // It needs no display's libraries.
+        // It does without the libraries of a graphical program.
         QCOMPARE(shell("ldd \"$0\" | grep Core"), 0);
         QCOMPARE(shell("ldd \"$0\" | grep -E 'Widgets|Gui'"), 1);
     }
