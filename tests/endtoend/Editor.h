@@ -50,7 +50,7 @@ public:
         return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
     }
 
-    /// What a window shows as soon as nothing in it moves any more. Windows go by the numbers of the X tools.
+    /// What a window shows as soon as nothing in it moves any more. A window is named by its X11 id.
     static QImage picture(const QString& window)
     {
         const int stillTime = 250; // Milliseconds. Even a slow animation shows something new within them.

@@ -13,7 +13,7 @@ const char* const Window = "Torvane - Control Center";
 const char* const FatalError = "Torvane - Fatal Error";
 const char* const Question = "Settings Modification";
 
-// What the user does, and where that is in the layout of the windows.
+// What the user does, in the words of xdotool.
 const char* const ChooseLow = "mousemove --window %1 130 150 click 1 key Escape";
 const char* const ChooseLowAndOk =
     "mousemove --window %1 130 150 click 1 mousemove --window %1 440 224 click 1";

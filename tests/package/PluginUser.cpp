@@ -4,8 +4,6 @@
 #include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
 
-#include <QtTest>
-
 extern "C" Q_DECL_EXPORT void useControlCenter()
 {
     const char* const Image = ":/controlCenter/controlCenter/reset.png";

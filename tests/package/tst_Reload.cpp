@@ -1,5 +1,3 @@
-#include <QLibrary>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <dlfcn.h>
@@ -26,7 +24,7 @@ private Q_SLOTS:
                 return;
             QVERIFY2(plugin.unload(), qPrintable(plugin.errorString()));
             QVERIFY2(!dlopen(CONTROL_CENTER, RTLD_LAZY | RTLD_NOLOAD), "the library is still there");
-            // What was left behind in Qt would now be called.
+            // Calls what was left behind in Qt.
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
             QTest::qWait(0);
         }

@@ -6,7 +6,7 @@ namespace {
 const char* const Window = "Torvane Viewer";
 const char* const Box = "Settings Modification";
 
-// Where things are in the viewer's window, and what the user does there.
+// What the user does, in the words of xdotool.
 const char* const ClickButton = "mousemove --window %1 24 24 click 1";
 const char* const ClickSettings = "mousemove --window %1 150 112 click 1";
 const char* const ClickEdgeDetect = "mousemove --window %1 320 292 click 1";
