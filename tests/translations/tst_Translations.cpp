@@ -1,11 +1,9 @@
 #include "FakeApplication.h"
-#include "Files.h"
 #include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
 #include "ZelRendererSelector.h"
 #include "ZelSettingsPanel.h"
 
-#include <QtTest>
 #include <QtWidgets>
 
 using namespace zel;
