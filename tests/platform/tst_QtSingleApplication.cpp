@@ -20,7 +20,6 @@ const QStringList Patient = {"30000"};
 const int Starts = 40; // Each brings all of a graphical program with it.
 #else
 const int Starts = 200;
-const QStringList Impatient = {"300"};
 const uid_t OtherUser = 65534;
 const QStringList AsOther = {"30000", "65534"};
 #endif
@@ -204,7 +203,7 @@ private Q_SLOTS:
         // Now this process has the lock, as an instance has before it listens.
         const int lock = ::open(QFile::encodeName(find(m_runtime, "*.lock")).constData(), O_RDWR | O_CLOEXEC);
         QCOMPARE(::flock(lock, LOCK_EX | LOCK_NB), 0);
-        QCOMPARE(send("hasty", Impatient), QByteArray("failed"));
+        QCOMPARE(send("hasty", {"300"}), QByteArray("failed"));
         const auto patient = start("patient");
         QCOMPARE(patient->part(), QByteArray("client"));
         ::close(lock);
