@@ -1,9 +1,7 @@
-#include "FakeApplication.h"
 #include "SettingsKeys.h"
+#include "ShownPage.h"
 #include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
-
-#include <QtWidgets>
 
 #include <malloc.h>
 #include <random>
@@ -121,7 +119,7 @@ bool differ(const Values& left, const Values& right, const QString& page = QStri
 }
 
 /// A user who does random things in the stand-alone window, and a small model of the expected results.
-class Walk
+class Walk : private User
 {
 public:
     Walk(FakeApplication& application, std::mt19937& random)
@@ -130,6 +128,7 @@ public:
         , m_window(&application, nullptr, Qt::WindowFlags())
         , m_controlCenter(*m_window.findChild<ZelControlCenter*>())
     {
+        window = &m_window;
         m_window.show();
         for (const Field& field : Fields)
             m_stored[field.widget] = shownValue(find(field.widget));
@@ -143,9 +142,9 @@ public:
         if (choice < 75)
             edit(Fields[below(static_cast<int>(std::size(Fields)))]);
         else if (choice < 81)
-            click(find("applyButton"), m_shown, m_stored);
+            take(find("applyButton"), m_shown, m_stored);
         else if (choice < 85)
-            click(resetButton(), m_defaults, m_shown);
+            take(resetButton(), m_defaults, m_shown);
         else if (choice < 88)
             reopenDrawer();
         else if (choice < 91)
@@ -201,7 +200,6 @@ public:
 
 private:
     int below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(m_random); }
-    QWidget* find(const QString& name) { return m_window.findChild<QWidget*>(name); }
     QWidget* resetButton() { return find("frame_4")->findChild<QWidget*>("resetButton"); }
 
     void reload()
@@ -232,7 +230,7 @@ private:
             const auto group =
                 widget->parent()->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
             QWidget* clicked = radio ? group[below(group.size())] : widget;
-            QTest::mouseClick(clicked, Qt::LeftButton, Qt::NoModifier, QPoint(8, clicked->height() / 2));
+            click(clicked->objectName());
             value = radio ? clicked == widget : !before[field.widget].toBool();
         } else if (auto* box = qobject_cast<QAbstractSpinBox*>(widget)) {
             if (auto* integer = qobject_cast<QSpinBox*>(box))
@@ -262,7 +260,7 @@ private:
     }
 
     /// Clicks on Apply or Reset, which lets one state become the other.
-    void click(QWidget* button, const Values& from, Values& to)
+    void take(QWidget* button, const Values& from, Values& to)
     {
         const bool enabled = button->isEnabled();
         QTest::mouseClick(button, Qt::LeftButton);
