@@ -21,9 +21,8 @@ struct Program : QProcess
 class Desktop
 {
 public:
-    /// Takes a free display and puts it into the environment, so that this process can use it too. Returns
-    /// the reason when that fails, else nothing.
-    QString start()
+    /// Takes a free display and puts it into the environment, so that this process can use it too.
+    bool start()
     {
         for (QProcess* process : {&m_windowManager, &m_server})
             process->setStandardErrorFile(QProcess::nullDevice());
@@ -31,14 +30,14 @@ public:
         const QString server = "-screen 0 1000x800x24 -displayfd 1 -noreset -nolisten tcp";
         m_server.start("Xvfb", server.split(' '));
         if (!m_server.waitForReadyRead(Patience))
-            return "Xvfb does not start";
+            return false;
         qputenv("DISPLAY", ':' + m_server.readLine().trimmed());
 
         m_windowManager.start("openbox", {"--sm-disable"});
         const auto manages = [] {
             return ask("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains("window id");
         };
-        return QTest::qWaitFor(manages, Patience) ? QString() : "openbox does not start";
+        return QTest::qWaitFor(manages, Patience);
     }
 
     /// What a tool that sees the screen writes, without white space around it.
@@ -155,9 +154,8 @@ int runOnDesktop(int argc, char** argv)
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     qputenv("QT_XCB_GL_INTEGRATION", "none");
     Desktop desktop;
-    const QString problem = desktop.start();
-    if (!problem.isEmpty())
-        return qWarning("%s", qPrintable(problem)), 1;
+    if (!desktop.start())
+        return qWarning("Xvfb or openbox does not start"), 1;
     QApplication application(argc, argv);
     Test test;
     return QTest::qExec(&test, argc, argv);

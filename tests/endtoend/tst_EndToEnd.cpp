@@ -122,11 +122,9 @@ private Q_SLOTS:
         editor.act(OpenFolders);
         QTRY_VERIFY_WITH_TIMEOUT(editor.picture() != before, Patience);
         editor.act(TypeCacheSize + "512");
-        for (const char* key : {"key Escape", "key Return"}) {
-            editor.act(Close);
-            QVERIFY(editor.isAnswered(Question, key));
-            QVERIFY(editor.shows(Window));
-        }
+        editor.act(Close);
+        QVERIFY(editor.isAnswered(Question, "key Escape"));
+        QVERIFY(editor.shows(Window));
         editor.act(Apply);
         QTRY_COMPARE_WITH_TIMEOUT(stored()["DBCache/cacheSize"], QString("512"), Patience);
 
