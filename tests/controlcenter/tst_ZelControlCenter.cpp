@@ -428,8 +428,7 @@ private Q_SLOTS:
         auto* dialog = new QDialog(&page);
         QWidget* const readable[] = {new QLabel("text", &page), new QCheckBox("text", &page),
                                      new QRadioButton("text", &page), new QLabel("text", dialog)};
-        ZelControlCenter controlCenter(m_application.get(), nullptr, Qt::WindowFlags());
-        controlCenter.registerSettingsPanel(&page);
+        m_controlCenter->registerSettingsPanel(&page);
         for (QWidget* widget : readable) {
             widget->ensurePolished();
             const bool inDrawer = widget->window() != dialog;
