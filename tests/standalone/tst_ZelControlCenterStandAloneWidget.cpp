@@ -5,7 +5,6 @@
 #include "ZelSettingsPanel.h"
 
 using zel::ZelControlCenterStandAloneWidget;
-using zel::ZelSettingsPanel;
 
 namespace {
 
@@ -34,7 +33,7 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(&m_window));
         QTRY_VERIFY(m_window.findChild<zel::ZelControlCenter*>()->isSettingsOpen());
         QMap<int, QString> pages;
-        for (const ZelSettingsPanel* page : m_window.findChildren<ZelSettingsPanel*>())
+        for (const auto* page : m_window.findChildren<zel::ZelSettingsPanel*>())
             pages.insert(page->y(), page->getPanelName());
         QCOMPARE(QStringList(pages.values()).join(' '),
                  QString("Display Folders Simplification Tessellation About"));

@@ -26,11 +26,9 @@ QSize neededSize(const QWidget& widget)
 {
     if (auto* button = qobject_cast<const QAbstractButton*>(&widget))
         return button->text().isEmpty() ? QSize() : button->minimumSizeHint();
-    if (auto* label = qobject_cast<const QLabel*>(&widget))
-        return label->wordWrap()
-                   ? QSize(label->minimumSizeHint().width(), label->heightForWidth(label->width()))
-                   : label->sizeHint();
-    if (widget.inherits("QAbstractSpinBox") || widget.inherits("QComboBox"))
+    if (auto* label = qobject_cast<const QLabel*>(&widget); label && label->wordWrap())
+        return QSize(label->minimumSizeHint().width(), label->heightForWidth(label->width()));
+    if (widget.inherits("QLabel") || widget.inherits("QAbstractSpinBox") || widget.inherits("QComboBox"))
         return widget.sizeHint();
     return widget.inherits("QGroupBox") ? widget.minimumSizeHint() : QSize();
 }

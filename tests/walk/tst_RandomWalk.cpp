@@ -313,9 +313,7 @@ private:
 
 /// Edits, applies, resets, reopenings and scrolls in random order. Window and file must follow the model
 /// after each step; no resource may have grown after each round; none may be left after the window is
-/// closed.
-///
-/// The environment variables WALK_SEED and WALK_ROUNDS make another walk, or a longer one.
+/// closed. The environment variables WALK_SEED and WALK_ROUNDS make another walk, or a longer one.
 class tst_RandomWalk : public QObject
 {
     Q_OBJECT
