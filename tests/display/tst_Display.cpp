@@ -155,22 +155,6 @@ private Q_SLOTS:
         QCOMPARE(viewer.renderer.triangles, QList<quint64>{50000});
     }
 
-    void labelsAndMarksTheSliders()
-    {
-        Viewer viewer({{"engine", "software"}, {"raytracer/coreNumber", "0"}});
-        Display display(viewer);
-        QCOMPARE(display.text("coreUsedLabel"), QString("0 core"));
-        for (const char* text : {"2 cores", "1 core"}) {
-            display.slide("coreUsedSlider", text[0] - '1');
-            QCOMPARE(display.text("coreUsedLabel"), QString(text));
-        }
-        const QImage image = display.find("qualitySlider")->grab().toImage();
-        int marks = 0;
-        for (int x = 1; x < image.width() - 1; ++x)
-            marks += image.pixelColor(x, image.height() - 4) == Qt::white;
-        QCOMPARE(marks, 4);
-    }
-
     void selectorChoosesByMouseAndKeyboard()
     {
         zel::ZelRendererSelector selector(nullptr, Qt::WindowFlags());
@@ -205,6 +189,22 @@ private Q_SLOTS:
         QTest::keyClick(selector.focusWidget(), Qt::Key_Return); // Wherever the focus is.
         QVERIFY(!selector.isVisible() && !selector.useGPURenderer());
         QCOMPARE(selector.result(), int(QDialog::Accepted));
+    }
+
+    void labelsAndMarksTheSliders()
+    {
+        Viewer viewer({{"engine", "software"}, {"raytracer/coreNumber", "0"}});
+        Display display(viewer);
+        QCOMPARE(display.text("coreUsedLabel"), QString("0 core"));
+        for (const char* text : {"2 cores", "1 core"}) {
+            display.slide("coreUsedSlider", text[0] - '1');
+            QCOMPARE(display.text("coreUsedLabel"), QString(text));
+        }
+        const QImage image = display.find("qualitySlider")->grab().toImage();
+        int marks = 0;
+        for (int x = 1; x < image.width() - 1; ++x)
+            marks += image.pixelColor(x, image.height() - 4) == Qt::white;
+        QCOMPARE(marks, 4);
     }
 };
 

@@ -3,6 +3,9 @@
 #include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
 
+#include <QtTest>
+#include <QtWidgets>
+
 #include <malloc.h>
 #include <random>
 
@@ -23,9 +26,9 @@ struct Census
             if (!QAbstractEventDispatcher::instance()->registeredTimers(object).isEmpty())
                 withTimer << object->metaObject()->className();
         objects = all.size();
-        descriptors = QDir("/proc/self/fd").entryList(QDir::AllEntries | QDir::System).size();
+        descriptors = int(QDir("/proc/self/fd", "", {}, QDir::AllEntries | QDir::System).count());
         const auto use = mallinfo2(); // Zeros under a sanitizer, which finds leaks by itself.
-        heap = static_cast<qint64>(use.uordblks + use.hblkhd);
+        heap = qint64(use.uordblks + use.hblkhd);
     }
 
     int objects, descriptors; ///< QObjects that windows and the application own; files, sockets and pipes.
