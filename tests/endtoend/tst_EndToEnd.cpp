@@ -14,7 +14,7 @@ const char* const FatalError = "Torvane - Fatal Error";
 const char* const Question = "Settings Modification";
 
 // What the user does, in the words of xdotool.
-const char* const ChooseLow = "mousemove --window %1 130 150 click 1 key Escape";
+const char* const ChooseLowAndCancel = "mousemove --window %1 130 150 click 1 key Escape";
 const char* const ChooseLowAndOk =
     "mousemove --window %1 130 150 click 1 mousemove --window %1 440 224 click 1";
 const char* const CloseSelector = "mousemove --window %1 489 28 click 1";
@@ -46,7 +46,7 @@ const struct Start
 } Starts[] = {
     {"Enter", "", Selector, "key Return", Window, {{"engine", "deferred"}}},
     {"Low", "", Selector, ChooseLowAndOk, Window, {{"engine", "software"}}},
-    {"Escape", "", Selector, ChooseLow, Selector, {}},
+    {"Escape", "", Selector, ChooseLowAndCancel, Selector, {}},
     {"close button", "", Selector, CloseSelector, Selector, {}},
     {"version 1", Version1, "", "", Window, {{"language", "xx"}, {"Own/thing", "\303\274"}}},
     {"no version", NoVersion, FrenchSelector, "key Return", FrenchWindow, {{"language", "fr"}}},

@@ -4,8 +4,7 @@
 #include <QtTest>
 #include <QtWidgets>
 
-/// Answers the message boxes that open while it lives: by a click on a button, or by a key. Keeps their
-/// texts.
+/// Answers the message boxes that open while it lives, by a click or a key. Keeps their texts.
 class BoxAnswer : public QTimer
 {
 public:
