@@ -8,6 +8,7 @@
 #include "ZelSettingsApplication.h"
 #include "ZelSettingsFile.h"
 #include "base/ZelQtCompat.h"
+#include "base/ZelSystemCompat.h"
 
 #include "platform/MTLogger.h"
 #include "platform/kqDMIApplication.h"
