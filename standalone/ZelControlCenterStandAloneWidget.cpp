@@ -96,7 +96,7 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
     for (const auto& panel : m_panels)
         m_controlCenter->registerSettingsPanel(panel.get());
     m_ui->helpArea->follow(m_controlCenter->settingsWidget());
-    connect(m_controlCenter.get(), SIGNAL(evaluated()), m_ui->helpArea, SLOT(refresh()));
+    connect(m_controlCenter.get(), SIGNAL(pagesChanged()), m_ui->helpArea, SLOT(refresh()));
 
     createActions();
     orderFocus();

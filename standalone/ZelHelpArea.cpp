@@ -57,7 +57,7 @@ void ZelHelpArea::follow(QWidget* tree)
     for (ZelPageHelp* page : pages) {
         connect(page, SIGNAL(reached(QWidget*)), this, SLOT(showField(QWidget*)));
         connect(page, SIGNAL(edited()), this, SLOT(refresh()));
-        page->setShown(!m_ui->helpFrame->isHidden());
+        page->setHelpAreaVisible(!m_ui->helpFrame->isHidden());
         m_pages << page;
         // A page may also change by its buttons.
         connect(page->parent(), SIGNAL(stateChanged()), this, SLOT(refresh()));
@@ -115,7 +115,7 @@ void ZelHelpArea::resizeEvent(QResizeEvent* event)
     m_ui->helpFrame->setVisible(fits);
     for (const QPointer<ZelPageHelp>& page : m_pages)
         if (page)
-            page->setShown(fits);
+            page->setHelpAreaVisible(fits);
     QWidget::resizeEvent(event);
 }
 
