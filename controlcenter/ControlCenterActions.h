@@ -15,10 +15,9 @@ class QWidget;
 
 namespace zel {
 
-/// The keyboard commands of the control center, as actions. They have no shortcuts, so that they clash with
-/// none of the application, which may set some. Keys that no other widget takes work without a shortcut:
-/// Escape undoes typing, and Page Up, Page Down, Home and End scroll the drawer while the focus is in the
-/// column.
+/// The keyboard commands of the control center, as actions. They have no shortcuts, which could clash with
+/// those of the application; it may set some. Keys that no other widget takes work without a shortcut: Escape
+/// undoes typing, and Page Up, Page Down, Home and End scroll the drawer while the column has the focus.
 ///
 /// The column and the drawer both have the actions, and their shortcuts work while the focus is in one of the
 /// two. The column owns this object.

@@ -128,8 +128,8 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 public Q_SLOTS:
-    /// Slides the menu column open or closed. Closing discards pending edits; in the viewer it asks the user
-    /// first, who may keep the menu open.
+    /// Slides the menu column open or closed. Closing discards pending edits; in the viewer the user is asked
+    /// first and may keep the menu open.
     void openMenu(bool open);
     /// Shows the list of pages and opens the drawer, or closes both.
     void setControlCenterVisible(bool visible);
