@@ -14,7 +14,7 @@ namespace {
 std::filesystem::path executablePath(std::error_code& error)
 {
 #if defined(_WIN32)
-    std::wstring path(32768, L'\0'); // The longest path of the system.
+    std::wstring path(32768, L'\0'); // The longest path that Windows knows.
     path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
     if (path.empty())
         error = std::error_code(static_cast<int>(GetLastError()), std::system_category());

@@ -3,8 +3,8 @@
 
 namespace zel {
 
-/// Makes the folder above the executable's folder the working directory: Qt's plug-ins and the translations
-/// are found relative to it. False when the operating system does not allow it.
+/// Makes the parent of the executable's folder the working directory: the paths of Qt's plug-ins and of the
+/// translations are relative to it. False when the system does not allow it.
 bool enterApplicationRoot();
 
 } // namespace zel

@@ -11,7 +11,8 @@ void zel::protectStandardStreams()
 {
 #if !defined(_WIN32)
     for (int descriptor = STDIN_FILENO; descriptor <= STDERR_FILENO; ++descriptor) {
-        // The lowest free number is taken, which is this one. What is written to it fails.
+        // open() takes the lowest free descriptor, which is this one. With the opposite mode every use of
+        // the stream still fails.
         if (::fcntl(descriptor, F_GETFD) == -1 && errno == EBADF)
             ::open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);
     }

@@ -3,9 +3,9 @@
 
 namespace zel {
 
-/// Opens the standard streams that the process was started without on the null device, because the first
-/// files or connections that it opens would else take their places, and lets no reader that has gone end the
-/// process. To be called first of all.
+/// Opens each standard stream that is closed on the null device: otherwise the next file or socket gets its
+/// descriptor, and output to the stream goes there. Also ignores SIGPIPE, so that a closed pipe is an error
+/// of the write instead of the end of the process. Call it first in main(). Does nothing on Windows.
 void protectStandardStreams();
 
 } // namespace zel

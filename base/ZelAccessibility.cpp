@@ -10,7 +10,7 @@
 
 namespace {
 
-// Dynamic properties of a widget; the interface of a widget that has none of them is Qt's own.
+// Dynamic properties of the widgets that this file serves; all other widgets keep Qt's own interface.
 const char* const ValueProperty = "announcedValue";
 const char* const ChosenProperty = "announcedAsChosen";
 const char* const UnannouncedProperty = "unannounced";
@@ -46,8 +46,8 @@ public:
         if (kind == QAccessible::Value)
             return value;
         const QString own = QAccessibleWidget::text(kind);
-        // On desktops where a value can only be a number, its text is told here.
-        if (kind == QAccessible::Description && m_slider && TextOfValueIsLost)
+        // AT-SPI carries values as numbers only, so the text goes into the description.
+        if (kind == QAccessible::Description && m_slider && ValuesAreNumbersOnly)
             return value + ". " + own;
         return own;
     }
@@ -89,38 +89,34 @@ public:
 
 private:
 #    if defined(Q_OS_WIN)
-    static const bool TextOfValueIsLost = false;
+    static const bool ValuesAreNumbersOnly = false;
 #    else
-    static const bool TextOfValueIsLost = true;
+    static const bool ValuesAreNumbersOnly = true;
 #    endif
 
     QSlider* const m_slider;
 };
 
-/// Setting up a form already makes interfaces, which are kept.
-void forgetInterface(QWidget& widget)
+/// Setting up a form already creates interfaces, and Qt caches them.
+void dropCachedInterface(QWidget& widget)
 {
-    QAccessibleInterface* kept = QAccessible::queryAccessibleInterface(&widget);
-    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(kept));
+    QAccessibleInterface* cached = QAccessible::queryAccessibleInterface(&widget);
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(cached));
 }
 
-void tellValue(QWidget& widget)
+const QAccessible::Event ValueTextChanged = QAccessible::DescriptionChanged;
+
+void notify(QWidget& widget, QAccessible::Event type)
 {
-    QAccessibleEvent event(&widget, QAccessible::DescriptionChanged);
+    QAccessibleEvent event(&widget, type);
     QAccessible::updateAccessibility(&event);
 }
 
-void tellState(QWidget& widget)
+void notifyStateChanged(QWidget& widget)
 {
     QAccessible::State changed;
     changed.checked = true;
     QAccessibleStateChangeEvent event(&widget, changed);
-    QAccessible::updateAccessibility(&event);
-}
-
-void tellProblem(QWidget& widget)
-{
-    QAccessibleEvent event(&widget, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
 }
 
@@ -151,23 +147,20 @@ public:
     }
 };
 
-void forgetInterface(QWidget&)
+void dropCachedInterface(QWidget&)
 {
 }
 
-void tellValue(QWidget& widget)
+const QAccessible::Event ValueTextChanged = QAccessible::ValueChanged;
+
+void notify(QWidget& widget, QAccessible::Event type)
 {
-    QAccessible::updateAccessibility(&widget, 0, QAccessible::ValueChanged);
+    QAccessible::updateAccessibility(&widget, 0, type);
 }
 
-void tellState(QWidget& widget)
+void notifyStateChanged(QWidget& widget)
 {
-    QAccessible::updateAccessibility(&widget, 0, QAccessible::StateChanged);
-}
-
-void tellProblem(QWidget& widget)
-{
-    QAccessible::updateAccessibility(&widget, 0, QAccessible::Alert);
+    notify(widget, QAccessible::StateChanged);
 }
 
 #endif
@@ -181,7 +174,7 @@ QAccessibleInterface* createInterface(const QString&, QObject* object)
     return nullptr;
 }
 
-/// Taken back when the library is unloaded.
+/// Removes the factory when the library is unloaded.
 struct Factory
 {
     Factory() { QAccessible::installFactory(&createInterface); }
@@ -192,7 +185,7 @@ void announce(QWidget& widget, const char* property, const QVariant& value)
 {
     static const Factory factory;
     if (!widget.property(property).isValid())
-        forgetInterface(widget);
+        dropCachedInterface(widget);
     widget.setProperty(property, value);
 }
 
@@ -201,13 +194,13 @@ void announce(QWidget& widget, const char* property, const QVariant& value)
 void zel::announceValue(QSlider& slider, const QString& text)
 {
     announce(slider, ValueProperty, text);
-    tellValue(slider);
+    notify(slider, ValueTextChanged);
 }
 
 void zel::announceChoice(QLabel& label, bool chosen)
 {
     announce(label, ChosenProperty, chosen);
-    tellState(label);
+    notifyStateChanged(label);
 }
 
 void zel::leaveUnannounced(QWidget& widget)
@@ -217,5 +210,5 @@ void zel::leaveUnannounced(QWidget& widget)
 
 void zel::alertAbout(QWidget& widget)
 {
-    tellProblem(widget);
+    notify(widget, QAccessible::Alert);
 }

@@ -7,21 +7,21 @@ class QLabel;
 class QSlider;
 class QWidget;
 
-// What assistive technology is told where Qt's own answer is not enough. The first call for a widget has to
-// come before the widget is shown.
+// What screen readers say of a widget where Qt's own answer is not enough. Make the first call for a widget
+// before the widget is shown.
 
 namespace zel {
 
-/// Announces the value of a slider by a text instead of a number.
+/// Announces the value of a slider as a text instead of a number.
 void announceValue(QSlider& slider, const QString& text);
 
-/// Announces a label as one of several choices, of which one is chosen. Pressing it is a press of Space.
+/// Announces a label as a radio button. To press it sends the label the key Space.
 void announceChoice(QLabel& label, bool chosen);
 
-/// Leaves out a widget that says nothing of its own, because another one says it for it.
+/// Hides a widget from screen readers, because another widget already says the same.
 void leaveUnannounced(QWidget& widget);
 
-/// Has a widget read out at once, because it tells of a problem.
+/// Reads a widget out at once, because it shows an error.
 void alertAbout(QWidget& widget);
 
 } // namespace zel

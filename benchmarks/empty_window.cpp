@@ -1,5 +1,5 @@
-// The baseline of a start: Qt and an empty window.
-//   empty_window [PLUGINS]    the folder of Qt's plug-ins; Qt's own unless given
+// The baseline of a start: an empty Qt window.
+//   empty_window [PLUGINS]    loads the plug-ins of that folder instead of all of Qt's
 
 #include <QApplication>
 #include <QWidget>

@@ -1,12 +1,11 @@
-// Starts a program and measures, from outside, the time until its window is painted and its memory:
+// Starts a program and measures the time until its window is painted, and its memory:
 //   first_frame COMMAND [ARGUMENT...]
-// prints the time in milliseconds, and the peak of the resident memory in kilobytes once the window is at
-// rest.
+// prints the time in milliseconds and, one second later, the peak of the resident memory in kilobytes.
 //
-// Qt's windows have no background of their own, so a new window shows what was on the screen before.
-// The screen is therefore filled with a colour that nothing else uses; the first frame is complete when that
-// colour is gone from the middle row and the middle column of the window. The display must have no window
-// manager, which would put its own frame around the window.
+// A new Qt window shows what was on the screen before, because it has no background. So this program fills
+// the screen with a colour that nothing else uses. The first frame is complete when that colour is gone from
+// the middle row and the middle column of the window. A window manager would add a frame, so there must be
+// none.
 
 #include <algorithm>
 #include <chrono>
@@ -26,10 +25,10 @@ namespace {
 using Clock = std::chrono::system_clock;
 
 const uint32_t Unpainted = 0xff00ff;
-const int SmallestWindow = 100; // Pixels; smaller windows are not the user's.
+const int MinimumWindowSize = 100; // pixels; smaller windows are helpers of Qt
 const auto PollInterval = std::chrono::microseconds(500);
-const auto Patience = std::chrono::seconds(30);
-const auto UntilRest = std::chrono::milliseconds(1000); // The slides take 350 ms.
+const auto Timeout = std::chrono::seconds(30);
+const auto SlideTime = std::chrono::milliseconds(1000); // more than the 350 ms of the slides
 
 template <class T>
 using Reply = std::unique_ptr<T, decltype(&std::free)>;
@@ -60,11 +59,11 @@ bool hasEnded(pid_t process)
     return waitpid(process, nullptr, WNOHANG) == process;
 }
 
-/// The program's window; none if the program has ended or takes too long.
+/// Waits for the window of the program. False when the program ends first or takes too long.
 bool awaitWindow(xcb_connection_t* display, pid_t process, xcb_get_geometry_reply_t& geometry,
                  xcb_window_t& window)
 {
-    const auto deadline = Clock::now() + Patience;
+    const auto deadline = Clock::now() + Timeout;
     while (Clock::now() < deadline && !hasEnded(process)) {
         while (const Reply<xcb_generic_event_t> event{xcb_poll_for_event(display), &std::free}) {
             if ((event->response_type & 0x7f) != XCB_MAP_NOTIFY)
@@ -72,7 +71,7 @@ bool awaitWindow(xcb_connection_t* display, pid_t process, xcb_get_geometry_repl
             window = reinterpret_cast<xcb_map_notify_event_t*>(event.get())->window;
             const Reply<xcb_get_geometry_reply_t> reply{
                 xcb_get_geometry_reply(display, xcb_get_geometry(display, window), nullptr), &std::free};
-            if (!reply || reply->width < SmallestWindow || reply->height < SmallestWindow)
+            if (!reply || reply->width < MinimumWindowSize || reply->height < MinimumWindowSize)
                 continue;
             geometry = *reply;
             return true;
@@ -94,7 +93,8 @@ bool isPainted(xcb_connection_t* display, xcb_window_t window, int x, int y, int
     if (!image)
         return false;
     const auto* pixels = reinterpret_cast<const uint32_t*>(xcb_get_image_data(image.get()));
-    return std::none_of(pixels, pixels + xcb_get_image_data_length(image.get()) / int(sizeof(uint32_t)),
+    return std::none_of(pixels,
+                        pixels + xcb_get_image_data_length(image.get()) / static_cast<int>(sizeof(uint32_t)),
                         [](uint32_t pixel) { return (pixel & 0xffffff) == Unpainted; });
 }
 
@@ -104,7 +104,7 @@ bool awaitFirstFrame(xcb_connection_t* display, pid_t process)
     xcb_window_t window = XCB_NONE;
     if (!awaitWindow(display, process, area, window))
         return false;
-    const auto deadline = Clock::now() + Patience;
+    const auto deadline = Clock::now() + Timeout;
     while (Clock::now() < deadline && !hasEnded(process)) {
         if (isPainted(display, window, 0, area.height / 2, area.width, 1) &&
             isPainted(display, window, area.width / 2, 0, 1, area.height))
@@ -139,7 +139,7 @@ int main(int argc, char** argv)
     const bool painted = awaitFirstFrame(display, process);
     const std::chrono::duration<double, std::milli> elapsed = Clock::now() - before;
     if (painted) {
-        std::this_thread::sleep_for(UntilRest);
+        std::this_thread::sleep_for(SlideTime);
         std::printf("%.1f %s\n", elapsed.count(), peakMemory(process).c_str());
     } else {
         std::fprintf(stderr, "first_frame: %s shows no window\n", argv[1]);

@@ -1,9 +1,8 @@
 """Makes the tables of docs/benchmarks.md: report.py RESULTS INSIDE README
 
-One line of them goes into the README, between its lines "<!-- speed -->" and "<!-- /speed -->".
+Also puts a summary into the README, between its lines "<!-- speed -->" and "<!-- /speed -->".
 
-RESULTS holds lines "name <tab> number", several for what was measured several times; INSIDE is the output of
-settings_benchmark in its JSON form.
+RESULTS has lines "name <tab> number", one for each measurement; INSIDE is the JSON output of settings_benchmark.
 """
 import collections
 import json
@@ -34,7 +33,7 @@ def read_inside(path):
 
 
 def slides(results, size, kind, name):
-    """What each of the runs of slides noted under a name."""
+    """The numbers of a name, for each run of slides."""
     return [numbers for key, numbers in results.items()
             if key.startswith(f"{size} {kind} ") and key.endswith(" " + name)]
 
@@ -50,13 +49,13 @@ def time_text(seconds):
     return text(seconds * factor, unit)
 
 
-def row(what, ours, base, show, most_ratio=None, most=None):
+def row(what, ours, base, show, maximum_ratio=None, maximum=None):
     ratio = ours / base
     limit, met = "", ""
-    if most_ratio is not None:
-        limit, met = f"{most_ratio} times", ratio <= most_ratio
-    elif most is not None:
-        limit, met = show(most), ours <= most
+    if maximum_ratio is not None:
+        limit, met = f"{maximum_ratio} times", ratio <= maximum_ratio
+    elif maximum is not None:
+        limit, met = show(maximum), ours <= maximum
     met = {True: "yes", False: "**no**"}.get(met, "")
     return f"| {what} | {show(ours)} | {show(base)} | {ratio:.2f} | {limit} | {met} |"
 
@@ -76,32 +75,32 @@ def main():
         return MEDIAN(results[name]) / 1e3
 
     rows = [row("Start to the first painted frame, beside an empty Qt window",
-                seconds("start torvane"), seconds("start empty"), time_text, most_ratio=1.5),
+                seconds("start torvane"), seconds("start empty"), time_text, maximum_ratio=1.5),
             row("– beside an empty window that loads no more plug-ins than the editor",
                 seconds("start torvane"), seconds("start empty, same plug-ins"), time_text)]
     for name, limit in (("empty", 1.25), ("empty, same plug-ins", None)):
         rows.append(row("Peak of the memory, beside an empty Qt window" if limit else "– with the same plug-ins",
                         MEDIAN(results["memory torvane"]) / 1024, MEDIAN(results["memory " + name]) / 1024,
-                        lambda number: text(number, "MB"), most_ratio=limit))
+                        lambda number: text(number, "MB"), maximum_ratio=limit))
     for keys in (10, 1000, 100000):
         rows.append(row(f"Validation pass over {keys:,} keys, beside plain reading and writing",
-                        inside[f"pass/{keys}"], inside[f"plain/{keys}"], time_text, most_ratio=1.2))
+                        inside[f"pass/{keys}"], inside[f"plain/{keys}"], time_text, maximum_ratio=1.2))
         rows.append(row("– with all that protects the file, as a start does it",
                         inside[f"repair/{keys}"], inside[f"plain/{keys}"], time_text))
     growth = [inside[f"{name}/100000"] / inside[f"{name}/1000"] / 100 for name in ("pass", "plain")]
     rows.append(row("– growth of the time for one key from 1,000 to 100,000 keys", *growth,
                     lambda number: text(number, "times")))
     rows.append(row("One edit with five pages, beside a spin box alone", inside["edit"], inside["edit alone"],
-                    time_text, most=1e-3))
+                    time_text, maximum=1e-3))
     for size in ("800 600", "1400 1000"):
         where = size.replace(" ", " × ")
-        for name, what, most, measure in (
+        for name, what, maximum, measure in (
                 ("opening", "First opening of the drawer until it is seen", None, MEDIAN),
                 ("cost", "Most expensive frame of all slides, processor time", 0.016, max),
                 ("interval", "From one frame to the next", None, MEDIAN)):
             ours, base = (measure([number for run in slides(results, size, kind, name) for number in run]) / 1e3
                           for kind in ("torvane", "plain"))
-            rows.append(row(f"{what}, {where}", ours, base, time_text, most=most))
+            rows.append(row(f"{what}, {where}", ours, base, time_text, maximum=maximum))
 
     heading = "| what | Torvane | baseline | ratio | at most | met |\n|---|--:|--:|--:|--:|---|"
     update_readme(sys.argv[3],

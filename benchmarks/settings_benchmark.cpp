@@ -1,5 +1,5 @@
-// Measures inside the process: the validation pass beside plain reading and writing of the same file, and one
-// edit beside the same edit of a spin box without connections.
+// Measures the validation pass beside plain reading and writing of the same file, and one edit on a page
+// beside the same edit of a plain spin box.
 
 #include "ZelAboutSettingsPanel.h"
 #include "ZelControlCenter.h"
@@ -20,7 +20,7 @@ namespace {
 
 using V = ZelSettingsValidators;
 
-/// The kinds of settings, in the numbers in which the library has them.
+/// The kinds of settings, and how many of each the library has.
 const struct
 {
     int count;
@@ -70,8 +70,8 @@ public:
 
     QString path() const { return m_folder.filePath("Settings.ini"); }
 
-    /// Writes the file again, with another time each time, so that QSettings cannot answer from what it
-    /// remembers of it.
+    /// Writes the file again, each time with a new time stamp, so that QSettings does not answer from its
+    /// cache.
     void restore() const
     {
         QFile::remove(path());
@@ -91,7 +91,7 @@ private:
 template <void (*Run)(QSettings&)>
 void readAndWrite(benchmark::State& state)
 {
-    const ManySettings many(int(state.range(0)));
+    const ManySettings many(static_cast<int>(state.range(0)));
     for (auto _ : state) {
         many.restore();
         const auto start = std::chrono::steady_clock::now();
@@ -120,7 +120,7 @@ void pass(QSettings& settings)
         qFatal("the validation pass fails");
 }
 
-/// The pass of a start, with everything that protects the file.
+/// The pass with all that protects the file, as a start runs it.
 void repair(QSettings& settings)
 {
     QString error;

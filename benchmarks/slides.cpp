@@ -1,9 +1,9 @@
-// Measures the drawer of the stand-alone window: how long it takes until it is seen for the first time, and
-// how smoothly menu and drawer slide.
+// Measures the stand-alone window: the time until the drawer appears for the first time, and how smoothly
+// menu and drawer slide.
 //   slides WIDTH HEIGHT [--plain]
-// prints "name <tab> milliseconds" for the first opening and for every frame of the slides: its cost, which
-// is the processor time spent on it, and the interval since the previous frame. --plain slides the same
-// number of plain Qt widgets instead.
+// prints "name <tab> milliseconds" for the first opening, and for every frame of the slides its cost
+// (processor time) and the interval since the previous frame. --plain slides as many plain Qt widgets
+// instead.
 
 #include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
@@ -21,16 +21,15 @@ const int SlideTime = 350; // ms
 const int RestTime = 250;  // ms
 const int Repetitions = 3;
 
-/// The processor time of this thread, which other processes do not disturb.
+/// The processor time of this thread in milliseconds, which does not depend on other processes.
 double processorTime()
 {
     timespec time;
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
 }
 
-/// Notes the frames of a window. A frame ends when the process has nothing left to do after the window was
-/// painted.
+/// Records the frames of a window. A frame ends when the event loop waits after a paint event.
 class FrameWatch : public QObject
 {
 public:
@@ -65,7 +64,7 @@ private:
     {
         if (!m_painted)
             return;
-        const double cost = processorTime(), now = double(m_clock.nsecsElapsed()) / 1e6;
+        const double cost = processorTime(), now = static_cast<double>(m_clock.nsecsElapsed()) / 1e6;
         frames.append({now, cost - m_cost});
         m_cost = cost;
         if (m_drawerPainted && drawerSeen == 0)
@@ -149,7 +148,7 @@ void measurePlain(int widgets, const QSize& size)
 
     auto* content = new QWidget;
     auto* rows = new QFormLayout(content);
-    // A spin box has a line edit of its own.
+    // A row has three widgets: a label, a spin box and its line edit.
     for (int row = 0; row < widgets / 3; ++row)
         rows->addRow(QString("Row %1").arg(row), new QSpinBox);
     drawer.setWidget(content);

@@ -1,6 +1,5 @@
-// Measures the stages of a start: takes the same steps as launch() and prints the time of each, in
-// milliseconds, as "stage <tab> time". first_frame starts it and sets the time that the first stage begins
-// at.
+// Measures the stages of a start: takes the steps of launch() and prints "stage <tab> milliseconds" for each.
+// first_frame starts this program and passes the time at which the first stage begins.
 //   startup_stages [--pages]    measures the control center and each page instead of the window
 
 #include "ZelAboutSettingsPanel.h"
@@ -36,7 +35,7 @@ public:
     {
         using namespace std::chrono;
         const qint64 now = duration_cast<nanoseconds>(system_clock::now().time_since_epoch()).count();
-        m_lines << QString("%1\t%2").arg(stage).arg(double(now - m_last) / 1e6, 0, 'f', 2);
+        m_lines << QString("%1\t%2").arg(stage).arg(static_cast<double>(now - m_last) / 1e6, 0, 'f', 2);
         m_last = now;
     }
 

@@ -19,7 +19,7 @@ const struct Command
     const char* name;
     const char* text;
     const char* slot;
-    int columnKey; ///< The key that triggers it from the column, if any.
+    int columnKey; ///< The key that triggers it while the focus is in the column; 0 for none.
     QAbstractSlider::SliderAction scrolling;
 } Commands[] = {
     {"help", QT_TRANSLATE_NOOP("ZelControlCenter", "Help on this setting"), SLOT(requestHelp()), 0,
@@ -41,7 +41,7 @@ QString translated(const char* text)
     return QCoreApplication::translate("ZelControlCenter", text);
 }
 
-/// Clicks a button, and is enabled exactly while the button is.
+/// Clicks a button and is enabled whenever the button is.
 class ButtonAction : public QAction
 {
 public:
@@ -76,7 +76,7 @@ ControlCenterActions::ControlCenterActions(QWidget* column, QScrollArea* drawer,
 
     add("apply", new ButtonAction(apply));
     add("reset", new ButtonAction(reset));
-    // The focus may stay in a field, whose value is then no longer one that is being typed.
+    // The focus may stay in a field; Escape must not restore what it showed before the click.
     connect(apply, SIGNAL(clicked()), this, SLOT(rememberField()));
     connect(reset, SIGNAL(clicked()), this, SLOT(rememberField()));
     for (const Command& command : Commands) {
@@ -105,7 +105,7 @@ bool ControlCenterActions::eventFilter(QObject* watched, QEvent* event)
     const auto* key = static_cast<QKeyEvent*>(event);
     if (event->type() == QEvent::KeyPress)
         return press(*key, watched == m_column);
-    // A number that is being typed counts before a shortcut is looked up: "Apply" depends on it.
+    // Reads a half-typed number before Qt looks up the shortcut: only an edit enables "Apply".
     if (m_field && (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier)))
         m_field->interpretText();
     return false;
@@ -117,7 +117,7 @@ bool ControlCenterActions::press(const QKeyEvent& event, bool inColumn)
     if (modifiers != Qt::NoModifier)
         return false;
     if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
-        rememberField(); // Qt's fields take over what was typed, and let the key pass.
+        rememberField(); // QAbstractSpinBox takes the typed value and passes the key on.
     if (event.key() == Qt::Key_Escape && m_field && m_field->text() != m_text) {
         m_putBack->trigger();
         return true;

@@ -15,13 +15,12 @@ class QWidget;
 
 namespace zel {
 
-/// What the keyboard does in the control center, each thing as an action that an application can give
-/// shortcuts of its own. By themselves the actions have none, so that they clash with nothing; but a key
-/// press that nothing else takes puts back what is being typed (Escape), and scrolls the drawer from the
-/// column (Page Up, Page Down, Home, End).
+/// The keyboard commands of the control center, as actions. They have no shortcuts, which could clash with
+/// those of the application; it may set some. Keys that no other widget takes work without a shortcut: Escape
+/// undoes typing, and Page Up, Page Down, Home and End scroll the drawer while the column has the focus.
 ///
-/// The actions belong to the column and to the drawer, and their shortcuts work while one of these two has
-/// the focus. Belongs to the column.
+/// The column and the drawer both have the actions, and their shortcuts work while the focus is in one of the
+/// two. The column owns this object.
 class ControlCenterActions : public QObject
 {
     Q_OBJECT
@@ -32,28 +31,28 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The user wants to know about a field; null when no field has the focus.
+    /// The user asks for help on a field; null when no field of the drawer has the focus.
     void helpRequested(QWidget* field);
 
 private Q_SLOTS:
-    void onFocusChanged(QWidget* former, QWidget* current);
-    /// Takes what a field shows for what Escape puts back.
+    void onFocusChanged(QWidget* previous, QWidget* current);
+    /// Stores what the focused field shows, for Escape to restore.
     void rememberField();
     void putBack();
     void requestHelp();
     void scroll();
 
 private:
-    /// Takes the action over.
+    /// Becomes the owner of the action.
     QAction* add(const char* name, QAction* action);
     bool press(const QKeyEvent& event, bool inColumn);
 
     QWidget* const m_column;
     const QPointer<QScrollArea> m_drawer;
     QAction* m_putBack;
-    QPointer<QAbstractSpinBox> m_field; ///< The number field that has the focus.
-    QVariant m_value;                   ///< What it held before the user began to type.
-    QString m_text;                     ///< How it showed that.
+    QPointer<QAbstractSpinBox> m_field; ///< The spin box with the focus, if any.
+    QVariant m_value;                   ///< Its value before the user typed.
+    QString m_text;                     ///< Its text before the user typed.
 };
 
 } // namespace zel

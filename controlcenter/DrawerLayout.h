@@ -7,47 +7,46 @@
 
 namespace zel {
 
-/// A column that is never narrower than its least width: where its widget is, the widget cuts it off on the
-/// right. So a widget that slides open uncovers texts that stand still, instead of wrapping them at every
-/// step.
+/// A vertical layout that keeps a minimum width: a narrower widget clips it on the right. So a widget that
+/// slides open uncovers its texts, instead of wrapping them again at every step.
 class DrawerLayout : public QVBoxLayout
 {
 public:
-    /// Takes the place of a form's layout, which is deleted: Qt Designer knows none but Qt's own.
-    explicit DrawerLayout(QVBoxLayout* former)
+    /// Replaces and deletes the layout of a form, because Qt Designer only knows Qt's own layouts.
+    explicit DrawerLayout(QVBoxLayout* formLayout)
     {
-        setObjectName(former->objectName());
-        setSpacing(former->spacing());
-        setContentsMargins(former->contentsMargins());
-        while (QLayoutItem* item = former->takeAt(0))
+        setObjectName(formLayout->objectName());
+        setSpacing(formLayout->spacing());
+        setContentsMargins(formLayout->contentsMargins());
+        while (QLayoutItem* item = formLayout->takeAt(0))
             addItem(item);
-        QWidget* widget = former->parentWidget();
-        delete former;
+        QWidget* widget = formLayout->parentWidget();
+        delete formLayout;
         widget->setLayout(this);
     }
 
-    /// In pixels; initially 0.
-    void setLeastWidth(int width)
+    /// In pixels; 0 at first.
+    void setMinimumWidth(int width)
     {
-        if (width == m_leastWidth)
+        if (width == m_minimumWidth)
             return;
-        m_leastWidth = width;
+        m_minimumWidth = width;
         update();
     }
 
     int heightForWidth(int width) const override
     {
-        return QVBoxLayout::heightForWidth(std::max(width, m_leastWidth));
+        return QVBoxLayout::heightForWidth(std::max(width, m_minimumWidth));
     }
 
     void setGeometry(const QRect& rect) override
     {
         QVBoxLayout::setGeometry(
-            QRect(rect.topLeft(), QSize(std::max(rect.width(), m_leastWidth), rect.height())));
+            QRect(rect.topLeft(), QSize(std::max(rect.width(), m_minimumWidth), rect.height())));
     }
 
 private:
-    int m_leastWidth = 0;
+    int m_minimumWidth = 0;
 };
 
 } // namespace zel

@@ -5,11 +5,11 @@
 
 namespace zel {
 
-/// Enables or disables a button. One that is disabled gives the focus up to another widget, if that is not
-/// null; Qt would hand it on to a neighbour.
+/// Enables or disables a button. When a disabled button has the focus, the successor gets it, or no widget if
+/// that is null; Qt would choose a neighbour.
 inline void enableButton(QPushButton& button, bool enabled, QWidget* successor = nullptr)
 {
-    // Asked of the window, which has it also while a box lies over it.
+    // QWidget::hasFocus() is false while a dialog is active.
     if (!enabled && button.window()->focusWidget() == &button) {
         button.clearFocus();
         if (successor)

@@ -7,8 +7,8 @@
 
 namespace zel {
 
-/// Shows an image file in a label, in a square of so many pixels. An icon, unlike a pixmap of the form, also
-/// finds the file for screens of double density.
+/// Shows an image file in a label, in a square with this side in pixels. Unlike a pixmap in the form, QIcon
+/// also finds the "@2x" file for high-density screens.
 inline void showImage(QLabel& label, const QString& file, int size)
 {
     label.setPixmap(QIcon(file).pixmap(size, size));

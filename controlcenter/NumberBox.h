@@ -12,8 +12,8 @@
 
 namespace zel {
 
-/// What the spin boxes of the pages have in common: the guard of the mouse wheel, and that a number outside
-/// the range can be typed and becomes the nearest one inside it as soon as the typing ends.
+/// The common base of the pages' spin boxes: a WheelGuard in which the user can type a number outside the
+/// range, which becomes the nearest number of the range when the typing ends.
 template <class Box>
 class NumberBox : public WheelGuard<Box>
 {
@@ -23,7 +23,7 @@ public:
 
     using WheelGuard<Box>::WheelGuard;
 
-    /// A number as the box would show it: within its range, with prefix and suffix.
+    /// The text that the box shows for a number: the nearest of its range, with prefix and suffix.
     QString shownText(double number) const { return this->prefix() + nearestText(number) + this->suffix(); }
 
 protected:
@@ -36,7 +36,7 @@ protected:
         return state == QValidator::Invalid && outside ? QValidator::Intermediate : state;
     }
 
-    /// Puts the nearest number of the range in the place of one outside.
+    /// Replaces a number outside the range by the nearest one inside.
     void fixup(QString& input) const override
     {
         double number = 0;
@@ -49,7 +49,7 @@ protected:
 private:
     QString nearestText(double number) const
     {
-        const double nearest = qBound(double(this->minimum()), number, double(this->maximum()));
+        const double nearest = qBound<double>(this->minimum(), number, this->maximum());
         return this->textFromValue(static_cast<Number>(nearest));
     }
 

@@ -7,8 +7,8 @@
 
 namespace zel {
 
-/// Makes Return and Enter press the button that has the focus, as Space does, in a widget and all that it
-/// contains, but for other windows. Belongs to the widget.
+/// Makes Return and Enter click the focused button, as Space does, in a widget and its descendants, except
+/// in other windows. The widget owns this object.
 class ReturnKey : public QObject
 {
 public:
@@ -16,7 +16,7 @@ public:
         : QObject(tree)
         , m_tree(tree)
     {
-        // A button passes the key on to its parents, which cannot tell from where it comes.
+        // An event filter of the widget would see the key too, but not which button it was meant for.
         qApp->installEventFilter(this);
     }
 
@@ -27,7 +27,7 @@ public:
         const auto* key = static_cast<QKeyEvent*>(event);
         const bool isReturn = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
         auto* button = qobject_cast<QAbstractButton*>(watched);
-        // A key that is held down must not switch a check box to and fro.
+        // A key that is held down must not toggle a check box again and again.
         if (!isReturn || !button || key->isAutoRepeat() || (key->modifiers() & ~Qt::KeypadModifier) ||
             !m_tree->isAncestorOf(button))
             return false;

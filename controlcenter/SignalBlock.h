@@ -9,8 +9,7 @@
 
 namespace zel {
 
-/// Keeps objects from emitting signals for as long as it lives, so that filling a widget does not look like
-/// an edit.
+/// Blocks the signals of objects while it lives, so that a page can fill its widgets without emitting edits.
 class SignalBlock
 {
 public:
@@ -18,13 +17,13 @@ public:
     SignalBlock(std::initializer_list<QObject*> objects)
     {
         for (QObject* object : objects)
-            m_former.emplace_back(object, object->blockSignals(true));
+            m_previous.emplace_back(object, object->blockSignals(true));
     }
 
-    /// Puts each object back into the state in which it was.
+    /// Restores the previous state of each object.
     ~SignalBlock()
     {
-        for (const auto& [object, blocked] : m_former)
+        for (const auto& [object, blocked] : m_previous)
             object->blockSignals(blocked);
     }
 
@@ -32,7 +31,7 @@ public:
     SignalBlock& operator=(const SignalBlock&) = delete;
 
 private:
-    std::vector<std::pair<QObject*, bool>> m_former;
+    std::vector<std::pair<QObject*, bool>> m_previous;
 };
 
 } // namespace zel

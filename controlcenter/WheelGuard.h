@@ -7,13 +7,13 @@
 
 namespace zel {
 
-/// Makes a field take the mouse wheel only while it has the focus, so that scrolling a page over it
-/// changes nothing. The focus policy tells which of the two states it is in.
+/// Makes a field use the mouse wheel only while it has the focus, so that scrolling the page does not change
+/// it. The focus policy holds the state: Qt::WheelFocus while the field uses the wheel.
 template <class Field>
 class WheelGuard : public Field
 {
 public:
-    /// Guarded at first. The parent, if any, owns the field.
+    /// The field ignores the wheel at first. The parent, if any, owns it.
     explicit WheelGuard(QWidget* parent)
         : Field(parent)
     {
@@ -26,7 +26,7 @@ public:
     /// Passes the wheel on to the page while the field has no focus.
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        // Mouse moves too: an unfocused field does not track the pointer.
+        // Without the focus the field does not track the mouse either.
         if (event->type() != QEvent::Wheel && event->type() != QEvent::MouseMove)
             return Field::eventFilter(watched, event);
         const bool guarded = this->focusPolicy() != Qt::WheelFocus;
@@ -35,7 +35,7 @@ public:
     }
 
 protected:
-    /// Takes the wheel from now on.
+    /// Uses the wheel from now on.
     void focusInEvent(QFocusEvent* event) override
     {
         this->setFocusPolicy(Qt::WheelFocus);
@@ -49,7 +49,7 @@ protected:
         Field::focusOutEvent(event);
     }
 
-    /// Undoes a focus policy of the form by which the wheel itself would give the focus.
+    /// Overrides a focus policy from the form by which the wheel would give the field the focus.
     void showEvent(QShowEvent* event) override
     {
         if (!this->hasFocus())

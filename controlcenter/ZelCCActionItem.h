@@ -16,27 +16,27 @@ class ZelCCActionItem;
 
 namespace zel {
 
-/// A button of the control center's menu column that mirrors one kernel action: its text, shortcut, tips,
-/// visibility and whether it is enabled. Owned by the control center; the action is not owned.
+/// A button in the menu column of the control center. It shows one zelAction: its text, shortcut and tips,
+/// whether it is visible and whether it is enabled. Owned by the control center; does not own the action.
 class ZEL_EXPORT ZelCCActionItem : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Mirrors the action from now on; it must not be null.
+    /// The action must not be null.
     ZelCCActionItem(zelAction* action, QWidget* parent, Qt::WindowFlags flags = Qt::WindowFlags());
     ~ZelCCActionItem() override;
 
-    /// Null once the action has been deleted; the item is hidden then.
+    /// Null when the action has been deleted; the item is then hidden.
     zelAction* getZelAction() const;
 
-    /// Whether the action belongs to the workflow at hand; for the application to read. False at first.
+    /// Marks the action as part of the current workflow, for the application to read. False at first.
     void setIsWorkflowSpecific(bool specific);
-    /// As it was set.
+    /// What setIsWorkflowSpecific() has set.
     bool isWorkflowSpecific() const;
 
 public Q_SLOTS:
-    /// Mirrors the action again.
+    /// Updates the item from the action.
     void onActionChanged();
 
 private:

@@ -33,7 +33,7 @@
 #include <algorithm>
 #include <vector>
 
-// The resource initialiser is declared in the namespace that names it, so this stands outside any.
+// Q_CLEANUP_RESOURCE declares a global function, so it must not be used in a namespace.
 static void cleanupResources()
 {
     Q_CLEANUP_RESOURCE(ZelControlCenter);
@@ -72,7 +72,7 @@ void logUnregisteredKeys(const ZelSettingsPanel& panel)
                                      .constData());
 }
 
-/// Marks the button of a page that has pending edits. The mark keeps its place while there are none.
+/// Marks the button of a page that has pending edits. Otherwise a transparent icon takes the same space.
 void markPending(QPushButton& button, bool pending)
 {
     const QString tip = pending ? QCoreApplication::translate("ZelControlCenter",
@@ -86,9 +86,9 @@ void markPending(QPushButton& button, bool pending)
     button.setAccessibleDescription(tip);
 }
 
-/// Styles a widget and all its descendants. A combo box, for one, learns only from a change which kind of
-/// list it is to open.
-void styleAll(QWidget& tree)
+/// Applies the style to a widget and its descendants. Some read it only on a change event: QComboBox chooses
+/// its kind of list then.
+void polishAll(QWidget& tree)
 {
     tree.ensurePolished();
     const QList<QWidget*> descendants = tree.findChildren<QWidget*>();
@@ -117,10 +117,10 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     setObjectName("ZelControlCenter");
     m_ui->verticalLayout->setAlignment(Qt::AlignTop);
     m_ui->verticalLayout_4 = m_drawerLayout = new DrawerLayout(m_ui->verticalLayout_4);
-    // The sliding menu uncovers its buttons instead of squeezing them.
+    // Keeps its width while the column slides, which clips it.
     m_ui->mainPanel->setMinimumWidth(MenuWidth);
 
-    // The drawer is placed by its width, not by the form's layout; an application may lay it out.
+    // The drawer leaves the layout of the form, so that the application can put it into its own.
     m_drawer = m_ui->settingsScrollArea;
     m_ui->horizontalLayout_30->removeWidget(m_drawer);
     m_drawer->setParent(this);
@@ -136,11 +136,11 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     m_scrollAnimation->setDuration(SlideDuration);
     m_scrollAnimation->setEasingCurve(QEasingCurve::InOutQuad);
     connect(scrollBar, SIGNAL(valueChanged(int)), this, SLOT(onScrollBarValueChanged(int)));
-    // Queued, because the scroll area itself shows and hides the bar only after the range has changed.
+    // Queued: QScrollArea shows or hides the bar only after the range has changed.
     connect(scrollBar, SIGNAL(rangeChanged(int, int)), this, SLOT(onScrollBarRangeChanged()),
             Qt::QueuedConnection);
 
-    // The scroll area itself follows the focus only within it.
+    // QScrollArea follows only a focus that moves within it.
     connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
 
     new ReturnKey(this);
@@ -189,7 +189,7 @@ void ZelControlCenter::createSettingsAction()
         QCoreApplication::translate("ZelControlCenter", "Changes the settings of the application"));
     registerCCAction(m_settingsAction.get(), "", false, false, true);
     connect(m_settingsAction.get(), SIGNAL(triggered()), this, SLOT(openSettings()));
-    // The settings open inside the menu, so choosing them must not close it.
+    // This action opens the settings inside the menu, so it must not close the menu.
     disconnect(m_settingsAction.get(), SIGNAL(triggered()), this, SLOT(closeMenu()));
 }
 
@@ -208,7 +208,7 @@ void ZelControlCenter::registerSettingsPanel(ZelSettingsPanel* panel)
         const StyleSheetPause pause(*panel);
         m_ui->verticalLayout_8->addWidget(panel);
     }
-    styleAll(*panel);
+    polishAll(*panel);
     m_ui->applicationFrame->show();
     panel->show();
     panel->initializeWidget();
@@ -219,7 +219,7 @@ void ZelControlCenter::addPageButton(QPushButton* button, const QString& panelNa
 {
     m_ui->verticalLayout_6->addWidget(button);
     m_ui->applicationSettings->show();
-    // The keyboard walks the column from top to bottom before any page.
+    // The Tab key visits the column from top to bottom before the pages.
     if (m_pageGroup->buttons().isEmpty()) {
         setTabOrder(button, m_ui->resetButton);
         setTabOrder(m_ui->resetButton, m_ui->applyButton);
@@ -274,7 +274,7 @@ bool ZelControlCenter::applyModifications()
     QString error;
     if (!hasModifications())
         return apply(settings, error) && restart;
-    // One write for all pages, so that the file never holds half of an Apply.
+    // One write for all pages, so that the file never has only some of the edits.
     const bool written = ZelSettingsFile::Write(settings, apply, error);
     showWriteError(error);
     return written && restart;
@@ -324,9 +324,9 @@ void ZelControlCenter::setSettingsWidth(int width)
     m_drawer->setFixedWidth(width);
     const QScrollBar* scrollBar = m_drawer->verticalScrollBar();
     const int barWidth = scrollBar->isVisible() ? scrollBar->width() : 0;
-    m_drawerLayout->setLeastWidth(DrawerWidth - barWidth);
+    m_drawerLayout->setMinimumWidth(DrawerWidth - barWidth);
     m_ui->settingsContent->setFixedWidth(std::max(width - barWidth, 0));
-    // Nothing has scrolled yet, so the page in view is marked as soon as it can be seen.
+    // An opening drawer has not scrolled yet, so nothing else has checked the button of its page.
     if (m_settingsAnimation->state() == QAbstractAnimation::Running &&
         m_settingsAnimation->direction() == QAbstractAnimation::Forward)
         onScrollBarValueChanged(scrollBar->value());
@@ -402,8 +402,8 @@ bool ZelControlCenter::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Resize)
         m_clickTimer.restart();
-    // A press into a modal box is an answer, not a click outside. Presses that Qt first hands to its
-    // native window come again for the widget.
+    // A press in a modal dialog answers it and is not a click outside. Qt delivers a press to the native
+    // window first, and then to the widget.
     if (event->type() != QEvent::MouseButtonPress || m_pressHandled || QApplication::activeModalWidget() ||
         isNativeWindow(watched))
         return false;
@@ -417,7 +417,7 @@ bool ZelControlCenter::eventFilter(QObject* watched, QEvent* event)
         openSettingsPanel(false);
         openMenu(false);
     }
-    // A press that no widget takes is offered to one parent after the other, at once.
+    // Qt delivers a press that no widget accepts to one parent after the other.
     m_pressHandled = true;
     QTimer::singleShot(0, this, SLOT(onPressDelivered()));
     return false;
@@ -429,7 +429,7 @@ void ZelControlCenter::openMenu(bool open)
     if (open) {
         m_application->setUpdateEngineEnabled(false);
         if (guiPlugin()) {
-            // Removed first, so that it is installed once.
+            // Removed first, so that it is installed only once.
             qApp->removeEventFilter(this);
             qApp->installEventFilter(this);
         }
@@ -520,7 +520,7 @@ void ZelControlCenter::onStateChanged()
         modified = modified || pending;
     }
     enableButton(*m_ui->applyButton, modified, m_pageGroup->checkedButton());
-    Q_EMIT evaluated();
+    Q_EMIT pagesChanged();
 }
 
 void ZelControlCenter::onControlCenterWidthFinished()
@@ -567,16 +567,16 @@ void ZelControlCenter::onScrollBarRangeChanged()
 
 void ZelControlCenter::onPanelDestroyed(QObject* panel)
 {
-    // Only its address is left to compare.
+    // A page that is being destroyed is only a QObject: compare its address.
     m_panels.erase(std::remove(m_panels.begin(), m_panels.end(), panel), m_panels.end());
     onStateChanged();
 }
 
-void ZelControlCenter::onFocusChanged(QWidget* former, QWidget* current)
+void ZelControlCenter::onFocusChanged(QWidget* previous, QWidget* current)
 {
-    if (!m_drawer || !m_drawer->isAncestorOf(current) || m_drawer->isAncestorOf(former))
+    if (!m_drawer || !m_drawer->isAncestorOf(current) || m_drawer->isAncestorOf(previous))
         return;
-    // A page must not move under a mouse button that is held down.
+    // Do not scroll the pages while a mouse button is down.
     if (QApplication::mouseButtons() == Qt::NoButton)
         m_drawer->ensureWidgetVisible(current, 0);
 }
@@ -589,7 +589,7 @@ void ZelControlCenter::onPressDelivered()
 void ZelControlCenter::openSettingsPanel(bool open)
 {
     slideDrawer(open, false);
-    resumeEngineAtRest();
+    resumeEngineUnlessSliding();
 }
 
 void ZelControlCenter::showDrawer(bool keepEdits)
@@ -597,7 +597,7 @@ void ZelControlCenter::showDrawer(bool keepEdits)
     m_ui->controlCenterButton->setChecked(true);
     m_ui->preferenceFrame->show();
     slideDrawer(true, keepEdits);
-    resumeEngineAtRest();
+    resumeEngineUnlessSliding();
 }
 
 void ZelControlCenter::slideDrawer(bool open, bool keepEdits)
@@ -605,7 +605,7 @@ void ZelControlCenter::slideDrawer(bool open, bool keepEdits)
     if (!m_drawer)
         return;
     const bool wasVisible = m_drawer->isVisible();
-    // While the drawer closes, the buttons of the pages are still there, and must not be pushed down.
+    // The closing drawer still shows the page buttons, which the actions must not push down.
     setActionSpace(open);
     m_ui->actionFrame->setVisible(!open);
     m_application->setUpdateEngineEnabled(false);
@@ -619,10 +619,10 @@ void ZelControlCenter::slideDrawer(bool open, bool keepEdits)
     if (wasVisible != open)
         m_settingsAnimation->start();
     else if (!open)
-        closeDrawer(); // It may be open inside a window that is hidden.
+        closeDrawer(); // It may still be open in a hidden window.
 }
 
-void ZelControlCenter::resumeEngineAtRest()
+void ZelControlCenter::resumeEngineUnlessSliding()
 {
     if (!isSliding())
         m_application->setUpdateEngineEnabled(true);
@@ -684,7 +684,7 @@ void ZelControlCenter::forEachPanel(const std::function<void(ZelSettingsPanel*)>
 
 kqDMGuiPlugin* ZelControlCenter::guiPlugin() const
 {
-    return m_application ? m_application->getGuiPlugin() : nullptr;
+    return m_application->getGuiPlugin();
 }
 
 void ZelControlCenter::showWriteError(const QString& error)
@@ -699,8 +699,7 @@ void ZelControlCenter::showWriteError(const QString& error)
 void ZelControlCenter::initializePanels()
 {
     QString error;
-    if (m_application)
-        ZelSettingsFile::IsWritable(m_application->getSettings().fileName(), error);
+    ZelSettingsFile::IsWritable(m_application->getSettings().fileName(), error);
     showWriteError(error);
     forEachPanel([](ZelSettingsPanel* panel) { panel->initializeWidget(); });
     onStateChanged();

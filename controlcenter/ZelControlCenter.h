@@ -37,20 +37,20 @@ class ZelCCActionItem;
 class ZelSettingsPanel;
 
 /// The side panel that an application puts beside its 3D view: a menu column of actions that slides open, and
-/// beside it a drawer in which the registered settings pages are stacked, with Apply and Reset for all of
+/// beside it a drawer with the registered settings pages, one below the other, and Apply and Reset for all of
 /// them.
 ///
-/// The rules of Settings.ini (registry, validators, catalogue) are reached through this class too; they need
-/// no instance.
+/// The base classes are the rules of Settings.ini (registry, validators, catalogue). Their members are static
+/// and need no instance.
 ///
-/// What it can be told to do is among its actions(), by object name: "apply" and "reset", which press these
-/// buttons; "help", which emits helpRequested(); "putBack", which undoes what is being typed in a field;
-/// "pageUp", "pageDown", "top" and "bottom", which scroll the drawer. They have no shortcuts until the
-/// application gives them some; these work while the column or the drawer has the focus, unless it changes
-/// their context, too.
+/// Its actions() carry out its commands. Their object names are "apply" and "reset", which click these
+/// buttons; "help", which emits helpRequested(); "putBack", which undoes typing in a field; "pageUp",
+/// "pageDown", "top" and "bottom", which scroll the drawer. They have no shortcuts; the application may set
+/// some. A shortcut works while the focus is in the column or the drawer; for a wider range, change the
+/// action's shortcut context.
 ///
-/// Registered pages and actions belong to their creators, who unregister them before they delete them. The
-/// application must outlive the control center. GUI thread only.
+/// The creators of pages and actions own them, and unregister them before they delete them. The application
+/// must outlive the control center. GUI thread only.
 class ZEL_EXPORT ZelControlCenter : public QWidget,
                                     public ZelSettingsRegistry,
                                     public ZelSettingsValidators,
@@ -65,70 +65,71 @@ public:
     ZelControlCenter(kqDMIApplication* application, QWidget* parent, Qt::WindowFlags flags);
     ~ZelControlCenter() override;
 
-    /// Releases the images that are compiled into the library, before it is unloaded.
+    /// Releases the images in the library. Call it before the library is unloaded.
     static void CleanupRessources();
 
-    /// Adds a page below those already there and loads its values.
+    /// Adds a page below the others and loads its values.
     void registerSettingsPanel(ZelSettingsPanel* panel);
-    /// Takes a page out; it has no parent afterwards. The Apply and Reset buttons follow if reevaluate is
-    /// true.
+    /// Removes a page, which then has no parent. Updates the Apply and Reset buttons if reevaluate is true.
     void unregisterSettingsPanel(ZelSettingsPanel* panel, bool reevaluate);
 
     /// True from the end of the opening slide to the end of the closing one.
     bool isMenuOpen() const;
-    /// The same of the drawer.
+    /// The same for the drawer.
     bool isSettingsOpen() const;
 
     /// True when any page has pending edits.
     bool hasModifications() const;
     /// Applies the pending edits of every page and writes the settings file; true when a restart is needed.
-    /// When the file cannot be written the edits stay pending, and the reason stands below the Apply button.
+    /// When writing fails the edits stay pending, and the reason is shown below the Apply button.
     bool applyModifications();
 
-    /// The widget outside of which a click never closes the menu. Not owned; null, as at first, for any.
+    /// Only a click inside this widget can close the menu. Null, the initial value, allows any. Not owned.
     void setGUIHandler(QWidget* handler);
     /// The application's own checkable button that opens the control center. Not owned.
     void setControlCenterButton(QPushButton* button);
 
-    /// The drawer, for applications that lay it out themselves. Owned by the control center.
+    /// The drawer, for the application to put into a layout. Owned by the control center.
     QScrollArea* settingsWidget() const;
 
-    /// Width of the menu column and the drawer together, in pixels, while both are open.
+    /// Width of the open menu column and the open drawer together, in pixels.
     static int OpenWidth();
 
-    /// Width of the menu column in pixels; it is visible from 1 on.
+    /// Width of the menu column in pixels.
     int controlCenterWidth() const;
-    /// Sets it; 0 hides the menu column. What the slide does.
+    /// Shows the menu column with this width; 0 hides it. The slide animates it.
     void setControlCenterWidth(int width);
 
-    /// Width of the drawer in pixels, 0 while it is hidden; it is visible from 1 on.
+    /// Width of the drawer in pixels; 0 while it is hidden.
     int settingsWidth() const;
-    /// Sets it; 0 hides the drawer. What the slide does.
+    /// Shows the drawer with this width; 0 hides it. The slide animates it.
     void setSettingsWidth(int width);
 
-    /// Adds an action to the menu column, before or after the item of the action named anchorName; on top
-    /// when the anchor is empty, at the bottom when no item has it.
+    /// Adds an action to the menu column, before or after the item of the action named anchorName; at the top
+    /// when the name is empty, at the bottom when no item has it.
+    /// @param isWorkflowSpecific  for the application to read from the item
+    /// @param closeMenuOnTrigger  choosing the action closes the menu
     void registerCCAction(zelAction* action, const QString& anchorName, bool isWorkflowSpecific, bool after,
                           bool closeMenuOnTrigger);
-    /// Removes every item of an action; an action that has none is ignored.
+    /// Removes every item of an action; does nothing when there is none.
     void unregisterCCAction(zelAction* action);
 
     /// Adds a separator line before an anchor, as registerCCAction() finds it. False when the name is taken.
     bool addCCSeparator(const QString& anchorName, const QString& separatorName);
-    /// False when there is no separator of that name.
+    /// Shows or hides a separator. False when there is none of that name.
     bool setCCSeparatorVisible(const QString& separatorName, bool visible);
 
-    /// Tints the menu column (alpha is ignored) and gives the application's button, if one has been set, its
-    /// icons for the checked and the unchecked state.
+    /// Sets the background of the menu column, without alpha, and the icons of the application's button, if
+    /// it is set, for its checked (on) and unchecked (off) state.
     void setInterfaceColor(const QColor& color, const QString& iconOnFile, const QString& iconOffFile);
 
-    /// Watches the application, inside the viewer and while the menu is open, for clicks that close it.
-    /// Consumes nothing.
+    /// Sees all events of the application while the menu is open in the viewer, to close it by a click.
+    /// Consumes none.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 public Q_SLOTS:
-    /// Slides the menu column open or closed. Closing discards pending edits; inside the viewer the user is
-    /// asked first and may refuse.
+    /// Slides the menu column open or closed. Closing discards pending edits; in the viewer the user is asked
+    /// first and may keep the menu open.
     void openMenu(bool open);
     /// Shows the list of pages and opens the drawer, or closes both.
     void setControlCenterVisible(bool visible);
@@ -136,79 +137,80 @@ public Q_SLOTS:
     void openSettings();
 
 Q_SIGNALS:
-    /// What is stored, or what the pages show, may have changed: an edit, Apply, Reset, or a page that came
-    /// or went.
-    void evaluated();
-    /// The user asks what a field is about; null when no field has the focus.
+    /// Stored or shown values may have changed: after an edit, Apply or Reset, and when a page is registered
+    /// or unregistered.
+    void pagesChanged();
+    /// The user asks for help on a field; null when no field of the drawer has the focus.
     void helpRequested(QWidget* field);
 
 protected Q_SLOTS:
-    /// Applies the edits of all pages and tells if a restart is needed.
+    /// Applies the edits of all pages; in the viewer, shows a message when a restart is needed.
     void on_applyButton_clicked();
-    /// As resetControlCenter().
+    /// Calls resetControlCenter().
     void on_resetButton_clicked();
-    /// Opens the drawer, if need be, and scrolls to the pages of that name.
+    /// Opens the drawer if it is closed, and scrolls to the page of that name.
     void onPanelClicked(const QString& pPanelName);
-    /// Re-evaluates the Apply and Reset buttons and the marks of the pages.
+    /// Updates the Apply and Reset buttons and the marks on the page buttons.
     void onStateChanged();
     /// @{
-    /// The end of a slide of the menu column, and of the drawer: from then on it counts as open or closed.
+    /// The slide of the menu column, or of the drawer, has ended: it is now open or closed.
     void onControlCenterWidthFinished();
     void onSettingsWidthFinished();
     /// @}
-    /// Marks the page at the top of the drawer in the list.
+    /// Checks the button of the page at the top of the drawer.
     void onScrollBarValueChanged(int value);
-    /// As openMenu(false).
+    /// Calls openMenu(false).
     void closeMenu();
-    /// Gives the pages the width that the scroll bar leaves them.
+    /// Fits the width of the pages to the scroll bar, which may have appeared or gone.
     void onScrollBarRangeChanged();
-    /// Forgets a page that was deleted without being unregistered.
+    /// Removes a page that was deleted while registered.
     void onPanelDestroyed(QObject* panel);
-    /// Brings a field into view that the keyboard enters the drawer at.
-    void onFocusChanged(QWidget* former, QWidget* current);
-    /// Every widget that a press is offered to has seen it.
+    /// Scrolls to the focused field when the focus enters the drawer.
+    void onFocusChanged(QWidget* previous, QWidget* current);
+    /// A mouse press has reached all its receivers; the next one counts as another click.
     void onPressDelivered();
 
 protected:
-    /// Slides the drawer open or closed. Opening it from closed loads the stored values into every page.
+    /// Slides the drawer open or closed. Opening a closed drawer loads the stored values into every page.
     void openSettingsPanel(bool open);
-    /// Scrolls the drawer until a page is at its top, as far as it goes.
+    /// Scrolls a page to the top of the drawer, as far as the scroll range allows.
     void ensureSettingVisible(QWidget* widget);
     /// Puts the defaults into every page, as pending edits.
     void resetControlCenter();
 
     /// @{
-    /// Only forwards to QWidget; for classes that derive from this one.
+    /// Calls QWidget's.
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     /// @}
 
 private:
-    /// The plug-in that draws the viewer's interface; null outside the full viewer.
+    /// Null outside the viewer.
     kqDMGuiPlugin* guiPlugin() const;
     QPropertyAnimation* createSlide(const char* property, int openWidth, const char* finishedSlot);
     void createSettingsAction();
     void addPageButton(QPushButton* button, const QString& panelName);
     bool isSliding() const;
+    /// Shows the list of pages and slides the drawer open.
     void showDrawer(bool keepEdits);
-    /// Pauses the engine and slides the drawer if there is anything to see of it. One that opens from closed
-    /// loads its pages first, unless their edits are to stay.
+    /// Pauses the engine and slides the drawer, if its state changes. A closed drawer loads the stored values
+    /// before it opens, unless keepEdits is true.
     void slideDrawer(bool open, bool keepEdits);
-    void resumeEngineAtRest();
+    void resumeEngineUnlessSliding();
     void closeDrawer();
-    /// Whether the actions have room in the menu column while they are shown.
+    /// Lets the actions take space in the menu column, or none.
     void setActionSpace(bool given);
-    /// Calls a function for each page, in the order of registration. A page may register or unregister others
-    /// meanwhile.
+    /// Calls a function for each page, in the order of registration. The function may register and unregister
+    /// pages.
     void forEachPanel(const std::function<void(ZelSettingsPanel*)>& action) const;
-    /// Shows below the Apply button why the settings file cannot be written; an empty text hides the last.
+    /// Shows below the Apply button why the settings file cannot be written; an empty text hides it.
     void showWriteError(const QString& error);
     void initializePanels();
-    /// Drops pending edits, after asking where that is possible; false when the user keeps them.
+    /// Discards pending edits; in the viewer it asks first. False when the user keeps them.
     bool discardModifications();
     bool isClickOutside(QObject* watched, const QPoint& globalPosition) const;
-    /// Index of an anchor's item in the menu column; 0 for an empty name; -1, which inserts at the bottom,
-    /// when there is none.
+    /// Index of the item of an anchor in the menu column; 0 for an empty name; -1, which QBoxLayout takes for
+    /// the bottom, when there is none.
     int anchorIndex(const QString& anchorName) const;
 
     const std::unique_ptr<Ui::ControlCenter> m_ui;
@@ -229,7 +231,7 @@ private:
     QPropertyAnimation* m_scrollAnimation;
     bool m_menuOpen;
     bool m_settingsOpen;
-    bool m_pressHandled; ///< The press that is being delivered has been a click outside already.
+    bool m_pressHandled; ///< The mouse press that is being delivered has already counted as a click.
 };
 
 } // namespace zel

@@ -18,16 +18,17 @@
 
 namespace zel {
 
-/// A page that edits settings: what all such pages do alike. A page adds a plain model record that can be
-/// compared, the table of its fields, and how the model gets into its widgets and out of them. Its form has a
-/// button named "resetButton", which is enabled exactly while the page differs from the defaults.
+/// The base of pages that edit settings: it loads, compares, applies and resets them. A page adds a model (a
+/// plain struct with operator==), the table of its fields, and the functions that read its widgets into a
+/// model and fill them from one. Its form has a button named "resetButton", which is enabled while the page
+/// differs from the defaults.
 ///
-/// Filling the widgets never looks like a user's edit; nothing is written before applyModifications().
+/// Nothing is written before applyModifications().
 template <class Model>
 class ZelEditablePanel : public ZelSettingsPanel
 {
 public:
-    /// The table of a page: a row for each key.
+    /// The table of a page, with a row for each key.
     using Fields = std::vector<ZelSettingsField<Model>>;
 
     /// The first four arguments are those of ZelSettingsPanel.
@@ -42,7 +43,7 @@ public:
         setSettingsKeys(keys);
     }
 
-    /// Reads the stored values into the widgets.
+    /// Loads the stored values into the widgets.
     void initializeWidget() override
     {
         Model stored;
@@ -51,7 +52,7 @@ public:
         checkContent();
     }
 
-    /// True when the widgets do not hold the stored values.
+    /// True when the widgets differ from the stored values.
     bool hasModifications() const override
     {
         Model stored, current;
@@ -60,20 +61,20 @@ public:
         return !(stored == current);
     }
 
-    /// Hands the edits to the running application, then stores them. True when shouldRestart() says so.
+    /// Passes the edits to the running application, then stores them. Returns shouldRestart().
     bool applyModifications() override
     {
         if (!hasModifications())
             return false;
         pushToApplication();
-        // Before saving, because the verdict compares with what is stored.
+        // Before saving, because shouldRestart() compares with the stored values.
         const bool restart = shouldRestart();
         saveSettingsInternal();
         checkContent();
         return restart;
     }
 
-    /// True when the widgets do not hold the defaults.
+    /// True when the widgets differ from the defaults.
     bool canResetContent() const override
     {
         Model defaults, current;
@@ -82,7 +83,7 @@ public:
         return !(defaults == current);
     }
 
-    /// Puts the defaults into the widgets, as an edit.
+    /// Puts the defaults into the widgets, as a pending edit.
     void resetContent() override
     {
         if (!canResetContent())
@@ -93,32 +94,32 @@ public:
         onEdited();
     }
 
-    /// False: initializeWidget() is what discards pending edits.
+    /// Always false: initializeWidget() discards pending edits.
     bool cancelModifications() override { return false; }
 
-    /// Does nothing: applyModifications() is what saves.
+    /// Does nothing: applyModifications() saves.
     virtual void saveSettings() {}
 
 protected:
-    /// A row of the page's help: a setting, which has one or more keys.
+    /// A row of the page's help: one setting, with one or more keys.
     struct Help
     {
-        QList<QWidget*> fields;  ///< What shows and edits it.
-        const char* name;        ///< Null where the first field's name or label tells it.
+        QList<QWidget*> fields;  ///< The widgets that edit the setting.
+        const char* name;        ///< Null for the name or the label of the first field.
         const char* description; ///< What the setting does, in a few sentences.
-        QString range;           ///< Empty when there is none to tell.
-        ZelSettingEffect effect; ///< When an applied edit counts.
-        QStringList keys;        ///< Those that the fields hold.
-        /// The setting's value in a model, as the fields would show it.
+        QString range;           ///< Empty for a setting without a range.
+        ZelSettingEffect effect; ///< When an applied edit takes effect.
+        QStringList keys;        ///< The keys that the fields edit.
+        /// The text that the fields show for the value in a model.
         std::function<QString(const Model&)> shown;
-        /// Takes the setting over from a model into another one. Null for what the fields of the keys hold.
-        std::function<void(Model& to, const Model& from)> take = nullptr;
-        bool tipIsValue = false; ///< The fields need their tool tips for their values.
+        /// Copies the setting from one model to another. Null copies the values of the keys.
+        std::function<void(Model& to, const Model& from)> copy = nullptr;
+        bool tipIsValue = false; ///< The tool tips of the fields are their values, so help must not use them.
     };
 
-    /// Tells of some of the page's settings, or of all. To be called once the form is set up; the registry is
-    /// complete by then.
-    /// @param context  in which names and descriptions are translated
+    /// Adds help on some or all settings of the page. Call it after the form is set up and the keys are
+    /// registered.
+    /// @param context  the translation context of names and descriptions
     void describe(const char* context, const std::vector<Help>& rows)
     {
         auto* help = findChild<ZelPageHelp*>();
@@ -128,7 +129,7 @@ protected:
             help->add(settingHelp(context, row));
     }
 
-    /// Reads what is stored.
+    /// Reads the stored values.
     void readSettings(Model& model) const
     {
         for (const auto& field : m_fields)
@@ -145,7 +146,7 @@ protected:
     /// Reads the widgets.
     virtual void getCurrentModel(Model& model) const = 0;
 
-    /// Fills the widgets, with their signals blocked.
+    /// Fills the widgets, with their signals blocked, so that it does not count as an edit.
     virtual void applyModel(const Model& model) = 0;
 
     /// Writes every field, in the order of the table.
@@ -157,16 +158,16 @@ protected:
             settings().setValue(field.key, field.stored(current));
     }
 
-    /// Hands to the running application what it can take at once.
+    /// Passes to the running application what it can use at once.
     virtual void pushToApplication() {}
 
-    /// True when the widgets hold, against what is stored, something that only takes effect after a restart.
+    /// True when the pending edits need a restart to take effect.
     virtual bool shouldRestart() const { return false; }
 
     /// Emits the page's own stateChanged().
     virtual void notifyStateChanged() = 0;
 
-    /// Refreshes the reset button.
+    /// Enables or disables the reset button.
     void checkContent() const
     {
         if (auto* resetButton = findChild<QPushButton*>(QLatin1String("resetButton")))
@@ -176,7 +177,7 @@ protected:
                      qPrintable(getPanelName()));
     }
 
-    /// What every edit ends with.
+    /// Call it after every edit: updates the reset button and emits stateChanged().
     void onEdited()
     {
         checkContent();
@@ -184,8 +185,8 @@ protected:
     }
 
 private:
-    typedef void (ZelEditablePanel::*Reader)(Model& model) const;
-    typedef std::function<void(Model& to, const Model& from)> Taker;
+    using Reader = void (ZelEditablePanel::*)(Model& model) const;
+    using Copier = std::function<void(Model& to, const Model& from)>;
 
     Model read(Reader reader) const
     {
@@ -194,11 +195,11 @@ private:
         return model;
     }
 
-    /// What the widgets hold, but for a setting that is taken from elsewhere.
-    Model readWith(const Taker& take, Reader elsewhere) const
+    /// The values of the widgets, except for one setting, which comes from another source.
+    Model currentModelWith(const Copier& copy, Reader source) const
     {
         Model current = read(&ZelEditablePanel::getCurrentModel);
-        take(current, read(elsewhere));
+        copy(current, read(source));
         return current;
     }
 
@@ -206,12 +207,12 @@ private:
     {
         const auto keys = row.keys;
         const auto shown = row.shown;
-        const Taker take = row.take ? row.take : taker(keys);
-        const auto differs = [this, take](Reader from) {
-            return !(readWith(take, from) == read(&ZelEditablePanel::getCurrentModel));
+        const Copier copy = row.copy ? row.copy : copierOf(keys);
+        const auto differs = [this, copy](Reader source) {
+            return !(currentModelWith(copy, source) == read(&ZelEditablePanel::getCurrentModel));
         };
-        const auto replace = [this, take](Reader from) {
-            applyModel(readWith(take, from));
+        const auto replace = [this, copy](Reader source) {
+            applyModel(currentModelWith(copy, source));
             onEdited();
         };
         const auto hasDefault = [keys] {
@@ -238,7 +239,7 @@ private:
         return help;
     }
 
-    Taker taker(const QStringList& keys) const
+    Copier copierOf(const QStringList& keys) const
     {
         return [this, keys](Model& to, const Model& from) {
             for (const auto& field : m_fields)

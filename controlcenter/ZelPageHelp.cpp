@@ -23,7 +23,7 @@ QString translated(const char* text)
 QString withoutColon(const QString& label)
 {
     QString text = label.trimmed();
-    while (text.endsWith(':') || text.endsWith(QChar(0xFF1A))) // Also the one of East Asian writing.
+    while (text.endsWith(':') || text.endsWith(QChar(0xFF1A))) // The second is the fullwidth colon.
         text = text.left(text.size() - 1).trimmed();
     return text.simplified();
 }
@@ -57,7 +57,7 @@ void ZelPageHelp::add(const ZelSettingHelp& setting)
         field->setAccessibleDescription(text);
         if (added.tipIsValue)
             field->setStatusTip(text);
-        else // Rich text, which a tool tip wraps.
+        else // Rich text, because QToolTip wraps only that.
             field->setToolTip(Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal));
         watch(field, field);
     }
@@ -83,9 +83,9 @@ QString ZelPageHelp::effectText(ZelSettingEffect effect)
     return translated(texts[effect]);
 }
 
-QString ZelPageHelp::rangeText(const QString& least, const QString& greatest)
+QString ZelPageHelp::rangeText(const QString& minimum, const QString& maximum)
 {
-    return translated(QT_TRANSLATE_NOOP("ZelPageHelp", "%1 to %2")).arg(least, greatest);
+    return translated(QT_TRANSLATE_NOOP("ZelPageHelp", "%1 to %2")).arg(minimum, maximum);
 }
 
 QString ZelPageHelp::flagText(bool on)
@@ -112,11 +112,10 @@ bool ZelPageHelp::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
     QWidget* field = m_fields.value(watched);
-    // Under a pointer that rests while the page scrolls, a field learns only from the tool tip that it is
-    // reached.
+    // A field that scrolls under a resting pointer gets no Enter event, but one for its tool tip.
     if (type == QEvent::Enter || type == QEvent::FocusIn || type == QEvent::ToolTip)
         Q_EMIT reached(field);
-    return type == QEvent::ToolTip && m_shown && !setting(field)->tipIsValue;
+    return type == QEvent::ToolTip && m_helpAreaVisible && !setting(field)->tipIsValue;
 }
 
 QString ZelPageHelp::nameOf(const QWidget& field) const
@@ -138,7 +137,7 @@ void ZelPageHelp::watch(QWidget* widget, QWidget* field)
 {
     m_fields.insert(widget, field);
     widget->installEventFilter(this);
-    // What a field edits is the property that its class is meant for.
+    // The user property of a class, such as QSpinBox::value, is what the user edits.
     const QMetaProperty edits = widget->metaObject()->userProperty();
     if (widget == field && edits.hasNotifySignal())
         connect(widget, edits.notifySignal(), this,

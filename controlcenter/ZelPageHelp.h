@@ -16,56 +16,55 @@ class QWidget;
 
 namespace zel {
 
-/// When an applied edit of a setting counts.
+/// When an applied edit of a setting takes effect.
 enum ZelSettingEffect { EffectAtOnce, EffectWithNextImport, EffectAfterRestart };
 
-/// What a user is told about one setting of a page, in the language of the interface, and what can be done
-/// with it. All functions are there.
+/// The help on one setting of a page, in the language of the interface. Every function is set.
 struct ZelSettingHelp
 {
-    QList<QWidget*> fields;                   ///< What shows and edits it.
-    QString name;                             ///< What the user knows it by.
+    QList<QWidget*> fields;                   ///< The widgets that edit it.
+    QString name;                             ///< As the page names it.
     QString description;                      ///< What it does, in a few sentences.
-    QString range;                            ///< Empty when there is none to tell.
-    QString effect;                           ///< When an applied edit counts.
-    bool tipIsValue;                          ///< The fields need their tool tips for their values.
-    std::function<QString()> byDefault;       ///< As a field would show it; empty without a default.
-    std::function<QString()> stored;          ///< As a field would show it.
-    std::function<bool()> differsFromDefault; ///< False also without a default.
+    QString range;                            ///< Empty for a setting without a range.
+    QString effect;                           ///< When an applied edit takes effect.
+    bool tipIsValue;                          ///< The fields' tool tips are their values.
+    std::function<QString()> byDefault;       ///< Its default, as a field shows it; empty without one.
+    std::function<QString()> stored;          ///< Its stored value, as a field shows it.
+    std::function<bool()> differsFromDefault; ///< Also false without a default.
     std::function<bool()> differsFromStored;  ///< True while an edit is pending.
     std::function<void()> useDefault;         ///< Puts the default into the fields, as a pending edit.
-    std::function<void()> putBack;            ///< Puts what is stored into the fields.
+    std::function<void()> putBack;            ///< Puts the stored value into the fields.
 
-    /// All that does not change while the page lives, in a paragraph.
+    /// Description, range, default and effect in one paragraph.
     QString summary() const;
 };
 
-/// What a page tells about its settings. It becomes the fields' tool tip and accessible description, and a
-/// help area shows it in full, with what is stored.
+/// The help on the settings of a page: tool tips and accessible descriptions for the fields, and all that a
+/// ZelHelpArea shows.
 ///
-/// A page has at most one, as its child, which is how a help area finds it.
+/// A page has at most one, as its child; a help area finds it there.
 class ZEL_EXPORT ZelPageHelp : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The page owns it.
+    /// The page becomes its owner.
     explicit ZelPageHelp(QWidget* page);
 
-    /// Tells of one more setting, with tool tips and accessible descriptions for its fields.
+    /// Adds a setting, and sets the tool tips and accessible descriptions of its fields.
     void add(const ZelSettingHelp& setting);
 
-    /// The setting that a field of this page shows; null for any other widget. Valid until the next add().
+    /// The setting that a field of the page edits; null for any other widget. Valid until the next add().
     const ZelSettingHelp* setting(const QWidget* field) const;
 
-    /// Whether a help area shows the help, so that tool tips need not say it over the fields.
-    void setShown(bool shown) { m_shown = shown; }
+    /// Switches the tool tips off (true) while a help area shows the same text, or on.
+    void setHelpAreaVisible(bool visible) { m_helpAreaVisible = visible; }
 
-    /// When an edit counts, as a sentence.
+    /// When an edit takes effect, to follow "Takes effect:".
     static QString effectText(ZelSettingEffect effect);
-    /// From the least to the greatest value.
-    static QString rangeText(const QString& least, const QString& greatest);
-    /// Of a NumberBox.
+    /// The range between two values.
+    static QString rangeText(const QString& minimum, const QString& maximum);
+    /// The range of a NumberBox.
     template <class Box>
     static QString rangeText(const Box* box)
     {
@@ -75,14 +74,14 @@ public:
     static QString flagText(bool on);
     /// Both states of a check box.
     static QString flagRange();
-    /// The texts of the buttons between which the user chooses.
+    /// The texts of the buttons of a choice.
     static QString choiceText(const QList<QWidget*>& buttons);
 
-    /// Watches the fields for the pointer, the focus and edits. Consumes nothing.
+    /// Watches the fields for the pointer and the focus. Consumes only tool tips that are switched off.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The pointer or the keyboard has come to a field.
+    /// The pointer has entered a field, or a field has got the focus.
     void reached(QWidget* field);
     /// The user has changed what a field shows.
     void edited();
@@ -92,8 +91,8 @@ private:
     void watch(QWidget* widget, QWidget* field);
 
     std::vector<ZelSettingHelp> m_settings;
-    bool m_shown = false;
-    QHash<const QObject*, QWidget*> m_fields; ///< Of each watched widget: a field, or its label.
+    bool m_helpAreaVisible = false;
+    QHash<const QObject*, QWidget*> m_fields; ///< By watched widget: a field or its label.
 };
 
 } // namespace zel

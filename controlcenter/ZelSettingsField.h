@@ -8,19 +8,19 @@
 
 namespace zel {
 
-/// How one kind of value travels between Settings.ini, the registered default texts and a page's model.
+/// Converts one kind of value between Settings.ini, the registered default text and the model of a page.
 template <class T>
 struct ZelFieldConversion
 {
-    /// A key that is absent is given as an invalid variant, and as a null default text.
+    /// Reads a stored value; an invalid variant for a missing key.
     std::function<T(const QVariant& stored)> fromStored;
-    /// Reads a registered default.
+    /// Reads a registered default; a null text for an unregistered key.
     std::function<T(const QString& defaultText)> fromDefault;
-    /// Gives what is written.
+    /// Makes the variant to write.
     std::function<QVariant(const T& value)> toStored;
 };
 
-/// A value that is stored as it is.
+/// Stores a value without a conversion.
 template <class T>
 ZelFieldConversion<T> plainConversion(std::function<T(const QString& defaultText)> fromDefault)
 {
@@ -28,37 +28,37 @@ ZelFieldConversion<T> plainConversion(std::function<T(const QString& defaultText
             [](const T& value) { return QVariant::fromValue(value); }};
 }
 
-/// Text as it is.
+/// A text.
 inline ZelFieldConversion<QString> textConversion()
 {
     return plainConversion<QString>([](const QString& text) { return text; });
 }
 
-/// A whole number; 0 for a default that is none.
+/// An integer; 0 for a default that is not one.
 inline ZelFieldConversion<int> integerConversion()
 {
     return plainConversion<int>([](const QString& text) { return text.toInt(); });
 }
 
-/// A whole number of 64 bits; 0 for a default that is none.
+/// An unsigned 64-bit integer; 0 for a default that is not one.
 inline ZelFieldConversion<quint64> unsignedConversion()
 {
     return plainConversion<quint64>([](const QString& text) { return text.toULongLong(); });
 }
 
-/// A number; 0 for a default that is none.
+/// A floating-point number; 0 for a default that is not one.
 inline ZelFieldConversion<double> realConversion()
 {
     return plainConversion<double>([](const QString& text) { return text.toDouble(); });
 }
 
-/// "true" or "false"; any default but "true" is false.
+/// "true" or "false"; every default except "true" is false.
 inline ZelFieldConversion<bool> flagConversion()
 {
     return plainConversion<bool>([](const QString& text) { return text == QLatin1String("true"); });
 }
 
-/// A row of a page's table: the key, and how its value gets into the model and out of it.
+/// A row in the table of a page: a key, and the functions that move its value into a model and out of it.
 template <class Model>
 struct ZelSettingsField
 {
@@ -75,15 +75,15 @@ struct ZelSettingsField
     {
     }
 
-    /// As in Settings.ini.
+    /// The key, as in Settings.ini.
     QString key;
-    /// Puts a stored value into a model.
+    /// Sets the member of a model from a stored value.
     std::function<void(Model&, const QVariant& stored)> readStored;
-    /// Puts a default into a model.
+    /// Sets the member of a model from a default.
     std::function<void(Model&, const QString& defaultText)> readDefault;
-    /// What is written for a model.
+    /// The variant to write for a model.
     std::function<QVariant(const Model&)> stored;
-    /// Takes the value over from a model into another one.
+    /// Copies the value from one model to another.
     std::function<void(Model& to, const Model& from)> copy;
 };
 

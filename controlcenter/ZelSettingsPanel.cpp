@@ -25,7 +25,7 @@ ZelSettingsPanel::ZelSettingsPanel(kqDMIApplication* application, QSettings& set
 
 ZelSettingsPanel::~ZelSettingsPanel()
 {
-    // The control center may have taken the button into a layout of its own.
+    // The control center may have become the parent of the button.
     delete m_actionWidget;
 }
 
@@ -80,7 +80,7 @@ void ZelSettingsPanel::unregisterCCActionByName(const QString&)
 
 void ZelSettingsPanel::setNamedStyleSheet(const QString& name)
 {
-    setStyleSheet(QString()); // A sheet of its own would come back in place of an empty one.
+    setStyleSheet(QString()); // Otherwise the pause restores it when the named sheet is empty.
     const StyleSheetPause pause(*this);
     setStyleSheet(kqDMIApplication::GetStylesheet(name));
 }

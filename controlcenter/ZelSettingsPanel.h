@@ -15,55 +15,55 @@ class zelAction;
 
 namespace zel {
 
-/// A page of the control center's settings drawer. The control center knows a page through this class alone,
-/// so an application adds pages of its own by deriving from it.
+/// The base of all pages in the control center's settings drawer. An application derives its own pages from
+/// it, or from ZelEditablePanel.
 ///
 /// Every concrete page declares the signal stateChanged(), without arguments, and emits it whenever the
-/// answer of hasModifications() or canResetContent() may have changed.
+/// result of hasModifications() or canResetContent() may have changed.
 ///
-/// The creator of a page owns it, also while it is registered; it has to be unregistered before it is
-/// deleted. The application and the settings must outlive it. GUI thread only.
+/// The creator of a page owns it, also while it is registered, and unregisters it before deleting it. The
+/// application and the settings must outlive it. GUI thread only.
 class ZEL_EXPORT ZelSettingsPanel : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// What a page is about, for applications that group their pages; the control center makes no use of it.
+    /// For applications that group their pages; the control center ignores it.
     enum PanelCategory { ProjectCategory = 0, ApplicationCategory = 1, AdvancedCategory = 2, NoCategory = 3 };
 
-    /// The page has no name and no category yet. Its fields write numbers in the application's language. The
-    /// application may be null: nothing is then pushed to it.
+    /// Creates a page without a name and a category, with the locale of the application's language. The
+    /// application may be null; the page then only writes the settings.
     ZelSettingsPanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
                      Qt::WindowFlags flags);
     ~ZelSettingsPanel() override;
 
-    /// NoCategory unless the page has set one.
+    /// The category; NoCategory at first.
     PanelCategory getPanelCategory() const;
-    /// Sets the category; nothing else changes.
+    /// Sets the category.
     void setPanelCategory(PanelCategory category);
 
-    /// The checkable button that brings the page into view. The page owns it, wherever it is shown. Null once
-    /// it has been deleted, with a widget that it was put into.
+    /// The checkable button that scrolls to the page. The page owns it, also in another widget; null after
+    /// such a widget has deleted it.
     QPushButton* getActionWidget() const;
 
-    /// Empty until it is set.
+    /// The name; empty at first.
     const QString& getPanelName() const;
-    /// Names the page and labels its button.
+    /// Sets the name and the text of the button.
     void setPanelName(const QString& name);
 
-    /// The keys of Settings.ini that the page edits. The control center logs those that are not registered
-    /// when it gets the page.
+    /// The keys of Settings.ini that the page edits. When the page is registered, the control center logs
+    /// those that the registry does not have.
     const QStringList& getSettingsKeys() const;
 
-    /// Loads the stored values into the widgets and forgets pending edits. Called at registration, whenever
-    /// the drawer opens, and when pending edits are discarded.
+    /// Loads the stored values into the widgets and discards pending edits. Called when the page is
+    /// registered, when the drawer opens, and when pending edits are discarded.
     virtual void initializeWidget() = 0;
 
     /// True while the widgets differ from what is stored.
     virtual bool hasModifications() const = 0;
 
-    /// Writes pending edits to the settings, and to the running application where it can take them. Returns
-    /// true when one of them takes effect only after a restart.
+    /// Writes the pending edits to the settings and passes them to the running application. Returns true when
+    /// one of them needs a restart to take effect.
     virtual bool applyModifications() = 0;
 
     /// True while the widgets differ from the defaults.
@@ -72,28 +72,29 @@ public:
     /// Puts the defaults into the widgets, as pending edits.
     virtual void resetContent() = 0;
 
-    /// Discards pending edits; false when the page leaves that to initializeWidget().
+    /// Discards pending edits. False when only initializeWidget() does so.
     virtual bool cancelModifications() = 0;
 
-    /// For applications: reads live state again. Does nothing unless a page overrides it.
+    /// For applications: reads the current state again. Does nothing unless overridden.
     virtual void refreshWidgetContent();
 
-    /// For applications: hands an action to the page. Does nothing unless a page overrides it.
+    /// For applications: adds an action to the page. Does nothing unless overridden.
     virtual void registerCCAction(zelAction* action);
 
-    /// For applications: takes an action back. Does nothing unless a page overrides it.
+    /// For applications: removes an action from the page. Does nothing unless overridden.
     virtual void unregisterCCActionByName(const QString& name);
 
 protected:
-    /// To be called by the constructor of a page that edits settings; ZelEditablePanel does it.
+    /// Sets the keys that the page edits. Call it in the constructor; ZelEditablePanel does so.
     void setSettingsKeys(const QStringList& keys);
 
-    /// What was given to the constructor; may be null.
+    /// The application; may be null.
     kqDMIApplication* application() const { return m_application; }
-    /// What was given to the constructor.
+    /// The settings.
     QSettings& settings() const { return *m_settings; }
 
-    /// Sets the style sheet that the application keeps under this name; to be called once the form is set up.
+    /// Sets the style sheet that kqDMIApplication::GetStylesheet() has under this name. Call it after the
+    /// form is set up.
     void setNamedStyleSheet(const QString& name);
 
 private:

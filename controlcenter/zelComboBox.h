@@ -7,7 +7,7 @@
 
 namespace zel {
 
-/// A combo box that leaves the mouse wheel to the page around it until it has the focus.
+/// A combo box that ignores the mouse wheel unless it has the focus.
 class zelComboBox : public WheelGuard<QComboBox>
 {
     Q_OBJECT

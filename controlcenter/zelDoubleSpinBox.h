@@ -8,14 +8,13 @@
 
 namespace zel {
 
-/// A spin box for floating-point numbers that leaves the mouse wheel to the page around it until it has the
-/// focus.
+/// A spin box for floating-point numbers that ignores the mouse wheel unless it has the focus.
 class ZEL_EXPORT zelDoubleSpinBox : public NumberBox<QDoubleSpinBox>
 {
     Q_OBJECT
 
 public:
-    /// As QDoubleSpinBox. The parent, if any, owns it.
+    /// The parent, if any, owns the box.
     explicit zelDoubleSpinBox(QWidget* parent = nullptr);
 };
 

@@ -8,18 +8,18 @@
 
 namespace zel {
 
-/// A spin box for integer numbers that leaves the mouse wheel to the page around it until it has the focus.
-/// It groups the digits as its locale does.
+/// A spin box for integers that ignores the mouse wheel unless it has the focus. It groups the digits as its
+/// locale does.
 class ZEL_EXPORT zelSpinBox : public NumberBox<QSpinBox>
 {
     Q_OBJECT
 
 public:
-    /// As QSpinBox. The parent, if any, owns it.
+    /// The parent, if any, owns the box.
     explicit zelSpinBox(QWidget* parent = nullptr);
 
 protected:
-    /// The number as the locale of the box writes it.
+    /// Formats the number by the locale of the box.
     QString textFromValue(int value) const override;
 };
 

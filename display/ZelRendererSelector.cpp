@@ -65,14 +65,13 @@ void ZelRendererSelector::keyPressEvent(QKeyEvent* event)
         QDialog::keyPressEvent(event);
 }
 
-// True when the choice changed.
 bool ZelRendererSelector::choose(const QObject* engine)
 {
     const bool software = engine != m_ui->deferredButton;
     if (property(SoftwareProperty).toBool() == software)
         return false;
     setProperty(SoftwareProperty, software);
-    // Rules that depend on a property are evaluated only when the style sheet is set.
+    // QStyleSheetStyle evaluates selectors on properties only when the style sheet is set.
     setStyleSheet(styleSheet());
     announceChosen();
     return true;

@@ -13,31 +13,30 @@ class ZelRendererSelector;
 
 namespace zel {
 
-/// The question of the first start: which engine draws the models. "High" is the deferred renderer on the
-/// graphics card, "Low" the software raytracer. The dialog stores nothing: run it with exec() and ask
-/// useGPURenderer() when it was accepted.
+/// The dialog of the first start: it asks which engine draws the models. "High" is the deferred renderer on
+/// the graphics card, "Low" the software raytracer. It stores nothing: run it with exec() and, if the user
+/// accepts it, read useGPURenderer().
 ///
-/// A click on "High" or "Low" chooses it and gives it the focus; so does Space on the one that has the focus.
-/// The window has no frame; it is moved by its title.
+/// A click on "High" or "Low" chooses it and gives it the focus; the key Space chooses the one with the
+/// focus. The window has no frame; the user moves it by its title.
 class ZEL_EXPORT ZelRendererSelector : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// "High" is chosen at first. The window is always frameless, for any flags.
+    /// Starts with "High" chosen. The window is frameless, whatever the flags.
     explicit ZelRendererSelector(QWidget* parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
     ~ZelRendererSelector() override;
 
-    /// The latest choice, also after the dialog was rejected: true is "High", false is "Low".
+    /// The latest choice, also after the user has rejected the dialog: true for "High", false for "Low".
     bool useGPURenderer() const;
 
-    /// Turns a mouse release on one of the two engines into a choice. A release that changes the choice is
-    /// consumed.
+    /// Chooses the engine on which the mouse was released. Consumes a release that changes the choice.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected Q_SLOTS:
     /// @{
-    /// Accepts and rejects the dialog; connected by name to the form's buttons.
+    /// Connected to the buttons of the form by their names; they accept and reject the dialog.
     void on_okButton_clicked();
     void on_closeButton_clicked();
     /// @}
@@ -47,6 +46,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    /// True when the choice has changed.
     bool choose(const QObject* engine);
     void announceChosen();
 

@@ -22,7 +22,7 @@ namespace zel {
 
 namespace {
 
-const int BytesToMebibytes = 20; // As a shift.
+const int BytesToMebibytes = 20; // bits to shift
 const int MetreIndex = 3;
 
 const char* const QualityTexts[kqDMRenderer::QualityCount] = {
@@ -34,7 +34,7 @@ const char* const QualityTexts[kqDMRenderer::QualityCount] = {
 
 QString qualityText(int quality)
 {
-    // The kernel may answer an unknown name with an index outside its list.
+    // A kernel may give an unknown name an index outside its list.
     const int shown = qBound(0, quality, kqDMRenderer::QualityCount - 1);
     return QCoreApplication::translate("ZelRendererSettingsPanel", QualityTexts[shown]);
 }
@@ -58,7 +58,7 @@ ZelFieldConversion<bool> engineConversion()
             [](bool software) { return QVariant(software ? engines::Software : engines::Deferred); }};
 }
 
-/// The raytracer's quality, as an index into the kernel's list of names.
+/// The raytracer's quality, as an index in kqDMRenderer::scQualityEnum.
 ZelFieldConversion<int> qualityConversion()
 {
     return {[](const QVariant& stored) { return kqDMRenderer::GetRaytracerQuality(stored.toString()); },
@@ -102,7 +102,7 @@ quint64 shownNumber(const QSpinBox* box)
 
 void showNumber(QSpinBox* box, quint64 number)
 {
-    // Limited before the conversion, which would make a small number of one that exceeds an int.
+    // qMin before the conversion, because a number that exceeds an int would wrap.
     box->setValue(static_cast<int>(qMin<quint64>(number, std::numeric_limits<int>::max())));
 }
 
@@ -291,7 +291,8 @@ std::vector<ZelRendererSettingsPanel::Help> ZelRendererSettingsPanel::limitHelp(
                         limit.effect,
                         {limit.key},
                         [limit](const EngineModel& model) {
-                            return limit.box->shownText(double(model.*limit.value >> limit.shift));
+                            return limit.box->shownText(
+                                static_cast<double>(model.*limit.value >> limit.shift));
                         }});
     return rows;
 }
@@ -420,7 +421,7 @@ bool ZelRendererSettingsPanel::shouldRestart() const
 {
     const bool software = m_ui->raytracerButton->isChecked();
     const bool storedSoftware = isSoftware(settings().value(keys::Engine).toString());
-    // Back to the engine that is running needs no restart.
+    // A change back to the running engine needs no restart.
     if (software != storedSoftware && !software != m_startGPUMode)
         return true;
     return hasRaytracerRebootChanged();
@@ -451,7 +452,7 @@ void ZelRendererSettingsPanel::forceGPUMode(bool gpu)
 
     zelActionManager* actions = application() ? application()->getActionManager() : nullptr;
     zelAction* renderingMode = actions ? actions->getActionByName("renderingMode") : nullptr;
-    // The running renderer takes it; what is chosen for the next start does not count.
+    // The mode is one of the running renderer; the engine of the next start does not matter.
     if (renderingMode)
         renderingMode->setEnabled(m_startGPUMode);
 }

@@ -13,50 +13,50 @@ class ZelRendererSettingsPanel;
 
 namespace zel {
 
-/// What the Display page edits. The engine decides which of the other values count.
+/// The settings of the page "Display". The engine decides which of the other values it uses.
 struct EngineModel
 {
     quint64 maxCPUMemory3D = 0;        ///< Bytes, used by the deferred renderer.
     quint64 maxCPUMemoryRaytracer = 0; ///< Bytes.
     quint64 maxGPUMemory = 0;          ///< Bytes, used by the deferred renderer.
-    quint64 trianglesCap = 0;          ///< Triangles of one frame.
+    quint64 trianglesCap = 0;          ///< Triangles in one frame.
     int coreNumber = 0;                ///< Processor cores of the raytracer.
-    int quality = 0;                   ///< Of the raytracer: index into the kernel's list of names.
-    int sceneUnitIndex = 0;            ///< From 0, the kilometre, to 6, the millimetre.
+    int quality = 0;                   ///< Of the raytracer: index in kqDMRenderer::scQualityEnum.
+    int sceneUnitIndex = 0;            ///< From 0 (kilometre) to 6 (millimetre).
     bool useSoftware = false;          ///< True for the raytracer, false for the deferred renderer.
-    bool useSSAO = false;              ///< Shades corners and creases.
+    bool useSSAO = false;              ///< Shades corners and creases (screen-space ambient occlusion).
     bool useFXAA = false;              ///< Antialiasing.
     bool useED = false;                ///< Edge detection.
 };
 
-/// True when both are the same to the engine that they choose: values of the other engine do not count, nor
-/// does the scene unit without SSAO.
+/// Ignores the values of the engine that is not chosen, and the scene unit without SSAO.
 ZEL_EXPORT bool operator==(const EngineModel& left, const EngineModel& right);
 
-/// The page "Display": the rendering engine, its effects or its quality, and which of the machine's resources
-/// it may use. Only what concerns the chosen engine is shown. A new engine needs a restart, and so do the
-/// raytracer's quality and cores, unless the application was started with that value; the cap of triangles
-/// takes effect with Apply.
+/// The page "Display": the rendering engine, its effects or its quality, and its limits of memory, cores and
+/// triangles. It shows only the settings of the chosen engine. Another engine needs a restart, and so do
+/// another quality or number of cores for the raytracer, unless the application was started with them. The
+/// limit of triangles takes effect with Apply.
 class ZEL_EXPORT ZelRendererSettingsPanel : public ZelEditablePanel<EngineModel>
 {
     Q_OBJECT
 
 public:
-    /// Names the page and fills nothing yet. The arguments are those of ZelSettingsPanel.
+    /// Sets the name of the page, but loads nothing. The arguments are those of ZelSettingsPanel.
     ZelRendererSettingsPanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
                              Qt::WindowFlags flags);
     ~ZelRendererSettingsPanel() override;
 
-    /// Index of the unit of which this many make one metre, within 0.001; the metre's when there is none.
+    /// Index of the unit of which this many make one metre, with a tolerance of 0.001; that of the metre when
+    /// there is none.
     static int GetSceneUnitComboIndex(float factor);
 
 Q_SIGNALS:
-    /// Emitted after each edit.
+    /// Emitted after every edit.
     void stateChanged();
 
 protected Q_SLOTS:
     /// @{
-    /// What the user does in the form; connected by the names of its widgets.
+    /// Connected to the widgets of the form by their names.
     void on_resetButton_clicked();
     void on_maxTrianglesSpinBox_valueChanged(int triangles);
     void on_maxGPUSPinBox_valueChanged(int mebibytes);
@@ -80,26 +80,25 @@ protected:
     void notifyStateChanged() override;
 
 private:
-    // What the page tells of the engine and its quality, of the deferred renderer's effects, and of the
-    // numbers.
+    // Help on the engine and its quality, on the deferred renderer's effects, and on the limits.
     std::vector<Help> choiceHelp() const;
     std::vector<Help> effectHelp() const;
     std::vector<Help> limitHelp() const;
 
-    /// True when the raytracer is chosen with a quality or a number of cores that needs a restart.
+    /// True when the raytracer is chosen and its quality or number of cores needs a restart.
     bool hasRaytracerRebootChanged() const;
 
-    /// Shows what concerns the deferred renderer (true) or the raytracer (false).
+    /// Shows the settings of the deferred renderer (true) or of the raytracer (false).
     void forceGPUMode(bool gpu);
     void setNbCoresTxt(int cores);
     void setRaytracerQuality(int quality);
     void setTriangleCap(quint64 triangles);
-    /// The scene unit can be chosen only while SSAO makes use of it.
+    /// Enables the scene unit while SSAO, which uses it, is on.
     void enableSceneUnit();
 
     const std::unique_ptr<Ui::ZelRendererSettingsPanel> m_ui;
 
-    // The values that the application was started with.
+    // The values at the start of the application.
     const int m_startQuality;
     const int m_startCoreNumber;
     const bool m_startGPUMode;

@@ -10,9 +10,9 @@ namespace zel {
 namespace {
 
 // In pixels.
-const int TickDistance = 2; // From the handle.
+const int TickDistance = 2; // from the handle
 const int TickLength = 4;
-const int SmallestTickSpacing = 4;
+const int MinimumTickSpacing = 4;
 
 } // namespace
 
@@ -33,7 +33,7 @@ void zelTickSlider::paintEvent(QPaintEvent* event)
     const int steps = maximum() - minimum();
     const int length = qAbs(handleRect(maximum()).left() - handleRect(minimum()).left());
     int interval = 1;
-    while (interval < steps && length * interval < SmallestTickSpacing * steps)
+    while (interval < steps && length * interval < MinimumTickSpacing * steps)
         interval *= 2;
 
     QPainter painter(this);

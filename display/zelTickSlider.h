@@ -7,9 +7,8 @@
 
 namespace zel {
 
-/// A horizontal slider whose tick marks stay visible below it under a style sheet: Qt leaves them
-/// out as soon as a sheet draws the handle. They have the sheet's text colour. It takes the mouse wheel only
-/// while it has the focus.
+/// A horizontal slider that draws its own tick marks below it, in the text colour: Qt draws none when a style
+/// sheet styles the handle. It ignores the mouse wheel unless it has the focus.
 class zelTickSlider : public WheelGuard<QSlider>
 {
     Q_OBJECT
@@ -17,7 +16,7 @@ class zelTickSlider : public WheelGuard<QSlider>
 public:
     explicit zelTickSlider(QWidget* parent = nullptr);
 
-    /// What the value means, for those who cannot see the label beside the slider.
+    /// Sets the text that screen readers say for the value.
     void setValueText(const QString& text);
 
 protected:

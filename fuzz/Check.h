@@ -6,8 +6,7 @@
 #include <cstdlib>
 #include <iostream>
 
-/// Ends the run, which makes the fuzzer keep the input, unless a property holds. The details go to the error
-/// output.
+/// Aborts unless a property holds, so that the fuzzer keeps the input. Prints the details on standard error.
 template <class... Details>
 void check(bool holds, const char* property, const Details&... details)
 {

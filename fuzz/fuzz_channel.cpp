@@ -1,4 +1,4 @@
-// The receiving end of the single-instance channel: any bytes, in pieces of any size.
+// Fuzzes the receiving end of the single-instance channel with any bytes, in pieces of any size.
 
 #include "Check.h"
 
@@ -16,7 +16,7 @@ namespace {
 
 const int HeaderSize = 8;
 
-/// What the receiver must make of the bytes that have arrived so far.
+/// The result that the receiver must have for the bytes so far.
 LocalMessage::Result expected(const QByteArray& arrived, QString& message)
 {
     const QByteArray mark = "msg1";
@@ -29,7 +29,7 @@ LocalMessage::Result expected(const QByteArray& arrived, QString& message)
         return LocalMessage::Invalid;
     if (arrived.size() < HeaderSize + length)
         return LocalMessage::Incomplete;
-    message = QString::fromUtf8(arrived.constData() + HeaderSize, int(length));
+    message = QString::fromUtf8(arrived.constData() + HeaderSize, static_cast<int>(length));
     return LocalMessage::Complete;
 }
 
@@ -53,7 +53,8 @@ public:
 
     void send(const QByteArray& bytes)
     {
-        check(write(m_peer, bytes.constData(), size_t(bytes.size())) == bytes.size(), "the bytes fit in");
+        check(write(m_peer, bytes.constData(), static_cast<size_t>(bytes.size())) == bytes.size(),
+              "the bytes fit in");
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
@@ -63,7 +64,8 @@ public:
     QByteArray answer() const
     {
         QByteArray bytes(16, 0);
-        return bytes.left(int(qMax<ssize_t>(0, read(m_peer, bytes.data(), size_t(bytes.size())))));
+        const ssize_t length = read(m_peer, bytes.data(), static_cast<size_t>(bytes.size()));
+        return bytes.left(static_cast<int>(qMax<ssize_t>(0, length)));
     }
 
     QStringList messages;
@@ -106,7 +108,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     if (size < 2)
         return 0;
-    const QByteArray bytes(reinterpret_cast<const char*>(data) + 1, int(size) - 1);
+    const QByteArray bytes(reinterpret_cast<const char*>(data) + 1, static_cast<int>(size) - 1);
     checkReading(bytes, data[0] + 1);
 
     const QString text = QString::fromUtf8(bytes.constData(), bytes.size());

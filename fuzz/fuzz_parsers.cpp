@@ -1,4 +1,4 @@
-// Parses ratios and scene units from any text and any numbers.
+// Fuzzes the parsers of ratios and scene units with any texts and numbers.
 
 #include "Check.h"
 #include "NumberText.h"
@@ -68,7 +68,7 @@ void checkNumbers(std::vector<float> numbers)
     for (const float number : numbers) {
         const int index = sceneUnitIndex(number);
         check(index >= -1 && index < SceneUnitCount, "the index is that of a unit",
-              QString::number(double(number)));
+              QString::number(static_cast<double>(number)));
     }
     const std::vector<float> original = numbers;
     const bool changed = kqDMManager::correctRatios(numbers);
@@ -81,8 +81,9 @@ void checkNumbers(std::vector<float> numbers)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    // The text, and after a zero byte, if there is one, the default.
-    const QList<QByteArray> texts = QByteArray(reinterpret_cast<const char*>(data), int(size)).split('\0');
+    // The input is a text, optionally followed by a zero byte and a default.
+    const QList<QByteArray> texts =
+        QByteArray(reinterpret_cast<const char*>(data), static_cast<int>(size)).split('\0');
     const QString text = QString::fromUtf8(texts[0]);
     checkRatios(GoodRatios, text);
     if (texts.size() > 1)

@@ -1,4 +1,4 @@
-// The validation pass, on any bytes that a settings file may hold.
+// Fuzzes the validation pass with any bytes as a settings file.
 
 #include "Check.h"
 #include "SettingsBackup.h"
@@ -24,9 +24,10 @@ using namespace zel;
 
 namespace {
 
-typedef ZelSettingsValidators V;
-typedef QMap<QString, QByteArray>
-    Content; ///< Values as a stream holds them, because those of a window cannot be compared here.
+using V = ZelSettingsValidators;
+
+/// Values by key, as bytes, because QVariant cannot compare the types of QtGui here.
+using Content = QMap<QString, QByteArray>;
 
 const QTemporaryDir& folder()
 {
@@ -89,8 +90,8 @@ QByteArray bytes(const QString& path)
     return file.readAll();
 }
 
-/// A value without the form in which QSettings has read it: numbers and truth values are stored as text,
-/// and a list of texts is one of values when a text of it starts with "@" in the file.
+/// A value in one form for all types in which QSettings may read it: numbers and booleans as text, and both
+/// kinds of lists alike.
 QByteArray comparable(const QVariant& value)
 {
     QByteArray result;
@@ -106,7 +107,7 @@ QByteArray comparable(const QVariant& value)
     return result;
 }
 
-/// What is stored under keys that are not registered.
+/// The values of all keys that are not registered.
 Content unknownContent(const QString& path)
 {
     const auto settings = ZelSettingsFile::Open(path);
@@ -118,9 +119,9 @@ Content unknownContent(const QString& path)
     return content;
 }
 
-/// Names that QSettings reads from a file but writes as others: "/engine" becomes "engine", beside or over
-/// the key of that name, and the group "[%general]" becomes "[%General]".
-bool hasUnkeptName(const Content& content)
+/// True when QSettings writes a key under another name than it has read: "/engine" becomes "engine", and the
+/// group "[%general]" becomes "[%General]".
+bool hasChangingName(const Content& content)
 {
     const QStringList names = content.keys();
     return std::any_of(names.begin(), names.end(), [](const QString& name) {
@@ -149,7 +150,7 @@ void checkRegisteredValues(const QString& path)
     }
 }
 
-/// What a start does: the pass, and all that protects the file.
+/// Repairs the file, as a start does.
 void runPass(const QString& path)
 {
     QString error;
@@ -164,15 +165,16 @@ bool hasFolderWithSlash(const QString& path)
                        [&](const char* key) { return settings->value(key).toString().endsWith('/'); });
 }
 
-/// Copies of a file under other names, because QSettings remembers a file that it has read by its name, its
-/// size and a time that does not tell two inputs of one millisecond apart.
+/// Writes each input under a new name, because QSettings caches files by name, size and time, which two
+/// inputs of one millisecond may share.
 QString writeInput(const uint8_t* data, size_t size)
 {
     static int number = 0;
     const QString path = folder().filePath(QString("Settings%1.ini").arg(++number));
     QFile file(path);
     check(file.open(QIODevice::WriteOnly) &&
-              file.write(reinterpret_cast<const char*>(data), qint64(size)) == qint64(size),
+              file.write(reinterpret_cast<const char*>(data), static_cast<qint64>(size)) ==
+                  static_cast<qint64>(size),
           "the input can be written", path);
     return path;
 }
@@ -180,7 +182,8 @@ QString writeInput(const uint8_t* data, size_t size)
 QString copyOf(const QString& path)
 {
     const QByteArray content = bytes(path);
-    return writeInput(reinterpret_cast<const uint8_t*>(content.constData()), size_t(content.size()));
+    return writeInput(reinterpret_cast<const uint8_t*>(content.constData()),
+                      static_cast<size_t>(content.size()));
 }
 
 } // namespace
@@ -200,10 +203,10 @@ void testInput(const uint8_t* data, size_t size)
     const QString once = writeInput(data, size);
     const bool damaged = !settingsDamage(bytes(once)).isEmpty();
     const Content unknown = unknownContent(once);
-    const bool namesKept = !hasUnkeptName(unknown);
+    const bool namesKept = !hasChangingName(unknown);
     if (!namesKept)
-        runPass(once); // Gives them the names that QSettings writes.
-    // Each pass takes one slash off the end of a folder, so one that ends in several takes as many passes.
+        runPass(once); // Changes the names to those that QSettings writes.
+    // Each pass removes only one slash from the end of a folder.
     do
         runPass(once);
     while (hasFolderWithSlash(once));
@@ -233,7 +236,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     try {
         testInput(data, size);
     } catch (const std::bad_alloc&) {
-        // QSettings believes the counts in a stored "@Variant(...)", be they beyond all memory.
+        // QSettings allocates as much memory as a stored "@Variant(...)" asks for.
     }
     return 0;
 }

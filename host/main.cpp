@@ -2,7 +2,7 @@
 #include "ZelSettingsFile.h"
 #include "base/ApplicationRoot.h"
 #include "base/StandardStreams.h"
-#include "base/ZelQtCompat.h"
+#include "base/ZelSystemCompat.h"
 #include "launch.h"
 
 #include <QSettings>

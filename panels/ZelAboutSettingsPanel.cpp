@@ -34,10 +34,8 @@ const struct
      "https://fonts.google.com/specimen/Open+Sans"},
 };
 
-const int LogoSize = 96; // In pixels.
-
-// The versions get what the names leave over, in pixels.
-const int PluginNameWidth = 260;
+const int LogoSize = 96;         // pixels
+const int PluginNameWidth = 260; // pixels; the versions get the rest of the table
 
 QString componentsText()
 {
@@ -56,7 +54,7 @@ QTableWidgetItem* newItem(const QString& text)
     return item;
 }
 
-// The table takes no keys, so it must not need to be scrolled; the drawer around the page does that.
+// The table does not take the focus, so it must not need to scroll; the drawer scrolls instead.
 void showAllRows(QTableWidget& table)
 {
     table.ensurePolished();
@@ -101,7 +99,7 @@ void ZelAboutSettingsPanel::initializeWidget()
 
 void ZelAboutSettingsPanel::resizeEvent(QResizeEvent* event)
 {
-    // How many lines the texts need depends on the width that the page has got.
+    // The texts wrap, so their height depends on the width.
     showAllRows(*m_ui->tableWidget);
     m_ui->scrollArea->setFixedHeight(
         m_ui->scrollAreaWidgetContents->heightForWidth(m_ui->scrollArea->viewport()->width()));

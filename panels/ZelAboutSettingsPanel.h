@@ -12,19 +12,18 @@ class ZelAboutSettingsPanel;
 
 namespace zel {
 
-/// The page "About": the version, the loaded plug-ins and the components that the product is made with. There
-/// is nothing on it to edit.
+/// The page "About": the version, the loaded plug-ins and the components of the product. It edits nothing.
 class ZEL_EXPORT ZelAboutSettingsPanel : public ZelSettingsPanel
 {
     Q_OBJECT
 
 public:
-    /// Names the page and fills nothing yet. The arguments are those of ZelSettingsPanel.
+    /// Sets the name of the page, but loads nothing. The arguments are those of ZelSettingsPanel.
     ZelAboutSettingsPanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
                           Qt::WindowFlags flags);
     ~ZelAboutSettingsPanel() override;
 
-    /// Fills the page the first time; plug-ins that are loaded later are not shown.
+    /// Fills the page at the first call; plug-ins that are loaded later do not appear.
     void initializeWidget() override;
     bool hasModifications() const override { return false; }
     bool applyModifications() override { return false; }
@@ -43,7 +42,7 @@ protected Q_SLOTS:
     void onLinkActivated(const QString& link);
 
 protected:
-    /// Fits the table of the plug-ins.
+    /// Fits the heights of the texts and of the table to the new width.
     void resizeEvent(QResizeEvent* event) override;
 
 private:

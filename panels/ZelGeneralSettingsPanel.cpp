@@ -17,8 +17,7 @@ namespace zel {
 
 namespace {
 
-// What a button's border and padding take from the width of its text, in pixels.
-const int ButtonTextMargin = 12;
+const int ButtonTextMargin = 12; // pixels: border and padding, left and right
 
 ZelEditablePanel<GeneralModel>::Fields generalFields()
 {
@@ -161,8 +160,8 @@ void ZelGeneralSettingsPanel::elideText()
     for (QPushButton* button : {m_ui->databaseButton, m_ui->screenshotFolderButton}) {
         button->setText(button->fontMetrics().elidedText(button->toolTip(), Qt::ElideLeft,
                                                          button->width() - ButtonTextMargin));
-        button->setShortcut(QKeySequence()); // An "&" in a path is part of its name.
-        // A button without a text must still say what a click does.
+        button->setShortcut(QKeySequence()); // An "&" in a path is no shortcut.
+        // Without a folder the button shows an icon instead.
         const bool unset = button->toolTip().isEmpty();
         button->setIcon(unset ? QIcon(":/controlCenter/controlCenter/folder.png") : QIcon());
         const QString folder =

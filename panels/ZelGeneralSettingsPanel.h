@@ -16,7 +16,7 @@ class ZelGeneralSettingsPanel;
 
 namespace zel {
 
-/// What the General page edits.
+/// The settings of the page "Folders".
 struct GeneralModel
 {
     /// Folder of the 3D database cache.
@@ -28,25 +28,25 @@ struct GeneralModel
 
 ZEL_EXPORT bool operator==(const GeneralModel& left, const GeneralModel& right);
 
-/// The page "Folders": where the disk cache and the screenshots are kept, and how large the cache may grow.
-/// The tool tip of a folder button is the folder itself; its text is only as much of it as fits.
+/// The page "Folders": the folders of the disk cache and the screenshots, and the size limit of the cache.
+/// The tool tip of a folder button holds the folder; its text is the part of the path that fits.
 class ZEL_EXPORT ZelGeneralSettingsPanel : public ZelEditablePanel<GeneralModel>
 {
     Q_OBJECT
 
 public:
-    /// Names the page and fills nothing yet. The arguments are those of ZelSettingsPanel.
+    /// Sets the name of the page, but loads nothing. The arguments are those of ZelSettingsPanel.
     ZelGeneralSettingsPanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
                             Qt::WindowFlags flags);
     ~ZelGeneralSettingsPanel() override;
 
 Q_SIGNALS:
-    /// Emitted after each edit.
+    /// Emitted after every edit.
     void stateChanged();
 
 protected Q_SLOTS:
     /// @{
-    /// What the user does in the form; connected by the names of its widgets.
+    /// Connected to the widgets of the form by their names.
     void on_databaseButton_clicked();
     void on_screenshotFolderButton_clicked();
     void on_databaseSpinBox_valueChanged(int megabytes);
@@ -55,7 +55,7 @@ protected Q_SLOTS:
 
 protected:
     /// @{
-    /// Shows as much of the folders' paths as there is room for.
+    /// Calls elideText().
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     /// @}
@@ -65,16 +65,15 @@ protected:
     void saveSettingsInternal() override;
     void pushToApplication() override;
 
-    /// True when the cache moves to a folder that is neither the stored one nor the one in use since the
-    /// start.
+    /// True when the cache folder on the page is neither the stored one nor the one at the start.
     bool shouldRestart() const override;
     void notifyStateChanged() override;
 
-    /// Shows the end of each folder's path, as much of it as its button can hold.
+    /// Shows on each folder button as much of the end of the path as fits.
     void elideText();
-    /// Hands the folder of the screenshots to the running application.
+    /// Passes the folder of the screenshots to the running application.
     void setScreenshotFolder();
-    /// Hands the size of the cache to the running application.
+    /// Passes the size of the cache to the running application.
     void setMaxCacheSize();
 
 private:

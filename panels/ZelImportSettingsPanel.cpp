@@ -25,12 +25,12 @@ ZelEditablePanel<ImportModel>::Fields importFields()
     };
 }
 
-QString ownChoiceText()
+QString automaticText()
 {
     return QCoreApplication::translate("ZelImportSettingsPanel", "chosen by Torvane");
 }
 
-// A choice is a switch and the value that matters while it is on.
+// Compares a flag, and its value while the flag is set.
 template <class T>
 bool sameChoice(const ImportModel& left, const ImportModel& right, bool ImportModel::*set,
                 T ImportModel::*value)
@@ -76,7 +76,7 @@ ZelImportSettingsPanel::ZelImportSettingsPanel(kqDMIApplication* application, QS
           {keys::TessellationQualitySet, keys::TessellationHighQuality},
           [this](const ImportModel& model) {
               const QRadioButton* chosen = model.isHighQuality ? m_ui->highQuality : m_ui->lowQuality;
-              return model.qualitySet ? chosen->text() : ownChoiceText();
+              return model.qualitySet ? chosen->text() : automaticText();
           }},
          limitHelp(Sag, m_ui->faceSagSpin, &ImportModel::maxFaceSag,
                    QT_TRANSLATE_NOOP("ZelImportSettingsPanel",
@@ -114,7 +114,7 @@ void ZelImportSettingsPanel::on_highQuality_clicked()
 void ZelImportSettingsPanel::on_lowQuality_clicked()
 {
     setQuality(true, false);
-    // The reset button keeps its state until the next refresh, on purpose.
+    // Not onEdited(): the reset button keeps its state until the next edit, on purpose.
     Q_EMIT stateChanged();
 }
 
@@ -200,7 +200,7 @@ ZelImportSettingsPanel::limitHelp(int index, const Box* box, Value ImportModel::
     help.effect = EffectWithNextImport;
     help.keys = keys;
     help.shown = [limit, box, value](const ImportModel& model) {
-        return model.*limit.set ? box->shownText(model.*value) : ownChoiceText();
+        return model.*limit.set ? box->shownText(model.*value) : automaticText();
     };
     return help;
 }

@@ -16,41 +16,41 @@ class ZelImportSettingsPanel;
 
 namespace zel {
 
-/// What the Import page edits.
+/// The settings of the page "Tessellation".
 struct ImportModel
 {
     double maxFaceSag = 0;         ///< In the unit of the imported model.
     double maxFaceLength = 0;      ///< In the unit of the imported model.
     int maxFaceAngle = 0;          ///< Degrees.
     bool isHighQuality = false;    ///< True for high quality, false for low.
-    bool qualitySet = false;       ///< The quality is in force.
-    bool maxFaceSagSet = false;    ///< The limit of the sag is in force.
-    bool maxFaceLengthSet = false; ///< The limit of the length is in force.
-    bool maxFaceAngleSet = false;  ///< The limit of the angle is in force.
+    bool qualitySet = false;       ///< The quality is used.
+    bool maxFaceSagSet = false;    ///< The limit of the sag is used.
+    bool maxFaceLengthSet = false; ///< The limit of the length is used.
+    bool maxFaceAngleSet = false;  ///< The limit of the angle is used.
 };
 
-/// A value that is not set is not in force, and so makes no difference.
+/// Ignores values that are not set, because the import does not use them.
 ZEL_EXPORT bool operator==(const ImportModel& left, const ImportModel& right);
 
-/// The page "Tessellation": how finely CAD files are cut into triangles on import, by a quality or by limits
-/// of their own. The next import reads the choices from the settings.
+/// The page "Tessellation": how finely the import divides CAD models into triangles, by a quality or by
+/// limits. The next import reads the settings.
 class ZEL_EXPORT ZelImportSettingsPanel : public ZelEditablePanel<ImportModel>
 {
     Q_OBJECT
 
 public:
-    /// Names the page and fills nothing yet. The arguments are those of ZelSettingsPanel.
+    /// Sets the name of the page, but loads nothing. The arguments are those of ZelSettingsPanel.
     ZelImportSettingsPanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
                            Qt::WindowFlags flags);
     ~ZelImportSettingsPanel() override;
 
 Q_SIGNALS:
-    /// Emitted after each edit.
+    /// Emitted after every edit.
     void stateChanged();
 
 protected Q_SLOTS:
     /// @{
-    /// What the user does in the form; connected by the names of its widgets.
+    /// Connected to the widgets of the form by their names.
     void on_defaultQuality_clicked();
     void on_highQuality_clicked();
     void on_lowQuality_clicked();
@@ -69,7 +69,7 @@ protected:
     void notifyStateChanged() override;
 
 private:
-    /// The widgets of a limit, which is either left to the importer or set to the value of a spin box.
+    /// A limit: the importer chooses it (byDefault), or the user sets it in a spin box (byValue).
     struct Limit
     {
         bool ImportModel::*set;

@@ -22,7 +22,7 @@ using Ratios = std::vector<float>;
 
 const int FirstEditableLevel = 2;
 const int LastLevel = 5;
-const int ImageSize = 64; // In pixels.
+const int ImageSize = 64; // pixels
 
 Ratios parseRatios(const QString& text)
 {
@@ -143,7 +143,7 @@ void ZelSimplificationSettingsPanel::on_ratio5_editingFinished()
 
 bool ZelSimplificationSettingsPanel::hasModifications() const
 {
-    // What the page cannot show is replaced by the next apply.
+    // Apply replaces a text that the page cannot show.
     return isMalformed(settings().value(keys::SimplificationRatios)) ||
            ZelEditablePanel<SimplificationModel>::hasModifications();
 }
@@ -161,7 +161,7 @@ void ZelSimplificationSettingsPanel::applyModel(const SimplificationModel& model
         return;
     for (int level = FirstEditableLevel; level <= LastLevel; ++level) {
         const SignalBlock block{percentage(level)};
-        // Single precision decides how a half is rounded: 0.755 is shown as 76, not as 75.
+        // In single precision, because it decides how a half is rounded: 0.755 is shown as 76, not as 75.
         percentage(level)->setValue(model.ratios[level - 1] * 100);
     }
 }
@@ -207,7 +207,7 @@ ZelSimplificationSettingsPanel::Help ZelSimplificationSettingsPanel::levelHelp(i
     help.shown = [level, percent](const SimplificationModel& model) {
         return isWellFormed(model.ratios) ? percent(model.ratios[level - 1] * 100) : QString();
     };
-    help.take = [level](SimplificationModel& to, const SimplificationModel& from) {
+    help.copy = [level](SimplificationModel& to, const SimplificationModel& from) {
         if (isWellFormed(from.ratios) && level >= FirstEditableLevel)
             to.ratios[level - 1] = from.ratios[level - 1];
     };

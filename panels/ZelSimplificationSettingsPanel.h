@@ -15,37 +15,37 @@ namespace zel {
 
 class zelDoubleSpinBox;
 
-/// What the Simplification page edits.
+/// The settings of the page "Simplification".
 struct SimplificationModel
 {
-    /// The kept fraction of triangles, 0.01 to 1, of levels 1 to 5. Any other size is not well formed.
+    /// The kept fractions of triangles, each from 0.01 to 1, of levels 1 to 5. Valid only with five elements.
     std::vector<float> ratios;
 };
 
 ZEL_EXPORT bool operator==(const SimplificationModel& left, const SimplificationModel& right);
 
-/// The page "Simplification": how many of its triangles, in percent, a scene keeps when it is exported at
-/// each of five levels. The first level keeps all; no other should keep more than the one before it.
+/// The page "Simplification": the percentage of triangles that a scene keeps when it is exported at each of
+/// five levels. The first level keeps all; each of the others keeps at most as many as the one before.
 class ZEL_EXPORT ZelSimplificationSettingsPanel : public ZelEditablePanel<SimplificationModel>
 {
     Q_OBJECT
 
 public:
-    /// Names the page and fills nothing yet. The arguments are those of ZelSettingsPanel.
+    /// Sets the name of the page, but loads nothing. The arguments are those of ZelSettingsPanel.
     ZelSimplificationSettingsPanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
                                    Qt::WindowFlags flags);
     ~ZelSimplificationSettingsPanel() override;
 
-    /// True also while the stored text is not one of five ratios, in whose place the page shows the defaults.
+    /// Also true while the stored text does not have five ratios; the page then shows the defaults.
     bool hasModifications() const override;
 
 Q_SIGNALS:
-    /// Emitted after each edit.
+    /// Emitted after every edit.
     void stateChanged();
 
 protected Q_SLOTS:
     /// @{
-    /// What the user does in the form; connected by the names of its widgets.
+    /// Connected to the widgets of the form by their names.
     void on_resetButton_clicked();
     void on_ratio2_editingFinished();
     void on_ratio3_editingFinished();
@@ -59,14 +59,17 @@ protected:
     void pushToApplication() override;
     void notifyStateChanged() override;
 
-    /// Hands the ratios to the running simplifier.
+    /// Passes the ratios to the running simplifier.
     void setRatios();
 
 private:
-    /// Brings the neighbours of an edited level, but none beyond them, into descending order with it.
+    /// Brings an edited level and its two neighbours into descending order; other levels stay as they are.
     void finishEditing(int level);
     Help levelHelp(int level) const;
-    zelDoubleSpinBox* percentage(int level) const { return m_percentages[std::size_t(level - 1)]; }
+    zelDoubleSpinBox* percentage(int level) const
+    {
+        return m_percentages[static_cast<std::size_t>(level - 1)];
+    }
 
     const std::unique_ptr<Ui::ZelSimplificationSettingsPanel> m_ui;
     std::vector<zelDoubleSpinBox*> m_percentages; ///< The form's spin boxes, level 1 first.

@@ -5,15 +5,15 @@
 
 #include <string>
 
-/// The viewer's log: events of a type, each with a text. Events that come before a handler is installed are
-/// kept and written as soon as there is one.
+/// The viewer's log: events with a type and a text. Keeps events until a handler is installed, which then
+/// writes them.
 class ZEL_KERNEL_EXPORT MTLogger
 {
 public:
-    /// Writes events to a file from now on, one line each with time, type and text.
-    /// A file that cannot be opened is reported on standard output; the application goes on without a log.
-    /// @param diagnostics    also write events of the type "debug"
-    /// @param blackListUtf8  types that are not written, separated by "," or ";", case ignored
+    /// Writes events to a file from now on, one line each with time, type and text. Reports a file that
+    /// cannot be opened on standard output; the application then has no log.
+    /// @param diagnostics    whether to write events of the type "debug"
+    /// @param blackListUtf8  types to leave out, separated by "," or ";", in upper or lower case
     static void InstallFileHandler(const std::string& fileUtf8, bool diagnostics,
                                    const std::string& blackListUtf8);
 

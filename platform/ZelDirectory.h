@@ -9,7 +9,7 @@
 class ZEL_KERNEL_EXPORT ZelDirectory
 {
 public:
-    /// The current user's folder for an application's temporary data, in UTF-8. It need not exist.
+    /// The current user's folder for an application's temporary data, in UTF-8. The folder may not exist.
     static std::string GetTempFolderUtf8(const std::string& applicationNameUtf8);
 };
 

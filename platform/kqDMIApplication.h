@@ -25,24 +25,24 @@ class zelNavigationManager;
 class zelReleaseEventFilter;
 class zelThumbnailManager;
 
-/// An event of the application's life that listeners are told of; the values are the application's own.
+/// An event that notifyAppEvent() sends to listeners. The application defines the values.
 enum zelAppEvent : int;
 
 /// Identifies a component of the loaded document.
 using kqDMComponentId = unsigned int;
 
-/// Something to be done once the document has been saved.
+/// An event to send after the document is saved.
 struct PostSaveEventItem
 {
-    /// What is to happen.
+    /// The event.
     zelAppEvent event;
-    /// What the event is about; its meaning is the application's own.
+    /// Its argument; the application defines the meaning.
     QString argument;
 };
 
-/// The interface of the application that hosts pages and panels: the viewer, or the stand-alone settings
-/// editor, which has no scene. The guide to embedding lists what the control center and its pages ask for;
-/// the rest is the viewer's own affair. GUI thread only.
+/// The interface of the application that hosts the control center and its pages: the viewer, or the
+/// stand-alone settings editor, which has no scene. The guide to embedding lists the functions that control
+/// center and pages call; the others serve the viewer. GUI thread only.
 class ZEL_KERNEL_GUI_EXPORT kqDMIApplication : public QObject
 {
     Q_OBJECT
@@ -52,25 +52,25 @@ public:
     explicit kqDMIApplication(QObject* parent = nullptr);
     ~kqDMIApplication() override;
 
-    /// Drops the loaded document and all that was made for it.
+    /// Closes the loaded document and releases its resources.
     virtual void clearViewerApp() = 0;
 
     /// The document manager; null when nothing can be loaded.
     virtual kqDMManager* getDMManager() const = 0;
     /// The renderer; null when nothing is drawn.
     virtual kqDMRenderer* getDMRenderer() const = 0;
-    /// The engine of the interface's QML parts; null without any.
+    /// The QML engine of the interface; null without one.
     virtual QDeclarativeEngine* getDeclarativeEngine() const = 0;
-    /// The materials of the document; null without any.
+    /// The materials of the document; null without a document.
     virtual zelMaterialManagerInterface* getMaterialManager() const = 0;
-    /// Replaces the materials of the document; the caller keeps the manager.
+    /// Replaces the materials of the document. The caller still owns the manager.
     virtual void setMaterialManager(zelMaterialManagerInterface* manager) = 0;
-    /// What moves the camera; null without a view.
+    /// The manager that moves the camera; null without a view.
     virtual zelNavigationManager* getNavigationManager() const = 0;
 
     /// The user's settings; owned by the application.
     virtual QSettings& getSettings() = 0;
-    /// The loaded document, to be changed; null without one.
+    /// The loaded document, for changes; null without one.
     virtual kqDMProject* editProject() = 0;
 
     /// The loaded plug-ins, in the order of loading.
@@ -80,24 +80,24 @@ public:
 
     /// The selected components; empty without a document.
     virtual const kqDMSelection& getSelection() const = 0;
-    /// The selected components, to be changed.
+    /// The selected components, for changes.
     virtual kqDMSelection& grabSelection() = 0;
 
-    /// Screenshots taken from now on are saved in this folder.
+    /// Sets the folder for screenshots.
     virtual void setScreenshotImageFolder(const QString& folder) = 0;
-    /// The folder that was set last; null before.
+    /// The folder for screenshots; null before it is set.
     virtual const QString& getScreenshotImageFolder() const = 0;
 
-    /// Called by the kernel when a document has been loaded to its end.
+    /// The kernel calls it when a document is completely loaded.
     virtual void updateAfterCompleteLoading() = 0;
 
-    /// Pauses (false) and resumes (true) the 3D engine, so that nothing else competes with an animation.
+    /// Resumes (true) or pauses (false) the 3D engine, which would slow an animation down.
     virtual void setUpdateEngineEnabled(bool enabled) = 0;
-    /// Lets the 3D engine draw less often (true), or as often as usual.
+    /// Lets the 3D engine draw less often (true), or at its usual rate.
     virtual void setLowUpdateEngineFrequency(bool low) = 0;
-    /// The small pictures of the document's components; null without any.
+    /// The thumbnails of the document's components; null without any.
     virtual zelThumbnailManager* getThumbnailManager() const = 0;
-    /// Tells the listeners of an event.
+    /// Sends an event to the listeners.
     virtual void notifyAppEvent(zelAppEvent event) = 0;
 
     /// The application's own default of a settings key; null when it has none.
@@ -107,40 +107,40 @@ public:
     /// The folder that holds the user's settings file.
     virtual const QString& getApplicationFolder() const = 0;
 
-    /// Removes a component from the document; false when it is not there.
+    /// Removes a component from the document; false when the document does not have it.
     virtual bool removeComponent(kqDMComponentId component) = 0;
-    /// Called once, when the settings are valid and the libraries run.
+    /// Called once, when the settings are valid and the libraries are started.
     virtual void applicationStarted() = 0;
     /// Called once, before the libraries stop.
     virtual void applicationFinished() = 0;
-    /// Saves the document where it came from; false when that fails or there is none.
+    /// Saves the document to its file; false when that fails or there is no document.
     virtual bool saveDocument() = 0;
-    /// Loads documents, in place of the loaded one or in addition to it.
+    /// Loads documents; replaces the loaded one, or adds to it.
     virtual void loadDocument(const QStringList& files, bool append) = 0;
-    /// Lets the user choose what to load, in place of the loaded document or in addition to it.
+    /// Asks the user for documents and loads them; replaces the loaded one, or adds to it.
     virtual void loadDocument(bool append) = 0;
-    /// Allows (true) and forbids clicks in the 3D view that select components.
+    /// Lets clicks in the 3D view select components (true), or not.
     virtual void set3DSelectionPickingEnabled(bool enabled) = 0;
-    /// Whether such clicks are allowed.
+    /// Whether clicks in the 3D view select components.
     virtual bool is3DSelectionPickingEnabled() const = 0;
-    /// What is to be done once the document has been saved; the caller may add to it.
+    /// The events to send after the document is saved; the caller may add some.
     virtual std::vector<PostSaveEventItem>& getPostSaveEventVector() = 0;
-    /// Shows the widget of the workflow at hand; null for none. Not owned.
+    /// Shows the widget of the current workflow; null for none. Not owned.
     virtual void setWorkFlowWidget(QWidget* widget) = 0;
-    /// Offers mouse releases in the 3D view to a filter (true), or no longer. Not owned.
+    /// Adds a filter for mouse releases in the 3D view (true), or removes it. Not owned.
     virtual void registerMouseReleaseEventFilter(zelReleaseEventFilter* filter, bool enable) = 0;
 
-    /// The named actions of the application; null unless the application has some.
+    /// The named actions of the application; null without any.
     virtual zelActionManager* getActionManager() const;
 
-    /// True when the settings switch diagnostics on ("enablediag" is "true").
+    /// True when the setting "enablediag" is "true".
     bool isDiagModeEnable();
 
-    /// The style sheet registered under a name; empty when there is none.
+    /// The style sheet of that name; empty when there is none.
     static QString GetStylesheet(const QString& name);
-    /// Opens an address in the desktop's browser.
+    /// Opens an address in the user's browser.
     static void OpenUrl(const QUrl& url);
-    /// Version of the kernel, as it is shown to users.
+    /// Version of the kernel, for users to read.
     static QString GetKernelVersion();
 };
 

@@ -14,12 +14,11 @@ public:
     /// Limits the 3D database cache, in megabytes; takes effect at once.
     virtual void setMaxCacheSize(unsigned int megabytes) = 0;
 
-    /// Hands the five kept fractions of triangles, level 1 first, to the running simplifier.
+    /// Sets the five kept fractions of triangles, level 1 first; takes effect at once.
     virtual void setSimplificationRatios(std::vector<float>& ratios) = 0;
 
-    /// Brings ratios into the simplifier's valid form: the first is 1, each lies in [0.01, 1], none is larger
-    /// than the one before it. A value that is not a number becomes the one before it.
-    /// Returns true when anything changed.
+    /// Corrects ratios: the first becomes 1, each lies in [0.01, 1], and none is larger than the one before.
+    /// A NaN becomes the one before. Returns true when anything has changed.
     static bool correctRatios(std::vector<float>& ratios);
 };
 

@@ -11,9 +11,9 @@ class ZEL_KERNEL_EXPORT kqDMPlugin
 public:
     virtual ~kqDMPlugin();
 
-    /// Name of the plug-in, as it is shown to users.
+    /// Name of the plug-in, for users to read.
     virtual QString getName() const = 0;
-    /// Version of the plug-in, as it is shown to users; may be empty.
+    /// Version of the plug-in, for users to read; may be empty.
     virtual QString getVersion() const = 0;
 };
 

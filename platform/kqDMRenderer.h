@@ -11,12 +11,12 @@ class ZEL_KERNEL_EXPORT kqDMRenderer
 public:
     virtual ~kqDMRenderer();
 
-    /// Number of triangles that the renderer may draw in one frame; takes effect at once.
+    /// Limits the triangles that the renderer draws in one frame; takes effect at once.
     virtual void setTargetTriangles(quint64 triangles) = 0;
 
     enum { QualityCount = 4 };
 
-    /// Names of the raytracer's qualities as settings hold them, from the lowest to the highest.
+    /// Names of the raytracer's qualities in Settings.ini, from the lowest to the highest.
     static const QString scQualityEnum[QualityCount];
 
     /// Index of a quality name in scQualityEnum; 0 for an unknown name.

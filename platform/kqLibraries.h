@@ -3,15 +3,15 @@
 
 #include "../base/ZelExport.h"
 
-// Start and stop of the viewer's libraries. Each is started once, before anything else of it is used, and
-// stopped in reverse order.
+// Functions that start and stop the viewer's libraries. Start each once, before any other use of it; stop
+// them in reverse order.
 
 namespace kq {
 
 /// How much of the system library an application needs.
 enum InitType { InitMinimal = 0, InitConsole = 1, InitApplication = 2 };
 
-/// @param reportCrashes  installs the library's own crash reports
+/// @param reportCrashes  installs the crash reporter of the library
 KQ_SYSTEM_EXPORT void initializeKqSystem(InitType type, bool reportCrashes);
 KQ_SYSTEM_EXPORT void terminateKqSystem();
 

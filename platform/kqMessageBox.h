@@ -11,11 +11,10 @@
 class ZEL_KERNEL_GUI_EXPORT kqMessageBox
 {
 public:
-    /// Shows a modal box and returns the button that closed it; closing the box by Escape or by the window
-    /// manager answers as Cancel does, or as the only button. Where Cancel is among the buttons it has the
-    /// focus and is what Return answers.
-    /// @param buttonTexts  texts that replace the usual ones of the named buttons
-    /// @param critical     shows the box as an error instead of a question
+    /// Shows a modal box and returns the button that closed it. Escape and the window manager close it with
+    /// Cancel, or with the only button. Cancel is the default button, if there is one.
+    /// @param buttonTexts  replace the standard texts of these buttons
+    /// @param critical     shows the icon of an error
     static QMessageBox::StandardButton
     ShowMessage(const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
                 QWidget* parent, Qt::WindowFlags flags,

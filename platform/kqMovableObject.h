@@ -10,24 +10,24 @@
 
 class QMouseEvent;
 
-/// Lets the user move a frameless window by dragging one of its widgets, the anchor. Presses on buttons
-/// inside the anchor are ignored. Dragging a maximised window restores it first.
+/// Lets the user move a frameless window by dragging one of its widgets, the anchor, except by the buttons in
+/// it. Dragging a maximised window restores it first.
 class KQ_GL_VIEW_EXPORT kqMovableObject : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The parent owns the helper.
+    /// The parent owns this object.
     explicit kqMovableObject(QObject* parent);
     ~kqMovableObject() override;
 
     /// A double click on the anchor maximises the window, another one restores it. Off by default.
     void setExpandOnDlbClick(bool expand);
 
-    /// Dragging the anchor moves the target; a previous anchor is released. Neither is owned.
+    /// Dragging the anchor moves the target. Replaces a previous anchor. Owns neither.
     void setAnchorObject(QObject* anchor, QWidget* target);
 
-    /// Watches the anchor; consumes the presses and moves that drag.
+    /// Watches the anchor; consumes the mouse events of a drag.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

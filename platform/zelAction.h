@@ -9,22 +9,22 @@
 
 class zelActionManager;
 
-/// An action of the viewer: what it is known by, and what the user reads.
+/// An action of the viewer: a QAction with a name for use in code.
 class ZEL_KERNEL_GUI_EXPORT zelAction : public QAction
 {
     Q_OBJECT
 
 public:
-    /// @param name     what code knows the action by
-    /// @param guiName  what the user reads
-    /// @param manager  registers and owns the action; null leaves both to the caller
+    /// @param name     identifies the action in code
+    /// @param guiName  the text that the user reads
+    /// @param manager  registers and owns the action; with null, the caller owns it
     zelAction(const QString& name, const QString& guiName, zelActionManager* manager);
     ~zelAction() override;
 
-    /// What code knows the action by.
+    /// The name that identifies the action in code.
     const QString& getActionName() const;
 
-    /// The text that the user reads; follows the action's text.
+    /// The text that the user reads, which is QAction::text().
     QString getActionGuiName() const;
 
 private:

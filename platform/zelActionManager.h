@@ -9,13 +9,13 @@
 
 class zelAction;
 
-/// The application's actions by name. Owns the actions that were created with it.
+/// The named actions of the application. Owns the actions that were created with it.
 class ZEL_KERNEL_GUI_EXPORT zelActionManager : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Without actions at first.
+    /// Creates a manager without actions.
     explicit zelActionManager(QObject* parent = nullptr);
     ~zelActionManager() override;
 

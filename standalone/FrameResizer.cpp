@@ -15,10 +15,10 @@ const int CornerSize = 14; // pixels
 FrameResizer::FrameResizer(QWidget* window)
     : QObject(window)
     , m_window(window)
-    , m_shownEdges(NoEdge)
+    , m_cursorEdges(NoEdge)
     , m_draggedEdges(NoEdge)
 {
-    // Only the application sees the mouse wherever it is in the window, whatever is there.
+    // On the application, because the mouse events at the edges go to the child widgets there.
     qApp->installEventFilter(this);
 }
 
@@ -37,7 +37,7 @@ bool FrameResizer::eventFilter(QObject* watched, QEvent* event)
         return release(*static_cast<QMouseEvent*>(event));
     case QEvent::Leave:
         if (widget == m_window && m_draggedEdges == NoEdge)
-            showCursor(NoEdge);
+            setCursor(NoEdge);
         return false;
     default:
         return false;
@@ -49,20 +49,20 @@ bool FrameResizer::press(const QMouseEvent& event)
     if (event.button() != Qt::LeftButton)
         return false;
     m_draggedEdges = edgesAt(event.globalPos());
-    m_pressed = event.globalPos();
-    m_former = m_window->geometry();
+    m_pressPosition = event.globalPos();
+    m_pressGeometry = m_window->geometry();
     return m_draggedEdges != NoEdge;
 }
 
 bool FrameResizer::move(const QMouseEvent& event)
 {
-    // The release goes elsewhere when another window takes the mouse meanwhile.
+    // The window gets no release event when another window grabs the mouse.
     if (!(event.buttons() & Qt::LeftButton))
         m_draggedEdges = NoEdge;
     if (m_draggedEdges != NoEdge)
-        resizeBy(event.globalPos() - m_pressed);
+        resizeBy(event.globalPos() - m_pressPosition);
     else if (event.buttons() == Qt::NoButton)
-        showCursor(edgesAt(event.globalPos()));
+        setCursor(edgesAt(event.globalPos()));
     return m_draggedEdges != NoEdge;
 }
 
@@ -85,7 +85,7 @@ int FrameResizer::edgesAt(const QPoint& globalPosition) const
     const int bottom = m_window->height() - 1 - position.y();
     if (qMin(qMin(position.x(), position.y()), qMin(right, bottom)) >= EdgeWidth)
         return NoEdge;
-    // Near a corner either of its edges stands for both.
+    // Near a corner each of its two edges counts as both.
     const bool atCorner = qMin(position.x(), right) < CornerSize && qMin(position.y(), bottom) < CornerSize;
     const int reach = atCorner ? CornerSize : EdgeWidth;
     return (position.x() < reach ? Left
@@ -96,11 +96,11 @@ int FrameResizer::edgesAt(const QPoint& globalPosition) const
                                  : NoEdge);
 }
 
-void FrameResizer::showCursor(int edges)
+void FrameResizer::setCursor(int edges)
 {
-    if (edges == m_shownEdges)
+    if (edges == m_cursorEdges)
         return;
-    m_shownEdges = edges;
+    m_cursorEdges = edges;
     if (edges == NoEdge)
         m_window->unsetCursor();
     else if (edges == Left || edges == Right)
@@ -115,28 +115,23 @@ void FrameResizer::showCursor(int edges)
 
 void FrameResizer::resizeBy(const QPoint& distance)
 {
-    const QSize least = m_window->minimumSize();
-    const QSize most = QApplication::desktop()->availableGeometry(m_window).size().expandedTo(least);
-    const auto along = [](int former, int change, int smallest, int largest) {
-        return qBound(smallest, former + change, largest);
-    };
-    const int width = along(m_former.width(),
-                            m_draggedEdges & Left    ? -distance.x()
-                            : m_draggedEdges & Right ? distance.x()
-                                                     : 0,
-                            least.width(), most.width());
-    const int height = along(m_former.height(),
-                             m_draggedEdges & Top      ? -distance.y()
-                             : m_draggedEdges & Bottom ? distance.y()
-                                                       : 0,
-                             least.height(), most.height());
-    QRect place(m_former.topLeft(), QSize(width, height));
-    // The edge on the other side stands still.
+    QSize size = m_pressGeometry.size();
     if (m_draggedEdges & Left)
-        place.moveRight(m_former.right());
+        size.rwidth() -= distance.x();
+    if (m_draggedEdges & Right)
+        size.rwidth() += distance.x();
     if (m_draggedEdges & Top)
-        place.moveBottom(m_former.bottom());
-    m_window->setGeometry(place);
+        size.rheight() -= distance.y();
+    if (m_draggedEdges & Bottom)
+        size.rheight() += distance.y();
+    const QSize available = QApplication::desktop()->availableGeometry(m_window).size();
+    QRect geometry(m_pressGeometry.topLeft(), size.boundedTo(available).expandedTo(m_window->minimumSize()));
+    // The opposite edge stays where it is.
+    if (m_draggedEdges & Left)
+        geometry.moveRight(m_pressGeometry.right());
+    if (m_draggedEdges & Top)
+        geometry.moveBottom(m_pressGeometry.bottom());
+    m_window->setGeometry(geometry);
 }
 
 } // namespace zel

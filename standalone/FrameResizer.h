@@ -10,8 +10,8 @@ class QWidget;
 
 namespace zel {
 
-/// Lets the user resize a frameless window by its edges and corners, down to its minimum size and up to the
-/// free area of its screen. The mouse pointer shows where. Belongs to the window.
+/// Lets the user resize a frameless window by dragging its edges and corners, from its minimum size up to the
+/// available area of its screen. The cursor shows where. The window owns this object.
 class FrameResizer : public QObject
 {
 public:
@@ -25,16 +25,16 @@ private:
     bool press(const QMouseEvent& event);
     bool move(const QMouseEvent& event);
     bool release(const QMouseEvent& event);
-    /// The edge or, as two edges, the corner at a position.
+    /// The edge at a position, or the two edges of a corner.
     int edgesAt(const QPoint& globalPosition) const;
-    void showCursor(int edges);
+    void setCursor(int edges);
     void resizeBy(const QPoint& distance);
 
     QWidget* const m_window;
-    int m_shownEdges;   ///< What the mouse pointer tells.
-    int m_draggedEdges; ///< None unless a mouse button is held down on them.
-    QPoint m_pressed;
-    QRect m_former; ///< Where the window was at the press.
+    int m_cursorEdges;  ///< The edges for which the cursor is set.
+    int m_draggedEdges; ///< NoEdge while nothing is dragged.
+    QPoint m_pressPosition;
+    QRect m_pressGeometry;
 };
 
 } // namespace zel

@@ -11,7 +11,7 @@ namespace ZelControlCenter {
 struct ZEL_EXPORT Version
 {
     /// @{
-    /// The parts of the version, and the year and the month, from 1 on, in which it was made.
+    /// The parts of the version, and its year and month (1 to 12).
     static quint32 GetMajor();
     static quint32 GetMinor();
     static quint32 GetRelease();
@@ -21,8 +21,8 @@ struct ZEL_EXPORT Version
     /// @}
 
     /// @{
-    /// The version as text, as in "1.1.0.85", with year and month as in "1.1.0.85 2024-1". The argument
-    /// chooses between the internal and the public form of a text; this version has them alike.
+    /// The version as text: "1.1.0.85", or with year and month "1.1.0.85 2024-1". The argument chooses the
+    /// internal (true) or the public form; in this version both are the same.
     static const char* GetDescStringMajorMinor(bool internal);
     static const char* GetDescStringMajorMinorRelease(bool internal);
     static const char* GetDescStringMajorMinorReleaseRevision(bool internal);

@@ -4,7 +4,7 @@
 
 #include "FrameResizer.h"
 #include "ReturnKey.h"
-#include "WindowPlace.h"
+#include "WindowGeometry.h"
 #include "ZelAboutSettingsPanel.h"
 #include "ZelControlCenter.h"
 #include "ZelGeneralSettingsPanel.h"
@@ -30,8 +30,8 @@ namespace zel {
 
 namespace {
 
-const int FrameWidth = 1;    // pixels, left and right of the content
-const int LeastHeight = 300; // pixels: the header and what the menu column needs
+const int FrameWidth = 1;      // pixels, left and right of the content
+const int MinimumHeight = 300; // pixels, for the header and the menu column
 
 template <class Panel>
 std::unique_ptr<ZelSettingsPanel> createPanel(kqDMIApplication* application)
@@ -39,7 +39,7 @@ std::unique_ptr<ZelSettingsPanel> createPanel(kqDMIApplication* application)
     return std::make_unique<Panel>(application, application->getSettings(), nullptr, Qt::WindowFlags());
 }
 
-QIcon windowImage()
+QIcon createWindowIcon()
 {
     QIcon icon;
     for (const char* size : {"48", "128"})
@@ -47,7 +47,7 @@ QIcon windowImage()
     return icon;
 }
 
-/// Alt and the first letter of a button's text that is not taken yet, or else of a name in Latin letters.
+/// Alt with the first free letter of a button's text, or of a name for texts without Latin letters.
 QKeySequence altKey(const QPushButton& button, const char* name, QString& taken)
 {
     for (const QChar& character : (button.text() + name).toUpper()) {
@@ -67,11 +67,11 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
     , m_ui(new Ui::ControlCenterStandAlone)
 {
     m_ui->setupUi(this);
-    // The product's name is read as one word, by the first of its two labels.
+    // Screen readers read the whole name from the label "Tor"; "-" and "vane" stay silent.
     leaveUnannounced(*m_ui->label_3);
     leaveUnannounced(*m_ui->label_4);
-    setWindowIcon(windowImage());
-    wrapContent();
+    setWindowIcon(createWindowIcon());
+    makeContentScrollable();
     new FrameResizer(this);
     new ReturnKey(this);
 
@@ -95,15 +95,15 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
     m_panels.push_back(createPanel<ZelAboutSettingsPanel>(application));
     for (const auto& panel : m_panels)
         m_controlCenter->registerSettingsPanel(panel.get());
-    m_ui->helpArea->follow(m_controlCenter->settingsWidget());
-    connect(m_controlCenter.get(), SIGNAL(evaluated()), m_ui->helpArea, SLOT(refresh()));
+    m_ui->helpArea->watchPages(m_controlCenter->settingsWidget());
+    connect(m_controlCenter.get(), SIGNAL(pagesChanged()), m_ui->helpArea, SLOT(refresh()));
 
     createActions();
     orderFocus();
     const QString folder = QFileInfo(application->getSettings().fileName()).path();
-    m_place = new WindowPlace(this, QSize(ZelControlCenter::OpenWidth() + 2 * FrameWidth, LeastHeight),
-                              folder + "/Window.ini");
-    m_place->restore();
+    m_geometry = new WindowGeometry(
+        this, QSize(ZelControlCenter::OpenWidth() + 2 * FrameWidth, MinimumHeight), folder + "/Window.ini");
+    m_geometry->restore();
 }
 
 ZelControlCenterStandAloneWidget::~ZelControlCenterStandAloneWidget()
@@ -111,10 +111,10 @@ ZelControlCenterStandAloneWidget::~ZelControlCenterStandAloneWidget()
     for (auto panel = m_panels.rbegin(); panel != m_panels.rend(); ++panel)
         m_controlCenter->unregisterSettingsPanel(panel->get(), true);
     while (!m_panels.empty())
-        m_panels.pop_back(); // The last one first, as they were unregistered.
+        m_panels.pop_back(); // Deletes the last page first.
 }
 
-void ZelControlCenterStandAloneWidget::wrapContent()
+void ZelControlCenterStandAloneWidget::makeContentScrollable()
 {
     m_scrollArea = new QScrollArea(this);
     m_scrollArea->setFrameShape(QFrame::NoFrame);
@@ -128,7 +128,7 @@ void ZelControlCenterStandAloneWidget::wrapContent()
 
 void ZelControlCenterStandAloneWidget::createActions()
 {
-    // Here nothing else has shortcuts, so that they need not wait for the focus.
+    // Nothing else in this window has shortcuts, so these work wherever the focus is.
     for (QAction* action : m_controlCenter->actions()) {
         action->setShortcutContext(Qt::WindowShortcut);
         addAction(action);
@@ -154,7 +154,7 @@ void ZelControlCenterStandAloneWidget::createActions()
 void ZelControlCenterStandAloneWidget::orderFocus()
 {
     m_controlCenter->installEventFilter(this);
-    // The window's own buttons come after all that they are about.
+    // The Tab key reaches the buttons of the window last.
     QWidget* last = previousInFocusChain();
     for (QWidget* button : {m_ui->minimizeButton, m_ui->maximizeButton, m_ui->closeButton}) {
         setTabOrder(last, button);
@@ -192,7 +192,7 @@ void ZelControlCenterStandAloneWidget::parseMessage(const QString&)
 
 bool ZelControlCenterStandAloneWidget::eventFilter(QObject* watched, QEvent* event)
 {
-    // The window may be active before the column slides in: the focus then went to what could be seen.
+    // While the column was hidden, the focus could only go to the buttons of the window.
     if (event->type() == QEvent::Show && !m_scrollArea->isAncestorOf(focusWidget()))
         m_panels.front()->getActionWidget()->setFocus();
     return QWidget::eventFilter(watched, event);
@@ -202,7 +202,7 @@ void ZelControlCenterStandAloneWidget::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(mayDiscardModifications());
     if (event->isAccepted())
-        m_place->store();
+        m_geometry->save();
 }
 
 void ZelControlCenterStandAloneWidget::changeEvent(QEvent* event)
@@ -219,7 +219,7 @@ void ZelControlCenterStandAloneWidget::changeEvent(QEvent* event)
 
 void ZelControlCenterStandAloneWidget::onFocusChanged(QWidget*, QWidget* current)
 {
-    // Nothing must move under a mouse button that is held down.
+    // Do not scroll while a mouse button is down.
     if (m_scrollArea->isAncestorOf(current) && QApplication::mouseButtons() == Qt::NoButton)
         m_scrollArea->ensureWidgetVisible(current, 0, 0);
 }
@@ -235,7 +235,7 @@ bool ZelControlCenterStandAloneWidget::mayDiscardModifications()
                              "Your current changes will be discarded.\nContinue and close the application ?"),
                          QMessageBox::Ok | QMessageBox::Cancel, this);
     question.setDefaultButton(QMessageBox::Cancel);
-    // Before it is polished, a box that has a parent with a sheet ignores its own.
+    // Under a parent with a style sheet, a box that is not polished ignores its own sheet.
     question.ensurePolished();
     question.setStyleSheet(kqDMIApplication::GetStylesheet("kqMessageBox"));
     return question.exec() == QMessageBox::Ok;

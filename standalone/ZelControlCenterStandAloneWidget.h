@@ -18,18 +18,18 @@ class ControlCenterStandAlone;
 
 namespace zel {
 
-class WindowPlace;
+class WindowGeometry;
 class ZelControlCenter;
 class ZelSettingsPanel;
 
-/// The window of the stand-alone settings editor: a frame of its own with a header to drag it by and three
-/// buttons, around a control center with every page. Owns both; the application must outlive it.
+/// The window of the stand-alone settings editor: a control center with every page, below a header with three
+/// buttons. It draws its own frame: the header moves it, edges and corners resize it. Owns the control center
+/// and the pages; the application must outlive it.
 ///
-/// It opens where it was closed, which it keeps in "Window.ini" beside the settings file, and is never larger
-/// than the free area of its screen: where that is too narrow, what is below the header scrolls. Edges and
-/// corners resize it.
+/// It saves its position and size in "Window.ini" beside the settings file. It is never larger than the
+/// available area of its screen; where that is too narrow, the content below the header scrolls.
 ///
-/// Its keys: Ctrl+S and Alt with a letter of its text apply, Alt with a letter of its text resets, F1 helps,
+/// Its keys: Ctrl+S applies; Alt with a letter of a button's text clicks Apply or Reset; F1 shows help;
 /// Ctrl+Q and Ctrl+W close.
 class ZEL_EXPORT ZelControlCenterStandAloneWidget : public QWidget
 {
@@ -40,7 +40,7 @@ public:
     ZelControlCenterStandAloneWidget(kqDMIApplication* application, QWidget* parent, Qt::WindowFlags flags);
     ~ZelControlCenterStandAloneWidget() override;
 
-    /// Gives the focus to the list of pages when that slides in. Consumes nothing.
+    /// Sets the focus to the list of pages when the control center appears. Consumes nothing.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 public Q_SLOTS:
@@ -48,25 +48,25 @@ public Q_SLOTS:
     void triggerMinimize();
     /// Maximises the window, or restores it.
     void triggerMaximize();
-    /// Closes the window, as its frame's button does.
+    /// Closes the window, as its close button does.
     void closeWidget();
     /// Slides the menu and the drawer open.
     void openMenu();
-    /// What another process has passed on. Ignored: such a message only raises the window.
+    /// Receives the message of another instance. Ignores it: QtSingleApplication raises the window.
     void parseMessage(const QString& message);
 
 protected:
-    /// Asks before pending edits are lost.
+    /// Asks before it discards pending edits; saves position and size.
     void closeEvent(QCloseEvent* event) override;
-    /// Lets the maximise button say what it does now.
+    /// Updates the tool tip of the maximise button.
     void changeEvent(QEvent* event) override;
 
 private Q_SLOTS:
-    /// Scrolls to what the keyboard has reached.
-    void onFocusChanged(QWidget* former, QWidget* current);
+    /// Scrolls to the focused widget.
+    void onFocusChanged(QWidget* previous, QWidget* current);
 
 private:
-    void wrapContent();
+    void makeContentScrollable();
     void createActions();
     void orderFocus();
     bool mayDiscardModifications();
@@ -74,9 +74,9 @@ private:
     const std::unique_ptr<Ui::ControlCenterStandAlone> m_ui;
     std::unique_ptr<ZelControlCenter> m_controlCenter;
     std::unique_ptr<kqMovableObject> m_movable;
-    WindowPlace* m_place;
+    WindowGeometry* m_geometry;
     QScrollArea* m_scrollArea;
-    /// In the order in which they are shown.
+    /// From top to bottom.
     std::vector<std::unique_ptr<ZelSettingsPanel>> m_panels;
 };
 

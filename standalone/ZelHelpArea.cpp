@@ -16,10 +16,10 @@ namespace zel {
 namespace {
 
 // In pixels.
-const int LeastWidth = 310;   // What the longest words of all languages need.
-const int ScrollBarRoom = 20; // So that a bar which the help brings does not make it go again.
+const int MinimumWidth = 310; // fits the longest words of all languages
+const int ScrollBarRoom = 20; // else the help and the scroll bar that it needs could hide each other in turns
 
-/// A text in which the words of a path can be broken anywhere, because one may be wider than the area.
+/// Lets paths wrap at every character, because one may be wider than the area.
 QString breakable(const QString& text)
 {
     QStringList words = text.split(' ');
@@ -51,15 +51,15 @@ ZelHelpArea::ZelHelpArea(QWidget* parent)
 
 ZelHelpArea::~ZelHelpArea() = default;
 
-void ZelHelpArea::follow(QWidget* tree)
+void ZelHelpArea::watchPages(QWidget* tree)
 {
     const QList<ZelPageHelp*> pages = tree->findChildren<ZelPageHelp*>();
     for (ZelPageHelp* page : pages) {
         connect(page, SIGNAL(reached(QWidget*)), this, SLOT(showField(QWidget*)));
         connect(page, SIGNAL(edited()), this, SLOT(refresh()));
-        page->setShown(!m_ui->helpFrame->isHidden());
+        page->setHelpAreaVisible(!m_ui->helpFrame->isHidden());
         m_pages << page;
-        // A page may also change by its buttons.
+        // Buttons such as Reset change a page without an edit in a field.
         connect(page->parent(), SIGNAL(stateChanged()), this, SLOT(refresh()));
     }
 }
@@ -111,11 +111,11 @@ void ZelHelpArea::refresh()
 
 void ZelHelpArea::resizeEvent(QResizeEvent* event)
 {
-    const bool fits = width() >= LeastWidth + (m_ui->helpFrame->isHidden() ? ScrollBarRoom : 0);
+    const bool fits = width() >= MinimumWidth + (m_ui->helpFrame->isHidden() ? ScrollBarRoom : 0);
     m_ui->helpFrame->setVisible(fits);
     for (const QPointer<ZelPageHelp>& page : m_pages)
         if (page)
-            page->setShown(fits);
+            page->setHelpAreaVisible(fits);
     QWidget::resizeEvent(event);
 }
 

@@ -18,32 +18,33 @@ namespace zel {
 class ZelPageHelp;
 struct ZelSettingHelp;
 
-/// The place beside the pages that tells of the setting to which the pointer or the keyboard has come last:
-/// what it does, its range and its default, what is stored, and when an edit counts. It also says how the
-/// setting differs from what is stored and from its default, with an action to undo each.
+/// The area beside the pages with the help on one setting, that of the field which the pointer or the
+/// keyboard focus has entered last: description, range, default, stored value and when an edit takes effect.
+/// Two buttons put the stored value or the default back, while the setting differs from it.
 ///
-/// What it tells comes from the ZelPageHelp of each page. It shows nothing where it has too little room.
+/// The help comes from the ZelPageHelp of each page. The area is empty while it is too narrow.
 class ZEL_EXPORT ZelHelpArea : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Empty until it follows a tree of widgets.
+    /// Shows no setting until watchPages() is called.
     explicit ZelHelpArea(QWidget* parent = nullptr);
     ~ZelHelpArea() override;
 
-    /// Tells of the settings of every page below a widget from now on.
-    void follow(QWidget* tree);
+    /// Shows the help of the pages among the descendants of a widget. Call it once, after they are
+    /// registered.
+    void watchPages(QWidget* tree);
 
 public Q_SLOTS:
-    /// Shows the help of the field that has the keyboard focus; beside the field where this area is hidden. A
-    /// field without help shows how to get some.
+    /// Shows the help on the focused field, or a hint where there is none. While the area is too narrow, the
+    /// help appears at the field.
     void showHelpOfFocusedField();
-    /// Shows again what may have changed: to be called when edits have been applied or discarded.
+    /// Updates the area. Call it after edits are applied or discarded.
     void refresh();
 
 protected:
-    /// Hides what there is no room for.
+    /// Hides the help while the area is too narrow.
     void resizeEvent(QResizeEvent* event) override;
 
 private Q_SLOTS:
@@ -52,7 +53,7 @@ private Q_SLOTS:
     void on_defaultButton_clicked();
 
 private:
-    /// Null for a widget that is no field of a page.
+    /// Null for a widget that is not a field of a page.
     static const ZelSettingHelp* helpOf(const QWidget* field);
 
     const std::unique_ptr<Ui::ZelHelpArea> m_ui;

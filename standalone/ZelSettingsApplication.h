@@ -13,9 +13,8 @@
 
 namespace zel {
 
-/// The application that the pages see in the stand-alone settings editor. It has settings, a folder and a
-/// language; whatever would need a loaded scene, a renderer or a plug-in answers "nothing": null, false, or
-/// no action.
+/// The application object of the stand-alone settings editor. It has settings, a folder and a language. All
+/// that needs a scene, a renderer or a plug-in returns null or false, or does nothing.
 class ZEL_EXPORT ZelSettingsApplication : public kqDMIApplication
 {
     Q_OBJECT
@@ -38,7 +37,7 @@ public:
     kqDMGuiPlugin* getGuiPlugin() const override { return nullptr; }
     const kqDMSelection& getSelection() const override { return m_selection; }
     kqDMSelection& grabSelection() override { return m_selection; }
-    /// Ignored: nothing takes screenshots here.
+    /// Does nothing: the editor takes no screenshots.
     void setScreenshotImageFolder(const QString&) override {}
     /// Always null.
     const QString& getScreenshotImageFolder() const override { return m_screenshotImageFolder; }
@@ -47,7 +46,7 @@ public:
     void setLowUpdateEngineFrequency(bool) override {}
     zelThumbnailManager* getThumbnailManager() const override { return nullptr; }
     void notifyAppEvent(zelAppEvent) override {}
-    /// Always null, also for registered keys: those are the registry's to answer.
+    /// Always null, even for registered keys: ask the registry.
     QString getDefaultSettingsValue(const QString&) override { return QString(); }
     const QString& getLanguageCode() override { return m_languageCode; }
     const QString& getApplicationFolder() const override { return m_applicationFolder; }
@@ -63,7 +62,7 @@ public:
     void setWorkFlowWidget(QWidget*) override {}
     void registerMouseReleaseEventFilter(zelReleaseEventFilter*, bool) override {}
 
-    /// Sets what getLanguageCode() answers; empty at first.
+    /// Sets the result of getLanguageCode(), which is empty at first.
     void setLanguageCode(const QString& code) { m_languageCode = code; }
 
 private:

@@ -8,6 +8,7 @@
 #include "ZelSettingsApplication.h"
 #include "ZelSettingsFile.h"
 #include "base/ZelQtCompat.h"
+#include "base/ZelSystemCompat.h"
 
 #include "platform/MTLogger.h"
 #include "platform/kqDMIApplication.h"
@@ -24,6 +25,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
+#include <optional>
 
 namespace {
 
@@ -31,10 +33,12 @@ using namespace zel;
 
 const char* const FallbackLanguage = "en";
 const int SendTimeout = 5000; // ms
-const int FirstStart = 1;     // Exit code that tells the host of a renderer chosen just now.
-const int Refused = 3; // Exit code of a call that could not work; hosts use 2 for troubles of their own.
 
-/// The viewer's libraries in the order in which they are started.
+// Exit codes; a host has 2 for its own errors.
+const int RendererChosen = 1;
+const int Refused = 3;
+
+/// The viewer's libraries, in the order of their start.
 const struct
 {
     const char* name;
@@ -71,7 +75,7 @@ void startPlatformLibraries()
 
 void stopPlatformLibraries()
 {
-    // Said beforehand: the log belongs to the last library, which is the first to stop.
+    // Logged before, because the library with the log stops first.
     logInfo("Stopping the libraries");
     std::for_each(std::rbegin(PlatformLibraries), std::rend(PlatformLibraries),
                   [](const auto& library) { library.stop(); });
@@ -116,8 +120,7 @@ QString loadTranslation(const QString& settingsFile, QTranslator& translator)
     return language;
 }
 
-/// Asks for the renderer unless the settings name one. Sets the engine that has been chosen, if any; false
-/// when the user cancels.
+/// Asks the user for the engine if the settings have none, and sets it. False when the user cancels.
 bool chooseEngine(const QString& settingsFile, const char*& chosenEngine)
 {
     const QString engine = ZelSettingsFile::Open(settingsFile)->value(keys::Engine).toString();
@@ -133,7 +136,7 @@ bool chooseEngine(const QString& settingsFile, const char*& chosenEngine)
 void installLog(ZelSettingsApplication& application)
 {
     QSettings& settings = application.getSettings();
-    settings.sync(); // What an end check has changed.
+    settings.sync(); // An end check may have changed the settings.
     MTLogger::InstallFileHandler(settings.value(keys::LogFile).toString().toUtf8().constData(),
                                  application.isDiagModeEnable(),
                                  settings.value(keys::LogTypeBlackList).toString().toUtf8().constData());
@@ -157,12 +160,12 @@ void showFatalError(const QString& error)
                     QCoreApplication::translate("ZelControlCenterStandAloneWidget", "Torvane - Fatal Error"),
                     error, QMessageBox::Ok);
     box.setStyleSheet(kqDMIApplication::GetStylesheet("kqMessageBox"));
-    box.setTextFormat(Qt::PlainText); // A path may hold what looks like markup.
+    box.setTextFormat(Qt::PlainText); // A path may contain markup.
     box.exec();
 }
 
-/// What follows the choice of the renderer: validates the settings, then opens the window unless the choice
-/// has just been made. Returns the exit code.
+/// Stores the chosen engine, if any, and repairs the settings. Opens the window unless an engine was chosen.
+/// Returns the exit code.
 int runApplication(QtSingleApplication& singleApplication, ZelSettingsApplication& application,
                    const char* chosenEngine)
 {
@@ -179,20 +182,47 @@ int runApplication(QtSingleApplication& singleApplication, ZelSettingsApplicatio
         return 0;
     }
     installLog(application);
-    return chosenEngine ? FirstStart : runWindow(singleApplication, application);
+    return chosenEngine ? RendererChosen : runWindow(singleApplication, application);
+}
+
+/// Runs the editor on the user's settings. Returns the exit code; none when the user cancels the choice of
+/// the engine.
+std::optional<int> runEditor(QtSingleApplication& singleApplication)
+{
+    const QString folder = createSettingsFolder();
+    const QString file = folder + "/Settings.ini";
+    QString error;
+    if (!ZelSettingsFile::IsUsable(file, error)) {
+        showFatalError(error);
+        return 0;
+    }
+    // QTranslator removes itself from the application when it is destroyed.
+    QTranslator translator, qtTranslator;
+    const QString language = loadTranslation(file, translator);
+    installTranslation("Toolkit", language, qtTranslator); // Qt's own texts.
+    if (!migrateSettings(file, language, error)) {
+        showFatalError(error);
+        return 0;
+    }
+    const char* chosenEngine = nullptr;
+    if (!chooseEngine(file, chosenEngine))
+        return std::nullopt;
+    ZelSettingsApplication application(folder);
+    application.setLanguageCode(language);
+    return runApplication(singleApplication, application, chosenEngine);
 }
 
 } // namespace
 
 int launch(int argc, char** argv)
 {
-    static bool isSpent = false;
-    if (isSpent || QCoreApplication::instance()) {
-        qWarning("launch() refuses: %s", isSpent ? "it has been called in this process before"
-                                                 : "this process has an application object already");
+    static bool wasCalled = false;
+    if (wasCalled || QCoreApplication::instance()) {
+        qWarning("launch() refuses: %s", wasCalled ? "it has been called in this process before"
+                                                   : "this process has an application object already");
         return Refused;
     }
-    isSpent = true;
+    wasCalled = true;
 
     const QtMessageSink<writeMessage> messageSink;
     useUtf8FileNames();
@@ -206,32 +236,11 @@ int launch(int argc, char** argv)
     }
 
     startPlatformLibraries();
-    const QString settingsFolder = createSettingsFolder();
-    const QString settingsFile = settingsFolder + "/Settings.ini";
-
-    int exitCode = 0;
-    QString error;
-    if (ZelSettingsFile::IsUsable(settingsFile, error)) {
-        // They remove themselves when they go.
-        QTranslator translator, toolkitTranslator;
-        const QString language = loadTranslation(settingsFile, translator);
-        installTranslation("Toolkit", language, toolkitTranslator);
-        const char* chosenEngine = nullptr;
-        if (!migrateSettings(settingsFile, language, error)) {
-            showFatalError(error);
-        } else if (chooseEngine(settingsFile, chosenEngine)) {
-            ZelSettingsApplication application(settingsFolder);
-            application.setLanguageCode(language);
-            exitCode = runApplication(singleApplication, application, chosenEngine);
-        } else {
-            // The libraries stay as they are: nothing has used them yet, and the process is about to end.
-            return 0;
-        }
-    } else {
-        showFatalError(error);
-    }
-
+    const std::optional<int> exitCode = runEditor(singleApplication);
+    // After a cancelled choice nothing has used the libraries, and the process ends.
+    if (!exitCode)
+        return 0;
     ZelControlCenter::ClearSettingsValues();
     stopPlatformLibraries();
-    return exitCode;
+    return *exitCode;
 }

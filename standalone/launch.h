@@ -3,17 +3,16 @@
 
 #include "base/ZelExport.h"
 
-/// Runs the stand-alone settings editor with the command line of its host, whose working folder must be the
-/// root of the installed tree. To be called once in a process, and without an application object: the editor
-/// brings its own.
+/// Runs the stand-alone settings editor with the command line of the host. The working directory must be the
+/// root of the installed tree. Call it once in a process, without an application object: it creates its own.
 ///
 /// Returns the exit code of the process:
-/// - 0 when another instance runs, when the choice of a renderer is cancelled or when the settings cannot be
-///   used;
-/// - 1 when the renderer has just been chosen, so that the next start opens the window;
-/// - 3 when the process has an application object already, or has called it before; a message of Qt tells
-///   which, and nothing else has been done;
-/// - else what the event loop returned.
+/// - 0 when another instance runs, when the user cancels the choice of the renderer, or when the settings
+///   file cannot be used;
+/// - 1 when the user has just chosen the renderer; the next start opens the window;
+/// - 3 when the process already has an application object, or has called launch() before: it then prints the
+///   reason with qWarning() and does nothing else;
+/// - otherwise the result of the event loop.
 extern "C" ZEL_EXPORT int launch(int argc, char** argv);
 
 #endif

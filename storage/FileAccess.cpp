@@ -1,7 +1,7 @@
 #include "FileAccess.h"
 
 #include "FolderCreation.h"
-#include "base/FileReplacement.h"
+#include "base/ZelSystemCompat.h"
 
 #include "platform/MTLogger.h"
 
@@ -98,7 +98,8 @@ QString unreadableReason(const QString& path)
         return Text::tr("it is too large");
     QFile reader(path);
     // Permissions tell nothing of a file that another program keeps to itself, as on Windows.
-    const bool readable = BusyFileTime == 0 ? file.isReadable() : openWhenFree(reader, QIODevice::ReadOnly);
+    const bool readable =
+        BusyFileTimeout == 0 ? file.isReadable() : openWhenFree(reader, QIODevice::ReadOnly);
     return readable || reader.open(QIODevice::ReadOnly) ? QString() : reader.errorString();
 }
 

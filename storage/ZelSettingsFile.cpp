@@ -6,8 +6,8 @@
 #include "SettingsDamage.h"
 #include "SettingsValidation.h"
 #include "UnfinishedWrite.h"
-#include "base/FileReplacement.h"
 #include "base/ZelQtCompat.h"
+#include "base/ZelSystemCompat.h"
 
 #include <QElapsedTimer>
 #include <QEvent>
@@ -146,7 +146,7 @@ public:
         clock.start();
         m_settings.sync();
         m_written = isWritten();
-        while (!m_written && clock.elapsed() < BusyFileTime) {
+        while (!m_written && clock.elapsed() < BusyFileTimeout) {
             std::this_thread::sleep_for(RetryPause);
             m_settings.sync();
             m_written = isWritten();

@@ -1,5 +1,4 @@
-// A host in a page of code: the control center beside a view, with an action, a settings page and a key of
-// its own.
+// A small host: the control center beside a view, with an action, a settings page and a key of its own.
 
 #include <QApplication>
 #include <QDir>
@@ -71,7 +70,7 @@ private:
     zel::zelSpinBox* const m_minutes;
 };
 
-/// What the control center and its pages see of this host. The plug-in allows them to ask the user.
+/// The application object. As a plug-in, it lets the control center ask the user.
 class Host : public zel::ZelSettingsApplication, public kqDMGuiPlugin
 {
 public:

@@ -14,20 +14,20 @@ QVector3D pointOnRing(float angle)
 
 QVector3D pointOnTube(const KnotShape& shape, float along)
 {
-    const QVector3D ring = pointOnRing(float(shape.windings) * along);
-    const float radius = float(shape.turns) * along;
-    return ring + std::cos(radius) * ring / 2 - std::sin(radius) * QVector3D(0, 0, 1);
+    const QVector3D ring = pointOnRing(shape.windings * along);
+    const float angle = shape.turns * along;
+    return ring + std::cos(angle) * ring / 2 - std::sin(angle) * QVector3D(0, 0, 1);
 }
 
-/// The point of the tube's surface at a way along the tube and an angle across it.
+/// A point on the surface of the tube, at two angles: along the tube and around it.
 QVector3D pointOnSurface(const KnotShape& shape, float along, float across)
 {
     const float step = 1e-3F;
     const QVector3D centre = pointOnTube(shape, along);
     const QVector3D ahead = (pointOnTube(shape, along + step) - centre).normalized();
-    const QVector3D side = (centre - pointOnRing(float(shape.windings) * along)).normalized();
+    const QVector3D side = (centre - pointOnRing(shape.windings * along)).normalized();
     const QVector3D up = QVector3D::crossProduct(ahead, side).normalized();
-    return centre + float(shape.thickness) * (std::cos(across) * side + std::sin(across) * up);
+    return centre + shape.thickness * (std::cos(across) * side + std::sin(across) * up);
 }
 
 } // namespace
@@ -40,8 +40,7 @@ KnotMesh::KnotMesh(const KnotShape& shape, int facets)
 
     for (int i = 0; i < along; ++i) {
         for (int j = 0; j < across; ++j) {
-            m_points.push_back(pointOnSurface(shape, FullTurn * float(i) / float(along),
-                                              FullTurn * float(j) / float(across)));
+            m_points.push_back(pointOnSurface(shape, FullTurn * i / along, FullTurn * j / across));
             const int ring = i * across, nextRing = (i + 1) % along * across, next = (j + 1) % across;
             m_facets.push_back({{ring + j, nextRing + j, nextRing + next}});
             m_facets.push_back({{ring + j, nextRing + next, ring + next}});

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-/// A knot as triangles, the finer the more facets it is given.
+/// A knot as a mesh of triangles.
 class KnotMesh
 {
 public:
@@ -17,14 +17,17 @@ public:
         int corners[3];
     };
 
-    /// @param facets  how many to make, about; at least a few dozen are made
+    /// @param facets  the approximate number of facets; at least a few dozen
     KnotMesh(const KnotShape& shape, int facets);
 
     const std::vector<QVector3D>& points() const { return m_points; }
     const std::vector<Facet>& facets() const { return m_facets; }
 
-    /// Where along the tube a facet lies, from 0 to 1.
-    float along(std::size_t facet) const { return float(facet) / float(m_facets.size()); }
+    /// Position of a facet along the tube, from 0 to 1.
+    float along(std::size_t facet) const
+    {
+        return static_cast<float>(facet) / static_cast<float>(m_facets.size());
+    }
 
 private:
     std::vector<QVector3D> m_points;

@@ -6,7 +6,7 @@ struct KnotShape
 {
     int windings = 2;       ///< Times around the ring's axis.
     int turns = 3;          ///< Times around the ring itself.
-    double thickness = 0.4; ///< Radius of the tube; the ring's is 2.
+    float thickness = 0.4F; ///< Radius of the tube; that of the ring is 2.
 };
 
 #endif

@@ -63,25 +63,25 @@ void ModelView::paintEvent(QPaintEvent*)
         painter.drawConvexPolygon(facet.outline);
     }
     paintCaption(painter);
-    emit framePainted();
+    Q_EMIT framePainted();
 }
 
 void ModelView::mousePressEvent(QMouseEvent* event)
 {
-    m_grip = event->pos();
+    m_mousePosition = event->pos();
 }
 
 void ModelView::mouseMoveEvent(QMouseEvent* event)
 {
-    const QPoint way = event->pos() - m_grip;
-    m_grip = event->pos();
-    turn(float(way.x()) * DegreesPerPixel, QVector3D(0, 1, 0));
-    turn(float(way.y()) * DegreesPerPixel, QVector3D(1, 0, 0));
+    const QPoint distance = event->pos() - m_mousePosition;
+    m_mousePosition = event->pos();
+    turn(distance.x() * DegreesPerPixel, QVector3D(0, 1, 0));
+    turn(distance.y() * DegreesPerPixel, QVector3D(1, 0, 0));
 }
 
 void ModelView::advance()
 {
-    turn(float(m_scene.turnSpeed() * FrameTime) / 1000, QVector3D(0, 1, 0));
+    turn(m_scene.turnSpeed() * FrameTime / 1000.0F, QVector3D(0, 1, 0));
 }
 
 void ModelView::onSceneChanged()
@@ -112,7 +112,7 @@ std::vector<ModelView::PaintedFacet> ModelView::visibleFacets()
     std::vector<QVector3D> points;
     for (const QVector3D& point : mesh->points())
         points.push_back(m_rotation * point);
-    const float scale = float(std::min(width(), height())) / (2 * ModelRadius);
+    const float scale = std::min(width(), height()) / (2 * ModelRadius);
     const QPointF centre(width() / 2.0, height() / 2.0);
 
     std::vector<PaintedFacet> facets;
@@ -127,7 +127,7 @@ std::vector<ModelView::PaintedFacet> ModelView::visibleFacets()
         QPolygonF outline;
         for (const QVector3D& point : {a, b, c})
             outline << centre + QPointF(point.x(), -point.y()) * scale;
-        facets.push_back({outline, shade(normal, mesh->along(i)), float(a.z() + b.z() + c.z())});
+        facets.push_back({outline, shade(normal, mesh->along(i)), a.z() + b.z() + c.z()});
     }
     std::sort(facets.begin(), facets.end(),
               [](const PaintedFacet& left, const PaintedFacet& right) { return left.depth < right.depth; });
@@ -136,10 +136,10 @@ std::vector<ModelView::PaintedFacet> ModelView::visibleFacets()
 
 QColor ModelView::shade(const QVector3D& normal, float along) const
 {
-    const double diffuse = 0.3 + 0.7 * std::max(0.0, double(QVector3D::dotProduct(normal, Light)));
+    const double diffuse = 0.3 + 0.7 * std::max(0.0F, QVector3D::dotProduct(normal, Light));
     const QVector3D half = (Light + QVector3D(0, 0, 1)).normalized();
-    const double shine =
-        m_highlights ? 0.6 * std::pow(std::max(0.0, double(QVector3D::dotProduct(normal, half))), 30) : 0;
+    const double specular = std::max(0.0F, QVector3D::dotProduct(normal, half));
+    const double shine = m_highlights ? 0.6 * std::pow(specular, 30) : 0;
     const double hue = 0.58 + 0.08 * std::sin(2 * 3.14159265 * along);
     const QColor base = QColor::fromHsvF(hue, 0.65, 0.9);
     const auto lit = [=](double part) { return std::min(1.0, part * diffuse + shine); };
@@ -152,8 +152,8 @@ void ModelView::paintCaption(QPainter& painter)
     const QString caption =
         tr("Level %1 of %2\n%3 of %4 triangles")
             .arg(m_scene.level())
-            .arg(int(ViewerScene::LevelCount))
-            .arg(language.toString(m_scene.triangles()), language.toString(int(ViewerScene::ModelTriangles)));
+            .arg(ViewerScene::LevelCount)
+            .arg(language.toString(m_scene.triangles()), language.toString(ViewerScene::ModelTriangles));
     painter.setPen(QColor(40, 48, 60));
     painter.drawText(rect().adjusted(14, 10, -14, -10), Qt::AlignLeft | Qt::AlignTop, caption);
 }

@@ -13,17 +13,17 @@
 class QPainter;
 class ViewerScene;
 
-/// The 3D view: paints the scene's model, turned by the mouse and, while the engine is on, by itself.
+/// The 3D view of the scene's model. The mouse turns the model, and so does the engine while it is on.
 class ModelView : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// @param highlights  whether surfaces shine, which only the "deferred" engine can do
+    /// @param highlights  whether surfaces shine, as only the "deferred" engine does
     ModelView(ViewerScene& scene, bool highlights, QWidget* parent);
 
 public Q_SLOTS:
-    /// Stops the engine, so that nothing moves by itself, and starts it again.
+    /// Starts or stops the engine.
     void setEngineEnabled(bool enabled);
     void setWireFrame(bool wireFrame);
 
@@ -48,7 +48,7 @@ private:
     };
 
     void turn(float degrees, const QVector3D& axis);
-    /// The facets that face the viewer, the farthest first.
+    /// The facets with their front to the viewer, the farthest first.
     std::vector<PaintedFacet> visibleFacets();
     QColor shade(const QVector3D& normal, float along) const;
     void paintCaption(QPainter& painter);
@@ -57,7 +57,7 @@ private:
     const bool m_highlights;
     QMatrix4x4 m_rotation;
     QTimer m_clock;
-    QPoint m_grip;
+    QPoint m_mousePosition;
     std::size_t m_facetCount;
     bool m_engineEnabled;
     bool m_wireFrame;

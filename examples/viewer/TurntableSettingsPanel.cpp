@@ -24,7 +24,7 @@ TurntableSettingsPanel::TurntableSettingsPanel(ViewerScene& scene, kqDMIApplicat
     , m_scene(scene)
 {
     m_ui->setupUi(this);
-    // Fonts and fields as on the library's pages.
+    // For the fonts and fields of the library's pages.
     setNamedStyleSheet("ZelGeneralSettingsPanel");
     setPanelName(tr("Turntable"));
     setPanelCategory(ApplicationCategory);
@@ -72,7 +72,7 @@ void TurntableSettingsPanel::getCurrentModel(TurntableModel& model) const
 
 void TurntableSettingsPanel::applyModel(const TurntableModel& model)
 {
-    // So that filling the page does not look like an edit.
+    // The widgets must not emit edits here.
     const zel::SignalBlock block{m_ui->turnsCheckBox, m_ui->speedSpinBox};
     m_ui->turnsCheckBox->setChecked(model.turns);
     m_ui->speedSpinBox->setValue(model.degreesPerSecond);
@@ -85,5 +85,5 @@ void TurntableSettingsPanel::pushToApplication()
 
 void TurntableSettingsPanel::notifyStateChanged()
 {
-    emit stateChanged();
+    Q_EMIT stateChanged();
 }

@@ -10,7 +10,7 @@ namespace Ui {
 class TurntableSettingsPanel;
 }
 
-/// What the page "Turntable" edits.
+/// The settings of the page "Turntable".
 struct TurntableModel
 {
     bool turns = false;
@@ -19,13 +19,13 @@ struct TurntableModel
     bool operator==(const TurntableModel& other) const;
 };
 
-/// A settings page of the viewer's own: whether the model turns by itself, and how fast.
+/// A page of the viewer itself: whether the model turns by itself, and how fast.
 class TurntableSettingsPanel : public zel::ZelEditablePanel<TurntableModel>
 {
     Q_OBJECT
 
 public:
-    /// Applied values go to the scene at once.
+    /// Passes applied values to the scene at once.
     TurntableSettingsPanel(ViewerScene& scene, kqDMIApplication* application, QSettings& settings);
     ~TurntableSettingsPanel() override;
 

@@ -45,7 +45,7 @@ QString ViewerApplication::getDefaultSettingsValue(const QString& key)
 void ViewerApplication::setUpdateEngineEnabled(bool enabled)
 {
     MTLogger::Log("debug", enabled ? "engine updates on" : "engine updates off");
-    emit updateEngineEnabled(enabled);
+    Q_EMIT updateEngineEnabled(enabled);
 }
 
 void ViewerApplication::setScreenshotImageFolder(const QString& folder)

@@ -13,7 +13,7 @@
 #include <zel/platform/kqDMSelection.h>
 #include <zel/platform/zelActionManager.h>
 
-/// What the control center and its pages see of this viewer. Owns everything that it answers with, and
+/// The application object of the viewer, for the control center and its pages. Owns all that it returns, and
 /// outlives the window.
 class ViewerApplication : public kqDMIApplication
 {
@@ -26,7 +26,7 @@ public:
     ViewerScene& scene() { return m_scene; }
     ViewerGuiPlugin& guiPlugin() { return m_guiPlugin; }
 
-    /// Hands the stored settings to the scene; to be called once they are valid.
+    /// Passes the stored settings to the scene. Call it when they are valid.
     void applicationStarted() override;
 
     QSettings& getSettings() override { return m_settings; }
@@ -40,12 +40,12 @@ public:
     zelActionManager* getActionManager() const override { return &m_actions; }
     const std::vector<kqDMPlugin*>& getPluginsList() const override { return m_plugins; }
 
-    /// The control center stops the engine while it slides.
+    /// The control center pauses the engine while it slides.
     void setUpdateEngineEnabled(bool enabled) override;
     void setScreenshotImageFolder(const QString& folder) override;
     const QString& getScreenshotImageFolder() const override { return m_screenshotFolder; }
 
-    // What a larger viewer has and this one does not.
+    // Features that this viewer does not have.
     void clearViewerApp() override {}
     QDeclarativeEngine* getDeclarativeEngine() const override { return nullptr; }
     zelMaterialManagerInterface* getMaterialManager() const override { return nullptr; }

@@ -6,13 +6,13 @@
 
 #include <zel/platform/kqDMGuiPlugin.h>
 
-/// Tells the control center where the 3D view is: a click there closes the menu. That there is such a plug-in
-/// also tells it that it runs in a viewer and may ask the user.
+/// Gives the control center the 3D view, in which a click closes the menu. With a plug-in the control center
+/// also asks the user before it discards edits.
 class ViewerGuiPlugin : public kqDMGuiPlugin
 {
 public:
     QWidget* getMainViewWidget() const override { return m_view; }
-    /// Not owned; may go away at any time.
+    /// Not owned; may be deleted at any time.
     void setMainViewWidget(QWidget* view) { m_view = view; }
 
 private:

@@ -5,7 +5,7 @@
 
 #include <zel/platform/kqDMManager.h>
 
-/// Takes what the pages "Folders" and "Simplification" push, and hands it to the scene.
+/// Passes the values of the pages "Folders" and "Simplification" to the scene.
 class ViewerManager : public kqDMManager
 {
 public:

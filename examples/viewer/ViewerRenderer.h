@@ -5,7 +5,7 @@
 
 #include <zel/platform/kqDMRenderer.h>
 
-/// Takes the triangle cap that the page "Display" pushes, and hands it to the scene.
+/// Passes the triangle cap of the page "Display" to the scene.
 class ViewerRenderer : public kqDMRenderer
 {
 public:

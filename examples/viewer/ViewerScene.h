@@ -10,17 +10,18 @@
 #include <memory>
 #include <vector>
 
-/// The model and how much of it is shown: a simplification level keeps a part of the model's
-/// triangles, and the triangle cap limits what is left.
+/// The model, and how much of it is shown: a simplification level keeps a part of the triangles, and the
+/// triangle cap limits their number.
 class ViewerScene : public QObject
 {
     Q_OBJECT
 
 public:
-    enum { LevelCount = 5, ModelTriangles = 600000 };
+    static const int LevelCount = 5;
+    static const int ModelTriangles = 600000;
 
-    /// Facets are painted one by one, so the view paints one where a graphics card would draw a hundred.
-    enum { TrianglesPerFacet = 100 };
+    /// QPainter is slower than a graphics card, so each painted facet stands for many triangles.
+    static const int TrianglesPerFacet = 100;
 
     explicit ViewerScene(QObject* parent = nullptr);
 
@@ -31,15 +32,16 @@ public:
     void setTriangleCap(quint64 triangles);
     /// The kept fraction of triangles of each level.
     void setRatios(const std::vector<float>& ratios);
-    /// How much memory finished meshes may occupy, in megabytes.
+    /// Limits the memory of the cached meshes, in megabytes.
     void setCacheSize(unsigned int megabytes);
 
-    /// Degrees per second by which the model turns by itself; 0 for a model at rest.
+    /// How fast the model turns, in degrees per second; 0 for a model at rest.
     int turnSpeed() const { return m_turnSpeed; }
     void setTurnSpeed(int degreesPerSecond);
 
-    /// What the level and the cap leave of the model's triangles.
+    /// The number of triangles that the level and the cap leave.
     quint64 triangles() const;
+    /// The model with so many triangles, from the cache if possible.
     std::shared_ptr<const KnotMesh> mesh();
 
 Q_SIGNALS:

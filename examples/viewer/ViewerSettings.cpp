@@ -12,9 +12,9 @@ namespace keys = zel::keys;
 
 namespace {
 
-typedef zel::ZelControlCenter Rules;
+using Rules = zel::ZelControlCenter;
 
-// A validator of the viewer's own: it repairs the value in place, and fails only when that is impossible.
+// A validator repairs the value in place. It fails only where that is impossible.
 bool ensureScreenshotFolder(const QString&, const QString& defaultValue, QString& value, QString& error)
 {
     if (Rules::ensureFolder(defaultValue, value))
@@ -33,7 +33,7 @@ bool ensureTurnSpeed(const QString&, const QString& defaultValue, QString& value
     return true;
 }
 
-// An end check sees the settings as a whole, after every value has been repaired.
+// An end check sees all settings together, after the validators have repaired each value.
 bool foldersDiffer(QSettings& settings, QString& error)
 {
     const QString cache = settings.value(keys::CacheDirectory).toString();
@@ -69,7 +69,7 @@ void ViewerSettings::Register(const QString& applicationName, const QString& fol
     Rules::InitDefaultSettingsValues(applicationName);
     Rules::RegisterEndCheckFunction(&foldersDiffer);
 
-    // What the library's pages edit.
+    // The keys of the library's pages.
     QSettings defaults(VIEWER_DEFAULTS, QSettings::IniFormat);
     zel::ZelSettingsFile::UseFileEncoding(defaults);
     zel::ZelPageDefaults::Register(defaults);

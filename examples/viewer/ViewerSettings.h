@@ -3,7 +3,7 @@
 
 #include <QString>
 
-/// The keys of Settings.ini that are this viewer's own.
+/// The viewer's own keys in Settings.ini.
 namespace viewerkeys {
 
 const char* const Turns = "turntable/enabled";
@@ -11,14 +11,14 @@ const char* const TurnSpeed = "turntable/degreesPerSecond";
 
 } // namespace viewerkeys
 
-/// What this viewer demands of Settings.ini.
+/// The viewer's rules for Settings.ini.
 class ViewerSettings
 {
 public:
-    /// Registers every key with its default and validator, and the end check. To be called before the
-    /// validation pass.
-    /// @param applicationName  names the folders of the log and of the cache
-    /// @param folder           where the settings file lies
+    /// Registers every key with its default and validator, and the end check. Call it before the validation
+    /// pass.
+    /// @param applicationName  the name of the folders for log and cache
+    /// @param folder           the folder of the settings file
     static void Register(const QString& applicationName, const QString& folder);
 };
 

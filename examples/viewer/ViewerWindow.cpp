@@ -24,7 +24,7 @@
 
 namespace {
 
-const int MenuWidth = 250; // pixels, the control center's own when it is open
+const int MenuWidth = 250; // pixels, as wide as the open control center
 const QColor MenuColor(52, 64, 84);
 
 template <class Page>
@@ -83,7 +83,7 @@ void ViewerWindow::createLayout()
     stripLayout->addWidget(m_menuButton);
     stripLayout->addStretch();
 
-    // The drawer is not inside the control center here, so it does not inherit the style of its scroll bar.
+    // In this layout the drawer does not inherit the style sheet of the control center.
     m_controlCenter->settingsWidget()->setStyleSheet(kqDMIApplication::GetStylesheet("ZelControlCenter"));
 
     auto* content = new QWidget(this);
@@ -124,11 +124,11 @@ void ViewerWindow::createActions()
         action->setShortcut(QKeySequence(row.shortcut));
         action->setCheckable(row.checkable);
         connect(action, row.checkable ? SIGNAL(triggered(bool)) : SIGNAL(triggered()), this, row.slot);
-        addAction(action); // The shortcut works while the menu is closed, too.
+        addAction(action); // So that the shortcut also works while the menu is closed.
         m_controlCenter->registerCCAction(action, "Settings", false, false, row.closesMenu);
         m_actions.push_back(action);
     }
-    // A separator is as wide as the control center at that moment, less a margin.
+    // A new separator is as wide as the control center at that moment, less a margin.
     m_controlCenter->resize(MenuWidth, m_controlCenter->height());
     m_controlCenter->addCCSeparator("nextLevel", "viewSeparator");
     m_controlCenter->addCCSeparator("Settings", "settingsSeparator");
@@ -150,7 +150,7 @@ void ViewerWindow::createPages()
 void ViewerWindow::onMenuButtonClicked(bool open)
 {
     m_controlCenter->openMenu(open);
-    // The user may have refused to close it; the menu then stays open, with its edits.
+    // The menu stays open when the user keeps the edits.
     if (!open && m_controlCenter->hasModifications())
         m_menuButton->setChecked(true);
 }

@@ -16,7 +16,7 @@ class zelAction;
 /// The viewer's window: from left to right the button that opens the control center, the control center with
 /// its drawer, and the 3D view.
 ///
-/// Owns the control center and the settings pages. The actions belong to the application's action manager.
+/// Owns the control center and the settings pages. The action manager of the application owns the actions.
 class ViewerWindow : public QMainWindow
 {
     Q_OBJECT

@@ -1,5 +1,5 @@
-// Opens the settings editor, with the same arguments. The very first start only asks for the renderer and
-// ends with 1: then starts it again.
+// Runs the settings editor with the same arguments. Its first start only asks for the renderer and returns 1;
+// this program then runs it again.
 
 #include <string>
 #include <windows.h>
@@ -16,7 +16,7 @@ std::wstring editorPath()
     return path.substr(0, path.find_last_of(L'\\') + 1) + L"torvane-settings.exe";
 }
 
-/// All of the command line but the name of the program, as it is.
+/// The command line without the name of the program.
 std::wstring arguments()
 {
     const std::wstring line = GetCommandLineW();

@@ -9,20 +9,20 @@
 
 class LocalPeer;
 
-/// The application object of a program that runs once per user: the first process is the instance, later ones
-/// send it a message and end. A genuine single-instance library with the same interface can replace it.
+/// The application object of a program that runs once per user: the first process is the running instance,
+/// later ones send it a message and end. A genuine single-instance library can replace this class.
 class QtSingleApplication : public QApplication
 {
     Q_OBJECT
 
 public:
-    /// The id is derived from the executable's path.
+    /// Uses the path of the executable as id.
     QtSingleApplication(int& argc, char** argv, bool guiEnabled = true);
-    /// Processes with the same id are instances of one program.
+    /// Processes with the same id belong to the same program.
     QtSingleApplication(const QString& id, int& argc, char** argv);
     ~QtSingleApplication() override;
 
-    /// True when another process is the instance; otherwise this one becomes it, if it is not already.
+    /// True when another process is the running instance. Otherwise this process becomes it.
     bool isRunning();
     QString id() const;
 
@@ -31,8 +31,8 @@ public:
     QWidget* activationWindow() const;
 
 public Q_SLOTS:
-    /// Sends a message to the instance. False when this process is the instance itself, when the message is
-    /// too long, or when it was not taken within the time-out, in milliseconds.
+    /// Sends a message to the running instance. False when this process is the instance, when the message is
+    /// too long, or when the instance does not take it within the timeout, in milliseconds.
     bool sendMessage(const QString& message, int timeout = 5000);
 
     /// Restores, raises and focuses the activation window, if there is one.

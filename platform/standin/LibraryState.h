@@ -3,8 +3,8 @@
 
 #include <cstdio>
 
-/// Whether a library runs. Starting it twice, or stopping it when it does not run, is a mistake of the caller
-/// and is reported on the error output.
+/// Whether a library is started. Reports errors of the caller on standard error: a second start, or a stop
+/// without a start.
 class LibraryState
 {
 public:
@@ -13,19 +13,19 @@ public:
     {
     }
 
-    /// False when the library runs already.
+    /// False when the library is already started.
     bool start() { return change(true, "is started twice"); }
-    /// False when the library does not run.
+    /// False when the library is not started.
     bool stop() { return change(false, "is stopped but was not started"); }
 
 private:
-    bool change(bool running, const char* mistake)
+    bool change(bool running, const char* problem)
     {
-        const bool balanced = m_running != running;
-        if (!balanced)
-            std::fprintf(stderr, "The library %s %s.\n", m_library, mistake);
+        const bool changes = m_running != running;
+        if (!changes)
+            std::fprintf(stderr, "The library %s %s.\n", m_library, problem);
         m_running = running;
-        return balanced;
+        return changes;
     }
 
     const char* m_library;

@@ -40,7 +40,7 @@ std::string folderUtf8(const wchar_t* variable, int systemFolder)
 
 #else
 
-/// Empty unless the variable holds an absolute path: a relative one would depend on the working directory.
+/// Empty if the path is not absolute: a relative one would depend on the working directory.
 std::string absolutePathFrom(const char* variable)
 {
     const char* value = std::getenv(variable);

@@ -3,10 +3,10 @@
 
 #include <string>
 
-/// The kinds of data for which the operating system gives each user a folder.
+/// The kinds of data for which each user has a folder.
 enum class UserFolder { Settings, Cache };
 
-/// Path of the current user's folder, in UTF-8 and without a slash at its end. It need not exist.
+/// Path of the current user's folder, in UTF-8, without a slash at the end. The folder may not exist.
 std::string userFolderUtf8(UserFolder folder);
 
 #endif

@@ -1,5 +1,8 @@
 #include "CheckReport.h"
 
+#include <QChar>
+#include <QList>
+
 #include <algorithm>
 #include <iterator>
 
@@ -22,24 +25,27 @@ const char* stateName(CheckState state)
     return "not repairable";
 }
 
-/// 0 for the best.
-int badness(CheckState state)
+/// 0 for the best outcome.
+int severity(CheckState state)
 {
     const CheckState states[] = {CheckState::Clean, CheckState::Repaired, CheckState::NeedsRepair,
                                  CheckState::NotRepairable};
     return static_cast<int>(std::find(std::begin(states), std::end(states), state) - std::begin(states));
 }
 
-/// True for what could end a line or steer a terminal, and for half a character, which UTF-8 cannot hold.
-bool isUnfit(uint character)
+/// True for a character that can end a line or control a terminal, and for half of a surrogate pair, which
+/// UTF-8 cannot encode.
+bool mustBeEscaped(uint character)
 {
-    const QChar::Category unfit[] = {QChar::Other_Control, QChar::Other_Format, QChar::Other_Surrogate,
-                                     QChar::Separator_Line, QChar::Separator_Paragraph};
-    return std::find(std::begin(unfit), std::end(unfit), QChar::category(character)) != std::end(unfit);
+    const QChar::Category categories[] = {QChar::Other_Control, QChar::Other_Format, QChar::Other_Surrogate,
+                                          QChar::Separator_Line, QChar::Separator_Paragraph};
+    return std::find(std::begin(categories), std::end(categories), QChar::category(character)) !=
+           std::end(categories);
 }
 
-/// The text without anything that is unfit, and with a backslash before every character of the list.
-QByteArray escaped(const QString& text, const QString& escapedToo)
+/// The text as UTF-8 with escapes: "\uXXXX" where needed, and a backslash before each of the given
+/// characters.
+QByteArray escaped(const QString& text, const QString& charactersToQuote)
 {
     QString result;
     int length = 0;
@@ -48,18 +54,18 @@ QByteArray escaped(const QString& text, const QString& escapedToo)
             text.at(at).isHighSurrogate() && at + 1 < text.length() && text.at(at + 1).isLowSurrogate();
         length = pair ? 2 : 1;
         const QString character = text.mid(at, length);
-        if (isUnfit(pair ? QChar::surrogateToUcs4(character.at(0), character.at(1))
-                         : character.at(0).unicode())) {
+        if (mustBeEscaped(pair ? QChar::surrogateToUcs4(character.at(0), character.at(1))
+                               : character.at(0).unicode())) {
             for (const QChar half : character)
                 result += QString("\\u%1").arg(half.unicode(), 4, 16, QChar('0'));
         } else {
-            result += (escapedToo.contains(character) ? "\\" : "") + character;
+            result += (charactersToQuote.contains(character) ? "\\" : "") + character;
         }
     }
     return result.toUtf8();
 }
 
-/// A JSON string.
+/// The text in quotation marks, as JSON and C write it.
 QByteArray quoted(const QString& text)
 {
     return '"' + escaped(text, "\"\\") + '"';
@@ -104,7 +110,7 @@ QByteArray changeToText(const SettingsChange& change)
 
 CheckState worseOf(CheckState one, CheckState other)
 {
-    return badness(one) < badness(other) ? other : one;
+    return severity(one) < severity(other) ? other : one;
 }
 
 QByteArray CheckReport::toText() const

@@ -5,31 +5,34 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
+
+#include <vector>
 
 namespace zel {
 
-/// The outcome of a check, each with the exit code that tells it.
+/// The outcome of a check. The values are the exit codes.
 enum class CheckState { Clean = 0, NeedsRepair = 1, NotRepairable = 2, Repaired = 4 };
 
-/// The worse of two outcomes; from good to bad: Clean, Repaired, NeedsRepair, NotRepairable.
+/// The worse of two outcomes. The order from good to bad: Clean, Repaired, NeedsRepair, NotRepairable.
 CheckState worseOf(CheckState one, CheckState other);
 
-/// What is told of one settings file.
+/// What the checker reports about one settings file.
 struct CheckReport
 {
     CheckState state = CheckState::Clean;
-    QString file;                        ///< As it was named.
-    bool isFreshStart = false;           ///< The editor would keep nothing but the language.
-    QString damage;                      ///< What is lost of the file; empty when nothing is.
-    std::vector<SettingsChange> changes; ///< Made by the repair, or needed.
-    QStringList folders;                 ///< Created by the repair, or missing.
-    QString copy;                        ///< What is kept of a damaged file; empty when there is none.
+    QString file;                        ///< The name that the user gave.
+    bool isFreshStart = false;           ///< The editor will keep only the language.
+    QString damage;                      ///< What the pass loses of the file; empty when nothing.
+    std::vector<SettingsChange> changes; ///< Those that the repair made or would make.
+    QStringList folders;                 ///< Those that the repair created or would create.
+    QString copy;                        ///< The copy of a damaged file; empty without one.
     QString error;                       ///< Why it is not repairable.
 
-    /// In lines for people. Texts of the file stand in quotation marks, so that they cannot steer a terminal.
+    /// Lines for people to read. Texts from the file are escaped, so that they cannot control a terminal.
     QByteArray toText() const;
 
-    /// As one JSON object.
+    /// One JSON object.
     QByteArray toJson() const;
 };
 

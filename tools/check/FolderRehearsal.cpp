@@ -23,7 +23,7 @@ FolderRehearsal::~FolderRehearsal()
 
 bool FolderRehearsal::isFolder(const QString& path)
 {
-    // A folder whose child would have been created would exist by then.
+    // Creating a folder creates its parents too.
     const QString folder = QDir::cleanPath(QDir(path).absolutePath()) + '/';
     return s_current->m_former.isFolder(path) ||
            (!path.isEmpty() &&

@@ -7,8 +7,8 @@
 
 namespace zel {
 
-/// While one of these lives, the validators create no folder: they are told whether it could be created, and
-/// from then on that it exists. One at a time.
+/// A dry run for folders: while this object lives, the validators create no folder. Creating one succeeds if
+/// it is possible, and from then on the folder counts as existing. Only one object may live at a time.
 class FolderRehearsal
 {
 public:
@@ -18,7 +18,7 @@ public:
     FolderRehearsal(const FolderRehearsal&) = delete;
     FolderRehearsal& operator=(const FolderRehearsal&) = delete;
 
-    /// The folders that would have been created.
+    /// The folders that the validators would have created.
     const QStringList& folders() const { return m_folders; }
 
 private:

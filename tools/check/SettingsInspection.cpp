@@ -17,7 +17,7 @@ namespace {
 
 using Registered = ZelSettingsRegistry::Settings::value_type;
 
-/// Why the validators replace a value by the default.
+/// Why a validator replaces a value by the default.
 const struct
 {
     ZelSettingsRegistry::Validator validator;

@@ -17,31 +17,31 @@ struct SettingsChange
     bool isMissing;
     QString oldText;
     QString newText;
-    QString reason; ///< In English, to follow the old value: "is out of range".
+    QString reason; ///< Why, in English, as a predicate of the old value: "is out of range".
 };
 
-/// What the migration of an older version and the validation pass would do with a settings file. Looking
-/// changes nothing: neither the file, nor any folder that the pass would create. End checks of an application
-/// are not run, because they may write.
+/// Finds out what migration and the validation pass would do to a settings file, without changing the file or
+/// creating a folder. Skips the end checks of applications, because they may write.
 class SettingsInspection
 {
 public:
-    /// Looks at a file, which must be usable, by the rules that are registered.
+    /// Inspects a file by the registered rules. ZelSettingsFile::IsUsable() must be true of it.
     explicit SettingsInspection(const QString& path);
 
-    /// True when the pass would leave every value as it is.
+    /// True when there is nothing to repair.
     bool isClean() const;
 
-    /// What becomes of the file before the pass; a fresh start is an editor's alone.
+    /// The migration that precedes the pass. Only the editor makes a fresh start; a repair does not.
     Migration migration() const { return m_migration; }
 
-    /// What the pass would lose of the file, as settingsDamage tells it; empty when nothing.
+    /// What the pass would lose of the file, as from settingsDamage(); empty when nothing.
     const QString& damage() const { return m_damage; }
+    /// The values that migration and the pass would change.
     const std::vector<SettingsChange>& changes() const { return m_changes; }
     /// The folders that the pass would create.
     const QStringList& folders() const { return m_folders; }
-    /// Why a start would fail: the pass would give up, behind the changes above, or the file cannot be
-    /// written. Empty when it would not.
+    /// Why a start would fail: the pass would stop after the changes above, or the file cannot be written.
+    /// Empty when it would not fail.
     const QString& error() const { return m_error; }
 
 private:

@@ -6,9 +6,8 @@
 #include "ZelSettingsCatalogue.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsRegistry.h"
-#include "base/FileReplacement.h"
 #include "base/StandardStreams.h"
-#include "base/ZelQtCompat.h"
+#include "base/ZelSystemCompat.h"
 
 #include "platform/kqLibraries.h"
 
@@ -29,37 +28,32 @@ namespace {
 using namespace zel;
 
 const int UsageError = 3;
-const int MostPasses = 8;
+const int MaximumPasses = 8;
 
 const char* const Usage = "usage: torvane-settings-check [--repair] [--json] [--] FILE...\n";
 
-const char* const Help =
-    "\n"
-    "Tells what the viewer and its settings editor will change in settings files when they start: missing "
-    "and\n"
-    "invalid values, lines that cannot be read, and folders that have to be created. Only looks, unless "
-    "asked\n"
-    "to repair. \"-\" stands for a list of names on standard input, one on each line.\n"
-    "\n"
-    "  --repair    make these changes now; a dated copy of a damaged file is kept beside it\n"
-    "  --json      print one JSON object for each file instead of lines\n"
-    "  -h, --help  print this text\n"
-    "\n"
-    "Exit codes, of which the worst of all files counts; from good to bad:\n"
-    "  0  the file is clean\n"
-    "  4  the file has been repaired\n"
-    "  1  the file needs a repair; nothing has been changed\n"
-    "  2  the file cannot be read, written or repaired, or this report cannot be written\n"
-    "  3  wrong usage, or a name that is not UTF-8 text\n"
-    "\n"
-    "Only the keys that the editor itself registers are checked. The viewer checks more when it starts, and\n"
-    "keys that are unknown here are left as they are. A file that does not exist is one in which everything "
-    "is\n"
-    "missing. The default folders are those of the user who runs the check: run it as the user whose file "
-    "it\n"
-    "is. Of a file whose \"settingsVersion\" is below 1 the editor keeps nothing but the language, and a "
-    "copy:\n"
-    "this is told as a fresh start. A repair keeps its values.\n";
+const char* const Help = R"(
+Shows what the viewer and its settings editor will change in settings files when they start: missing and
+invalid values, lines that cannot be read, and folders that they have to create. Changes nothing without
+--repair. "-" stands for a list of names on standard input, one on each line.
+
+  --repair    make these changes now; a dated copy of a damaged file is kept beside it
+  --json      print one JSON object for each file instead of lines
+  -h, --help  print this text
+
+Exit codes, of which the worst of all files counts; from good to bad:
+  0  the file is clean
+  4  the file has been repaired
+  1  the file needs a repair; nothing has been changed
+  2  the file cannot be read, written or repaired, or this report cannot be written
+  3  wrong usage, or a name that is not UTF-8 text
+
+Only the keys that the editor itself registers are checked. The viewer checks more when it starts, and keys
+that are unknown here stay as they are. In a file that does not exist every key is missing. The default
+folders are those of the user who runs the check: run it as the owner of the file. Of a file whose
+"settingsVersion" is below 1 the editor keeps only the language, and a copy: the report calls this a fresh
+start. A repair keeps its values.
+)";
 
 struct Options
 {
@@ -92,8 +86,8 @@ bool parse(QStringList arguments, Options& options)
     return options.help || (!options.files.isEmpty() && !options.files.contains(QString()));
 }
 
-/// True when every argument can be turned back into what has been given: else it would name another file.
-bool areUnderstood(const QStringList& arguments, char** given)
+/// False when decoding has changed an argument, which then names another file.
+bool areDecoded(const QStringList& arguments, char** given)
 {
     for (const QString& argument : arguments) {
         if (QFile::encodeName(argument) != *given++)
@@ -102,7 +96,7 @@ bool areUnderstood(const QStringList& arguments, char** given)
     return true;
 }
 
-/// Replaces "-" by the files that standard input names, a line each. False when a name is not UTF-8 text.
+/// Replaces "-" by the names on standard input, one on each line. False when a name is not UTF-8 text.
 bool readNames(Options& options)
 {
     QStringList all;
@@ -113,7 +107,7 @@ bool readNames(Options& options)
         }
         QFile input;
         input.open(stdin, QIODevice::ReadOnly);
-        // Empty at the end, and also when it cannot be read.
+        // readLine() is empty at the end and after an error.
         for (QByteArray line = input.readLine(); !line.isEmpty(); line = input.readLine()) {
             if (line.endsWith('\n'))
                 line.chop(1);
@@ -128,8 +122,8 @@ bool readNames(Options& options)
     return true;
 }
 
-/// Creates the folders that the validators need, and tells whether they will let the pass through: it would
-/// leave half a repair behind if it had to stop.
+/// Creates the folders that the validators need. False when a validator would stop the pass, which would
+/// leave half of a repair in the file.
 bool createFolders(const QString& path, QString& error)
 {
     return validateSettings(*ZelSettingsFile::Open(path), error,
@@ -140,8 +134,8 @@ bool runPass(const QString& path, QString& error)
 {
     if (!ZelSettingsFile::Repair(*ZelSettingsFile::Open(path), error))
         return false;
-    // QSettings keeps what it has written in memory while the size and the time of the file stay. A later
-    // time makes the next pass read the file.
+    // While the size and the time of the file stay, QSettings answers from its cache. A later time makes the
+    // next pass read the file.
     std::error_code ignored;
     const std::filesystem::path file = nativePath(path);
     std::filesystem::last_write_time(
@@ -149,19 +143,19 @@ bool runPass(const QString& path, QString& error)
     return true;
 }
 
-/// Adds what one more pass changes to what the former ones have changed.
+/// Adds the changes of one more pass to those of the earlier passes.
 void add(const SettingsInspection& inspection, CheckReport& report)
 {
     if (report.damage.isEmpty())
         report.damage = inspection.damage();
     for (const SettingsChange& change : inspection.changes()) {
-        const auto former =
+        const auto earlier =
             std::find_if(report.changes.begin(), report.changes.end(),
                          [&change](const SettingsChange& other) { return other.key == change.key; });
-        if (former == report.changes.end())
+        if (earlier == report.changes.end())
             report.changes.push_back(change);
         else
-            former->newText = change.newText;
+            earlier->newText = change.newText;
     }
     report.folders += inspection.folders();
     report.error = inspection.error();
@@ -175,9 +169,10 @@ bool repair(const QString& path, SettingsInspection inspection, CheckReport& rep
     }
     if (!createFolders(path, report.error))
         return false;
-    // A pass may leave something to the next one: it takes one slash off the end of a folder, for instance.
+    // A pass may leave work for the next one: it removes only one slash from the end of a folder, for
+    // instance.
     for (int pass = 0; !inspection.isClean(); ++pass) {
-        if (pass == MostPasses) {
+        if (pass == MaximumPasses) {
             report.error = "It still changes whenever it is repaired: repair it again";
             return false;
         }
@@ -207,14 +202,14 @@ CheckReport check(const QString& path, bool mayRepair)
     const SettingsInspection inspection(path);
     add(inspection, report);
     report.isFreshStart = inspection.migration() == Migration::FreshStart && QFile::exists(path);
-    const QString formerCopy = latestCopy(path);
+    const QString previousCopy = latestCopy(path);
     if (inspection.isClean())
         report.state = CheckState::Clean;
     else if (report.error.isEmpty() && !mayRepair)
         report.state = CheckState::NeedsRepair;
     else if (report.error.isEmpty() && repair(path, inspection, report))
         report.state = CheckState::Repaired;
-    if (latestCopy(path) != formerCopy)
+    if (latestCopy(path) != previousCopy)
         report.copy = latestCopy(path);
     return report;
 }
@@ -228,7 +223,7 @@ bool print(const QByteArray& text)
     return false;
 }
 
-/// Checks all files, also after one that cannot be read. Returns the worst outcome.
+/// Checks all files, even after one that cannot be read. Returns the worst outcome.
 CheckState run(const Options& options)
 {
     CheckState worst = CheckState::Clean;
@@ -262,7 +257,7 @@ int main(int argc, char** argv)
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     Options options;
-    if (!areUnderstood(arguments, argv + 1) || !parse(arguments, options) ||
+    if (!areDecoded(arguments, argv + 1) || !parse(arguments, options) ||
         (!options.help && !readNames(options))) {
         std::fputs(Usage, stderr);
         return UsageError;

@@ -12,10 +12,10 @@
 
 namespace {
 
-/// How many of the latest events are kept while there is no handler.
+/// How many events to keep without a handler; the latest ones stay.
 const std::size_t KeptEvents = 1000;
 
-/// A log file of more bytes is set aside before it is opened.
+/// Bytes; a larger log file is renamed before a new one is opened.
 const qint64 SizeLimit = 5LL * 1024 * 1024;
 
 struct Event
@@ -24,7 +24,7 @@ struct Event
     QByteArray line;
 };
 
-/// The state of the logger; every function may be called from any thread.
+/// The state of the logger. All functions are thread-safe.
 class EventLog
 {
 public:
@@ -66,7 +66,7 @@ private:
             QFile::remove(path + ".1");
             QFile::rename(path, path + ".1");
         }
-        // Opening a pipe would wait for its reader.
+        // open() of a pipe blocks until it has a reader.
         const bool special = file.exists() && !file.isFile();
         if (special || !m_file.open(QIODevice::Append | QIODevice::Text | QIODevice::Unbuffered)) {
             const QString reason = special ? QString("it is not a file") : m_file.errorString();
@@ -84,7 +84,7 @@ private:
     }
 
     QMutex m_mutex;
-    QFile m_file; // Unbuffered, so that no event is lost in a crash.
+    QFile m_file; // Unbuffered, so that a crash loses no event.
     bool m_diagnostics = false;
     QStringList m_blackList;
     std::deque<Event> m_kept;
@@ -101,7 +101,7 @@ QString fromUtf8(const std::string& text)
     return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
 }
 
-/// Escapes what could end the line or control a terminal that shows it.
+/// Escapes the characters that can end a line or control a terminal.
 QString onOneLine(const QString& text)
 {
     QString line;

@@ -27,7 +27,7 @@ bool kqDMIApplication::isDiagModeEnable()
 
 QString kqDMIApplication::GetStylesheet(const QString& name)
 {
-    // A name is a class name: nothing else may reach the other resources.
+    // Only class names, so that a name such as "../x" cannot reach other resources.
     if (!QRegExp("[A-Za-z0-9_]+").exactMatch(name))
         return QString();
     QFile file(":/stylesheets/" + name + ".qss");

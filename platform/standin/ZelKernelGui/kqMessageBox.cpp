@@ -21,12 +21,12 @@ kqMessageBox::ShowMessage(const QString& title, const QString& text, QMessageBox
                           QWidget* parent, Qt::WindowFlags flags,
                           const QMap<QMessageBox::StandardButton, QString>& buttonTexts, bool critical)
 {
-    // Guarded, because a parent that goes away meanwhile takes the box along.
+    // QPointer, because a parent that is deleted meanwhile deletes the box.
     const QPointer<QMessageBox> box(new QMessageBox(QMessageBox::NoIcon, title, text, buttons, parent,
                                                     flags | Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint));
     box->setIcon(icon(*box, critical));
     box->setTextFormat(Qt::PlainText);
-    // What is asked may lose something, which a key pressed in passing must not do.
+    // The other answers may lose data, which a stray Return key must not do.
     if (buttons & QMessageBox::Cancel)
         box->setDefaultButton(QMessageBox::Cancel);
     box->setStyleSheet(kqDMIApplication::GetStylesheet("kqMessageBox"));

@@ -13,7 +13,7 @@ zelAction::zelAction(const QString& name, const QString& guiName, zelActionManag
 
 zelAction::~zelAction()
 {
-    // A later action of the same name may have taken the place.
+    // A later action of the same name may have replaced this one.
     if (m_manager && m_manager->m_actions.value(m_name) == this)
         m_manager->m_actions.remove(m_name);
 }

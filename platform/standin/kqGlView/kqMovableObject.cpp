@@ -75,12 +75,12 @@ bool kqMovableObject::expand(const QMouseEvent& event)
 
 bool kqMovableObject::drag(const QMouseEvent& event)
 {
-    // The release goes elsewhere when another window takes the mouse meanwhile.
+    // The window gets no release event when another window grabs the mouse.
     m_dragging = m_dragging && (event.buttons() & Qt::LeftButton);
     if (!m_dragging)
         return false;
     if (m_target->isMaximized()) {
-        // A click of an unsteady hand is no drag.
+        // A small movement during a click is not a drag.
         if ((event.globalPos() - m_pressed).manhattanLength() < QApplication::startDragDistance())
             return true;
         restoreUnderGrip();
@@ -93,7 +93,7 @@ bool kqMovableObject::isHandle(const QMouseEvent& event) const
 {
     if (event.button() != Qt::LeftButton)
         return false;
-    // A check box lets a press through that misses its text.
+    // QCheckBox ignores a press beside its text, which then comes here.
     const QWidget* anchor = qobject_cast<QWidget*>(m_anchor);
     const QWidget* widget = anchor ? anchor->childAt(event.pos()) : nullptr;
     while (widget && widget != anchor && !qobject_cast<const QAbstractButton*>(widget))
@@ -106,7 +106,7 @@ void kqMovableObject::restoreUnderGrip()
     const QSize maximized = m_target->size();
     const QSize restored = m_target->normalGeometry().size();
     m_target->showNormal();
-    // A window manager restores the size later than this; until then the window would keep the size it has.
+    // The window manager restores the size only later.
     m_target->resize(restored);
     m_grip.setX(m_grip.x() * restored.width() / qMax(1, maximized.width()));
 }

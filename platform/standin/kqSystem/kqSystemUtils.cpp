@@ -19,7 +19,7 @@ std::string kqSystemUtils::GetCurrentUserNameUtf8()
         return QString::fromWCharArray(name).toUtf8().constData();
     return "user";
 #else
-    // Containers often run under a number that has no account.
+    // In containers the user id often has no account.
     const passwd* account = ::getpwuid(::geteuid());
     return account && *account->pw_name ? account->pw_name : "user" + std::to_string(::geteuid());
 #endif

@@ -20,7 +20,7 @@ namespace {
 
 const char Prefix[] = "single-instance-";
 
-/// A name of fixed length, because the path of a socket may have some hundred bytes at most.
+/// A short name, because the path of a socket is limited to about a hundred bytes.
 QString nameOf(const QString& id)
 {
     const QByteArray hash = QCryptographicHash::hash(id.toUtf8(), QCryptographicHash::Sha1).toHex();
@@ -33,7 +33,7 @@ QString nameOf(const QString& id)
 
 namespace {
 
-/// Pipes have one name space for all users of a machine.
+/// All users of a machine share the names of pipes.
 QString sessionAndUser()
 {
     wchar_t name[UNLEN + 1] = L"";
@@ -93,7 +93,7 @@ bool fitsSocket(const QString& path)
     return QFile::encodeName(path).size() < static_cast<int>(sizeof(sockaddr_un().sun_path));
 }
 
-/// The first private folder in which a socket of that name can be; empty when there is none.
+/// The first private folder whose path is short enough for a socket of that name; empty when there is none.
 QString privateFolder(const QString& socketName)
 {
     const QString runtime = QDir::cleanPath(QFile::decodeName(qgetenv("XDG_RUNTIME_DIR")));
@@ -103,7 +103,7 @@ QString privateFolder(const QString& socketName)
         const QString own = QString("%1/%2%3").arg(shared, Prefix).arg(::geteuid());
         if (!fitsSocket(own + '/' + socketName))
             continue;
-        // An earlier start, or another user, may have made it already: what counts is what it is now.
+        // mkdir() may fail because the folder exists, perhaps of another user: isPrivate() decides.
         ::mkdir(QFile::encodeName(own).constData(), 0700);
         if (isPrivate(own))
             return own;
@@ -125,7 +125,8 @@ InstanceLock::InstanceLock(const QString& id)
 
 InstanceLock::~InstanceLock()
 {
-    // The file stays: were it removed, one process could lock the old file and another one a new file.
+    // The file stays: otherwise one process could hold the lock of the removed file, another that of a new
+    // one.
     if (isHeld())
         ::close(m_file);
 }

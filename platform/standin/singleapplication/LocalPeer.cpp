@@ -14,8 +14,8 @@ const int HeaderSize = MarkSize + sizeof(quint32);
 const int AcknowledgementSize = sizeof(LocalMessage::Acknowledgement) - 1;
 
 const int MaxConnections = 32;
-const int ConnectionTime = 2000; // milliseconds
-const int RetryInterval = 25;    // milliseconds
+const int ConnectionTimeout = 2000; // milliseconds
+const int RetryInterval = 25;       // milliseconds
 
 /// msleep() is protected in Qt 4.
 struct Pause : QThread
@@ -92,11 +92,11 @@ LocalPeerConnection::LocalPeerConnection(QLocalSocket* socket, QObject* parent)
     , m_socket(socket)
 {
     m_socket->setParent(this);
-    // What does not fit stays with the peer, however much that has to send.
+    // Limits the memory that a peer can fill.
     m_socket->setReadBufferSize(LocalMessage::MaxSize);
     connect(m_socket, SIGNAL(readyRead()), this, SLOT(read()));
     connect(m_socket, SIGNAL(disconnected()), this, SLOT(deleteLater()));
-    QTimer::singleShot(ConnectionTime, this, SLOT(deleteLater()));
+    QTimer::singleShot(ConnectionTimeout, this, SLOT(deleteLater()));
 }
 
 void LocalPeerConnection::read()
@@ -110,7 +110,7 @@ void LocalPeerConnection::read()
         deleteLater();
         return;
     }
-    // The peer ends the connection: were it done here, a pipe could lose the acknowledgement.
+    // The peer disconnects after it has read: to close a pipe here could lose the acknowledgement.
     m_socket->write(LocalMessage::Acknowledgement, AcknowledgementSize);
     m_socket->flush();
     Q_EMIT messageReceived(message);
@@ -138,11 +138,10 @@ bool LocalPeer::sendMessage(const QString& message, int timeout)
 {
     const Deadline deadline(timeout);
     const QByteArray bytes = LocalMessage::encode(message);
-    // The lock is not tried here: a process that is about to end would become the instance for a moment, and
-    // one that starts just then would take it for one.
+    // Does not try the lock: a client that is about to end would become the running instance for a moment.
     if (bytes.isNull() || m_lock.server().isEmpty() || m_lock.isHeld())
         return false;
-    // The instance may not listen yet, or have too many peers at the moment.
+    // The instance may not listen yet, or may have too many connections.
     while (!deliver(m_lock.server(), bytes, deadline)) {
         if (deadline.remaining() == 0)
             return false;
@@ -156,7 +155,7 @@ void LocalPeer::listen()
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
 #endif
-    // This process has the lock, so a socket that is there belongs to one that was killed.
+    // This process has the lock, so an existing socket is left from a killed process.
     QLocalServer::removeServer(m_lock.server());
     if (!m_server.listen(m_lock.server()))
         qWarning("Other instances cannot reach this one: %s", qPrintable(m_server.errorString()));

@@ -10,27 +10,27 @@
 
 class QLocalSocket;
 
-/// How a message travels: four fixed bytes that tell it from noise, its length in four bytes, highest first,
-/// and its text in UTF-8. The receiver answers with an acknowledgement.
+/// The wire format of a message: four magic bytes, the length of the text as a big-endian 32-bit number, and
+/// the text in UTF-8. The receiver answers with an acknowledgement.
 namespace LocalMessage {
 
-/// Size of the longest message on its way, in bytes.
+/// Size of the longest encoded message, in bytes.
 const int MaxSize = 1024 * 1024;
 
 const char Acknowledgement[] = "taken";
 
-/// The bytes to be sent; null when the message is too long.
+/// The bytes to send; null when the message is too long.
 QByteArray encode(const QString& message);
 
 enum Result { Incomplete, Complete, Invalid };
 
-/// Reads the message that a peer sends, as soon as all of it has arrived.
+/// Reads a message from a socket. Leaves the bytes there while the message is incomplete.
 Result read(QLocalSocket& socket, QString& message);
 
 } // namespace LocalMessage
 
-/// The instance's end of a connection. Takes one message, acknowledges it and deletes itself once the peer
-/// has gone, sends something else, or has taken too long.
+/// The receiving end of a connection. Takes one message and acknowledges it. Deletes itself when the peer
+/// disconnects, when the bytes are no message, and after a timeout.
 class LocalPeerConnection : public QObject
 {
     Q_OBJECT
@@ -49,8 +49,8 @@ private:
     QLocalSocket* m_socket;
 };
 
-/// One process among those with the same id: the instance, which receives messages, or a client, which sends
-/// them. Where the system offers no private place to meet, each process is an instance of its own.
+/// A process of a program: the running instance, which receives messages, or a client, which sends them.
+/// Where the system has no private folder for the user, every process is an instance.
 class LocalPeer : public QObject
 {
     Q_OBJECT
@@ -58,17 +58,17 @@ class LocalPeer : public QObject
 public:
     explicit LocalPeer(const QString& id, QObject* parent = nullptr);
 
-    /// True when another process is the instance; otherwise this one becomes it, if it is not already.
+    /// True when another process is the running instance. Otherwise this process becomes it.
     bool isClient();
 
-    /// Sends a message to the instance, if that is another process. False when the message is too long or was
-    /// not taken within the time-out, in milliseconds.
+    /// Sends a message to the running instance. False when this process is the instance, when the message is
+    /// too long, or when the instance does not take it within the timeout, in milliseconds.
     bool sendMessage(const QString& message, int timeout);
 
     QString id() const { return m_id; }
 
 Q_SIGNALS:
-    /// Arrives through the event loop.
+    /// Emitted from the event loop.
     void messageReceived(const QString& message);
 
 private Q_SLOTS:
@@ -79,7 +79,7 @@ private:
 
     const QString m_id;
     InstanceLock m_lock;
-    QLocalServer m_server; // After the lock, so that its socket is gone before the lock is free again.
+    QLocalServer m_server; // After the lock, so that its socket is removed before the lock is released.
 };
 
 #endif

@@ -5,7 +5,7 @@
 #include <QFileInfo>
 #include <QWidget>
 
-// Without a GUI this class has no use: the flag exists for the interface's sake.
+// The flag exists only because the genuine library has it.
 QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool)
     : QApplication(argc, argv)
 {

@@ -1,4 +1,4 @@
-#include "WindowPlace.h"
+#include "WindowGeometry.h"
 
 #include <QApplication>
 #include <QDesktopWidget>
@@ -8,35 +8,35 @@
 namespace zel {
 
 namespace {
-const char* const DesktopKey = "desktop"; // All screens together, as they were when the place was stored.
+const char* const DesktopKey = "desktop"; // The bounding rectangle of all screens.
 const char* const GeometryKey = "geometry";
 const char* const MaximizedKey = "maximized";
 } // namespace
 
-WindowPlace::WindowPlace(QWidget* window, const QSize& leastSize, const QString& file)
+WindowGeometry::WindowGeometry(QWidget* window, const QSize& minimumSize, const QString& file)
     : QObject(window)
     , m_window(window)
-    , m_leastSize(leastSize)
+    , m_minimumSize(minimumSize)
     , m_file(file)
 {
-    connect(QApplication::desktop(), SIGNAL(resized(int)), this, SLOT(fitScreen()));
-    connect(QApplication::desktop(), SIGNAL(workAreaResized(int)), this, SLOT(fitScreen()));
+    connect(QApplication::desktop(), SIGNAL(resized(int)), this, SLOT(fitToScreen()));
+    connect(QApplication::desktop(), SIGNAL(workAreaResized(int)), this, SLOT(fitToScreen()));
 }
 
-void WindowPlace::restore()
+void WindowGeometry::restore()
 {
-    fitScreen();
+    fitToScreen();
     const QSettings file(m_file, QSettings::IniFormat);
-    const QRect place = file.value(GeometryKey).toRect();
-    if (!place.isValid() || file.value(DesktopKey).toRect() != QApplication::desktop()->geometry())
+    const QRect geometry = file.value(GeometryKey).toRect();
+    if (!geometry.isValid() || file.value(DesktopKey).toRect() != QApplication::desktop()->geometry())
         return;
-    m_window->setGeometry(place);
-    fitScreen();
+    m_window->setGeometry(geometry);
+    fitToScreen();
     if (file.value(MaximizedKey).toBool())
         m_window->setWindowState(m_window->windowState() | Qt::WindowMaximized);
 }
 
-void WindowPlace::store() const
+void WindowGeometry::save() const
 {
     QSettings file(m_file, QSettings::IniFormat);
     file.setValue(DesktopKey, QApplication::desktop()->geometry());
@@ -44,15 +44,15 @@ void WindowPlace::store() const
     file.setValue(MaximizedKey, m_window->isMaximized());
 }
 
-void WindowPlace::fitScreen()
+void WindowGeometry::fitToScreen()
 {
     const QRect area = QApplication::desktop()->availableGeometry(m_window);
-    m_window->setMinimumSize(m_leastSize.boundedTo(area.size()));
+    m_window->setMinimumSize(m_minimumSize.boundedTo(area.size()));
     if (m_window->isMaximized() || m_window->isFullScreen())
         return;
     const QSize size = m_window->size().boundedTo(area.size());
     m_window->resize(size);
-    // A window that has not been given a place before it is shown is given one by the system.
+    // Before a window without a position is shown, the window manager chooses one.
     if (m_window->isVisible() || m_window->testAttribute(Qt::WA_Moved))
         m_window->move(qBound(area.left(), m_window->x(), area.right() - size.width() + 1),
                        qBound(area.top(), m_window->y(), area.bottom() - size.height() + 1));

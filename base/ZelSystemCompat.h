@@ -1,0 +1,103 @@
+#ifndef ZEL_ZELSYSTEMCOMPAT_H
+#define ZEL_ZELSYSTEMCOMPAT_H
+
+// The differences between Windows and other systems in how product code handles files and processes. On
+// Windows the folder decides who owns a new file, and a file that another program has open cannot be
+// replaced.
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QString>
+#include <QTextCodec>
+
+#include <chrono>
+#include <thread>
+
+#if !defined(Q_OS_WIN)
+#    include <cerrno>
+#    include <csignal>
+#    include <unistd.h>
+#endif
+
+namespace zel {
+
+/// How long to wait for a file that another program, such as a virus scanner, has open, in milliseconds.
+#if defined(Q_OS_WIN)
+const int BusyFileTimeout = 1000;
+#else
+const int BusyFileTimeout = 0;
+#endif
+
+/// Opens a file; waits up to BusyFileTimeout while another program has it open. False when that fails.
+inline bool openWhenFree(QFile& file, QIODevice::OpenMode mode)
+{
+    QElapsedTimer clock;
+    clock.start();
+    while (!file.open(mode)) {
+        if (clock.elapsed() >= BusyFileTimeout || !file.exists())
+            return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    }
+    return true;
+}
+
+/// True for a file of the user who runs the process; always true on Windows.
+inline bool isOwn(const QFileInfo& file)
+{
+#if defined(Q_OS_WIN)
+    Q_UNUSED(file)
+    return true;
+#else
+    return file.ownerId() == ::geteuid();
+#endif
+}
+
+/// True when a new file that replaces this one can have the same owner.
+inline bool mayReplace(const QFileInfo& file)
+{
+#if defined(Q_OS_WIN)
+    return isOwn(file);
+#else
+    return isOwn(file) || ::geteuid() == 0;
+#endif
+}
+
+/// True when a process with this id exists. Always false on Windows, which releases the locks of a process
+/// that ends.
+inline bool isRunning(qint64 process)
+{
+#if defined(Q_OS_WIN)
+    Q_UNUSED(process)
+    return false;
+#else
+    return ::kill(static_cast<pid_t>(process), 0) == 0 || errno == EPERM;
+#endif
+}
+
+/// Sets the owner and the group of a file. False when this process has no right to; on Windows it does
+/// nothing and is true.
+inline bool giveFileTo(const QString& path, uint owner, uint group)
+{
+#if defined(Q_OS_WIN)
+    Q_UNUSED(path)
+    Q_UNUSED(owner)
+    Q_UNUSED(group)
+    return true;
+#else
+    return ::lchown(QFile::encodeName(path).constData(), owner, group) == 0;
+#endif
+}
+
+/// Reads and writes file names and arguments as UTF-8, also in a process without a locale: under the "C"
+/// locale Qt replaces each non-ASCII character by a question mark. Windows has Unicode names anyway.
+inline void useUtf8FileNames()
+{
+#if !defined(Q_OS_WIN)
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+#endif
+}
+
+} // namespace zel
+
+#endif

@@ -1,0 +1,40 @@
+#ifndef ZEL_WINDOWGEOMETRY_H
+#define ZEL_WINDOWGEOMETRY_H
+
+#include <QObject>
+#include <QSize>
+#include <QString>
+
+class QWidget;
+
+namespace zel {
+
+/// Saves the position and size of a frameless window and restores them, unless the screens have changed. Also
+/// keeps the window within the available area of its screen. The window owns this object.
+class WindowGeometry : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @param minimumSize  the minimum size of the window, where the screen is large enough
+    /// @param file         the file that holds position and size, and nothing else
+    WindowGeometry(QWidget* window, const QSize& minimumSize, const QString& file);
+
+    /// Call it before the window is shown. A missing or invalid file changes nothing.
+    void restore();
+
+    /// Ignores failures: the user loses nothing of value.
+    void save() const;
+
+private Q_SLOTS:
+    void fitToScreen();
+
+private:
+    QWidget* const m_window;
+    const QSize m_minimumSize;
+    const QString m_file;
+};
+
+} // namespace zel
+
+#endif
