@@ -25,6 +25,12 @@ const QString TypeCacheSize = "mousemove --window %1 530 304 click 1 key ctrl+a 
 const char* const Apply = "mousemove --window %1 184 265 click 1";
 const char* const ChooseLowMode = "mousemove --window %1 275 183 click 1";
 
+#if defined(__SANITIZE_ADDRESS__)
+const int Kills = 4;
+#else
+const int Kills = 8;
+#endif
+
 const char* const Version1 = "[General]\nengine=gl\nsettingsVersion=1\nlanguage=xx\n[Own]\nthing=\303\274\n";
 const char* const NoVersion = "[General]\nengine=software\nlanguage=fr\n[Own]\nthing=1\n";
 const char* const Newer = "[General]\nsettingsVersion=7\nengine=software\n[DBCache]\ncacheSize=77\n";
@@ -149,6 +155,26 @@ private Q_SLOTS:
             QTRY_VERIFY_WITH_TIMEOUT(stored()["engine"] == "software", Patience);
             editor.act("key alt+F4");
             QCOMPARE(editor.exitCode(), 0);
+        }
+    }
+
+    void killedWhileApplying()
+    {
+        QByteArray before, after;
+        for (int round = 0; round < Kills; ++round) {
+            Editor editor(m_home);
+            QVERIFY(opensWindow(editor));
+            before = contentOf(settingsFile());
+            editor.act(ChooseLowMode);
+            editor.act(Apply);
+            if (round == 0) {
+                QTRY_VERIFY_WITH_TIMEOUT((after = contentOf(settingsFile())) != before, Patience);
+                continue;
+            }
+            QTest::qSleep(std::rand() % 10); // The click itself takes some milliseconds to arrive.
+            editor.kill();
+            const QByteArray content = contentOf(settingsFile());
+            QVERIFY2(content == before || content == after, content.constData());
         }
     }
 
