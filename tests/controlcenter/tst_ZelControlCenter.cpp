@@ -341,6 +341,16 @@ private Q_SLOTS:
                 QCOMPARE(box.value(), value);
             }
         }
+        zel::zelSpinBox last(m_pages[2].get());
+        last.show();
+        const QPoint column = m_controlCenter->mapTo(m_window.get(), QPoint(5, 5));
+        QTest::mousePress(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier, column);
+        last.setFocus(); // Nothing moves under a mouse button that is held down.
+        QCOMPARE(scrollBar()->value(), 0);
+        QTest::mouseRelease(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier, column);
+        m_pages[0]->getActionWidget()->setFocus();
+        last.setFocus();
+        QVERIFY(scrollBar()->value() > 0);
         m_pages[0]->getActionWidget()->setFocus();
         const int bottom = scrollBar()->maximum(), page = scrollBar()->pageStep();
         const int places[] = {0, bottom, qMax(0, bottom - page), qMin(bottom, page)};
@@ -498,6 +508,10 @@ private Q_SLOTS:
         openEverything();
         action("closing").trigger();
         QTRY_VERIFY(!m_controlCenter->isMenuOpen());
+        openEverything();
+        m_controlCenter->unregisterCCAction(&action("closing"));
+        action("closing").trigger();
+        QVERIFY(button("controlCenterButton")->isChecked());
     }
 
     void interfaceColour()

@@ -94,8 +94,15 @@ private Q_SLOTS:
         QVERIFY(find("screenshotFolderButton")->toolTip().isEmpty());
 
         const QPoint drawer = m_window->findChild<ZelControlCenter*>()->settingsWidget()->pos();
-        m_window->resize(800, 600);
-        QVERIFY(!find("helpFrame")->isVisible());
+        for (const int width : {1200, 800}) { // A field shows its tool tip where the area does not.
+            m_window->resize(width, 600);
+            QCOMPARE(find("helpFrame")->isVisible(), width == 1200);
+            QHelpEvent rest(QEvent::ToolTip, QPoint(1, 1),
+                            find("databaseSpinBox")->mapToGlobal(QPoint(1, 1)));
+            QCoreApplication::sendEvent(find("databaseSpinBox"), &rest);
+            QCOMPARE(QToolTip::isVisible(), width == 800);
+        }
+        QToolTip::hideText();
         find("databaseSpinBox")->setFocus();
         find<ZelHelpArea>("helpArea")->showHelpOfFocusedField();
         QString shown;
@@ -140,6 +147,7 @@ private Q_SLOTS:
     void numbersFollowTheLanguage()
     {
         const char* const rows[][4] = {{"en", "4100", "4,096 Mo", "0.125"},
+                                       {"en", "1.5", "15 Mo", "0.125"},
                                        {"de", "4.095", "4.095 MB", "0,125"},
                                        {"fr", "5", "10 Mo", "0,125"}};
         for (const auto& [language, size, shown, sag] : rows) {

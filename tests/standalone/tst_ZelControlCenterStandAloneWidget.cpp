@@ -136,8 +136,17 @@ private Q_SLOTS:
             QCOMPARE(answer.texts.size(), 1);
             QVERIFY(m_window.isVisible() && check->isChecked());
         }
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+        QCoreApplication::sendEvent(check, &held);
+        QVERIFY(check->isChecked());
         press(Qt::Key_R, Qt::AltModifier);
         QTRY_VERIFY(!check->isChecked());
+        auto* size = m_window.findChild<QSpinBox*>("databaseSpinBox");
+        size->setFocus();
+        size->selectAll();
+        QTest::keyClicks(size, "9999"); // What is being typed counts, and is brought into the range.
+        press(Qt::Key_S, Qt::ControlModifier);
+        QTRY_COMPARE(m_application.getSettings().value("DBCache/cacheSize").toInt(), size->maximum());
     }
 
     void edgesAndCornersResize()
