@@ -27,17 +27,24 @@ const int BusyFileTime = 1000;
 const int BusyFileTime = 0;
 #endif
 
-/// Opens a file. Where another program keeps it to itself, waits until that ends, for BusyFileTime at most.
-inline bool openWhenFree(QFile& file, QIODevice::OpenMode mode)
+/// Repeats an attempt that returns false, because another program has a file open, for BusyFileTime at most.
+template <typename Attempt>
+bool succeedsWhenFree(Attempt attempt)
 {
     QElapsedTimer clock;
     clock.start();
-    while (!file.open(mode)) {
-        if (clock.elapsed() >= BusyFileTime || !file.exists())
+    while (!attempt()) {
+        if (clock.elapsed() >= BusyFileTime)
             return false;
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
     }
     return true;
+}
+
+/// Opens a file, and waits for one that another program keeps to itself.
+inline bool openWhenFree(QFile& file, QIODevice::OpenMode mode)
+{
+    return succeedsWhenFree([&] { return file.open(mode) || !file.exists(); }) && file.isOpen();
 }
 
 /// True for a file of the user who runs the process.

@@ -1,8 +1,7 @@
 // Parses ratios and scene units from any text and any numbers.
 
 #include "Check.h"
-#include "NumberText.h"
-#include "SceneUnits.h"
+#include "SettingsNumbers.h"
 #include "ZelSettingsValidators.h"
 #include "base/ZelQtCompat.h"
 

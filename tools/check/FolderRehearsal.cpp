@@ -1,5 +1,7 @@
 #include "FolderRehearsal.h"
 
+#include "base/Files.h"
+
 #include <QDir>
 
 #include <algorithm>

@@ -1,12 +1,11 @@
 #include "CheckReport.h"
-#include "FileAccess.h"
 #include "SettingsBackup.h"
 #include "SettingsKeys.h"
 #include "SettingsValidation.h"
 #include "ZelSettingsCatalogue.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsRegistry.h"
-#include "base/FileReplacement.h"
+#include "base/Files.h"
 #include "base/StandardStreams.h"
 #include "base/ZelQtCompat.h"
 
