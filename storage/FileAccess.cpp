@@ -1,6 +1,6 @@
 #include "FileAccess.h"
 
-#include "base/Files.h"
+#include "base/FileFunctions.h"
 
 #include "platform/MTLogger.h"
 

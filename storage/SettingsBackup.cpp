@@ -1,7 +1,7 @@
 #include "SettingsBackup.h"
 
 #include "FileAccess.h"
-#include "base/Files.h"
+#include "base/FileFunctions.h"
 
 #include <QDateTime>
 

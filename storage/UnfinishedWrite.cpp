@@ -2,7 +2,7 @@
 
 #include "FileAccess.h"
 #include "SettingsBackup.h"
-#include "base/Files.h"
+#include "base/FileFunctions.h"
 
 #include <QDateTime>
 

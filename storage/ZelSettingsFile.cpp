@@ -6,7 +6,7 @@
 #include "SettingsDamage.h"
 #include "SettingsValidation.h"
 #include "UnfinishedWrite.h"
-#include "base/Files.h"
+#include "base/FileFunctions.h"
 #include "base/ZelQtCompat.h"
 
 #include <QEvent>

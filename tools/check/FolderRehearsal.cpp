@@ -1,6 +1,6 @@
 #include "FolderRehearsal.h"
 
-#include "base/Files.h"
+#include "base/FileFunctions.h"
 
 #include <QDir>
 

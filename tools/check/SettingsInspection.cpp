@@ -6,7 +6,7 @@
 #include "SettingsValidation.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsValidators.h"
-#include "base/Files.h"
+#include "base/FileFunctions.h"
 
 #include <algorithm>
 #include <iterator>

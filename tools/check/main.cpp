@@ -5,7 +5,7 @@
 #include "ZelSettingsCatalogue.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsRegistry.h"
-#include "base/Files.h"
+#include "base/FileFunctions.h"
 #include "base/StandardStreams.h"
 #include "base/ZelQtCompat.h"
 

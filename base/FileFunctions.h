@@ -1,5 +1,5 @@
-#ifndef ZEL_FILES_H
-#define ZEL_FILES_H
+#ifndef ZEL_FILEFUNCTIONS_H
+#define ZEL_FILEFUNCTIONS_H
 
 #include "FileReplacement.h"
 
