@@ -21,7 +21,7 @@ public:
     static void CleanupFolder(QString& path);
 
     static Validate noOp;                          ///< Any text.
-    static Validate ensureSettingsVersion;         ///< Always the default: the version that the file now has.
+    static Validate ensureSettingsVersion;         ///< Always the default, the current version.
     static Validate ensureBool;                    ///< "true" or "false", or default.
     static Validate ensureEngine;                  ///< "deferred" or "software", or default.
     static Validate ensureLogLevel;                ///< An integer, clamped to at least 0.

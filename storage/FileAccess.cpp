@@ -15,7 +15,7 @@ namespace zel {
 namespace {
 
 const qint64 MaximumFileSize = qint64(64) * 1024 * 1024;
-const qint64 MaximumGrowth = 8192;          // Bytes that a write takes besides: its lock, the last block.
+const qint64 MaximumGrowth = 8192; // Bytes that a write needs besides, for its lock and a last block.
 const std::chrono::minutes StaleLockAge(1); // QSettings removes a lock of half a minute.
 const int LockTimeout = 2000;               // ms; a write takes milliseconds.
 
@@ -55,9 +55,9 @@ void logWarning(const QString& text)
     MTLogger::Log("warning", text.toUtf8().constData());
 }
 
-bool failWith(const QString& text, QString& error)
+bool failWith(const QString& text, const QString& path, const QString& reason, QString& error)
 {
-    error = text;
+    error = text.arg(path, reason);
     MTLogger::Log("error", error.toUtf8().constData());
     return false;
 }
@@ -120,9 +120,8 @@ QString probeWriteError(const QString& path)
 bool copySettingsFile(const QString& path, const QString& copy, QString& error)
 {
     if (!QFile::copy(path, copy))
-        return failWith(SettingsFileText::tr("Could not keep a copy of the Torvane settings file \"%1\": %2")
-                            .arg(path, probeWriteError(path)),
-                        error);
+        return failWith(SettingsFileText::tr("Could not keep a copy of the Torvane settings file \"%1\": %2"),
+                        path, probeWriteError(path), error);
     const QFileInfo former(path);
     giveFileTo(copy, former.ownerId(), former.groupId()); // Where that is refused, it is a copy all the same.
     return true;

@@ -15,8 +15,9 @@ struct SettingsFileText
 /// Writes a warning to the log.
 void logWarning(const QString& text);
 
-/// Sets the error text and logs it. Always false, for the caller to return.
-bool failWith(const QString& text, QString& error);
+/// Makes the error of a text with %1 for the path and %2 for the reason, and logs it. Always false, for the
+/// caller to return.
+bool failWith(const QString& text, const QString& path, const QString& reason, QString& error);
 
 /// Why a settings file cannot be read; empty when it can be, or does not exist yet.
 QString unreadableReason(const QString& path);

@@ -11,8 +11,8 @@ namespace {
 
 const char* const ByteOrderMark = "\xEF\xBB\xBF";
 
-// What QSettings reads and writes again. Of the escapes in a value, those that it writes, or writes as the
-// same character; behind a blank stands a comment.
+// The lines that QSettings reads and writes again unchanged. An escape in a value is one that it writes
+// itself, or writes as the same character. A comment follows a blank.
 const QString Group("[ \\t]*\\[(?:[^\\]\"\\\\;]|\\\\.|\"(?:[^\\]\"\\\\]|\\\\.)*\")*\\][ \\t]*(?:;.*)?");
 const QString Key("(?:[^\"\\\\;=]|\\\\.|\"(?:[^\"\\\\]|\\\\.)*\")*");
 const QString Escape("\\\\(?:[abfnrtv\"?'\\\\]|x[0-9A-Fa-f]{1,4}(?![0-9A-Fa-f])|0(?![0-7]))");

@@ -7,6 +7,7 @@
 #include <QDateTime>
 
 #include <chrono>
+#include <cstdlib>
 #include <system_error>
 #include <thread>
 
@@ -32,7 +33,7 @@ QDateTime writtenAt(const QString& path)
 bool mayBeAlive(const QString& copy)
 {
     const qint64 age = writtenAt(copy).msecsTo(QDateTime::currentDateTime());
-    return QFile::exists(copy) && age >= 0 && age < WriteTimeout;
+    return QFile::exists(copy) && std::abs(age) < WriteTimeout; // The clocks of servers differ.
 }
 
 } // namespace
@@ -43,7 +44,7 @@ bool UnfinishedWrite::begin(const QString& path, QString& error)
         return true;
     if (!copySettingsFile(path, copyOf(path), error))
         return false;
-    // Some systems give the copy the time of the file, and it would look like one that was left behind.
+    // Some systems give the copy the time of the file; it would look like one that was left behind.
     std::error_code ignored;
     std::filesystem::last_write_time(nativePath(copyOf(path)), std::filesystem::file_time_type::clock::now(),
                                      ignored);

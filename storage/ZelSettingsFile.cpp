@@ -23,9 +23,9 @@
 //   the old content stands beside it for that long.
 // - A file that begins with the UTF-8 mark brings Qt's own codec back, which loses characters.
 // - The new file belongs to the user who has written it.
-// - QSettings tells by the file's size and time alone whether others have changed it.
-// - The status keeps the first error, so from then on the content tells whether a write has succeeded.
-// - QSettings writes later, unprotected, what it could not write, as soon as it receives events.
+// - QSettings learns only from the file's size and time whether others have changed it.
+// - The status keeps the first error. From then on the content tells whether a write has succeeded.
+// - What QSettings cannot write stays pending, and it tries again, unprotected, when it receives events.
 
 namespace zel {
 
@@ -36,12 +36,11 @@ const std::chrono::milliseconds ClockTick(10); // Systems count the time of file
 
 bool refuseWriting(const QString& path, const QString& reason, QString& error)
 {
-    return failWith(
-        SettingsFileText::tr("Could not write the Torvane settings file \"%1\": %2").arg(path, reason),
-        error);
+    return failWith(SettingsFileText::tr("Could not write the Torvane settings file \"%1\": %2"), path,
+                    reason, error);
 }
 
-/// All values but those whose names QSettings reads from a file and takes for others when it is asked.
+/// All values, except those with names that QSettings reads from a file but cannot look up.
 QVariantMap valuesOf(const QSettings& settings)
 {
     QVariantMap values;
@@ -78,8 +77,8 @@ public:
         restoreOwner();
     }
 
-    /// Gets the file ready, and keeps a copy of it where writing would lose something. False, with a
-    /// translated text, when nothing should be changed.
+    /// Keeps a copy of the file where writing would lose something. False, with a translated text, when the
+    /// file cannot be written.
     bool prepare(QString& error)
     {
         if (!SettingsReplaceTheirFile)
@@ -99,8 +98,8 @@ public:
         return m_prepared;
     }
 
-    /// Reads what others have written. What they have lost comes back: all values where the file is damaged
-    /// or empty, else the registered ones.
+    /// Reads what others have written, and restores the values that are gone: all of them where the file is
+    /// damaged or empty, else the registered ones.
     void readAgain()
     {
         const QVariantMap held = valuesOf(m_settings);
@@ -114,16 +113,15 @@ public:
         }
     }
 
-    /// Says what the settings held before they were changed, and what they hold now. Keys whose values stay
-    /// may be left out.
+    /// Sets what the settings held before the change and what they hold now. Unchanged keys may be missing.
     void setChange(const QVariantMap& before, const QVariantMap& after)
     {
         m_before = before;
         m_after = after;
     }
 
-    /// Makes QSettings merge what others have written since it read the file, even if they have written as
-    /// many bytes at the same time: gives the file a time at which QSettings cannot have read it.
+    /// Makes QSettings read the file again before it writes, even if others have changed it to the same size
+    /// within one tick of the clock: gives it a time that QSettings cannot know.
     void forceMerge() const
     {
         // Reading the mark once more would bring Qt's own codec back.
@@ -151,8 +149,8 @@ public:
 private:
     Q_DISABLE_COPY(SettingsWrite)
 
-    /// False when the file lacks a line. QSettings does not notice that the disk is full before the last
-    /// one is written; the file then ends with a block.
+    /// False when the file lacks lines. QSettings does not notice that the disk is full before all are
+    /// written; the file then ends with a block.
     bool isWhole() const
     {
         const int smallestBlock = 512;
@@ -190,7 +188,7 @@ private:
         QCoreApplication::removePostedEvents(&m_settings, QEvent::UpdateRequest);
     }
 
-    /// Puts the old content into the place of a file that is cut short, which has made room for it.
+    /// Writes the old content over a file that is cut short: there is room, because that had replaced it.
     void restoreContent() const
     {
         QFile file(m_path);
@@ -240,9 +238,8 @@ bool ZelSettingsFile::IsUsable(const QString& path, QString& error)
         UnfinishedWrite::recover(path);
     const QString reason = unreadableReason(path);
     return reason.isEmpty() ||
-           failWith(
-               SettingsFileText::tr("Could not read the Torvane settings file \"%1\": %2").arg(path, reason),
-               error);
+           failWith(SettingsFileText::tr("Could not read the Torvane settings file \"%1\": %2"), path, reason,
+                    error);
 }
 
 bool ZelSettingsFile::IsWritable(const QString& path, QString& error)

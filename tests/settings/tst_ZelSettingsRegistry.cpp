@@ -45,12 +45,6 @@ class tst_ZelSettingsRegistry : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        Registry::ClearSettingsValues();
-        calls.clear();
-    }
-
     void firstRegistrationWins()
     {
         QVERIFY(Registry::RegisterSetting("key", "one", &upper));
