@@ -9,8 +9,8 @@ const char* const StandAloneApplicationName = "TorvaneBoundlessX64";
 /// The layout of Settings.ini that this version writes.
 const int CurrentSettingsVersion = 2;
 
-/// The keys of Settings.ini. What stands before a "/" is the group of the file. Unless stated, a setting is
-/// on or off: "true" or "false".
+/// The keys of Settings.ini. What stands before a "/" is the group of the file. A setting is "true" or
+/// "false" where nothing else is said of its value.
 namespace keys {
 
 const char* const Engine = "engine";                          ///< The renderer: one of engines.
@@ -19,10 +19,10 @@ const char* const EnableDiagnostics = "enablediag";           ///< The log has e
 const char* const LogTypeBlackList = "debuglogtypeblacklist"; ///< Types not logged, separated by "," or ";".
 const char* const Language = "language";                      ///< Two-letter code.
 
-const char* const LogFile = "Logging/logFile";     ///< Path.
-const char* const CacheSize = "DBCache/cacheSize"; ///< Of the 3D database, in megabytes.
-const char* const CacheDirectory = "DBCache/cacheDirectory";
-const char* const ScreenshotFolder = "screenshot/ImageFolder";
+const char* const LogFile = "Logging/logFile";                 ///< Path.
+const char* const CacheSize = "DBCache/cacheSize";             ///< Of the 3D database, in megabytes.
+const char* const CacheDirectory = "DBCache/cacheDirectory";   ///< Path.
+const char* const ScreenshotFolder = "screenshot/ImageFolder"; ///< Path.
 
 /// The kept fractions of triangles of the five levels, separated by "/".
 const char* const SimplificationRatios = "Simplification/Ratios";
