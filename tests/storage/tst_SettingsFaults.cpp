@@ -328,6 +328,7 @@ private Q_SLOTS:
         QVERIFY(::mount(other, path, nullptr, MS_BIND, nullptr) == 0);
         QVERIFY2(!apply(m_path) && error.contains("cannot be replaced"), qPrintable(error));
         ::umount(path);
+        filler.close(); // An open file keeps the disk mounted, and its folder in place.
         ::umount(qPrintable(m_folder->path()));
     }
 
