@@ -29,17 +29,24 @@ const int BusyFileTimeout = 1000;
 const int BusyFileTimeout = 0;
 #endif
 
-/// Opens a file; waits up to BusyFileTimeout while another program has it open. False when that fails.
-inline bool openWhenFree(QFile& file, QIODevice::OpenMode mode)
+/// Repeats an attempt that returns false because another program has a file open, for up to BusyFileTimeout.
+template <typename Attempt>
+bool succeedsWhenFree(Attempt attempt)
 {
     QElapsedTimer clock;
     clock.start();
-    while (!file.open(mode)) {
-        if (clock.elapsed() >= BusyFileTimeout || !file.exists())
+    while (!attempt()) {
+        if (clock.elapsed() >= BusyFileTimeout)
             return false;
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
     }
     return true;
+}
+
+/// Opens a file; waits up to BusyFileTimeout while another program has it open. False when that fails.
+inline bool openWhenFree(QFile& file, QIODevice::OpenMode mode)
+{
+    return succeedsWhenFree([&] { return file.open(mode) || !file.exists(); }) && file.isOpen();
 }
 
 /// True for a file of the user who runs the process; always true on Windows.

@@ -2,9 +2,8 @@
 
 #include "ui_ZelRendererSettingsPanel.h"
 
-#include "NumberText.h"
-#include "SceneUnits.h"
 #include "SettingsKeys.h"
+#include "SettingsNumbers.h"
 #include "SignalBlock.h"
 
 #include "platform/kqDMIApplication.h"

@@ -1,8 +1,7 @@
 // Fuzzes the parsers of ratios and scene units with any texts and numbers.
 
 #include "Check.h"
-#include "NumberText.h"
-#include "SceneUnits.h"
+#include "SettingsNumbers.h"
 #include "ZelSettingsValidators.h"
 #include "base/ZelQtCompat.h"
 

@@ -3,8 +3,8 @@
 #include "ui_ZelSimplificationSettingsPanel.h"
 
 #include "LabelImage.h"
-#include "NumberText.h"
 #include "SettingsKeys.h"
+#include "SettingsNumbers.h"
 #include "SignalBlock.h"
 #include "base/ZelQtCompat.h"
 

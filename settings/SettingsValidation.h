@@ -8,9 +8,20 @@
 
 namespace zel {
 
-/// Lets the validator of every registered key, in key order, see what the settings hold for it, and hands
-/// each resulting text to a function: take(entry of the registry, stored value, text). The stored value of a
-/// missing key is invalid; its validator sees the default. False when a validator gives up, which ends it.
+/// How the validators see folders and create them. The checker puts functions of its own here, because it
+/// only looks.
+struct FolderFunctions
+{
+    bool (*isFolder)(const QString& path);
+    /// Creates a folder with all missing parents; true when it exists afterwards.
+    bool (*createFolder)(const QString& path);
+};
+
+extern FolderFunctions folderFunctions;
+
+/// Runs the validator of every registered key, in key order, on what the settings hold for it, and calls
+/// take(entry of the registry, stored value, resulting text). The stored value of a missing key is invalid;
+/// its validator sees the default. Stops at a validator that fails, and returns false.
 template <typename Take>
 bool validateSettings(const QSettings& settings, QString& error, Take take)
 {
@@ -30,13 +41,13 @@ bool validateSettings(const QSettings& settings, QString& error, Take take)
     return true;
 }
 
-/// True for a value that QSettings has read as a list, because of a comma outside quotation marks.
+/// True for a value that QSettings has read as a list: a comma in it stands outside quotation marks.
 inline bool isList(const QVariant& value)
 {
     return value.type() == QVariant::StringList || value.type() == QVariant::List;
 }
 
-/// True when the file does not hold the text as the value: it holds another, a list, or none.
+/// True when the file holds another text, a list, or nothing.
 inline bool isRepair(const QVariant& stored, const QString& text)
 {
     return !stored.isValid() || isList(stored) || stored.toString() != text;

@@ -31,20 +31,20 @@ void ZelSettingsCatalogue::InitDefaultSettingsValues(const QString& applicationN
         cleanFolder(ZelDirectory::GetTempFolderUtf8(applicationNameUtf8),
                     QString::fromUtf8(kqSystemUtils::GetCurrentUserNameUtf8().c_str()));
 
+    using Rules = ZelSettingsValidators;
     const struct
     {
         const char* key;
         QString defaultValue;
         ZelSettingsRegistry::Validator validator;
     } settings[] = {
-        {keys::Engine, engines::Deferred, &ZelSettingsValidators::ensureEngine},
-        {keys::SettingsVersion, QString::number(CurrentSettingsVersion),
-         &ZelSettingsValidators::ensureSettingsVersion},
-        {keys::EnableDiagnostics, "false", &ZelSettingsValidators::ensureBool},
-        {keys::LogTypeBlackList, QString(), &ZelSettingsValidators::noOp},
-        {keys::LogFile, dataFolder + "/log.txt", &ZelSettingsValidators::ensureFile},
-        {keys::CacheSize, "4096", &ZelSettingsValidators::noOp},
-        {keys::CacheDirectory, cacheFolder, &ZelSettingsValidators::ensureDMCacheFolder},
+        {keys::Engine, engines::Deferred, &Rules::ensureEngine},
+        {keys::SettingsVersion, QString::number(CurrentSettingsVersion), &Rules::ensureSettingsVersion},
+        {keys::EnableDiagnostics, "false", &Rules::ensureBool},
+        {keys::LogTypeBlackList, QString(), &Rules::noOp},
+        {keys::LogFile, dataFolder + "/log.txt", &Rules::ensureFile},
+        {keys::CacheSize, "4096", &Rules::noOp},
+        {keys::CacheDirectory, cacheFolder, &Rules::ensureDMCacheFolder},
     };
     for (const auto& setting : settings)
         ZelSettingsRegistry::RegisterSetting(setting.key, setting.defaultValue, setting.validator);

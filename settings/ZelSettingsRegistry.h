@@ -23,15 +23,13 @@ public:
     using Validator = bool (*)(const QString& key, const QString& defaultValue, QString& value,
                                QString& error);
 
-    /// Checks the settings as a whole, after every value has been repaired. Sets the error text when it
-    /// fails.
+    /// Checks the settings as a whole, once every value is repaired. Sets the error text when it fails.
     using EndCheck = bool (*)(QSettings& settings, QString& error);
 
     /// The registered keys: to each its default text and its validator.
     using Settings = std::map<QString, std::pair<QString, Validator>>;
 
-    /// Adds a key. The first registration of a key wins: false, and no change, for a key that is there
-    /// already.
+    /// Adds a key. False, and no change, for a key that is there already: its first registration wins.
     static bool RegisterSetting(const QString& key, const QString& defaultValue, Validator validator);
 
     /// The registered default of a key; a null text for a key that is not registered.

@@ -1,15 +1,15 @@
 #include "ZelSettingsValidators.h"
 
-#include "FolderCreation.h"
-#include "NumberText.h"
-#include "SceneUnits.h"
 #include "SettingsKeys.h"
+#include "SettingsNumbers.h"
+#include "SettingsValidation.h"
 #include "base/ZelQtCompat.h"
 
 #include "platform/kqDMManager.h"
 #include "platform/kqDMRenderer.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QRegExp>
 #include <QStringList>
@@ -17,25 +17,30 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <initializer_list>
 #include <iterator>
 #include <limits>
 #include <vector>
 
 namespace zel {
 
+FolderFunctions folderFunctions = {
+    [](const QString& path) { return QFileInfo(path).isDir(); },
+    [](const QString& path) { return QFileInfo(path).isDir() || QDir(path).mkpath("."); }};
+
 namespace {
 
 const quint64 MiB = quint64{1024} * 1024;
 const quint64 MaximumMemory = 8096 * MiB;
 const std::size_t RatioCount = 5;
+const char* const Truths[] = {"true", "false"};
+const char* const Engines[] = {engines::Deferred, engines::Software};
 
-// What follows repairs a value, or returns false for one that the default must replace.
+// Each of these may repair the value, and returns false for one that the default must replace.
 
-bool isOneOf(const QString& value, std::initializer_list<const char*> accepted)
+template <typename Texts>
+bool isOneOf(const QString& value, const Texts& accepted)
 {
-    return std::any_of(accepted.begin(), accepted.end(),
-                       [&value](const char* text) { return value == QLatin1String(text); });
+    return std::find(std::begin(accepted), std::end(accepted), value) != std::end(accepted);
 }
 
 bool isUnsignedWithin(const QString& value, quint64 minimum, quint64 maximum)
@@ -57,7 +62,7 @@ bool clampInteger(QString& value, int minimum, int maximum)
 {
     bool parsed = false;
     const int number = value.toInt(&parsed);
-    // Not std::clamp: on a machine that cannot tell its thread count the maximum may lie below the minimum.
+    // Not std::clamp: where the thread count is unknown, the maximum lies below the minimum.
     value = QString::number(std::min(std::max(number, minimum), maximum));
     return parsed;
 }
@@ -80,40 +85,21 @@ bool snapToSceneUnit(QString& value)
     return unit >= 0;
 }
 
-bool isQuality(const QString& value)
-{
-    const auto& names = kqDMRenderer::scQualityEnum;
-    return std::find(std::begin(names), std::end(names), value) != std::end(names);
-}
-
 int coreCount()
 {
     static const int cores = QThread::idealThreadCount(); // The answer is read from a system file each time.
     return cores;
 }
 
-bool isIpAddress(const QString& text, bool& valid)
-{
-    QRegExp address("([0-9]{1,3})\\.([0-9]{1,3})\\.([0-9]{1,3})\\.([0-9]{1,3})");
-    if (!address.exactMatch(text))
-        return false;
-    const QStringList numbers = address.capturedTexts().mid(1);
-    valid = std::all_of(numbers.begin(), numbers.end(), [](const QString& n) { return n.toInt() < 256; });
-    return true;
-}
-
-bool isHostName(const QString& text)
-{
-    const QRegExp label("[A-Za-z0-9\\-]*");
-    const QStringList labels = text.split('.');
-    return std::all_of(labels.begin(), labels.end(),
-                       [&label](const QString& part) { return label.exactMatch(part); });
-}
-
 bool isIpOrHostName(const QString& text)
 {
-    bool valid = !text.isEmpty() && text.length() <= 255;
-    return valid && (isIpAddress(text, valid) ? valid : isHostName(text));
+    if (text.isEmpty() || text.length() > 255)
+        return false;
+    QRegExp address("([0-9]{1,3})\\.([0-9]{1,3})\\.([0-9]{1,3})\\.([0-9]{1,3})");
+    if (!address.exactMatch(text))
+        return QRegExp("[A-Za-z0-9.\\-]*").exactMatch(text);
+    const QStringList numbers = address.capturedTexts().mid(1);
+    return std::all_of(numbers.begin(), numbers.end(), [](const QString& n) { return n.toInt() < 256; });
 }
 
 std::vector<float> parseRatios(const QString& text)
@@ -127,7 +113,54 @@ std::vector<float> parseRatios(const QString& text)
     return ratios;
 }
 
-bool ensureRatios(const QString& defaultValue, QString& value)
+} // namespace
+
+void ZelSettingsValidators::CleanupFolder(QString& path)
+{
+    path.replace('\\', '/');
+    if (path.endsWith('/'))
+        path.chop(1);
+}
+
+// The validators that never fail: a name, and the condition on which the value is kept.
+#define ZEL_VALIDATOR(name, ...)                                                                             \
+    bool ZelSettingsValidators::name(const QString&, const QString& defaultValue, QString& value, QString&)  \
+    {                                                                                                        \
+        if (!(__VA_ARGS__))                                                                                  \
+            value = defaultValue;                                                                            \
+        return true;                                                                                         \
+    }
+ZEL_VALIDATOR(noOp, true)
+ZEL_VALIDATOR(ensureSettingsVersion, false)
+ZEL_VALIDATOR(ensureBool, isOneOf(value, Truths))
+ZEL_VALIDATOR(ensureEngine, isOneOf(value, Engines))
+ZEL_VALIDATOR(ensureLogLevel, clampInteger(value, 0, std::numeric_limits<int>::max()))
+ZEL_VALIDATOR(ensurePositiveInteger, value.toLongLong() > 0)
+ZEL_VALIDATOR(ensurePortValue, isUnsignedWithin(value, 0, 65535))
+ZEL_VALIDATOR(ensureCacheSize, isUnsignedWithin(value, 10, 10240))
+ZEL_VALIDATOR(ensureSimplificationRAM, isUnsignedWithin(value, 64 * MiB, MaximumMemory))
+ZEL_VALIDATOR(ensureCoreNumber, clampInteger(value, 1, coreCount()))
+ZEL_VALIDATOR(ensureTesselationMaxFaceAngle, clampInteger(value, 0, 359))
+ZEL_VALIDATOR(ensureTesselationMaxFaceLength, clampFloat(value, 0.F, 100.F))
+ZEL_VALIDATOR(ensureTesselationMaxFaceSag, clampFloat(value, 0.F, 100.F))
+ZEL_VALIDATOR(ensureLODTrianglesCap, clampUnsigned(value, 50000, 500000000))
+ZEL_VALIDATOR(ensureMaxGPUMemory, clampUnsigned(value, 128 * MiB, MaximumMemory))
+ZEL_VALIDATOR(ensureMaxCPUMemoryRaytracer, clampUnsigned(value, 128 * MiB, MaximumMemory))
+ZEL_VALIDATOR(ensureMaxCPUMemory3D, clampUnsigned(value, 128 * MiB, MaximumMemory))
+ZEL_VALIDATOR(ensureRaytracerQuality, isOneOf(value, kqDMRenderer::scQualityEnum))
+ZEL_VALIDATOR(ensureSceneUnit, snapToSceneUnit(value))
+ZEL_VALIDATOR(ensureIpOrHostName, isIpOrHostName(value))
+#undef ZEL_VALIDATOR
+
+bool ZelSettingsValidators::ensureSimplificationThreads(const QString&, const QString&, QString& value,
+                                                        QString&)
+{
+    value = "1";
+    return true;
+}
+
+bool ZelSettingsValidators::ensureSimplificationRatios(const QString& key, const QString& defaultValue,
+                                                       QString& value, QString& error)
 {
     std::vector<float> ratios = parseRatios(value);
     if (ratios.size() != RatioCount)
@@ -142,83 +175,22 @@ bool ensureRatios(const QString& defaultValue, QString& value)
         value = ratiosText(ratios);
         return true;
     }
-    // The default is tried once: a kernel that spoils that one as well would spoil it forever.
+    // The default is tried once: a kernel that spoils the default as well would do so each time.
     if (value == defaultValue)
         return false;
     value = defaultValue;
-    return ensureRatios(defaultValue, value);
-}
-
-QString folderOf(const QString& file)
-{
-    return QFileInfo(file).absolutePath();
-}
-
-} // namespace
-
-void ZelSettingsValidators::CleanupFolder(QString& path)
-{
-    path.replace('\\', '/');
-    if (path.endsWith('/'))
-        path.chop(1);
-}
-
-bool ZelSettingsValidators::noOp(const QString&, const QString&, QString&, QString&)
-{
-    return true;
-}
-
-// The validators that never fail: a name, and what tells whether the value is kept.
-#define ZEL_VALIDATOR(name, ...)                                                                             \
-    bool ZelSettingsValidators::name(const QString&, const QString& defaultValue, QString& value, QString&)  \
-    {                                                                                                        \
-        if (!(__VA_ARGS__))                                                                                  \
-            value = defaultValue;                                                                            \
-        return true;                                                                                         \
-    }
-ZEL_VALIDATOR(ensureSettingsVersion, false)
-ZEL_VALIDATOR(ensureBool, isOneOf(value, {"true", "false"}))
-ZEL_VALIDATOR(ensureEngine, isOneOf(value, {engines::Deferred, engines::Software}))
-ZEL_VALIDATOR(ensureLogLevel, clampInteger(value, 0, std::numeric_limits<int>::max()))
-ZEL_VALIDATOR(ensurePositiveInteger, value.toLongLong() > 0)
-ZEL_VALIDATOR(ensurePortValue, isUnsignedWithin(value, 0, 65535))
-ZEL_VALIDATOR(ensureCacheSize, isUnsignedWithin(value, 10, 10240))
-ZEL_VALIDATOR(ensureSimplificationRAM, isUnsignedWithin(value, 64 * MiB, MaximumMemory))
-ZEL_VALIDATOR(ensureCoreNumber, clampInteger(value, 1, coreCount()))
-ZEL_VALIDATOR(ensureTesselationMaxFaceAngle, clampInteger(value, 0, 359))
-ZEL_VALIDATOR(ensureTesselationMaxFaceLength, clampFloat(value, 0.F, 100.F))
-ZEL_VALIDATOR(ensureTesselationMaxFaceSag, clampFloat(value, 0.F, 100.F))
-ZEL_VALIDATOR(ensureLODTrianglesCap, clampUnsigned(value, 50000, 500000000))
-ZEL_VALIDATOR(ensureMaxGPUMemory, clampUnsigned(value, 128 * MiB, MaximumMemory))
-ZEL_VALIDATOR(ensureMaxCPUMemoryRaytracer, clampUnsigned(value, 128 * MiB, MaximumMemory))
-ZEL_VALIDATOR(ensureMaxCPUMemory3D, clampUnsigned(value, 128 * MiB, MaximumMemory))
-ZEL_VALIDATOR(ensureRaytracerQuality, isQuality(value))
-ZEL_VALIDATOR(ensureSceneUnit, snapToSceneUnit(value))
-ZEL_VALIDATOR(ensureIpOrHostName, isIpOrHostName(value))
-#undef ZEL_VALIDATOR
-
-bool ZelSettingsValidators::ensureSimplificationThreads(const QString&, const QString&, QString& value,
-                                                        QString&)
-{
-    value = "1";
-    return true;
-}
-
-bool ZelSettingsValidators::ensureSimplificationRatios(const QString&, const QString& defaultValue,
-                                                       QString& value, QString&)
-{
-    return ensureRatios(defaultValue, value);
+    return ensureSimplificationRatios(key, defaultValue, value, error);
 }
 
 bool ZelSettingsValidators::ensureFile(const QString&, const QString& defaultValue, QString& value,
                                        QString& error)
 {
     CleanupFolder(value);
-    if (!value.isEmpty() && folderFunctions.isFolder(folderOf(value)))
+    if (!value.isEmpty() && folderFunctions.isFolder(QFileInfo(value).absolutePath()))
         return true;
     value = defaultValue;
     CleanupFolder(value);
-    if (folderFunctions.createFolder(folderOf(value)))
+    if (folderFunctions.createFolder(QFileInfo(value).absolutePath()))
         return true;
     error = QCoreApplication::translate(
                 "ZelControlCenter", "Could not use the Torvane log file, file \"%1\" could not be created")

@@ -8,8 +8,9 @@
 namespace zel {
 
 /// The validators of the settings: each takes (key, default, value, error), repairs the value in place and
-/// returns true. "Default" below means that the value becomes the registered default as it stands. The few
-/// that can fail say so; they return false and, unless stated, set a translated error text.
+/// returns true. "Or default" means that a value which is not so becomes the registered default as it stands.
+/// "Clamped" is a value that parses; one that does not becomes the default. The few validators that can fail
+/// say so; they return false and, unless stated, set a translated error text.
 class ZEL_EXPORT ZelSettingsValidators
 {
 public:
@@ -19,68 +20,27 @@ public:
     /// Normalises a folder path: every "\" becomes "/", then one trailing "/" is dropped.
     static void CleanupFolder(QString& path);
 
-    /// Accepts any text.
-    static Validate noOp;
-
-    /// Always the default: the file ends up stamped with the current version.
-    static Validate ensureSettingsVersion;
-
-    /// "true" or "false"; else the default.
-    static Validate ensureBool;
-
-    /// "deferred" or "software"; else the default.
-    static Validate ensureEngine;
-
-    /// An integer, raised to at least 0; the default if it is none.
-    static Validate ensureLogLevel;
-
-    /// A 64-bit integer above 0; else the default.
-    static Validate ensurePositiveInteger;
-
-    /// An integer in 0..65535; else the default.
-    static Validate ensurePortValue;
-
-    /// Megabytes in 10..10240; else the default.
-    static Validate ensureCacheSize;
-
-    /// Bytes from 64 MiB to 8096 MiB; else the default.
-    static Validate ensureSimplificationRAM;
-
-    /// Always "1": simplification runs on one thread, whatever the file says.
-    static Validate ensureSimplificationThreads;
-
-    /// An integer, clamped to 1..the processor's ideal thread count; the default if it is none.
-    static Validate ensureCoreNumber;
-
-    /// Whole degrees, clamped to 0..359; the default if they do not parse.
-    static Validate ensureTesselationMaxFaceAngle;
-
-    /// A single-precision number, clamped to 0..100 and written with six digits; the default if it is none.
-    static Validate ensureTesselationMaxFaceLength;
-
-    /// As ensureTesselationMaxFaceLength.
-    static Validate ensureTesselationMaxFaceSag;
-
-    /// Triangles, clamped to 50,000..500,000,000; the default if they do not parse.
-    static Validate ensureLODTrianglesCap;
-
-    /// Bytes, clamped to 128 MiB..8096 MiB; the default if they do not parse.
-    static Validate ensureMaxGPUMemory;
-
-    /// As ensureMaxGPUMemory.
-    static Validate ensureMaxCPUMemoryRaytracer;
-
-    /// As ensureMaxGPUMemory.
-    static Validate ensureMaxCPUMemory3D;
-
-    /// One of the renderer's quality names; else the default.
-    static Validate ensureRaytracerQuality;
-
-    /// A power of ten from 0.001 to 1000, met within 0.001 and written in its plain form; else the default.
-    static Validate ensureSceneUnit;
-
-    /// A dotted IPv4 address or a host name of at most 255 characters; else the default.
-    static Validate ensureIpOrHostName;
+    static Validate noOp;                          ///< Any text.
+    static Validate ensureSettingsVersion;         ///< Always the default, the current version.
+    static Validate ensureBool;                    ///< "true" or "false", or default.
+    static Validate ensureEngine;                  ///< "deferred" or "software", or default.
+    static Validate ensureLogLevel;                ///< An integer, clamped to at least 0.
+    static Validate ensurePositiveInteger;         ///< A 64-bit integer above 0, or default.
+    static Validate ensurePortValue;               ///< An integer in 0..65535, or default.
+    static Validate ensureCacheSize;               ///< Megabytes in 10..10240, or default.
+    static Validate ensureSimplificationRAM;       ///< Bytes from 64 MiB to 8096 MiB, or default.
+    static Validate ensureSimplificationThreads;   ///< Always "1": simplification runs on one thread.
+    static Validate ensureCoreNumber;              ///< An integer, clamped to 1..QThread::idealThreadCount().
+    static Validate ensureTesselationMaxFaceAngle; ///< Whole degrees, clamped to 0..359.
+    static Validate ensureTesselationMaxFaceLength; ///< A float, clamped to 0..100, written with six digits.
+    static Validate ensureTesselationMaxFaceSag;    ///< As ensureTesselationMaxFaceLength.
+    static Validate ensureLODTrianglesCap;          ///< Triangles, clamped to 50,000..500,000,000.
+    static Validate ensureMaxGPUMemory;             ///< Bytes, clamped to 128 MiB..8096 MiB.
+    static Validate ensureMaxCPUMemoryRaytracer;    ///< As ensureMaxGPUMemory.
+    static Validate ensureMaxCPUMemory3D;           ///< As ensureMaxGPUMemory.
+    static Validate ensureRaytracerQuality;         ///< One of kqDMRenderer::scQualityEnum, or default.
+    static Validate ensureSceneUnit;    ///< 0.001, 0.01 and so on to 1000, met within 0.001, or default.
+    static Validate ensureIpOrHostName; ///< IPv4 address or host name, up to 255 characters, or default.
 
     /// Five numbers separated by "/", as the simplifier corrects them; the corrected default if there are not
     /// five. Fails, without an error text, when the default has not five either.
@@ -93,8 +53,7 @@ public:
     /// An existing folder; else the default, normalised, which is created. Fails when it cannot be.
     static Validate ensureDMCacheFolder;
 
-    /// An existing folder; else the default as it stands. The default folder is created in either case; fails
-    /// when it cannot be.
+    /// An existing folder, or default. The default folder is created in either case; fails when it cannot be.
     static Validate ensureTmpFolder;
 
     /// Makes value an existing folder: itself, normalised, or else the default, normalised and created if

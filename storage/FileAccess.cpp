@@ -1,14 +1,10 @@
 #include "FileAccess.h"
 
-#include "FolderCreation.h"
-#include "base/ZelSystemCompat.h"
+#include "base/ZelFileFunctions.h"
 
 #include "platform/MTLogger.h"
 
 #include <QDateTime>
-#include <QFile>
-#include <QFileInfo>
-#include <QStringList>
 #include <QTemporaryFile>
 
 #include <chrono>
@@ -18,36 +14,38 @@ namespace zel {
 
 namespace {
 
-const qint64 LockSize = 8192; // What the lock of QSettings and rounding up to blocks take besides.
 const qint64 MaximumFileSize = qint64(64) * 1024 * 1024;
+const qint64 MaximumGrowth = 8192; // Bytes that a write needs besides, for its lock and a last block.
 const std::chrono::minutes StaleLockAge(1); // QSettings removes a lock of half a minute.
-const int LongestLock = 2000;               // ms; a write takes milliseconds.
+const int LockTimeout = 2000;               // ms; a write takes milliseconds.
 
-/// Why QSettings, which waits for its lock without end, could not take it; empty when it can.
+const std::error_code NoRoom = std::make_error_code(std::errc::no_space_on_device);
+
+QString errorText(const std::error_code& error)
+{
+    return QString::fromLocal8Bit(error.message().c_str());
+}
+
+/// Why QSettings cannot take its lock, for which it would wait without end; empty when it can.
 QString lockReason(const QString& lock)
 {
     const QFileInfo file(lock);
-    if (!file.isSymLink() && !file.exists())
-        return QString();
-    if (file.isSymLink() || !file.isFile() || !mayReplace(file))
-        return Text::tr("\"%1\" is in the way, which no program uses: remove it").arg(lock);
+    if (file.isSymLink() || (file.exists() && (!file.isFile() || !mayReplace(file))))
+        return SettingsFileText::tr("\"%1\" is in the way, which no program uses: remove it").arg(lock);
     QFile reader(lock);
-    const qint64 process = reader.open(QIODevice::ReadOnly) ? reader.readLine(32).trimmed().toLongLong() : 1;
+    if (!reader.open(QIODevice::ReadOnly))
+        return QString();
+    const qint64 process = reader.readLine(32).trimmed().toLongLong();
     const qint64 age = file.lastModified().msecsTo(QDateTime::currentDateTime());
-    if (process > 0) // QSettings removes the lock of a process that has ended.
-        return age > LongestLock && isRunning(process) ? Text::tr("another program has locked it")
+    if (process > 0)
+        return age > LockTimeout && isRunning(process) ? SettingsFileText::tr("another program has locked it")
                                                        : QString();
-    // The process died while it took the lock. Not removed here: by now it may be another's. QSettings
-    // removes an old one if no process holds it.
+    // Its process has died while it took the lock. QSettings removes such a lock when it is old. It is not
+    // removed here, because by now it may be another program's.
     std::error_code error;
     std::filesystem::last_write_time(nativePath(lock),
                                      std::filesystem::file_time_type::clock::now() - StaleLockAge, error);
     return QString();
-}
-
-QString noRoom()
-{
-    return QString::fromLocal8Bit(std::make_error_code(std::errc::no_space_on_device).message().c_str());
 }
 
 } // namespace
@@ -57,50 +55,27 @@ void logWarning(const QString& text)
     MTLogger::Log("warning", text.toUtf8().constData());
 }
 
-bool fail(const QString& text, QString& error)
+bool failWith(const QString& text, const QString& path, const QString& reason, QString& error)
 {
-    error = text;
+    error = text.arg(path, reason);
     MTLogger::Log("error", error.toUtf8().constData());
     return false;
 }
 
-std::filesystem::path nativePath(const QString& path)
-{
-    return std::filesystem::u8path(path.toUtf8().constData());
-}
-
-QFileInfo fileBehind(const QString& path)
-{
-    const QFileInfo file(path);
-    if (!file.isSymLink())
-        return file;
-    return QFileInfo(file.exists() ? file.canonicalFilePath() : file.symLinkTarget());
-}
-
-QByteArray contentOfFile(const QString& path)
-{
-    QFile file(path);
-    return openWhenFree(file, QIODevice::ReadOnly | QIODevice::Unbuffered) ? file.readAll() : QByteArray();
-}
-
 QString unreadableReason(const QString& path)
 {
-    const QFileInfo file(path);
-    const bool isFile = file.isFile();
-    std::error_code error; // As for links in a circle, which do not "exist" but would be replaced.
-    if (!isFile && !file.exists())
-        return std::filesystem::status(nativePath(path), error).type() == std::filesystem::file_type::none
-                   ? QString::fromLocal8Bit(error.message().c_str())
-                   : QString();
-    if (!isFile)
-        return Text::tr("it is not a file");
-    if (file.size() > MaximumFileSize)
-        return Text::tr("it is too large");
-    QFile reader(path);
-    // Permissions tell nothing of a file that another program keeps to itself, as on Windows.
-    const bool readable =
-        BusyFileTimeout == 0 ? file.isReadable() : openWhenFree(reader, QIODevice::ReadOnly);
-    return readable || reader.open(QIODevice::ReadOnly) ? QString() : reader.errorString();
+    std::error_code error; // As for a link that leads to itself.
+    const std::filesystem::file_type type = std::filesystem::status(nativePath(path), error).type();
+    if (type == std::filesystem::file_type::not_found)
+        return QString();
+    if (type == std::filesystem::file_type::none)
+        return errorText(error);
+    if (type != std::filesystem::file_type::regular)
+        return SettingsFileText::tr("it is not a file");
+    QFile reader(path); // Permissions do not tell whether another program has it open for itself.
+    if (!openWhenFree(reader, QIODevice::ReadOnly))
+        return reader.errorString();
+    return reader.size() > MaximumFileSize ? SettingsFileText::tr("it is too large") : QString();
 }
 
 QString unwritableReason(const QString& path)
@@ -109,23 +84,18 @@ QString unwritableReason(const QString& path)
     if (!unreadable.isEmpty())
         return unreadable;
     const QFileInfo named(path), file = fileBehind(path);
-    const bool isFile = file.isFile();
-    if (isFile && !mayReplace(file))
-        return Text::tr("it belongs to another user or group, who would lose it");
+    const bool exists = file.exists();
+    if (exists && !mayReplace(file))
+        return SettingsFileText::tr("it belongs to another user, who would lose it");
     // The lock stands beside a link, and the new file beside its target, whose folder is not created.
-    const QFileInfo folder(file.path()), linkFolder(named.path());
-    const bool writable = named.isSymLink() ? folder.isDir() && folder.isWritable() && linkFolder.isWritable()
-                          : isFile          ? folder.isWritable()
-                                            : canCreateFolder(file.path());
-    return writable && (!isFile || file.isWritable()) ? lockReason(path + ".lock") : probeWriteError(path);
-}
-
-QString roomReason(const QString& path, qint64 size)
-{
-    std::error_code error;
-    const auto space = std::filesystem::space(nativePath(QFileInfo(path).path()), error);
-    const bool fits = error || space.available >= static_cast<std::uintmax_t>(size + LockSize);
-    return fits ? QString() : noRoom();
+    if (!canCreateFolder(named.path()) || (named.isSymLink() && !QFileInfo(file.path()).isWritable()) ||
+        (exists && !file.isWritable()))
+        return probeWriteError(path);
+    std::error_code error; // As for a folder that does not exist yet.
+    const auto space = std::filesystem::space(nativePath(file.path()), error);
+    if (!error && space.available < static_cast<std::uintmax_t>(file.size() + MaximumGrowth))
+        return errorText(NoRoom);
+    return lockReason(path + ".lock");
 }
 
 QString probeWriteError(const QString& path)
@@ -134,38 +104,27 @@ QString probeWriteError(const QString& path)
     QFile writer(file.filePath());
     if (file.exists() && !writer.open(QIODevice::ReadWrite))
         return writer.errorString();
-    const qint64 size = file.size() + LockSize;
-    QStringList places(path); // The lock stands beside a link, and the new file beside its target.
-    if (file.filePath() != path)
-        places += file.filePath();
-    for (const QString& place : places) {
+    const qint64 size = file.size() + MaximumGrowth;
+    // The lock stands beside a link, and the new file beside its target.
+    for (const QString& place : {path, file.filePath()}) {
         QTemporaryFile probe(place + ".XXXXXX");
         if (!probe.open())
             return probe.errorString();
         if (probe.write(QByteArray(static_cast<int>(size), '\0')) != size || !probe.flush())
-            return noRoom();
+            return errorText(NoRoom);
     }
     // As where it is mounted on its own, or where another program has it open.
-    return Text::tr("it cannot be replaced by a new one");
-}
-
-bool refuseWriting(const QString& path, const QString& reason, QString& error)
-{
-    return fail(Text::tr("Could not write the Torvane settings file \"%1\": %2").arg(path, reason), error);
+    return SettingsFileText::tr("it cannot be replaced by a new one");
 }
 
 bool copySettingsFile(const QString& path, const QString& copy, QString& error)
 {
-    QFile file(path);
-    if (file.copy(copy)) {
-        const QFileInfo former(path);
-        giveFileTo(copy, former.ownerId(),
-                   former.groupId()); // Where that is refused, it is a copy all the same.
-        return true;
-    }
-    return fail(Text::tr("Could not keep a copy of the Torvane settings file \"%1\": %2")
-                    .arg(path, probeWriteError(path)),
-                error);
+    if (!QFile::copy(path, copy))
+        return failWith(SettingsFileText::tr("Could not keep a copy of the Torvane settings file \"%1\": %2"),
+                        path, probeWriteError(path), error);
+    const QFileInfo former(path);
+    giveFileTo(copy, former.ownerId(), former.groupId()); // Where that is refused, it is a copy all the same.
+    return true;
 }
 
 } // namespace zel

@@ -24,7 +24,7 @@ protected:
     QByteArray convertFromUnicode(const QChar* text, int length, ConverterState*) const override
     {
         QString whole(text, length);
-        // A first half whose other half does not follow is dropped: the text may be another value's by now.
+        // A first half whose other half does not follow is dropped: this may already be another value.
         if (!m_firstHalf.isNull() && !whole.isEmpty() && whole.at(0).isLowSurrogate())
             whole.prepend(m_firstHalf);
         m_firstHalf = QChar();
@@ -43,7 +43,7 @@ private:
 
 QTextCodec& zel::iniCodec()
 {
-    // Qt remembers which codec it has found for a name: asked now, it will not hand this one to others.
+    // Qt caches the codec that it finds for a name. Looked up now, "UTF-8" stays Qt's own.
     QTextCodec::codecForName("UTF-8");
     static IniCodec codec;
     return codec;

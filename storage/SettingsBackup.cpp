@@ -1,11 +1,9 @@
 #include "SettingsBackup.h"
 
 #include "FileAccess.h"
+#include "base/ZelFileFunctions.h"
 
 #include <QDateTime>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -13,18 +11,16 @@ namespace zel {
 
 namespace {
 
-const int KeptCopies = 3;
-// The order of the names is the order of the copies, also when summer time ends.
+const int MaximumCopies = 3;
+// In UTC, so that the order of the names is the order of the copies also when summer time ends.
 const char* const NameFormat = "yyyy-MM-dd'T'hh-mm-ss.zzz'Z.bak'";
 
 QString newName(const QString& path)
 {
-    QDateTime time = QDateTime::currentDateTime().toUTC();
+    const QDateTime now = QDateTime::currentDateTime().toUTC();
     QString name;
-    do {
-        name = path + "." + time.toString(NameFormat);
-        time = time.addMSecs(1);
-    } while (QFile::exists(name));
+    for (int offset = 0; name.isEmpty() || QFile::exists(name); ++offset)
+        name = path + "." + now.addMSecs(offset).toString(NameFormat);
     return name;
 }
 
@@ -55,7 +51,7 @@ bool keepBackup(const QString& path, const QString& reason, QString& error, cons
     const QString copy = newName(path);
     if (!copySettingsFile(givenUp, copy, error))
         return false;
-    while (copies.size() >= KeptCopies)
+    while (copies.size() >= MaximumCopies)
         QFile::remove(copies.takeFirst());
     logWarning(QString("The settings file \"%1\" will be replaced: %2. A copy of it is kept as \"%3\".")
                    .arg(givenUp, reason, copy));

@@ -11,11 +11,12 @@ namespace {
 
 const char* const ByteOrderMark = "\xEF\xBB\xBF";
 
-// What QSettings reads and writes again. Of the escapes in a value, those that it writes, or writes as the
-// same character; behind a blank stands a comment.
+// The lines that QSettings reads and writes again unchanged. An escape in a value is one that it writes
+// itself, or writes as the same character. A comment follows a blank.
 const QString Group("[ \\t]*\\[(?:[^\\]\"\\\\;]|\\\\.|\"(?:[^\\]\"\\\\]|\\\\.)*\")*\\][ \\t]*(?:;.*)?");
 const QString Key("(?:[^\"\\\\;=]|\\\\.|\"(?:[^\"\\\\]|\\\\.)*\")*");
 const QString Escape("\\\\(?:[abfnrtv\"?'\\\\]|x[0-9A-Fa-f]{1,4}(?![0-9A-Fa-f])|0(?![0-7]))");
+const QString Comment("(?:[^\"\\\\;]|\\\\.|\"(?:[^\"\\\\]|\\\\.)*\")*;.*"); // Outside quotation marks.
 const QString Value("(?:[^\"\\\\;]|%1|\"(?:[^\"\\\\\\r\\n]|%1|\\\\[\\r\\n])*\")*(?:[ \\t];.*)?");
 
 bool isUtf8(const QByteArray& text)
@@ -25,52 +26,28 @@ bool isUtf8(const QByteArray& text)
     return state.invalidChars == 0 && state.remainingChars == 0;
 }
 
-bool isBlank(char character)
-{
-    return character == ' ' || character == '\t';
-}
-
 int lineEnd(const QByteArray& text, int begin)
 {
     const auto isEnd = [](char character) { return character == '\n' || character == '\r'; };
     return static_cast<int>(std::find_if(text.begin() + begin, text.end(), isEnd) - text.begin());
 }
 
-/// The first character that is no blank; 0 when there is none.
-char firstCharacter(const QByteArray& line)
-{
-    const auto first = std::find_if_not(line.begin(), line.end(), isBlank);
-    return first == line.end() ? '\0' : *first;
-}
-
-/// True for a line with a ';' outside quotation marks, if it can be read at all.
 bool hasComment(const QByteArray& line)
 {
-    bool quoted = false;
-    for (int at = 0; at < line.size(); ++at) {
-        if (line.at(at) == ';' && !quoted)
-            return true;
-        quoted = quoted != (line.at(at) == '"');
-        if (line.at(at) == '\\')
-            ++at;
-    }
-    return false;
-}
-
-bool isReadable(const QByteArray& line)
-{
-    static const QRegExp group(Group), setting(Key + '=' + Value.arg(Escape));
-    const char first = firstCharacter(line);
-    if (!first || first == ';')
-        return true;
-    if (first == '[' || line.contains('"') || line.contains('\\') || line.contains(';'))
-        return (first == '[' ? group : setting).exactMatch(QString::fromLatin1(line));
-    return line.contains('=');
+    static const QRegExp comment(Comment);
+    return line.contains(';') && comment.exactMatch(QString::fromLatin1(line));
 }
 
 bool isUnreadable(const QByteArray& line)
 {
-    return !isReadable(line);
+    static const QRegExp group(Group), setting(Key + '=' + Value.arg(Escape));
+    const auto isBlank = [](char character) { return character == ' ' || character == '\t'; };
+    const auto* const first = std::find_if_not(line.begin(), line.end(), isBlank);
+    if (first == line.end() || *first == ';')
+        return false;
+    if (*first == '[' || line.contains('"') || line.contains('\\') || line.contains(';'))
+        return !(*first == '[' ? group : setting).exactMatch(QString::fromLatin1(line));
+    return !line.contains('=');
 }
 
 /// True for a line that ends with a backslash which is not itself escaped.

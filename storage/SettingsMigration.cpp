@@ -13,7 +13,7 @@ zel::Migration zel::migrationOf(const QSettings& settings)
     const QString text = settings.value(keys::SettingsVersion).toString().trimmed();
     bool isNumber = false;
     const qint64 version = text.toLongLong(&isNumber);
-    // Digits that are no number of 64 bits are a larger one.
+    // Digits that do not fit into 64 bits are a larger number.
     if (version >= CurrentSettingsVersion || (!isNumber && QRegExp("\\+?[0-9]+").exactMatch(text)))
         return Migration::None;
     return version > 0 ? Migration::Upgrade : Migration::FreshStart;

@@ -2,12 +2,12 @@
 
 #include "FileAccess.h"
 #include "SettingsBackup.h"
+#include "base/ZelFileFunctions.h"
 
 #include <QDateTime>
-#include <QFile>
-#include <QFileInfo>
 
 #include <chrono>
+#include <cstdlib>
 #include <system_error>
 #include <thread>
 
@@ -15,13 +15,13 @@ namespace zel {
 
 namespace {
 
-// A write takes milliseconds: one that takes longer has died. Longer than a tick of any file system's clock.
-const int LongestWrite = 3000; // ms
-const int Pause = 50;          // ms
+// A write takes milliseconds. This is longer than a tick of any file system's clock.
+const int WriteTimeout = 3000; // ms
 
+/// Beside the file itself, so that a link stays one.
 QString copyOf(const QString& path)
 {
-    return fileBehind(path).filePath() + ".unfinished"; // So that a link stays one.
+    return fileBehind(path).filePath() + ".unfinished";
 }
 
 QDateTime writtenAt(const QString& path)
@@ -29,15 +29,11 @@ QDateTime writtenAt(const QString& path)
     return QFileInfo(path).lastModified();
 }
 
-/// Leaves the copy where it is when it cannot be put back.
-void putBack(const QString& path)
+/// Whether the writer that has made the copy may still be at work.
+bool mayBeAlive(const QString& copy)
 {
-    std::error_code error;
-    std::filesystem::rename(nativePath(copyOf(path)), nativePath(fileBehind(path).filePath()), error);
-    logWarning(QString(error
-                           ? "Writing \"%1\" was cut short, and its former content \"%2\" cannot be put back."
-                           : "Writing \"%1\" was cut short; its former content is back from \"%2\".")
-                   .arg(path, copyOf(path)));
+    const qint64 age = writtenAt(copy).msecsTo(QDateTime::currentDateTime());
+    return QFile::exists(copy) && std::abs(age) < WriteTimeout; // The clocks of servers differ.
 }
 
 } // namespace
@@ -48,7 +44,7 @@ bool UnfinishedWrite::begin(const QString& path, QString& error)
         return true;
     if (!copySettingsFile(path, copyOf(path), error))
         return false;
-    // A copy with the old file's time would look like one that was left behind.
+    // Some systems give the copy the time of the file; it would look like one that was left behind.
     std::error_code ignored;
     std::filesystem::last_write_time(nativePath(copyOf(path)), std::filesystem::file_time_type::clock::now(),
                                      ignored);
@@ -57,24 +53,27 @@ bool UnfinishedWrite::begin(const QString& path, QString& error)
 
 void UnfinishedWrite::end(const QString& path, bool written)
 {
-    if (written || contentOfFile(path) == contentOfFile(copyOf(path)))
-        QFile::remove(copyOf(path));
-    else if (QFile::exists(copyOf(path)))
-        putBack(path);
+    const QString copy = copyOf(path);
+    if (written || contentOfFile(path) == contentOfFile(copy)) {
+        QFile::remove(copy);
+        return;
+    }
+    std::error_code error;
+    std::filesystem::rename(nativePath(copy), nativePath(fileBehind(path).filePath()), error);
+    if (QFile::exists(copy))
+        logWarning(QString("Writing \"%1\" failed, and its former content \"%2\" cannot be put back.")
+                       .arg(path, copy));
 }
 
 void UnfinishedWrite::recover(const QString& path)
 {
     const QString copy = copyOf(path);
-    for (int waited = 0; waited < LongestWrite; waited += Pause) {
-        if (!QFile::exists(copy) || writtenAt(copy).addMSecs(LongestWrite) < QDateTime::currentDateTime())
-            break;
-        std::this_thread::sleep_for(std::chrono::milliseconds(Pause));
-    }
+    while (mayBeAlive(copy))
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
     if (!QFile::exists(copy))
         return;
     // A file that another program has written later is whole.
-    const bool isWhole = writtenAt(path) > writtenAt(copy).addMSecs(LongestWrite);
+    const bool isWhole = writtenAt(path) > writtenAt(copy).addMSecs(WriteTimeout);
     QString error;
     const bool isKept = contentOfFile(path) == contentOfFile(copy) ||
                         keepBackup(path, "its writing was cut short", error, isWhole ? copy : path);

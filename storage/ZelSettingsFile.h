@@ -31,13 +31,14 @@ public:
     /// before the file is opened, because reading a pipe, a device or a file of gigabytes would never end.
     static bool IsUsable(const QString& path, QString& error);
 
-    /// False when it is known beforehand that the file cannot be written. A full disk shows only in Write.
+    /// False when it is known without writing that the file cannot be written, as on a full disk.
     static bool IsWritable(const QString& path, QString& error);
 
     /// The only way to the disk: lets the change set and remove values, and writes them. What others have
-    /// written in the meantime stays, and what a damaged or emptied file has lost comes back from memory.
-    /// False when the change gave up or the file could not be written: the settings then hold what they held
-    /// before the change. The change is not called when nothing can be written.
+    /// written in the meantime stays. All that a damaged or emptied file has lost comes back from memory;
+    /// of another file, the registered keys. False when the change gave up or the file could not be written:
+    /// the settings then hold what they held before the change. The change is not called when it is known
+    /// that the file cannot be written.
     static bool Write(QSettings& settings, const Change& change, QString& error);
 
     /// Brings the file into the form that the registry asks for, as ZelSettingsRegistry::EnsureSettings does,

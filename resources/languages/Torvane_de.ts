@@ -281,8 +281,8 @@ Fortfahren und die Anwendung schließen?</translation>
         <translation>sie lässt sich nicht durch eine neue ersetzen</translation>
     </message>
     <message>
-        <source>it belongs to another user or group, who would lose it</source>
-        <translation>sie gehört einem anderen Benutzer oder einer anderen Gruppe, die den Zugriff darauf verlieren würden</translation>
+        <source>it belongs to another user, who would lose it</source>
+        <translation>sie gehört einem anderen Benutzer, der den Zugriff darauf verlieren würde</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is in the way, which no program uses: remove it</source>

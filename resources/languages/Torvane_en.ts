@@ -281,8 +281,8 @@ Continue and close the application ?</translation>
         <translation>it cannot be replaced by a new one</translation>
     </message>
     <message>
-        <source>it belongs to another user or group, who would lose it</source>
-        <translation>it belongs to another user or group, who would lose it</translation>
+        <source>it belongs to another user, who would lose it</source>
+        <translation>it belongs to another user, who would lose it</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is in the way, which no program uses: remove it</source>

@@ -281,8 +281,8 @@ Continue and close the application ?</source>
         <translation>no se puede sustituir por uno nuevo</translation>
     </message>
     <message>
-        <source>it belongs to another user or group, who would lose it</source>
-        <translation>pertenece a otro usuario o grupo, que lo perdería</translation>
+        <source>it belongs to another user, who would lose it</source>
+        <translation>pertenece a otro usuario, que lo perdería</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is in the way, which no program uses: remove it</source>

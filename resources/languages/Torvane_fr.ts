@@ -281,8 +281,8 @@ Continuer et fermer l’application&#xa0;?</translation>
         <translation>il ne peut pas être remplacé par un nouveau</translation>
     </message>
     <message>
-        <source>it belongs to another user or group, who would lose it</source>
-        <translation>il appartient à un autre utilisateur ou groupe, qui le perdrait</translation>
+        <source>it belongs to another user, who would lose it</source>
+        <translation>il appartient à un autre utilisateur, qui le perdrait</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is in the way, which no program uses: remove it</source>

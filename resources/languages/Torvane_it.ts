@@ -281,8 +281,8 @@ Continuare e chiudere l’applicazione?</translation>
         <translation>non può essere sostituito da uno nuovo</translation>
     </message>
     <message>
-        <source>it belongs to another user or group, who would lose it</source>
-        <translation>appartiene a un altro utente o gruppo, che lo perderebbe</translation>
+        <source>it belongs to another user, who would lose it</source>
+        <translation>appartiene a un altro utente, che lo perderebbe</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is in the way, which no program uses: remove it</source>

@@ -281,8 +281,8 @@ Continue and close the application ?</source>
         <translation>新しいファイルに置き換えられません</translation>
     </message>
     <message>
-        <source>it belongs to another user or group, who would lose it</source>
-        <translation>ほかのユーザーまたはグループのファイルで、その所有者が使えなくなります</translation>
+        <source>it belongs to another user, who would lose it</source>
+        <translation>ほかのユーザーのファイルで、その所有者が使えなくなります</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is in the way, which no program uses: remove it</source>

@@ -281,8 +281,8 @@ Continue and close the application ?</source>
         <translation>无法用新文件替换它</translation>
     </message>
     <message>
-        <source>it belongs to another user or group, who would lose it</source>
-        <translation>它属于其他用户或组，对方将失去它</translation>
+        <source>it belongs to another user, who would lose it</source>
+        <translation>它属于其他用户，对方将失去它</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is in the way, which no program uses: remove it</source>

@@ -3,6 +3,8 @@
 #include "ZelAboutSettingsPanel.h"
 #include "ZelGeneralSettingsPanel.h"
 #include "ZelImportSettingsPanel.h"
+#include "ZelPageDefaults.h"
+#include "ZelSettingsValidators.h"
 #include "ZelSimplificationSettingsPanel.h"
 
 using namespace zel;
@@ -208,6 +210,35 @@ private Q_SLOTS:
                 QTest::keyClick(components, key);
         QDesktopServices::unsetUrlHandler("https");
         QCOMPARE(m_openedHosts.join(' '), QString("www.qt.io github.com fonts.google.com"));
+    }
+
+    void defaultsAreWhatTheValidatorsAccept()
+    {
+        ZelSettingsRegistry::ClearSettingsValues();
+        const QTemporaryDir folder;
+        QSettings defaults(folder.filePath("Defaults.ini"), QSettings::IniFormat);
+        ZelPageDefaults::Register(defaults);
+        QVERIFY(ZelSettingsRegistry::GetDefaultSettingsValues().empty());
+
+        // Key, text, and what is registered; a null text where nothing is.
+        const QString folderName = QString::fromUtf8("/\303\274");
+        const QString rows[][3] = {
+            {"raytracer/coreNumber", "100000", QString::number(QThread::idealThreadCount())},
+            {"Resources/LODTrianglesCap", "1", "50000"},
+            {"deferred/useED", "yes", {}},
+            {"deferred/useSSAO", "", {}},
+            {"Simplification/Ratios", "1/0.5", {}},
+            {"screenshot/ImageFolder", folderName, folderName},
+            {"raytracer/quality", "Ultra", "Low"}, // Registered before.
+            {"unknown", "1", {}}};
+        ZelSettingsRegistry::RegisterSetting("raytracer/quality", "Low", &ZelSettingsValidators::noOp);
+        for (const auto& [key, text, registered] : rows)
+            defaults.setValue(key, text);
+        ZelPageDefaults::Register(defaults);
+        for (const auto& [key, text, registered] : rows) {
+            QCOMPARE(ZelSettingsRegistry::GetDefaultSettingsValue(key), registered);
+            QCOMPARE(ZelSettingsRegistry::GetDefaultSettingsValue(key).isNull(), registered.isNull());
+        }
     }
 };
 

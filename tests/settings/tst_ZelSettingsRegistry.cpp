@@ -1,4 +1,3 @@
-#include "ZelPageDefaults.h"
 #include "ZelSettingsRegistry.h"
 #include "ZelSettingsValidators.h"
 
@@ -46,12 +45,6 @@ class tst_ZelSettingsRegistry : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        Registry::ClearSettingsValues();
-        calls.clear();
-    }
-
     void firstRegistrationWins()
     {
         QVERIFY(Registry::RegisterSetting("key", "one", &upper));
@@ -95,34 +88,6 @@ private Q_SLOTS:
         Registry::RegisterSetting("b", "x", &failing);
         QVERIFY(!Registry::EnsureSettings(settings, error) && !settings.contains("b"));
         QCOMPARE(error + ": " + calls.join(' '), QString("b failed: a:missing:MISSING"));
-    }
-
-    void pageDefaults()
-    {
-        const QTemporaryDir folder;
-        QSettings defaults(folder.filePath("Defaults.ini"), QSettings::IniFormat);
-        ZelPageDefaults::Register(defaults);
-        QVERIFY(Registry::GetDefaultSettingsValues().empty());
-
-        // Key, text, and what is registered; a null text where nothing is.
-        const QString folderName = QString::fromUtf8("/\303\274");
-        const QString rows[][3] = {
-            {"raytracer/coreNumber", "100000", QString::number(QThread::idealThreadCount())},
-            {"Resources/LODTrianglesCap", "1", "50000"},
-            {"deferred/useED", "yes", {}},
-            {"deferred/useSSAO", "", {}},
-            {"Simplification/Ratios", "1/0.5", {}},
-            {"screenshot/ImageFolder", folderName, folderName},
-            {"raytracer/quality", "Ultra", "Low"}, // Registered before.
-            {"unknown", "1", {}}};
-        Registry::RegisterSetting("raytracer/quality", "Low", &upper);
-        for (const auto& [key, text, registered] : rows)
-            defaults.setValue(key, text);
-        ZelPageDefaults::Register(defaults);
-        for (const auto& [key, text, registered] : rows) {
-            QCOMPARE(Registry::GetDefaultSettingsValue(key), registered);
-            QCOMPARE(Registry::GetDefaultSettingsValue(key).isNull(), registered.isNull());
-        }
     }
 };
 

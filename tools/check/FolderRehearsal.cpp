@@ -1,5 +1,7 @@
 #include "FolderRehearsal.h"
 
+#include "base/ZelFileFunctions.h"
+
 #include <QDir>
 
 #include <algorithm>

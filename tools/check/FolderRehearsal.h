@@ -1,7 +1,7 @@
 #ifndef ZEL_FOLDERREHEARSAL_H
 #define ZEL_FOLDERREHEARSAL_H
 
-#include "FolderCreation.h"
+#include "SettingsValidation.h"
 
 #include <QStringList>
 

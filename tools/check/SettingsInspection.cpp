@@ -1,12 +1,12 @@
 #include "SettingsInspection.h"
 
-#include "FileAccess.h"
 #include "FolderRehearsal.h"
 #include "SettingsDamage.h"
 #include "SettingsKeys.h"
 #include "SettingsValidation.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsValidators.h"
+#include "base/ZelFileFunctions.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,5 +1,4 @@
 #include "CheckReport.h"
-#include "FileAccess.h"
 #include "SettingsBackup.h"
 #include "SettingsKeys.h"
 #include "SettingsValidation.h"
@@ -7,6 +6,7 @@
 #include "ZelSettingsFile.h"
 #include "ZelSettingsRegistry.h"
 #include "base/StandardStreams.h"
+#include "base/ZelFileFunctions.h"
 #include "base/ZelSystemCompat.h"
 
 #include "platform/kqLibraries.h"

@@ -45,7 +45,7 @@ const struct
     {keys::ScreenshotFolder, &Rules::noOp},
 };
 
-// No setting has this text, so a validator that falls back to it has refused the other one.
+// A validator that returns this text, which no setting has, has refused the file's.
 const char* const Refused = "\n";
 
 void warn(const QSettings& defaults, const QString& text)
