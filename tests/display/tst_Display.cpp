@@ -119,15 +119,17 @@ private Q_SLOTS:
     void showsTheEnginesOwnFrames()
     {
         for (const bool started : {true, false}) {
-            Viewer viewer({{"engine", started ? "deferred" : "software"}});
+            Viewer viewer({{"engine", started ? "deferred" : "software"}, {"deferred/useSSAO", "false"}});
             zelActionManager actions;
             auto* renderingMode = new zelAction("renderingMode", "Rendering mode", &actions);
             renderingMode->setEnabled(!started);
             viewer.actionManager = &actions;
             Display display(viewer);
-            for (const bool used : {false, true}) {
+            display.find<QComboBox>("sceneUnitComboBox")->setCurrentIndex(0);
+            for (const bool used : {true, false}) { // The unit counts only while SSAO is used.
                 display.find<QCheckBox>("deferredSSAOCheckBox")->setChecked(used);
                 QCOMPARE(display.find("sceneUnitComboBox")->isEnabled(), used);
+                QCOMPARE(display.page.hasModifications(), used && started);
             }
             for (const bool gpu : {started, !started, started}) {
                 display.click(gpu ? "deferredButton" : "raytracerButton");

@@ -217,6 +217,7 @@ private Q_SLOTS:
         ZelSettingsRegistry::ClearSettingsValues();
         const QTemporaryDir folder;
         QSettings defaults(folder.filePath("Defaults.ini"), QSettings::IniFormat);
+        defaults.setValue(keys::ScreenshotFolder, QStringList({"/a", "b"})); // As a comma without quotes.
         ZelPageDefaults::Register(defaults);
         QVERIFY(ZelSettingsRegistry::GetDefaultSettingsValues().empty());
 
