@@ -43,7 +43,8 @@ private Q_SLOTS:
             QTRY_COMPARE_WITH_TIMEOUT(second.state(), QProcess::NotRunning, 60000);
             QCOMPARE(second.exitCode(), 0);
             QTRY_COMPARE(received.value(0).value(0).toString(), message);
-            QCOMPARE(second.readAllStandardOutput(), QByteArray("QGL\nqglshader\n QGLShader\n"));
+            QCOMPARE(second.readAllStandardOutput().replace('\r', ""),
+                     QByteArray("QGL\nqglshader\n QGLShader\n"));
         }
     }
 };
