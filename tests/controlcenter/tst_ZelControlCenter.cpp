@@ -143,7 +143,7 @@ private Q_SLOTS:
             QCOMPARE(pages->isVisible() ? pages->y() : 0, 0); // The column stands still.
             QTest::qWait(10);
         }
-        QVERIFY(column()->parentWidget()->height() > 100 && showsActions(true));
+        QTRY_VERIFY(column()->parentWidget()->height() > 100 && showsActions(true));
         QCOMPARE(m_controlCenter->settingsWidth(), 0);
         m_window->hide(); // Nothing slides out of sight.
         m_controlCenter->openMenu(false);

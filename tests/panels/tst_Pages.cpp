@@ -91,6 +91,7 @@ private Q_SLOTS:
         for (const auto& limit : Limits)
             defaults.insert({{limit.set, "false"}, {limit.key, "5"}});
         registerDefaults(defaults);
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // To find the fields in.
         m_application.reset(new FakeApplication);
         store(settings(), defaults);
         store(settings(), {{keys::CacheDirectory, folder("cache")}, {keys::CacheSize, "500"}});

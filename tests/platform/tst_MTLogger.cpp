@@ -25,7 +25,7 @@ private Q_SLOTS:
                 MTLogger::Log(type, "");
             MTLogger::Log("error", "l\xc3\xb6st\r\ntwo\tC:\\new \x1b[31m\xe2\x80\xa8 broken:\xff");
             // The handler has the file open: events are written at once.
-            QVERIFY(file.open(QIODevice::ReadOnly));
+            QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Text));
             const QString events =
                 QString::fromUtf8(file.readAll()).replace(QRegExp("(^|\n)\\S+ ?"), "").trimmed();
             const char error[] =

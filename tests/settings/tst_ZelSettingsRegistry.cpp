@@ -66,19 +66,18 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         QFile file(folder.filePath("Settings.ini"));
         QSettings settings(file.fileName(), QSettings::IniFormat);
+        settings.setValue("Version", 1);
         settings.setValue("b/known", "old");
-        settings.setValue("settingsVersion", 1);
         settings.setValue("foreign/key", "kept");
-        Registry::RegisterSetting("settingsVersion", "2", &ZelSettingsValidators::ensureSettingsVersion);
+        Registry::RegisterSetting("Version", "2", &ZelSettingsValidators::ensureSettingsVersion);
         Registry::RegisterSetting("b/known", "default", &upper);
         Registry::RegisterSetting("a", "missing", &upper);
         QString error;
         QVERIFY(Registry::EnsureSettings(settings, error) && error.isEmpty());
         QCOMPARE(calls.join(' '), QString("a:missing:missing b/known:default:old first:MISSING second"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(
-            file.readAll(),
-            QByteArray("[General]\na=MISSING\nsettingsVersion=2\n\n[b]\nknown=OLD\n\n[foreign]\nkey=kept\n"));
+        QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Text));
+        QCOMPARE(file.readAll(),
+                 QByteArray("[General]\nVersion=2\na=MISSING\n\n[b]\nknown=OLD\n\n[foreign]\nkey=kept\n"));
 
         // A failure stops it.
         settings.setValue("bad", "");

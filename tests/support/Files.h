@@ -3,11 +3,11 @@
 
 #include <QtTest>
 
-/// Empty when the file cannot be read.
+/// With line ends as in C. Empty when the file cannot be read.
 inline QByteArray contentOf(const QString& path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? file.readAll() : QByteArray();
 }
 
 inline void store(const QString& path, const QByteArray& content)

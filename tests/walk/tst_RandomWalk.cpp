@@ -6,8 +6,12 @@
 #include <QtTest>
 #include <QtWidgets>
 
-#include <malloc.h>
 #include <random>
+#if defined(_WIN32)
+#    include <windows.h>
+#else
+#    include <malloc.h>
+#endif
 
 using namespace zel;
 
@@ -26,9 +30,16 @@ struct Census
             if (!QAbstractEventDispatcher::instance()->registeredTimers(object).isEmpty())
                 withTimer << object->metaObject()->className();
         objects = all.size();
+#if defined(_WIN32)
+        DWORD handles = 0;
+        GetProcessHandleCount(GetCurrentProcess(), &handles);
+        descriptors = int(handles);
+        heap = 0; // Is counted elsewhere.
+#else
         descriptors = int(QDir("/proc/self/fd", "", {}, QDir::AllEntries | QDir::System).count());
         const auto use = mallinfo2(); // Zeros under a sanitizer, which finds leaks by itself.
         heap = qint64(use.uordblks + use.hblkhd);
+#endif
     }
 
     int objects, descriptors; ///< QObjects that windows and the application own; files, sockets and pipes.

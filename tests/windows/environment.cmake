@@ -1,12 +1,15 @@
 # Tests of a build for Windows find the staged DLLs and plug-ins, and run under Wine where the build is a cross build. They
 # need a display: Qt's offscreen platform is not made for Windows.
 
-set(ZEL_TEST_ENVIRONMENT QT_PLUGIN_PATH=${ZEL_STAGE}/bin)
+# What they report goes to the standard output, not to a debugger.
+set(ZEL_TEST_ENVIRONMENT QT_PLUGIN_PATH=${ZEL_STAGE}/bin QT_FORCE_STDERR_LOGGING=1)
 if(CMAKE_CROSSCOMPILING)
     # By its own name, because Debian's script of the name "wine" is in another package.
     find_program(ZEL_WINE NAMES wine64 wine PATHS /usr/lib/wine REQUIRED)
     set(CMAKE_CROSSCOMPILING_EMULATOR ${ZEL_WINE})
-    set(ZEL_TEST_ENVIRONMENT QT_PLUGIN_PATH=Z:${ZEL_STAGE}/bin WINEPATH=Z:${ZEL_STAGE}/bin WINEDEBUG=-all)
+    # Wine keeps "PATH" and "QT_..." of the machine from a program, and hands over these in their place.
+    set(ZEL_TEST_ENVIRONMENT WINEPATH=Z:${ZEL_STAGE}/bin WINEQT_PLUGIN_PATH=Z:${ZEL_STAGE}/bin
+                             WINEQT_FORCE_STDERR_LOGGING=1 WINEDEBUG=-all)
 endif()
 
 # Beside the tests' programs, because it is no part of the product.
