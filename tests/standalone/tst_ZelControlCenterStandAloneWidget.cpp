@@ -212,8 +212,10 @@ private Q_SLOTS:
         const QRect moved = m_window.geometry().translated(way);
         drag(onHeader, way, onHeader);
         QCOMPARE(m_window.geometry(), moved);
-        QTest::mouseDClick(m_window.findChild<QWidget*>("headerFrame"), Qt::LeftButton);
-        QVERIFY(m_window.isMaximized());
+        for (const Qt::MouseButton button : {Qt::RightButton, Qt::LeftButton}) {
+            QTest::mouseDClick(m_window.findChild<QWidget*>("headerFrame"), button);
+            QCOMPARE(m_window.isMaximized(), button == Qt::LeftButton);
+        }
         QTest::mouseClick(m_window.findChild<QPushButton*>("maximizeButton"), Qt::LeftButton);
         QTRY_COMPARE(m_window.geometry(), moved);
     }
