@@ -343,15 +343,17 @@ private Q_SLOTS:
         }
         zel::zelSpinBox last(m_pages[2].get());
         last.show();
-        const QPoint column = m_controlCenter->mapTo(m_window.get(), QPoint(5, 5));
-        QTest::mousePress(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier, column);
-        last.setFocus(); // Nothing moves under a mouse button that is held down.
-        QCOMPARE(scrollBar()->value(), 0);
-        QTest::mouseRelease(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier, column);
-        m_pages[0]->getActionWidget()->setFocus();
-        last.setFocus();
-        QVERIFY(scrollBar()->value() > 0);
-        m_pages[0]->getActionWidget()->setFocus();
+        QWidget* const pageButton = m_pages[0]->getActionWidget();
+        const QPoint place = pageButton->mapTo(m_window.get(), QPoint(5, 5));
+        for (const bool held : {true, false}) { // Nothing moves under a mouse button that is held down.
+            pageButton->setFocus();
+            if (held)
+                QTest::mousePress(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
+            last.setFocus();
+            QCOMPARE(scrollBar()->value() == 0, held);
+            QTest::mouseRelease(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
+        }
+        pageButton->setFocus();
         const int bottom = scrollBar()->maximum(), page = scrollBar()->pageStep();
         const int places[] = {0, bottom, qMax(0, bottom - page), qMin(bottom, page)};
         const Qt::Key keys[] = {Qt::Key_Home, Qt::Key_End, Qt::Key_PageUp, Qt::Key_PageDown};
