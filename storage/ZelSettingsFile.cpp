@@ -269,7 +269,7 @@ bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
     bool losesList = false;
     const auto take = [&](const auto& entry, const QVariant& stored, const QString& text) {
         // Of a damaged file one value is written even if all are valid, because that replaces the file.
-        if (!isRepair(stored, text) && (!isDamaged || !repaired.isEmpty()))
+        if (!needsRepair(stored, text) && (!isDamaged || !repaired.isEmpty()))
             return;
         if (stored.isValid())
             before.insert(entry.first, stored);

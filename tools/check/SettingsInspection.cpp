@@ -84,7 +84,7 @@ void SettingsInspection::inspectValues(const QString& path)
         else if (m_migration == Migration::Upgrade && key == keys::Engine && text != engines::Deferred)
             m_changes.push_back({key, false, shown(stored), engines::Deferred,
                                  "is of an older version, whose engine is not kept"});
-        else if (isRepair(stored, text))
+        else if (needsRepair(stored, text))
             m_changes.push_back({key, false, shown(stored), text, reasonFor(entry, stored, text)});
     };
     if (!validateSettings(*settings, m_error, recordChange) && m_error.isEmpty())
