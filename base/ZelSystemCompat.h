@@ -70,8 +70,8 @@ inline bool mayReplace(const QFileInfo& file)
 #endif
 }
 
-/// True when a process with this id exists. Always false on Windows, which releases the locks of a process
-/// that ends.
+/// True when a process with this id exists. Always false on Windows: it removes the locks of a process that
+/// ends, so there is nothing to ask.
 inline bool isRunning(qint64 process)
 {
 #if defined(Q_OS_WIN)

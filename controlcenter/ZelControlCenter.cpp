@@ -5,6 +5,7 @@
 #include "ControlCenterActions.h"
 #include "DrawerLayout.h"
 #include "EnableButton.h"
+#include "FileAccess.h"
 #include "ReturnKey.h"
 #include "StyleSheetPause.h"
 #include "ZelCCActionItem.h"
@@ -13,7 +14,6 @@
 #include "base/ZelAccessibility.h"
 #include "base/ZelQtCompat.h"
 
-#include "platform/MTLogger.h"
 #include "platform/kqDMGuiPlugin.h"
 #include "platform/kqDMIApplication.h"
 #include "platform/kqMessageBox.h"
@@ -65,11 +65,9 @@ void logUnregisteredKeys(const ZelSettingsPanel& panel)
                               [&](const QString& key) { return registered.count(key) > 0; }),
                keys.end());
     if (!keys.isEmpty())
-        MTLogger::Log("warning", QString("The page \"%1\" has keys without a default or a validator, because "
-                                         "they are not registered: %2")
-                                     .arg(panel.getPanelName(), keys.join(", "))
-                                     .toUtf8()
-                                     .constData());
+        logWarning(QString("The page \"%1\" has keys without a default or a validator, because they are not "
+                           "registered: %2")
+                       .arg(panel.getPanelName(), keys.join(", ")));
 }
 
 /// Marks the button of a page that has pending edits. Otherwise a transparent icon takes the same space.

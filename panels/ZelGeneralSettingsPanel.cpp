@@ -48,27 +48,15 @@ ZelGeneralSettingsPanel::ZelGeneralSettingsPanel(kqDMIApplication* application, 
     setPanelCategory(ApplicationCategory);
     describe(
         "ZelGeneralSettingsPanel",
-        {{{m_ui->screenshotFolderButton},
-          nullptr,
-          QT_TRANSLATE_NOOP("ZelGeneralSettingsPanel",
-                            "Where your screenshots are saved. A click chooses a folder."),
-          QString(),
-          EffectAtOnce,
-          {keys::ScreenshotFolder},
-          [](const GeneralModel& model) { return model.screenshotFolder; },
-          nullptr,
-          true},
-         {{m_ui->databaseButton},
-          nullptr,
-          QT_TRANSLATE_NOOP("ZelGeneralSettingsPanel",
-                            "Where parts of loaded models are kept on the disk. Choose a fast disk with "
-                            "enough free space. A click chooses a folder."),
-          QString(),
-          EffectAfterRestart,
-          {keys::CacheDirectory},
-          [](const GeneralModel& model) { return model.cacheDirectory; },
-          nullptr,
-          true},
+        {folderHelp(m_ui->screenshotFolderButton, &GeneralModel::screenshotFolder, keys::ScreenshotFolder,
+                    EffectAtOnce,
+                    QT_TRANSLATE_NOOP("ZelGeneralSettingsPanel",
+                                      "Where your screenshots are saved. A click chooses a folder.")),
+         folderHelp(
+             m_ui->databaseButton, &GeneralModel::cacheDirectory, keys::CacheDirectory, EffectAfterRestart,
+             QT_TRANSLATE_NOOP("ZelGeneralSettingsPanel",
+                               "Where parts of loaded models are kept on the disk. Choose a fast disk with "
+                               "enough free space. A click chooses a folder.")),
          {{m_ui->databaseSpinBox},
           nullptr,
           QT_TRANSLATE_NOOP("ZelGeneralSettingsPanel",
@@ -153,6 +141,22 @@ bool ZelGeneralSettingsPanel::shouldRestart() const
 void ZelGeneralSettingsPanel::notifyStateChanged()
 {
     Q_EMIT stateChanged();
+}
+
+ZelGeneralSettingsPanel::Help ZelGeneralSettingsPanel::folderHelp(QPushButton* button,
+                                                                  QString GeneralModel::*folder,
+                                                                  const char* key, ZelSettingEffect effect,
+                                                                  const char* description)
+{
+    Help help;
+    help.fields << button;
+    help.name = nullptr;
+    help.description = description;
+    help.effect = effect;
+    help.keys << key;
+    help.shown = [folder](const GeneralModel& model) { return model.*folder; };
+    help.tipIsValue = true;
+    return help;
 }
 
 void ZelGeneralSettingsPanel::elideText()

@@ -77,6 +77,8 @@ protected:
     void setMaxCacheSize();
 
 private:
+    static Help folderHelp(QPushButton* button, QString GeneralModel::*folder, const char* key,
+                           ZelSettingEffect effect, const char* description);
     void chooseFolder(QPushButton* button, const QString& title);
 
     const std::unique_ptr<Ui::ZelGeneralSettingsPanel> m_ui;

@@ -1,10 +1,9 @@
 #include "ZelPageDefaults.h"
 
+#include "FileAccess.h"
 #include "SettingsKeys.h"
 #include "SettingsValidation.h"
 #include "ZelSettingsValidators.h"
-
-#include "platform/MTLogger.h"
 
 #include <QSettings>
 #include <QString>
@@ -45,12 +44,13 @@ const struct
     {keys::ScreenshotFolder, &Rules::noOp},
 };
 
-// A validator that returns this text, which no setting has, has refused the file's.
+// Passed as the default, because no setting has this text: a validator that returns it has refused the file's
+// text.
 const char* const Refused = "\n";
 
 void warn(const QSettings& defaults, const QString& text)
 {
-    MTLogger::Log("warning", QString("%1: %2").arg(defaults.fileName(), text).toUtf8().constData());
+    logWarning(QString("%1: %2").arg(defaults.fileName(), text));
 }
 
 } // namespace

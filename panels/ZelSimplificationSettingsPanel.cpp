@@ -24,7 +24,8 @@ const int FirstEditableLevel = 2;
 const int LastLevel = 5;
 const int ImageSize = 64; // pixels
 
-Ratios parseRatios(const QString& text)
+/// Unlike the validator, reads a part that is no number as 0, so that every level keeps its place.
+Ratios ratiosToShow(const QString& text)
 {
     Ratios ratios;
     for (const QString& part : text.split('/', SkipEmptyParts)) {
@@ -36,7 +37,7 @@ Ratios parseRatios(const QString& text)
 
 Ratios defaultRatios(const QString& text)
 {
-    Ratios ratios = parseRatios(text);
+    Ratios ratios = ratiosToShow(text);
     if (ratios.size() > LastLevel)
         ratios.resize(LastLevel);
     return ratios;
@@ -49,12 +50,12 @@ bool isWellFormed(const Ratios& ratios)
 
 bool isMalformed(const QVariant& stored)
 {
-    return stored.isValid() && !isWellFormed(parseRatios(stored.toString()));
+    return stored.isValid() && !isWellFormed(ratiosToShow(stored.toString()));
 }
 
 Ratios storedRatios(const QVariant& stored)
 {
-    const Ratios ratios = parseRatios(stored.toString());
+    const Ratios ratios = ratiosToShow(stored.toString());
     if (isWellFormed(ratios))
         return ratios;
     return defaultRatios(ZelSettingsRegistry::GetDefaultSettingsValue(keys::SimplificationRatios));

@@ -33,7 +33,7 @@ const char* const MaxFaceAngle = "Tesselation/TesselationMaxFaceAngle";
 const char* const MaxFaceLength = "Tesselation/TesselationMaxFaceLength";
 /// Largest distance of a facet from the surface, in the unit of the model.
 const char* const MaxFaceSag = "Tesselation/TesselationMaxFaceSag";
-// Whether each limit, and the quality, is in force.
+// Whether each limit, and the quality, is used.
 const char* const MaxFaceAngleSet = "Tesselation/TesselationMaxFaceAngleSet";
 const char* const MaxFaceLengthSet = "Tesselation/TesselationMaxFaceLengthSet";
 const char* const MaxFaceSagSet = "Tesselation/TesselationMaxFaceSagSet";

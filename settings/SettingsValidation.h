@@ -47,8 +47,8 @@ inline bool isList(const QVariant& value)
     return value.type() == QVariant::StringList || value.type() == QVariant::List;
 }
 
-/// True when the file holds another text, a list, or nothing.
-inline bool isRepair(const QVariant& stored, const QString& text)
+/// True when the stored value is missing, is a list, or differs from the text.
+inline bool needsRepair(const QVariant& stored, const QString& text)
 {
     return !stored.isValid() || isList(stored) || stored.toString() != text;
 }

@@ -25,10 +25,9 @@ QString cleanFolder(const std::string& parentUtf8, const QString& name)
 
 void ZelSettingsCatalogue::InitDefaultSettingsValues(const QString& applicationName)
 {
-    const std::string applicationNameUtf8 = applicationName.toUtf8().constData();
     const QString dataFolder = cleanFolder(kqDirUtils::GetAppDataFolderUtf8(), applicationName);
     const QString cacheFolder =
-        cleanFolder(ZelDirectory::GetTempFolderUtf8(applicationNameUtf8),
+        cleanFolder(ZelDirectory::GetTempFolderUtf8(applicationName.toUtf8().constData()),
                     QString::fromUtf8(kqSystemUtils::GetCurrentUserNameUtf8().c_str()));
 
     using Rules = ZelSettingsValidators;

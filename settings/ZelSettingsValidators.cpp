@@ -35,8 +35,6 @@ const std::size_t RatioCount = 5;
 const char* const Truths[] = {"true", "false"};
 const char* const Engines[] = {engines::Deferred, engines::Software};
 
-// Each of these may repair the value, and returns false for one that the default must replace.
-
 template <typename Texts>
 bool isOneOf(const QString& value, const Texts& accepted)
 {
@@ -72,7 +70,7 @@ bool clampFloat(QString& value, float minimum, float maximum)
     float number = 0.F;
     const bool parsed = parseFloat(value, number);
     if (parsed)
-        value = numberText(double(std::clamp(number, minimum, maximum)));
+        value = numberText(static_cast<double>(std::clamp(number, minimum, maximum)));
     return parsed;
 }
 
@@ -81,13 +79,13 @@ bool snapToSceneUnit(QString& value)
     float factor = 0.F;
     const int unit = parseFloat(value, factor) ? sceneUnitIndex(factor) : -1;
     if (unit >= 0)
-        value = numberText(double(SceneUnitFactors[unit]));
+        value = numberText(static_cast<double>(SceneUnitFactors[unit]));
     return unit >= 0;
 }
 
 int coreCount()
 {
-    static const int cores = QThread::idealThreadCount(); // The answer is read from a system file each time.
+    static const int cores = QThread::idealThreadCount(); // QThread reads a system file for each call.
     return cores;
 }
 
@@ -122,7 +120,8 @@ void ZelSettingsValidators::CleanupFolder(QString& path)
         path.chop(1);
 }
 
-// The validators that never fail: a name, and the condition on which the value is kept.
+// The validators that never fail: a name, and an expression that may repair the value and is false when the
+// default must replace it.
 #define ZEL_VALIDATOR(name, ...)                                                                             \
     bool ZelSettingsValidators::name(const QString&, const QString& defaultValue, QString& value, QString&)  \
     {                                                                                                        \

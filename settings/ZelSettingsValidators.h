@@ -8,9 +8,9 @@
 namespace zel {
 
 /// The validators of the settings: each takes (key, default, value, error), repairs the value in place and
-/// returns true. "Or default" means that a value which is not so becomes the registered default as it stands.
-/// "Clamped" is a value that parses; one that does not becomes the default. The few validators that can fail
-/// say so; they return false and, unless stated, set a translated error text.
+/// returns true. "Or default": any other value becomes the registered default, unchanged. "Clamped": a number
+/// outside the range becomes the nearest limit; a text that is no number becomes the default. The few
+/// validators that can fail say so; they return false and, unless stated, set a translated error text.
 class ZEL_EXPORT ZelSettingsValidators
 {
 public:

@@ -88,12 +88,16 @@ int FrameResizer::edgesAt(const QPoint& globalPosition) const
     // Near a corner each of its two edges counts as both.
     const bool atCorner = qMin(position.x(), right) < CornerSize && qMin(position.y(), bottom) < CornerSize;
     const int reach = atCorner ? CornerSize : EdgeWidth;
-    return (position.x() < reach ? Left
-            : right < reach      ? Right
-                                 : NoEdge) |
-           (position.y() < reach ? Top
-            : bottom < reach     ? Bottom
-                                 : NoEdge);
+    int edges = NoEdge;
+    if (position.x() < reach)
+        edges |= Left;
+    else if (right < reach)
+        edges |= Right;
+    if (position.y() < reach)
+        edges |= Top;
+    else if (bottom < reach)
+        edges |= Bottom;
+    return edges;
 }
 
 void FrameResizer::setCursor(int edges)

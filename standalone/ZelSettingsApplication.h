@@ -57,6 +57,7 @@ public:
     void loadDocument(const QStringList&, bool) override {}
     void loadDocument(bool) override {}
     void set3DSelectionPickingEnabled(bool) override {}
+    /// Always true.
     bool is3DSelectionPickingEnabled() const override { return true; }
     std::vector<PostSaveEventItem>& getPostSaveEventVector() override { return m_postSaveEvents; }
     void setWorkFlowWidget(QWidget*) override {}

@@ -14,10 +14,10 @@ namespace zel {
 
 namespace {
 
-const qint64 MaximumFileSize = qint64(64) * 1024 * 1024;
+const qint64 MaximumFileSize = qint64{64} * 1024 * 1024;
 const qint64 MaximumGrowth = 8192; // Bytes that a write needs besides, for its lock and a last block.
-const std::chrono::minutes StaleLockAge(1); // QSettings removes a lock of half a minute.
-const int LockTimeout = 2000;               // ms; a write takes milliseconds.
+const std::chrono::minutes StaleLockAge(1); // QSettings removes a lock that is older than half a minute.
+const int HeldLockAge = 2000; // ms; an older lock of a running process is stuck: a write takes milliseconds.
 
 const std::error_code NoRoom = std::make_error_code(std::errc::no_space_on_device);
 
@@ -38,7 +38,7 @@ QString lockReason(const QString& lock)
     const qint64 process = reader.readLine(32).trimmed().toLongLong();
     const qint64 age = file.lastModified().msecsTo(QDateTime::currentDateTime());
     if (process > 0)
-        return age > LockTimeout && isRunning(process) ? SettingsFileText::tr("another program has locked it")
+        return age > HeldLockAge && isRunning(process) ? SettingsFileText::tr("another program has locked it")
                                                        : QString();
     // Its process has died while it took the lock. QSettings removes such a lock when it is old. It is not
     // removed here, because by now it may be another program's.
@@ -64,7 +64,7 @@ bool failWith(const QString& text, const QString& path, const QString& reason, Q
 
 QString unreadableReason(const QString& path)
 {
-    std::error_code error; // As for a link that leads to itself.
+    std::error_code error; // Set, for example, for a link that leads to itself.
     const std::filesystem::file_type type = std::filesystem::status(nativePath(path), error).type();
     if (type == std::filesystem::file_type::not_found)
         return QString();
@@ -91,7 +91,7 @@ QString unwritableReason(const QString& path)
     if (!canCreateFolder(named.path()) || (named.isSymLink() && !QFileInfo(file.path()).isWritable()) ||
         (exists && !file.isWritable()))
         return probeWriteError(path);
-    std::error_code error; // As for a folder that does not exist yet.
+    std::error_code error; // Set when the folder does not exist yet.
     const auto space = std::filesystem::space(nativePath(file.path()), error);
     if (!error && space.available < static_cast<std::uintmax_t>(file.size() + MaximumGrowth))
         return errorText(NoRoom);
@@ -113,7 +113,7 @@ QString probeWriteError(const QString& path)
         if (probe.write(QByteArray(static_cast<int>(size), '\0')) != size || !probe.flush())
             return errorText(NoRoom);
     }
-    // As where it is mounted on its own, or where another program has it open.
+    // For example a mount point, or a file that another program has open.
     return SettingsFileText::tr("it cannot be replaced by a new one");
 }
 
@@ -123,7 +123,7 @@ bool copySettingsFile(const QString& path, const QString& copy, QString& error)
         return failWith(SettingsFileText::tr("Could not keep a copy of the Torvane settings file \"%1\": %2"),
                         path, probeWriteError(path), error);
     const QFileInfo former(path);
-    giveFileTo(copy, former.ownerId(), former.groupId()); // Where that is refused, it is a copy all the same.
+    giveFileTo(copy, former.ownerId(), former.groupId()); // If that is refused, the copy is still good.
     return true;
 }
 

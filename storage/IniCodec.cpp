@@ -2,8 +2,6 @@
 
 #include <QTextCodec>
 
-#include <cstring>
-
 namespace {
 
 class IniCodec : public QTextCodec
@@ -17,7 +15,7 @@ protected:
     {
         const QString decoded = QString::fromUtf8(text, length);
         // Qt drops a leading mark, but what is decoded here stands inside the file.
-        const bool hasMark = length >= 3 && std::memcmp(text, "\xef\xbb\xbf", 3) == 0;
+        const bool hasMark = length >= 3 && qstrncmp(text, zel::Utf8Mark, 3) == 0;
         return hasMark ? QChar(QChar::ByteOrderMark) + decoded : decoded;
     }
 

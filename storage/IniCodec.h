@@ -5,6 +5,8 @@ class QTextCodec;
 
 namespace zel {
 
+const char* const Utf8Mark = "\xEF\xBB\xBF"; ///< The byte order mark of UTF-8.
+
 /// UTF-8 as QSettings needs it. QSettings encodes a text one 16-bit unit at a time, and of a character that
 /// takes two (an emoji, a rarer Chinese character) Qt's own codec then writes nothing at all. GUI thread
 /// only.

@@ -1,5 +1,7 @@
 #include "SettingsDamage.h"
 
+#include "IniCodec.h"
+
 #include <QRegExp>
 #include <QTextCodec>
 
@@ -8,8 +10,6 @@
 namespace zel {
 
 namespace {
-
-const char* const ByteOrderMark = "\xEF\xBB\xBF";
 
 // The lines that QSettings reads and writes again unchanged. An escape in a value is one that it writes
 // itself, or writes as the same character. A comment follows a blank.
@@ -63,17 +63,22 @@ bool goesOn(const QByteArray& line)
 int firstLine(const QByteArray& text, bool (*isWanted)(const QByteArray& line))
 {
     int number = 1;
-    for (int begin = text.startsWith(ByteOrderMark) ? 3 : 0, end = 0; begin < text.size(); begin = end + 1) {
-        end = lineEnd(text, begin);
+    int begin = text.startsWith(Utf8Mark) ? 3 : 0;
+    while (begin < text.size()) {
+        int end = lineEnd(text, begin);
         const auto line = [&] { return QByteArray::fromRawData(text.constData() + begin, end - begin); };
+        // A readable line that ends with a backslash ends with a comment, which does not go on.
         const bool isJoined = goesOn(line()) && isUnreadable(line());
         while (isJoined && end < text.size() && goesOn(line())) {
-            number += text.at(end) == '\n';
+            if (text.at(end) == '\n')
+                ++number;
             end = lineEnd(text, end + 1);
         }
         if (isWanted(line()))
             return number;
-        number += end < text.size() && text.at(end) == '\n';
+        if (end < text.size() && text.at(end) == '\n')
+            ++number;
+        begin = end + 1;
     }
     return 0;
 }

@@ -6,10 +6,10 @@
 
 namespace zel {
 
-/// Why the text of a settings file would lose something when QSettings reads it and writes it again: zero
-/// bytes, another encoding, or a line that QSettings cannot understand or takes for something else than it
-/// says. Such are unquoted values that are cut at a ';' ("path=/a;/b") or have a '\' that is no escape
-/// ("C:\Users") or takes in the next line. Empty when nothing would be lost; comments do not count.
+/// Why QSettings would lose something of this text by reading it and writing it again; empty if nothing. The
+/// reasons: zero bytes, an encoding other than UTF-8, a line that it cannot parse, an unquoted value that it
+/// cuts at a ';' ("path=/a;/b"), a '\' that is no escape ("C:\Users"), a line that it joins with the next.
+/// Comments do not count: see droppedComment().
 QString settingsDamage(const QByteArray& text);
 
 /// Which line of a text has a comment, which QSettings drops; empty when none has.

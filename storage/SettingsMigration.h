@@ -10,7 +10,7 @@ namespace zel {
 /// What becomes of a settings file of an older version when the editor starts.
 enum class Migration {
     None,      ///< It is current, or newer.
-    Upgrade,   ///< Its values stay, but for the version and the engine, which becomes "deferred".
+    Upgrade,   ///< Its values stay, except the version and the engine, which becomes "deferred".
     FreshStart ///< Nothing stays but the language.
 };
 

@@ -17,22 +17,10 @@
 #include <system_error>
 #include <thread>
 
-// QSettings locks the file, merges what others have written into it, and replaces it in one step. What that
-// leaves open is closed here:
-// - QSettings drops what it cannot parse: a copy of such a file is kept.
-// - Qt before 5.10 rewrites the file in place, and a process that dies meanwhile leaves half of it: a copy of
-//   the old content stands beside it for that long.
-// - A file that begins with the UTF-8 mark brings Qt's own codec back, which loses characters.
-// - The new file belongs to the user who has written it.
-// - QSettings learns only from the file's size and time whether others have changed it.
-// - The status keeps the first error. From then on the content tells whether a write has succeeded.
-// - What QSettings cannot write stays pending, and it tries again, unprotected, when it receives events.
-
 namespace zel {
 
 namespace {
 
-const char* const Utf8Mark = "\xEF\xBB\xBF";
 const std::chrono::milliseconds ClockTick(10); // Systems count the time of files in ticks of up to this.
 
 bool refuseWriting(const QString& path, const QString& reason, QString& error)
@@ -52,9 +40,10 @@ QVariantMap valuesOf(const QSettings& settings)
     return values;
 }
 
-/// One write of a settings file. At any moment, also when the process is killed, the file holds its old
-/// content or the new one. Without a commit that succeeds, the destructor puts the former values back into
-/// the settings.
+/// One write of a settings file. QSettings locks the file, merges what others have written into it, and
+/// replaces it in one step; this class closes the gaps that are left. At any moment, also when the process is
+/// killed, the file holds its old content or the new one. Without a commit that succeeds, the destructor puts
+/// the former values back into the settings.
 class SettingsWrite
 {
 public:
@@ -105,7 +94,7 @@ public:
     {
         const QVariantMap held = valuesOf(m_settings);
         m_settings.sync();
-        ZelSettingsFile::UseFileEncoding(m_settings); // Reading may have brought back Qt's own codec.
+        ZelSettingsFile::UseFileEncoding(m_settings); // Reading the UTF-8 mark brings Qt's own codec back.
         const auto& registered = ZelSettingsRegistry::GetDefaultSettingsValues();
         for (auto value = held.constBegin(); value != held.constEnd(); ++value) {
             if (!m_settings.contains(value.key()) &&
@@ -125,7 +114,7 @@ public:
     /// within one tick of the clock: gives it a time that QSettings cannot know.
     void forceMerge() const
     {
-        // Reading the mark once more would bring Qt's own codec back.
+        // Reading the mark once more would bring Qt's own codec back, which loses characters.
         if (m_before == m_after || m_content.startsWith(Utf8Mark))
             return;
         std::error_code error;
@@ -150,23 +139,30 @@ public:
 private:
     Q_DISABLE_COPY(SettingsWrite)
 
-    /// False when the file lacks lines. QSettings does not notice that the disk is full before all are
-    /// written; the file then ends with a block.
+    /// False when the file lacks lines, because the disk was full: QSettings does not notice that. Such a
+    /// file ends at the end of a block, so other sizes are not read.
     bool isWhole() const
     {
         const int smallestBlock = 512;
         if (QFileInfo(m_path).size() % smallestBlock != 0)
             return true;
         int lines = 0;
-        for (const QByteArray& line : contentOfFile(m_path).split('\n'))
-            lines += !line.trimmed().isEmpty() && !line.startsWith('[');
+        for (const QByteArray& line : contentOfFile(m_path).split('\n')) {
+            if (!line.trimmed().isEmpty() && !line.startsWith('['))
+                ++lines;
+        }
         return lines >= valuesOf(m_settings).size(); // Others may have added some by now.
     }
 
     bool isWritten() const
     {
-        return isWhole() && (m_settings.status() == QSettings::NoError ||
-                             contentOfFile(m_path) != m_content || (m_before == m_after && !m_damaged));
+        if (!isWhole())
+            return false;
+        if (m_settings.status() == QSettings::NoError)
+            return true;
+        // The status keeps an earlier error, so the content tells whether this write has succeeded.
+        const bool hasNothingToWrite = m_before == m_after && !m_damaged;
+        return hasNothingToWrite || contentOfFile(m_path) != m_content;
     }
 
     void rollBack()
@@ -186,10 +182,11 @@ private:
                 m_settings.setValue(value.key(), *value);
         }
         m_settings.sync();
+        // At this event QSettings would try once more, unprotected, to write what it could not write.
         QCoreApplication::removePostedEvents(&m_settings, QEvent::UpdateRequest);
     }
 
-    /// Writes the old content over a file that is cut short: there is room, because that had replaced it.
+    /// Writes the old content over a file that is cut short. There is room: its former blocks are free again.
     void restoreContent() const
     {
         QFile file(m_path);
@@ -200,7 +197,7 @@ private:
 
     void restoreOwner() const
     {
-        const QFileInfo file(m_path);
+        const QFileInfo file(m_path); // The new one belongs to the user who has written it.
         if (m_existed && (file.ownerId() != m_owner || file.groupId() != m_group) &&
             !giveFileTo(file.canonicalFilePath(), m_owner, m_group))
             logWarning(QString("Could not give \"%1\" back to its owner and group.").arg(m_path));
@@ -271,8 +268,8 @@ bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
     QVariantMap before, repaired;
     bool losesList = false;
     const auto take = [&](const auto& entry, const QVariant& stored, const QString& text) {
-        // QSettings drops what is damaged as soon as any value is written.
-        if (!isRepair(stored, text) && (!isDamaged || !repaired.isEmpty()))
+        // Of a damaged file one value is written even if all are valid, because that replaces the file.
+        if (!needsRepair(stored, text) && (!isDamaged || !repaired.isEmpty()))
             return;
         if (stored.isValid())
             before.insert(entry.first, stored);

@@ -1,6 +1,6 @@
 #include "SettingsInspection.h"
 
-#include "FolderRehearsal.h"
+#include "FolderDryRun.h"
 #include "SettingsDamage.h"
 #include "SettingsKeys.h"
 #include "SettingsValidation.h"
@@ -76,7 +76,7 @@ void SettingsInspection::inspectValues(const QString& path)
 {
     const auto settings = ZelSettingsFile::Open(path);
     m_migration = migrationOf(*settings);
-    const FolderRehearsal rehearsal;
+    const FolderDryRun dryRun;
     const auto recordChange = [&](const Registered& entry, const QVariant& stored, const QString& text) {
         const QString& key = entry.first;
         if (!stored.isValid())
@@ -84,12 +84,12 @@ void SettingsInspection::inspectValues(const QString& path)
         else if (m_migration == Migration::Upgrade && key == keys::Engine && text != engines::Deferred)
             m_changes.push_back({key, false, shown(stored), engines::Deferred,
                                  "is of an older version, whose engine is not kept"});
-        else if (isRepair(stored, text))
+        else if (needsRepair(stored, text))
             m_changes.push_back({key, false, shown(stored), text, reasonFor(entry, stored, text)});
     };
     if (!validateSettings(*settings, m_error, recordChange) && m_error.isEmpty())
         m_error = "The default of a setting is not valid";
-    m_folders = rehearsal.folders();
+    m_folders = dryRun.folders();
 }
 
 } // namespace zel

@@ -48,11 +48,11 @@ Exit codes, of which the worst of all files counts; from good to bad:
   2  the file cannot be read, written or repaired, or this report cannot be written
   3  wrong usage, or a name that is not UTF-8 text
 
-Only the keys that the editor itself registers are checked. The viewer checks more when it starts, and keys
-that are unknown here stay as they are. In a file that does not exist every key is missing. The default
-folders are those of the user who runs the check: run it as the owner of the file. Of a file whose
-"settingsVersion" is below 1 the editor keeps only the language, and a copy: the report calls this a fresh
-start. A repair keeps its values.
+Only the keys that the library itself registers are checked, not those of the pages
+(resources/Defaults.ini). The viewer checks more when it starts, and keys that are unknown here stay as they
+are. In a file that does not exist every key is missing. The default folders are those of the user who runs
+the check: run it as the owner of the file. Of a file whose "settingsVersion" is below 1 the editor keeps
+only the language, and a copy: the report calls this a fresh start. A repair keeps its values.
 )";
 
 struct Options

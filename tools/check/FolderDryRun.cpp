@@ -1,4 +1,4 @@
-#include "FolderRehearsal.h"
+#include "FolderDryRun.h"
 
 #include "base/ZelFileFunctions.h"
 
@@ -8,22 +8,22 @@
 
 namespace zel {
 
-FolderRehearsal* FolderRehearsal::s_current = nullptr;
+FolderDryRun* FolderDryRun::s_current = nullptr;
 
-FolderRehearsal::FolderRehearsal()
+FolderDryRun::FolderDryRun()
     : m_former(folderFunctions)
 {
     s_current = this;
     folderFunctions = {&isFolder, &createFolder};
 }
 
-FolderRehearsal::~FolderRehearsal()
+FolderDryRun::~FolderDryRun()
 {
     folderFunctions = m_former;
     s_current = nullptr;
 }
 
-bool FolderRehearsal::isFolder(const QString& path)
+bool FolderDryRun::isFolder(const QString& path)
 {
     // Creating a folder creates its parents too.
     const QString folder = QDir::cleanPath(QDir(path).absolutePath()) + '/';
@@ -35,7 +35,7 @@ bool FolderRehearsal::isFolder(const QString& path)
                         }));
 }
 
-bool FolderRehearsal::createFolder(const QString& path)
+bool FolderDryRun::createFolder(const QString& path)
 {
     if (isFolder(path))
         return true;
