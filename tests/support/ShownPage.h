@@ -53,6 +53,25 @@ struct User
     QWidget* window = nullptr;
 };
 
+/// Answers the message boxes that open while it lives, by keys. Keeps their texts.
+struct BoxAnswer : QTimer
+{
+    explicit BoxAnswer(const QList<Qt::Key>& keys)
+    {
+        callOnTimeout([this, keys] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box || !box->isVisible())
+                return;
+            texts << box->text();
+            for (const Qt::Key key : keys)
+                QTest::keyClick(box->windowHandle(), key);
+        });
+        start(20);
+    }
+
+    QStringList texts;
+};
+
 /// A page in an active window of the drawer's width, loaded from the settings, and the user in front of it.
 template <class Page>
 struct ShownPage : User
