@@ -114,9 +114,9 @@ public:
     /// Waits for a window whose title matches to have the keyboard; it is the one that what follows is about.
     bool shows(const QString& title)
     {
-        const QString process = QString::number(m_process.processId());
-        const QStringList search = {"search", "--all",  "--onlyvisible",  "--pid",
-                                    process,  "--name", '^' + title + '$'};
+        const QString visible =
+            QString("search --all --onlyvisible --pid %1 --name").arg(m_process.processId());
+        const QStringList search = visible.split(' ') << '^' + title + '$';
         const auto appears = [&] {
             m_window = Desktop::ask("xdotool", {"getactivewindow"});
             return !m_window.isEmpty() && Desktop::ask("xdotool", search).split('\n').contains(m_window);
@@ -135,7 +135,6 @@ public:
         return shown;
     }
 
-    /// What the editor has written to its standard output.
     QByteArray output() { return m_process.readAllStandardOutput(); }
 
     bool has(const QString& property, const QString& state) const
@@ -150,7 +149,6 @@ private:
     Program m_process;
 };
 
-/// The main function of a test that needs a desktop.
 template <class Test>
 int runOnDesktop(int argc, char** argv)
 {
