@@ -3,8 +3,8 @@
 
 #include "FakeApplication.h"
 #include "ZelSettingsRegistry.h"
+#include "ZelSettingsValidators.h"
 
-#include <QtTest>
 #include <QtWidgets>
 
 /// Key and text, as a settings file or the registry holds them.
@@ -15,7 +15,7 @@ inline void registerDefaults(const SettingsTexts& defaults)
 {
     zel::ZelSettingsRegistry::ClearSettingsValues();
     for (const QString& key : defaults.keys())
-        zel::ZelSettingsRegistry::RegisterSetting(key, defaults[key], nullptr);
+        zel::ZelSettingsRegistry::RegisterSetting(key, defaults[key], &zel::ZelSettingsValidators::noOp);
 }
 
 inline void store(QSettings& settings, const SettingsTexts& texts)
