@@ -3,9 +3,6 @@
 #include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
 
-#include <QtTest>
-#include <QtWidgets>
-
 #include <random>
 #if defined(_WIN32)
 #    include <windows.h>
@@ -251,8 +248,7 @@ private:
                 m_shown[other.widget] = shownValue(find(other.widget));
         }
         m_shown[field.widget] = value;
-        // The numbers of the Import page emit nothing; its buttons, and ratios, emit on each visit, the other
-        // widgets on changes.
+        // Numbers of the Import page emit nothing, its buttons and ratios on each visit, all else on changes.
         const bool changed = m_shown != before;
         m_announced = (field.page == "Import" ? radio : !field.key || changed) || (m_announced && !changed);
     }
@@ -313,9 +309,8 @@ private:
 
 } // namespace
 
-/// Edits, applies, resets, reopenings and scrolls in random order. Window and file must follow the model
-/// after each step; no resource may have grown after each round; none may be left after the window is
-/// closed. The environment variables WALK_SEED and WALK_ROUNDS make another walk, or a longer one.
+/// After each step window and file must follow the model, after the rounds no resource may have grown, and
+/// none may be left of a closed window. WALK_SEED and WALK_ROUNDS make another walk, or a longer one.
 class tst_RandomWalk : public QObject
 {
     Q_OBJECT
@@ -358,9 +353,8 @@ private Q_SLOTS:
                 walk.closeMenu();
                 const Census last;
                 QCOMPARE(last.held, warm->held);
-                const qint64 growthOfStep = (last.heap - warm->heap) / (steps * (rounds - warmUp));
-                QVERIFY2(growthOfStep < 300,
-                         qPrintable(QString("%1 bytes more with each step").arg(growthOfStep)));
+                const qint64 growth = (last.heap - warm->heap) / (steps * (rounds - warmUp));
+                QVERIFY2(growth < 300, qPrintable(QString("%1 bytes more each step").arg(growth)));
             }
             const QString left = Census().held;
             QCOMPARE(left, window == 0 ? left : closed);
