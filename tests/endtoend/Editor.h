@@ -7,7 +7,6 @@
 /// How long a test waits for what must happen, in milliseconds; for a machine that is busy with a build.
 const int Patience = 20000;
 
-/// A program that ends with the object.
 struct Program : QProcess
 {
     ~Program() override

@@ -38,7 +38,6 @@ const QByteArray Binary = QByteArray("\0\xFF[\xFE]\n=\x01\0=[[%\\x\n\"", 18).rep
 const char* const FrenchSelector = "Torvane - Veuillez choisir .*";
 const char* const FrenchWindow = "Torvane - Centre de contr.*le";
 
-/// Key and text, as a settings file holds them.
 using Texts = QMap<QString, QString>;
 
 const struct Start

@@ -384,9 +384,8 @@ private Q_SLOTS:
         store(target, "no settings\n");
         for (const Operation operation : {&migrate, &apply, &validate}) {
             const QByteArray before = contentOf(target);
-            QVERIFY(operation(m_path));
+            QVERIFY(operation(m_path) && contentOf(target) != before);
             QCOMPARE(QFile::symLinkTarget(m_path), target);
-            QVERIFY(contentOf(target) != before);
         }
         QCOMPARE(copies().size(), 1);
         QCOMPARE(QDir("elsewhere").entryList(QDir::Files), QStringList("target.ini"));

@@ -24,7 +24,6 @@ inline void store(QSettings& settings, const SettingsTexts& texts)
         settings.setValue(key, texts[key]);
 }
 
-/// The user in front of a window.
 struct User
 {
     template <class T = QWidget>
