@@ -1,5 +1,4 @@
-#include "BoxAnswer.h"
-#include "FakeApplication.h"
+#include "ShownPage.h"
 #include "ZelCCActionItem.h"
 #include "ZelControlCenter.h"
 #include "ZelGeneralSettingsPanel.h"
@@ -42,26 +41,24 @@ public:
 
     void initializeWidget() override
     {
-        note("initialize");
+        m_calls << getPanelName() + " initialize";
         modified = false;
     }
     bool hasModifications() const override { return modified; }
     bool applyModifications() override
     {
-        note("apply");
+        m_calls << getPanelName() + " apply";
         modified = false;
         return needsRestart;
     }
     bool canResetContent() const override { return resettable; }
-    void resetContent() override { note("reset"); }
+    void resetContent() override { m_calls << getPanelName() + " reset"; }
     bool cancelModifications() override { return false; }
 
 Q_SIGNALS:
     void stateChanged();
 
 private:
-    void note(const QString& call) { m_calls << getPanelName() + " " + call; }
-
     QStringList& m_calls;
 };
 
@@ -218,7 +215,7 @@ private Q_SLOTS:
                 openEverything();
                 m_pages[0]->needsRestart = needed;
                 m_pages[0]->edit();
-                BoxAnswer answer(QMessageBox::Ok);
+                BoxAnswer answer({Qt::Key_Tab, Qt::Key_Return});
                 QTest::mouseClick(button("applyButton"), Qt::LeftButton);
                 QVERIFY(!canApply() && m_calls == QStringList("P0 apply"));
                 QCOMPARE(answer.texts, insideViewer && needed ? restart : none);
@@ -239,7 +236,7 @@ private Q_SLOTS:
         for (const int answerAfter : {0, 200}) { // During the slide, and when it is over.
             openEverything();
             m_pages[0]->edit();
-            BoxAnswer answer(QMessageBox::Cancel, Qt::Key_Return); // What is not destructive is the default.
+            BoxAnswer answer({Qt::Key_Return}); // What is not destructive is the default.
             answer.setInterval(answerAfter);
             m_controlCenter->openMenu(false);
             QTRY_VERIFY(m_controlCenter->isSettingsOpen());
@@ -249,7 +246,7 @@ private Q_SLOTS:
         }
         m_pages[0]->edit();
         m_application->engineUpdates.clear();
-        BoxAnswer answer(QMessageBox::Cancel);
+        BoxAnswer answer({Qt::Key_Escape});
         m_controlCenter->openMenu(false); // With the drawer closed, it stays so.
         QCOMPARE(answer.texts.size(), 1);
         QVERIFY(m_application->engineUpdates.last() && m_controlCenter->isMenuOpen());
@@ -315,7 +312,7 @@ private Q_SLOTS:
             if (press.contains("resize"))
                 m_view->resize(m_view->size() - QSize(0, 1));
             m_pages[0]->modified = !press.contains("without");
-            BoxAnswer answer(QMessageBox::Cancel);
+            BoxAnswer answer({Qt::Key_Escape});
             answer.setInterval(GuardTime);
             QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
                               inView.mapTo(m_window.get(), QPoint(10, 10)));
@@ -406,8 +403,7 @@ private Q_SLOTS:
         for (const char* log : {".before", ""}) // What has been logged until now is in the first one.
             MTLogger::InstallFileHandler((path + log).toStdString(), false, "");
         ZelControlCenter::RegisterSetting("DBCache/cacheSize", "1024", &ZelControlCenter::noOp);
-        zel::ZelGeneralSettingsPanel page(m_application.get(), m_application->getSettings(), nullptr,
-                                          Qt::WindowFlags());
+        zel::ZelGeneralSettingsPanel page(m_application.get(), m_application->getSettings(), nullptr, {});
         m_controlCenter->registerSettingsPanel(&page);
         openEverything();
         m_controlCenter->unregisterSettingsPanel(&page, true);
@@ -419,27 +415,17 @@ private Q_SLOTS:
         QVERIFY2(!warnings[0].contains("cacheSize"), qPrintable(warnings[0]));
     }
 
-    void pageKeepsItsStyle()
+    void pagesAreReadableAndKeepTheirStyle()
     {
-        FakePage page("Styled", m_application->getSettings(), m_calls);
-        QFrame frame(&page);
-        QLabel label("Text", &frame);
-        const QStringList sheets = {"QLabel { color: #ff0000; }", "QLabel { background: #00ff00; }"};
-        page.setStyleSheet(sheets[0]);
-        frame.setStyleSheet(sheets[1]);
-        label.ensurePolished();
-        m_controlCenter->registerSettingsPanel(&page);
-        QCOMPARE(QStringList({page.styleSheet(), frame.styleSheet()}), sheets);
-        QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::red));
-        QCOMPARE(label.palette().color(QPalette::Window), QColor(Qt::green));
-    }
-
-    void plainTextsAreReadable()
-    {
-        FakePage page("Plain", m_application->getSettings(), m_calls);
+        FakePage page("Page", m_application->getSettings(), m_calls);
         auto* dialog = new QDialog(&page);
         QWidget* const readable[] = {new QLabel("text", &page), new QCheckBox("text", &page),
                                      new QRadioButton("text", &page), new QLabel("text", dialog)};
+        QFrame frame(&page);
+        QPushButton styled("text", &frame);
+        page.setStyleSheet("QPushButton { color: #ff0000; }");
+        frame.setStyleSheet("QPushButton { background: #00ff00; }");
+        styled.ensurePolished();
         m_controlCenter->registerSettingsPanel(&page);
         for (QWidget* widget : readable) {
             widget->ensurePolished();
@@ -449,6 +435,8 @@ private Q_SLOTS:
                 widget->palette().color(QPalette::WindowText).lightness() - behind.lightness();
             QVERIFY2(inDrawer ? difference > 128 : difference < -128, widget->metaObject()->className());
         }
+        QCOMPARE(styled.palette().color(QPalette::WindowText), QColor(Qt::red));
+        QCOMPARE(styled.palette().color(QPalette::Window), QColor(Qt::green));
     }
 
     void mirrorsItsAction()
@@ -532,7 +520,6 @@ private Q_SLOTS:
         };
         QCOMPARE(look(external.icon(), QIcon::On), look(QIcon(on), QIcon::On));
         QCOMPARE(look(external.icon(), QIcon::Off), look(QIcon(off), QIcon::Off));
-        QVERIFY(look(QIcon(on), QIcon::On) != look(QIcon(off), QIcon::Off));
     }
 
 private:
@@ -560,7 +547,6 @@ private:
         QTest::keyClick(QApplication::activeWindow()->windowHandle(), static_cast<Qt::Key>(key), modifier);
     }
 
-    /// Opens menu and drawer by short slides.
     void openEverything()
     {
         for (QPropertyAnimation* slide : m_controlCenter->findChildren<QPropertyAnimation*>())

@@ -4,7 +4,7 @@
 
 #include "platform/zelAction.h"
 
-using zel::ZelRendererSettingsPanel;
+using Page = zel::ZelRendererSettingsPanel;
 
 namespace {
 
@@ -30,7 +30,7 @@ struct Viewer : FakeApplication
     }
 };
 
-struct Display : ShownPage<ZelRendererSettingsPanel>
+struct Display : ShownPage<Page>
 {
     explicit Display(FakeApplication& viewer)
         : ShownPage(&viewer, viewer.getSettings())
@@ -75,8 +75,7 @@ private Q_SLOTS:
             for (const QString& value : values.split('|')) {
                 const QStringList row = (key + ' ' + value).split(' ');
                 Viewer viewer({{"engine", row[0]}});
-                const QString saved =
-                    writtenUntouched<ZelRendererSettingsPanel>(viewer, {{row[1], row[2]}}, row[1]);
+                const QString saved = writtenUntouched<Page>(viewer, {{row[1], row[2]}}, row[1]);
                 QVERIFY2(saved == row.value(3), qPrintable(row.join(' ') + ": " + saved));
                 QCOMPARE(viewer.renderer.triangles.isEmpty(), saved.isEmpty());
             }
@@ -85,7 +84,7 @@ private Q_SLOTS:
     void worksWithoutAnApplication()
     {
         FakeApplication empty;
-        ShownPage<ZelRendererSettingsPanel> display(nullptr, empty.getSettings());
+        ShownPage<Page> display(nullptr, empty.getSettings());
         display.click("raytracerButton");
         QVERIFY(display.page.applyModifications() && empty.storedFile().contains("engine=software"));
         QCOMPARE(empty.getSettings().allKeys().size(), Plain.size());
@@ -142,19 +141,31 @@ private Q_SLOTS:
         }
     }
 
-    void resetsToTheDefaults()
+    void resetShowsTheDefaults()
     {
         SettingsTexts defaults = Plain;
         defaults.insert(
             {{"engine", "software"}, {"raytracer/quality", "Ultra"}, {"Resources/LODTrianglesCap", "50000"}});
         registerDefaults(defaults);
-        Viewer viewer;
+        Viewer viewer({{"raytracer/coreNumber", "0"}});
         Display display(viewer);
+        QCOMPARE(display.text("coreUsedLabel"), QString("0 core"));
         QCOMPARE(display.reset(), 1);
         QVERIFY(!display.canClickReset() && !QApplication::focusWidget());
         QCOMPARE(display.text("qualityLabel"), QString("Ultra"));
         QVERIFY(display.page.applyModifications());
         QCOMPARE(viewer.renderer.triangles, QList<quint64>{50000});
+
+        QCOMPARE(display.text("coreUsedLabel"), QString("1 core"));
+        display.slide("coreUsedSlider", 1);
+        QCOMPARE(display.text("coreUsedLabel"), QString("2 cores"));
+        const QImage image = display.find("qualitySlider")->grab().toImage();
+        QSet<int> marks; // Where there are any, at the height that the style leaves them.
+        for (int x = 1; x < image.width() - 1; ++x)
+            for (int y = image.height() - 6; y < image.height(); ++y)
+                if (image.pixelColor(x, y) == Qt::white)
+                    marks << x;
+        QCOMPARE(marks.size(), 4);
     }
 
     void selectorChoosesByMouseAndKeyboard()
@@ -191,24 +202,6 @@ private Q_SLOTS:
         QTest::keyClick(selector.focusWidget(), Qt::Key_Return); // Wherever the focus is.
         QVERIFY(!selector.isVisible() && !selector.useGPURenderer());
         QCOMPARE(selector.result(), int(QDialog::Accepted));
-    }
-
-    void labelsAndMarksTheSliders()
-    {
-        Viewer viewer({{"engine", "software"}, {"raytracer/coreNumber", "0"}});
-        Display display(viewer);
-        QCOMPARE(display.text("coreUsedLabel"), QString("0 core"));
-        for (const char* text : {"2 cores", "1 core"}) {
-            display.slide("coreUsedSlider", text[0] - '1');
-            QCOMPARE(display.text("coreUsedLabel"), QString(text));
-        }
-        const QImage image = display.find("qualitySlider")->grab().toImage();
-        QSet<int> marks; // Where there are any, at the height that the style leaves them.
-        for (int x = 1; x < image.width() - 1; ++x)
-            for (int y = image.height() - 6; y < image.height(); ++y)
-                if (image.pixelColor(x, y) == Qt::white)
-                    marks << x;
-        QCOMPARE(marks.size(), 4);
     }
 };
 

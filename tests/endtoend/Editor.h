@@ -7,7 +7,6 @@
 /// How long a test waits for what must happen, in milliseconds; for a machine that is busy with a build.
 const int Patience = 20000;
 
-/// A program that ends with the object.
 struct Program : QProcess
 {
     ~Program() override
@@ -114,9 +113,9 @@ public:
     /// Waits for a window whose title matches to have the keyboard; it is the one that what follows is about.
     bool shows(const QString& title)
     {
-        const QString process = QString::number(m_process.processId());
-        const QStringList search = {"search", "--all",  "--onlyvisible",  "--pid",
-                                    process,  "--name", '^' + title + '$'};
+        const QString visible =
+            QString("search --all --onlyvisible --pid %1 --name").arg(m_process.processId());
+        const QStringList search = visible.split(' ') << '^' + title + '$';
         const auto appears = [&] {
             m_window = Desktop::ask("xdotool", {"getactivewindow"});
             return !m_window.isEmpty() && Desktop::ask("xdotool", search).split('\n').contains(m_window);
@@ -135,7 +134,6 @@ public:
         return shown;
     }
 
-    /// What the editor has written to its standard output.
     QByteArray output() { return m_process.readAllStandardOutput(); }
 
     bool has(const QString& property, const QString& state) const
@@ -150,7 +148,6 @@ private:
     Program m_process;
 };
 
-/// The main function of a test that needs a desktop.
 template <class Test>
 int runOnDesktop(int argc, char** argv)
 {

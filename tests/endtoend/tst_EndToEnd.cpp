@@ -38,7 +38,6 @@ const QByteArray Binary = QByteArray("\0\xFF[\xFE]\n=\x01\0=[[%\\x\n\"", 18).rep
 const char* const FrenchSelector = "Torvane - Veuillez choisir .*";
 const char* const FrenchWindow = "Torvane - Centre de contr.*le";
 
-/// Key and text, as a settings file holds them.
 using Texts = QMap<QString, QString>;
 
 const struct Start
@@ -129,8 +128,7 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(editor.picture() != before, Patience);
         editor.act(TypeCacheSize + "512");
         editor.act(Close);
-        QVERIFY(editor.isAnswered(Question, "key Escape"));
-        QVERIFY(editor.shows(Window));
+        QVERIFY(editor.isAnswered(Question, "key Escape") && editor.shows(Window));
         editor.act(Apply);
         QTRY_COMPARE_WITH_TIMEOUT(stored()["DBCache/cacheSize"], QString("512"), Patience);
 
@@ -186,8 +184,7 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(first.has("WM_STATE", "Iconic"), Patience);
         second.start({QString::fromUtf8("C:\\\346\244\205 \360\237\252\221.3d"), "", "--help?"});
         QCOMPARE(second.exitCode(), 0);
-        QVERIFY(first.shows(Window));
-        QVERIFY(first.has("WM_STATE", "Normal"));
+        QVERIFY(first.shows(Window) && first.has("WM_STATE", "Normal"));
     }
 
 private:
@@ -195,7 +192,7 @@ private:
     {
         init();
         if (!start.before.isEmpty())
-            store(start.before);
+            store(settingsFile(), start.before);
         Editor editor(m_home);
         editor.start();
         const bool used = start.window != Selector;
@@ -215,12 +212,6 @@ private:
 
     QString settingsFolder() const { return m_home + "/config/TorvaneBoundlessX64"; }
     QString settingsFile() const { return settingsFolder() + "/Settings.ini"; }
-
-    void store(const QByteArray& text) const
-    {
-        QDir().mkpath(settingsFolder());
-        ::store(settingsFile(), text);
-    }
 
     static Texts textsOf(const QString& path)
     {
@@ -253,7 +244,8 @@ private:
     /// Starts the editor on a known renderer and waits until its drawer has opened.
     bool opensWindow(Editor& editor, const QString& redirection = QString()) const
     {
-        store("[General]\nsettingsVersion=2\nengine=deferred\n[Simplification]\nRatios=0.5/2/3/4/5\n");
+        store(settingsFile(), "[General]\nsettingsVersion=2\nengine=deferred\n"
+                              "[Simplification]\nRatios=0.5/2/3/4/5\n");
         editor.start({}, redirection);
         return editor.shows(Window) && !editor.picture().isNull();
     }

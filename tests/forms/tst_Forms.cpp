@@ -7,27 +7,23 @@ class tst_Forms : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyObjectIsLoaded_data()
+    void everyObjectIsLoaded()
     {
-        QTest::addColumn<QString>("path");
-        for (const char* folder : {"controlcenter", "display", "examples", "panels", "standalone"}) {
-            QDirIterator forms(QString(ZEL_SOURCES "/") + folder, {"*.ui"}, QDir::Files,
-                               QDirIterator::Subdirectories);
+        for (const QString folder : {"controlcenter", "display", "examples", "panels", "standalone"}) {
+            QDirIterator forms(ZEL_SOURCES "/" + folder, {"*.ui"}, QDir::Files, QDirIterator::Subdirectories);
             QVERIFY(forms.hasNext());
             while (forms.hasNext())
-                QTest::newRow(qPrintable(QFileInfo(forms.next()).fileName())) << forms.filePath();
+                everyObjectIsLoaded(forms.next());
         }
     }
 
-    void everyObjectIsLoaded()
+private:
+    static void everyObjectIsLoaded(const QString& path)
     {
-        QFETCH(QString, path);
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadOnly));
-        QUiLoader loader;
-        const QScopedPointer<QWidget> form(loader.load(&file));
-        QVERIFY2(form, qPrintable(loader.errorString()));
-
+        const std::unique_ptr<QWidget> form(QUiLoader().load(&file));
+        QVERIFY2(form, qPrintable(path));
         file.seek(0);
         const QString xml = file.readAll();
         QMap<QString, QString> baseOf; // Of a promoted class.
@@ -42,9 +38,9 @@ private Q_SLOTS:
         while (objects.hasNext()) {
             const QStringList object = objects.next().capturedTexts();
             const QObject* loaded =
-                form->objectName() == object[3] ? form.data() : form->findChild<QObject*>(object[3]);
+                form->objectName() == object[3] ? form.get() : form->findChild<QObject*>(object[3]);
             const QString expected = baseOf.value(object[2], object[2]);
-            QVERIFY2(loaded && loaded->inherits(qPrintable(expected)), qPrintable(object[3]));
+            QVERIFY2(loaded && loaded->inherits(qPrintable(expected)), qPrintable(path + ": " + object[3]));
         }
     }
 };

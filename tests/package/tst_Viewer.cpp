@@ -79,8 +79,7 @@ private:
     void answer(const char* action, const char* key)
     {
         m_viewer->act(action);
-        QVERIFY(m_viewer->isAnswered(Box, key));
-        QVERIFY(m_viewer->shows(Window));
+        QVERIFY(m_viewer->isAnswered(Box, key) && m_viewer->shows(Window));
     }
 
     void openDrawer()

@@ -66,17 +66,14 @@ private:
 private Q_SLOTS:
     void init()
     {
-        ZelControlCenter::ClearSettingsValues();
+        registerDefaults({{"screenshot/ImageFolder", ""},
+                          {"DBCache/cacheDirectory", ""},
+                          {"DBCache/cacheSize", "1024"},
+                          {"engine", "deferred"}});
         QSettings defaults(ZEL_DEFAULTS, QSettings::IniFormat);
         ZelPageDefaults::Register(defaults);
-        for (const char* folder : {"screenshot/ImageFolder", "DBCache/cacheDirectory"})
-            ZelControlCenter::RegisterSetting(folder, "", &ZelControlCenter::noOp);
-        ZelControlCenter::RegisterSetting("DBCache/cacheSize", "1024", &ZelControlCenter::noOp);
-        ZelControlCenter::RegisterSetting("engine", "deferred", &ZelControlCenter::ensureEngine);
         open("en");
     }
-
-    void cleanup() { m_window.reset(); }
 
     void tellsOfTheSettingReachedLast()
     {
@@ -97,8 +94,7 @@ private Q_SLOTS:
         for (const int width : {1200, 800}) { // A field shows its tool tip where the area does not.
             m_window->resize(width, 600);
             QCOMPARE(find("helpFrame")->isVisible(), width == 1200);
-            QHelpEvent rest(QEvent::ToolTip, QPoint(1, 1),
-                            find("databaseSpinBox")->mapToGlobal(QPoint(1, 1)));
+            QHelpEvent rest(QEvent::ToolTip, QPoint(1, 1), find("databaseSpinBox")->mapToGlobal({1, 1}));
             QCoreApplication::sendEvent(find("databaseSpinBox"), &rest);
             QCOMPARE(QToolTip::isVisible(), width == 800);
         }

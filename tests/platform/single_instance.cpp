@@ -1,13 +1,10 @@
-// A program that runs once. It is "ready" first, and goes on when its standard input ends; then it tells
-// which part it plays: the instance shows the messages that it gets, a client sends what was on its standard
-// input.
+// A program that runs once. It is "ready" first, and when its standard input ends, it tells which part it
+// plays: the instance shows the messages that it gets, a client sends what was on its standard input.
 //   single_instance <time-out of sending in milliseconds> [<id of the user to become>]
 
 #include "QtSingleApplication.h"
 
-#include <QFile>
-#include <QTextStream>
-#include <QTimer>
+#include <QtCore>
 
 #if defined(_WIN32)
 #    include <fcntl.h>

@@ -86,22 +86,19 @@ private:
     {
         DWORD session = 0;
         ProcessIdToSessionId(GetCurrentProcessId(), &session);
-        const QString id = QString("%1/single_instance.exe/%2/%3")
-                               .arg(QCoreApplication::applicationDirPath())
-                               .arg(session)
-                               .arg(qEnvironmentVariable("USERNAME"));
+        const QString id = QCoreApplication::applicationDirPath() + "/single_instance.exe/" +
+                           QString::number(session) + '/' + qEnvironmentVariable("USERNAME");
         const QByteArray hash = QCryptographicHash::hash(id.toUtf8(), QCryptographicHash::Sha1).toHex();
         return "single-instance-" + hash.left(20);
     }
 #else
-    QString server() const
-    {
-        return find(m_runtime, "*.socket");
-    }
-
     static QString find(const QString& folder, const QString& pattern)
     {
         return folder + '/' + QDir(folder).entryList({pattern}, QDir::Files | QDir::System).value(0);
+    }
+    QString server() const
+    {
+        return find(m_runtime, "*.socket");
     }
 #endif
 
@@ -136,16 +133,16 @@ private Q_SLOTS:
         for (const auto& process : processes)
             process->closeWriteChannel();
         const auto isClient = [](const auto& process) { return process->line() == "client"; };
-        const auto instance = std::find_if_not(processes.begin(), processes.end(), isClient);
-        QVERIFY(std::all_of(instance + 1, processes.end(), isClient));
-        sent.removeAt(static_cast<int>(instance - processes.begin()));
-        for (auto client = processes.begin(); client != processes.end(); ++client) {
-            if (client == instance)
-                continue;
-            QCOMPARE((*client)->line(), QByteArray("sent"));
-            QVERIFY((*client)->state() == QProcess::NotRunning || (*client)->waitForFinished(Patience));
-            QCOMPARE((*client)->exitCode(), 0);
-            received << QByteArray::fromHex((*instance)->line());
+        const auto found = std::find_if_not(processes.begin(), processes.end(), isClient);
+        sent.removeAt(static_cast<int>(found - processes.begin()));
+        const ProcessPointer instance = std::move(*found);
+        const auto others = processes.erase(found);
+        QVERIFY(std::all_of(others, processes.end(), isClient));
+        for (const auto& client : processes) {
+            QCOMPARE(client->line(), QByteArray("sent"));
+            QVERIFY(client->state() == QProcess::NotRunning || client->waitForFinished(Patience));
+            QCOMPARE(client->exitCode(), 0);
+            received << QByteArray::fromHex(instance->line());
         }
         std::sort(sent.begin(), sent.end());
         std::sort(received.begin(), received.end());
@@ -198,8 +195,6 @@ private Q_SLOTS:
     void clientWaitsUntilTheInstanceListens()
     {
         QCOMPARE(start()->part(), QByteArray("instance"));
-        QVERIFY(QFileInfo(find(m_runtime, "*.socket")).fileName() != "");
-
         // Now this process has the lock, as an instance has before it listens.
         const int lock = ::open(QFile::encodeName(find(m_runtime, "*.lock")).constData(), O_RDWR | O_CLOEXEC);
         QCOMPARE(::flock(lock, LOCK_EX | LOCK_NB), 0);

@@ -1,9 +1,6 @@
+#include "../support/Files.h"
 #include "ZelSettingsRegistry.h"
 #include "ZelSettingsValidators.h"
-
-#include <QSettings>
-#include <QTemporaryDir>
-#include <QtTest>
 
 using namespace zel;
 using Registry = ZelSettingsRegistry;
@@ -32,12 +29,6 @@ bool firstCheck(QSettings& settings, QString& error)
     return error.isEmpty();
 }
 
-bool secondCheck(QSettings&, QString&)
-{
-    calls << "second";
-    return true;
-}
-
 } // namespace
 
 class tst_ZelSettingsRegistry : public QObject
@@ -61,11 +52,13 @@ private Q_SLOTS:
     {
         // Nothing ever empties the list of end checks.
         QVERIFY(Registry::RegisterEndCheckFunction(&firstCheck));
-        QVERIFY(Registry::RegisterEndCheckFunction(&secondCheck));
+        QVERIFY(Registry::RegisterEndCheckFunction([](QSettings&, QString&) {
+            calls << "second";
+            return true;
+        }));
         QVERIFY(!Registry::RegisterEndCheckFunction(&firstCheck));
         const QTemporaryDir folder;
-        QFile file(folder.filePath("Settings.ini"));
-        QSettings settings(file.fileName(), QSettings::IniFormat);
+        QSettings settings(folder.filePath("Settings.ini"), QSettings::IniFormat);
         settings.setValue("Version", 1);
         settings.setValue("b/known", "old");
         settings.setValue("foreign/key", "kept");
@@ -75,8 +68,7 @@ private Q_SLOTS:
         QString error;
         QVERIFY(Registry::EnsureSettings(settings, error) && error.isEmpty());
         QCOMPARE(calls.join(' '), QString("a:missing:missing b/known:default:old first:MISSING second"));
-        QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Text));
-        QCOMPARE(file.readAll(),
+        QCOMPARE(contentOf(settings.fileName()),
                  QByteArray("[General]\nVersion=2\na=MISSING\n\n[b]\nknown=OLD\n\n[foreign]\nkey=kept\n"));
 
         // A failure stops it.

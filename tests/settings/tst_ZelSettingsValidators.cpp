@@ -1,8 +1,6 @@
 #include "ZelSettingsRegistry.h"
 #include "ZelSettingsValidators.h"
 
-#include <QTemporaryDir>
-#include <QThread>
 #include <QtTest>
 
 using namespace zel;
@@ -62,9 +60,8 @@ private Q_SLOTS:
                 QCOMPARE(pairs[i] + " becomes " + value, pairs[i] + " becomes " + pairs[i + 1]);
             }
         }
-        QString value("1/2"), error;
-        QVERIFY(!V::ensureSimplificationRatios("key", "1/0.5", value, error)); // A malformed default.
-        QVERIFY(error.isEmpty());
+        QString value("1/2"), error; // Neither they nor the default are well formed.
+        QVERIFY(!V::ensureSimplificationRatios("key", "1/0.5", value, error) && error.isEmpty());
     }
 
     void folders()

@@ -1,5 +1,4 @@
-#include "BoxAnswer.h"
-#include "FakeApplication.h"
+#include "ShownPage.h"
 #include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
 #include "ZelSettingsPanel.h"
@@ -131,7 +130,7 @@ private Q_SLOTS:
         check->setChecked(false);
         press(Qt::Key_Space, Qt::NoModifier);
         for (const Qt::Key key : {Qt::Key_Q, Qt::Key_W}) {
-            BoxAnswer answer(QMessageBox::NoButton, Qt::Key_Return);
+            BoxAnswer answer({Qt::Key_Return});
             press(key, Qt::ControlModifier);
             QCOMPARE(answer.texts.size(), 1);
             QVERIFY(m_window.isVisible() && check->isChecked());

@@ -10,13 +10,10 @@
 #include "platform/kqDMRenderer.h"
 #include "platform/zelActionManager.h"
 
-// Each fake records what it is handed, in order.
-
 struct FakeManager : kqDMManager
 {
     void setMaxCacheSize(unsigned int megabytes) override { cacheSizes << megabytes; }
     void setSimplificationRatios(std::vector<float>& fractions) override { ratios << fractions; }
-
     QList<unsigned int> cacheSizes;
     QList<std::vector<float>> ratios;
 };
@@ -24,7 +21,6 @@ struct FakeManager : kqDMManager
 struct FakeRenderer : kqDMRenderer
 {
     void setTargetTriangles(quint64 count) override { triangles << count; }
-
     QList<quint64> triangles;
 };
 
@@ -32,19 +28,16 @@ struct FakePlugin : kqDMPlugin
 {
     QString getName() const override { return name; }
     QString getVersion() const override { return "1.2"; }
-
     QString name = "Reader";
 };
 
 struct FakeGuiPlugin : kqDMGuiPlugin
 {
     QWidget* getMainViewWidget() const override { return mainView; }
-
     QWidget* mainView = nullptr;
 };
 
-/// The viewer, as far as pages and the control center see it: an application with a settings file in a
-/// temporary folder, to which a test adds what else it needs by pointing the public members at it.
+/// The viewer, as pages see it, with a settings file in a temporary folder. Tests set its public members.
 class FakeApplication : private QTemporaryDir, public zel::ZelSettingsApplication
 {
 public:

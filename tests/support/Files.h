@@ -10,8 +10,10 @@ inline QByteArray contentOf(const QString& path)
     return file.open(QIODevice::ReadOnly | QIODevice::Text) ? file.readAll() : QByteArray();
 }
 
+/// Makes the folder, too.
 inline void store(const QString& path, const QByteArray& content)
 {
+    QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
 }

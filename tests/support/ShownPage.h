@@ -3,8 +3,8 @@
 
 #include "FakeApplication.h"
 #include "ZelSettingsRegistry.h"
+#include "ZelSettingsValidators.h"
 
-#include <QtTest>
 #include <QtWidgets>
 
 /// Key and text, as a settings file or the registry holds them.
@@ -15,7 +15,7 @@ inline void registerDefaults(const SettingsTexts& defaults)
 {
     zel::ZelSettingsRegistry::ClearSettingsValues();
     for (const QString& key : defaults.keys())
-        zel::ZelSettingsRegistry::RegisterSetting(key, defaults[key], nullptr);
+        zel::ZelSettingsRegistry::RegisterSetting(key, defaults[key], &zel::ZelSettingsValidators::noOp);
 }
 
 inline void store(QSettings& settings, const SettingsTexts& texts)
@@ -24,7 +24,6 @@ inline void store(QSettings& settings, const SettingsTexts& texts)
         settings.setValue(key, texts[key]);
 }
 
-/// The user in front of a window.
 struct User
 {
     template <class T = QWidget>
@@ -51,6 +50,25 @@ struct User
     }
 
     QWidget* window = nullptr;
+};
+
+/// Answers the message boxes that open while it lives, by keys. Keeps their texts.
+struct BoxAnswer : QTimer
+{
+    explicit BoxAnswer(const QList<Qt::Key>& keys)
+    {
+        callOnTimeout([this, keys] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box || !box->isVisible())
+                return;
+            texts << box->text();
+            for (const Qt::Key key : keys)
+                QTest::keyClick(box->windowHandle(), key);
+        });
+        start(20);
+    }
+
+    QStringList texts;
 };
 
 /// A page in an active window of the drawer's width, loaded from the settings, and the user in front of it.

@@ -61,7 +61,7 @@ private:
     FakePlugin m_plugin;
     QTemporaryDir m_updated;
     QString m_language;
-    QTranslator m_translator, m_toolkitTranslator;
+    std::map<QString, std::unique_ptr<QTranslator>> m_translators;
 
 private Q_SLOTS:
     void initTestCase_data()
@@ -84,25 +84,19 @@ private Q_SLOTS:
     {
         QFETCH_GLOBAL(QString, language);
         m_language = language;
-        const QString file = ZEL_STAGE "/resources/languages/%1_%2.qm";
-        QVERIFY(m_translator.load(file.arg("Torvane", language)));
-        QVERIFY(m_toolkitTranslator.load(file.arg("Toolkit", language)));
-        QCoreApplication::installTranslator(&m_translator);
-        QCoreApplication::installTranslator(&m_toolkitTranslator);
-    }
-
-    void cleanup()
-    {
-        QCoreApplication::removeTranslator(&m_translator);
-        QCoreApplication::removeTranslator(&m_toolkitTranslator);
+        for (const QString catalog : {"Torvane", "Toolkit"}) {
+            auto& translator = m_translators[catalog];
+            translator = std::make_unique<QTranslator>(); // The former one leaves the application.
+            QVERIFY(translator->load(ZEL_STAGE "/resources/languages/" + catalog + "_" + language));
+            QCoreApplication::installTranslator(translator.get());
+        }
     }
 
     void hasEveryTextOfTheSources()
     {
         const QString name = "/Torvane_" + m_language + ".ts";
         const QString all = contentOf(ZEL_SOURCES "/resources/languages" + name);
-        QVERIFY2(all.toUtf8() == contentOf(m_updated.path() + name),
-                 "scripts/update-translations would change it");
+        QVERIFY2(all.toUtf8() == contentOf(m_updated.path() + name), "update-translations would change it");
         const QRegularExpression pattern(
             "<source>([^<]*)</source>\\s*<translation>([^<]*[^<\\s][^<]*)</translation>");
         int complete = 0;
@@ -116,9 +110,9 @@ private Q_SLOTS:
 
     void windowsShowTheirTexts()
     {
-        const auto writing = m_language == "ja"   ? QFontDatabase::Japanese
-                             : m_language == "zh" ? QFontDatabase::SimplifiedChinese
-                                                  : QFontDatabase::Latin;
+        const QMap<QString, QFontDatabase::WritingSystem> writings = {
+            {"ja", QFontDatabase::Japanese}, {"zh", QFontDatabase::SimplifiedChinese}};
+        const auto writing = writings.value(m_language, QFontDatabase::Latin);
         QVERIFY2(!QFontDatabase().families(writing).isEmpty(), "no font with the characters is installed");
         const QMessageBox box(QMessageBox::NoIcon, "", "", QMessageBox::Cancel);
         const QString cancel = box.button(QMessageBox::Cancel)->text().remove('&');
