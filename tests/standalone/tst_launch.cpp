@@ -44,7 +44,8 @@ private Q_SLOTS:
             QTRY_COMPARE_WITH_TIMEOUT(second.state(), QProcess::NotRunning, 60000);
             QCOMPARE(second.exitCode(), Refused);
             QVERIFY(second.readAllStandardError().contains("called in this process before"));
-            QTRY_COMPARE(received.value(0).value(0).toString(), message);
+            QTRY_COMPARE(received.size(), 1);
+            QCOMPARE(received[0][0].toString(), message);
             QCOMPARE(second.readAllStandardOutput().replace('\r', ""),
                      QByteArray("QGL\nqglshader\n QGLShader\n"));
         }

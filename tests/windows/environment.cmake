@@ -3,6 +3,7 @@
 
 # What they report goes to the standard output, not to a debugger.
 set(ZEL_TEST_ENVIRONMENT QT_PLUGIN_PATH=${ZEL_STAGE}/bin QT_FORCE_STDERR_LOGGING=1)
+set(ZEL_TEST_PATH PATH=path_list_prepend:${ZEL_STAGE}/bin)
 if(CMAKE_CROSSCOMPILING)
     # By its own name, because Debian's script of the name "wine" is in another package.
     find_program(ZEL_WINE NAMES wine64 wine PATHS /usr/lib/wine REQUIRED)
@@ -10,6 +11,7 @@ if(CMAKE_CROSSCOMPILING)
     # Wine keeps "PATH" and "QT_..." of the machine from a program, and hands over these in their place.
     set(ZEL_TEST_ENVIRONMENT WINEPATH=Z:${ZEL_STAGE}/bin WINEQT_PLUGIN_PATH=Z:${ZEL_STAGE}/bin
                              WINEQT_FORCE_STDERR_LOGGING=1 WINEDEBUG=-all)
+    set(ZEL_TEST_PATH "")
 endif()
 
 # Beside the tests' programs, because it is no part of the product.

@@ -1,7 +1,6 @@
+#include "../support/Files.h"
 #include "SettingsKeys.h"
 #include "ZelSettingsFile.h"
-
-#include <QtTest>
 
 #include <memory>
 #include <random>
@@ -13,12 +12,6 @@ namespace {
 
 const QByteArray Before = "[General]\nengine=deferred\nsettingsVersion=2\n\n[Foreign]\nthing=\xc3\xbc\n";
 const int Patience = 60000; // ms
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll().replace("\r\n", "\n") : "(cannot be read)";
-}
 
 QByteArray with(const QByteArray& engine)
 {
@@ -77,9 +70,7 @@ private Q_SLOTS:
     {
         m_folder.reset(new QTemporaryDir(QDir::tempPath() + QString::fromUtf8("/\xe5\xb1\xb1 XXXXXX")));
         m_path = m_folder->filePath("Settings.ini");
-        QFile file(m_path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(Before);
+        store(m_path, Before);
     }
 
     void waitsForAHeldFile()
