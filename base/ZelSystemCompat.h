@@ -16,7 +16,8 @@
 
 #if !defined(Q_OS_WIN)
 #    include <cerrno>
-#    include <csignal>
+#    include <fcntl.h>
+#    include <sys/file.h>
 #    include <unistd.h>
 #endif
 
@@ -70,15 +71,19 @@ inline bool mayReplace(const QFileInfo& file)
 #endif
 }
 
-/// True when a process with this id exists. Always false on Windows: it removes the locks of a process that
-/// ends, so there is nothing to ask.
-inline bool isRunning(qint64 process)
+/// True while a process holds a lock on the file, as QSettings does. It ends with the process. Always false
+/// on Windows, where nothing but the holder can write to such a file.
+inline bool isLocked(const QString& path)
 {
 #if defined(Q_OS_WIN)
-    Q_UNUSED(process)
+    Q_UNUSED(path)
     return false;
 #else
-    return ::kill(static_cast<pid_t>(process), 0) == 0 || errno == EPERM;
+    const int file = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    const bool locked = file >= 0 && ::flock(file, LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    if (file >= 0)
+        ::close(file);
+    return locked;
 #endif
 }
 

@@ -28,6 +28,7 @@
 #include <QScrollBar>
 #include <QSettings>
 #include <QSignalMapper>
+#include <QTextDocument>
 #include <QTimer>
 
 #include <algorithm>
@@ -263,14 +264,24 @@ bool ZelControlCenter::hasModifications() const
 
 bool ZelControlCenter::applyModifications()
 {
+    QList<ZelSettingsPanel*> edited;
+    for (ZelSettingsPanel* panel : m_panels) {
+        if (panel->hasModifications())
+            edited << panel;
+    }
     bool restart = false;
     const auto apply = [&](QSettings&, QString&) {
-        forEachPanel([&](ZelSettingsPanel* panel) { restart = panel->applyModifications() || restart; });
+        forEachPanel([&](ZelSettingsPanel* panel) {
+            // Another program has changed the file. The page must not put its own values back.
+            if (!edited.contains(panel) && panel->hasModifications())
+                panel->initializeWidget();
+            restart = panel->applyModifications() || restart;
+        });
         return true;
     };
     QSettings& settings = m_application->getSettings();
     QString error;
-    if (!hasModifications())
+    if (edited.isEmpty())
         return apply(settings, error) && restart;
     // One write for all pages, so that the file never has only some of the edits.
     const bool written = ZelSettingsFile::Write(settings, apply, error);
@@ -688,7 +699,8 @@ kqDMGuiPlugin* ZelControlCenter::guiPlugin() const
 void ZelControlCenter::showWriteError(const QString& error)
 {
     m_ui->writeErrorLabel->setText(error);
-    m_ui->writeErrorLabel->setToolTip(error); // The column may be too narrow for a long path.
+    // The column may be too narrow for a long path, which may hold what looks like markup.
+    m_ui->writeErrorLabel->setToolTip(error.isEmpty() ? QString() : Qt::convertFromPlainText(error));
     m_ui->writeErrorLabel->setVisible(!error.isEmpty());
     if (!error.isEmpty())
         alertAbout(*m_ui->writeErrorLabel);

@@ -9,47 +9,38 @@ namespace zel {
 
 namespace {
 
-ZelSettingsRegistry::Settings& registry()
-{
-    static ZelSettingsRegistry::Settings settings;
-    return settings;
-}
-
-std::vector<ZelSettingsRegistry::EndCheck>& endChecks()
-{
-    static std::vector<ZelSettingsRegistry::EndCheck> checks;
-    return checks;
-}
+ZelSettingsRegistry::Settings registry;
+std::vector<ZelSettingsRegistry::EndCheck> endChecks;
 
 } // namespace
 
 bool ZelSettingsRegistry::RegisterSetting(const QString& key, const QString& defaultValue,
                                           Validator validator)
 {
-    return registry().emplace(key, std::make_pair(defaultValue, validator)).second;
+    return registry.emplace(key, std::make_pair(defaultValue, validator)).second;
 }
 
 QString ZelSettingsRegistry::GetDefaultSettingsValue(const QString& key)
 {
-    const auto found = registry().find(key);
-    return found == registry().end() ? QString() : found->second.first;
+    const auto found = registry.find(key);
+    return found == registry.end() ? QString() : found->second.first;
 }
 
 const ZelSettingsRegistry::Settings& ZelSettingsRegistry::GetDefaultSettingsValues()
 {
-    return registry();
+    return registry;
 }
 
 void ZelSettingsRegistry::ClearSettingsValues()
 {
-    registry().clear();
+    registry.clear();
 }
 
 bool ZelSettingsRegistry::RegisterEndCheckFunction(EndCheck check)
 {
-    if (std::find(endChecks().begin(), endChecks().end(), check) != endChecks().end())
+    if (std::find(endChecks.begin(), endChecks.end(), check) != endChecks.end())
         return false;
-    endChecks().push_back(check);
+    endChecks.push_back(check);
     return true;
 }
 
@@ -66,7 +57,7 @@ bool ZelSettingsRegistry::EnsureSettings(QSettings& settings, QString& error)
 
 bool runEndChecks(QSettings& settings, QString& error)
 {
-    return std::all_of(endChecks().begin(), endChecks().end(),
+    return std::all_of(endChecks.begin(), endChecks.end(),
                        [&](ZelSettingsRegistry::EndCheck check) { return check(settings, error); });
 }
 

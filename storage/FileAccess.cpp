@@ -15,7 +15,7 @@ namespace zel {
 namespace {
 
 const qint64 MaximumFileSize = qint64{64} * 1024 * 1024;
-const qint64 MaximumGrowth = 8192; // Bytes that a write needs besides, for its lock and a last block.
+const qint64 MaximumGrowth = 16384; // Bytes that a write needs besides, for its lock and a last block.
 const std::chrono::minutes StaleLockAge(1); // QSettings removes a lock that is older than half a minute.
 const int HeldLockAge = 2000; // ms; an older lock of a running process is stuck: a write takes milliseconds.
 
@@ -32,16 +32,12 @@ QString lockReason(const QString& lock)
     const QFileInfo file(lock);
     if (file.isSymLink() || (file.exists() && (!file.isFile() || !mayReplace(file))))
         return SettingsFileText::tr("\"%1\" is in the way, which no program uses: remove it").arg(lock);
-    QFile reader(lock);
-    if (!reader.open(QIODevice::ReadOnly))
-        return QString();
-    const qint64 process = reader.readLine(32).trimmed().toLongLong();
-    const qint64 age = file.lastModified().msecsTo(QDateTime::currentDateTime());
-    if (process > 0)
-        return age > HeldLockAge && isRunning(process) ? SettingsFileText::tr("another program has locked it")
-                                                       : QString();
-    // Its process has died while it took the lock. QSettings removes such a lock when it is old. It is not
-    // removed here, because by now it may be another program's.
+    if (isLocked(lock))
+        return file.lastModified().msecsTo(QDateTime::currentDateTime()) > HeldLockAge
+                   ? SettingsFileText::tr("another program has locked it")
+                   : QString();
+    // Its process has died. QSettings removes such a lock when it is old. It is not removed here, because by
+    // now it may be another program's.
     std::error_code error;
     std::filesystem::last_write_time(nativePath(lock),
                                      std::filesystem::file_time_type::clock::now() - StaleLockAge, error);

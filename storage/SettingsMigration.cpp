@@ -27,7 +27,8 @@ bool zel::migrateSettings(const QString& path, const QString& language, QString&
     const Migration migration = migrationOf(*file);
     if (migration == Migration::None)
         return true;
-    if (migration == Migration::FreshStart && !keepBackup(path, "it is too old", error))
+    if (migration == Migration::FreshStart &&
+        (!ZelSettingsFile::IsWritable(path, error) || !keepBackup(path, "it is too old", error)))
         return false;
     const auto change = [&](QSettings& settings, QString&) {
         if (migration == Migration::Upgrade) {

@@ -7,7 +7,6 @@
 #include <QDateTime>
 
 #include <chrono>
-#include <cstdlib>
 #include <system_error>
 #include <thread>
 
@@ -17,6 +16,7 @@ namespace {
 
 // A write takes milliseconds. This is longer than a tick of any file system's clock.
 const int WriteTimeout = 3000; // ms
+const int Pause = 50;          // ms
 
 /// Beside the file itself, so that a link stays one.
 QString copyOf(const QString& path)
@@ -29,25 +29,22 @@ QDateTime writtenAt(const QString& path)
     return QFileInfo(path).lastModified();
 }
 
-/// Whether the writer that has made the copy may still be at work.
-bool mayBeAlive(const QString& copy)
-{
-    const qint64 age = writtenAt(copy).msecsTo(QDateTime::currentDateTime());
-    return QFile::exists(copy) && std::abs(age) < WriteTimeout; // The clocks of servers differ.
-}
-
 } // namespace
 
 bool UnfinishedWrite::begin(const QString& path, QString& error)
 {
     if (!QFile::exists(path))
         return true;
-    if (!copySettingsFile(path, copyOf(path), error))
+    // Renamed when it is complete, because it replaces the file if this process dies.
+    const QString incomplete = copyOf(path) + ".new";
+    QFile::remove(incomplete);
+    if (!copySettingsFile(path, incomplete, error))
         return false;
     // Some systems give the copy the time of the file; it would look like one that was left behind.
     std::error_code ignored;
-    std::filesystem::last_write_time(nativePath(copyOf(path)), std::filesystem::file_time_type::clock::now(),
+    std::filesystem::last_write_time(nativePath(incomplete), std::filesystem::file_time_type::clock::now(),
                                      ignored);
+    std::filesystem::rename(nativePath(incomplete), nativePath(copyOf(path)), ignored);
     return true;
 }
 
@@ -55,12 +52,14 @@ void UnfinishedWrite::end(const QString& path, bool written)
 {
     const QString copy = copyOf(path);
     if (written || contentOfFile(path) == contentOfFile(copy)) {
-        QFile::remove(copy);
+        succeedsWhenFree([&] { return QFile::remove(copy) || !QFile::exists(copy); });
         return;
     }
     std::error_code error;
-    std::filesystem::rename(nativePath(copy), nativePath(fileBehind(path).filePath()), error);
-    if (QFile::exists(copy))
+    if (!succeedsWhenFree([&] {
+            std::filesystem::rename(nativePath(copy), nativePath(fileBehind(path).filePath()), error);
+            return !error;
+        }))
         logWarning(QString("Writing \"%1\" failed, and its former content \"%2\" cannot be put back.")
                        .arg(path, copy));
 }
@@ -68,9 +67,12 @@ void UnfinishedWrite::end(const QString& path, bool written)
 void UnfinishedWrite::recover(const QString& path)
 {
     const QString copy = copyOf(path);
-    while (mayBeAlive(copy))
-        std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    if (!QFile::exists(copy))
+    // The writer may still be at work.
+    for (int waited = 0; QFile::exists(copy) && waited < WriteTimeout &&
+                         writtenAt(copy).msecsTo(QDateTime::currentDateTime()) < WriteTimeout;
+         waited += Pause)
+        std::this_thread::sleep_for(std::chrono::milliseconds(Pause));
+    if (!QFileInfo(copy).isFile())
         return;
     // A file that another program has written later is whole.
     const bool isWhole = writtenAt(path) > writtenAt(copy).addMSecs(WriteTimeout);

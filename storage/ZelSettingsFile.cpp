@@ -13,6 +13,7 @@
 #include <QEvent>
 #include <QStringList>
 
+#include <algorithm>
 #include <chrono>
 #include <system_error>
 #include <thread>
@@ -62,7 +63,7 @@ public:
             rollBack();
         if (!SettingsReplaceTheirFile)
             UnfinishedWrite::end(m_path, m_written);
-        else if (!m_written && !m_content.isEmpty() && !isWhole())
+        else if (!m_written && !isWhole())
             restoreContent();
         restoreOwner();
     }
@@ -88,17 +89,18 @@ public:
         return m_prepared;
     }
 
-    /// Reads what others have written, and restores the values that are gone: all of them where the file is
-    /// damaged or empty, else the registered ones.
+    /// Reads what others have written, and restores the values that a damaged or cut file has lost.
     void readAgain()
     {
         const QVariantMap held = valuesOf(m_settings);
         m_settings.sync();
         ZelSettingsFile::UseFileEncoding(m_settings); // Reading the UTF-8 mark brings Qt's own codec back.
         const auto& registered = ZelSettingsRegistry::GetDefaultSettingsValues();
+        const bool isCut = std::any_of(registered.begin(), registered.end(), [&](const auto& entry) {
+            return held.contains(entry.first) && !m_settings.contains(entry.first);
+        });
         for (auto value = held.constBegin(); value != held.constEnd(); ++value) {
-            if (!m_settings.contains(value.key()) &&
-                (m_damaged || m_content.isEmpty() || registered.count(value.key()) != 0))
+            if ((m_damaged || m_content.isEmpty() || isCut) && !m_settings.contains(value.key()))
                 m_settings.setValue(value.key(), *value);
         }
     }
@@ -146,12 +148,16 @@ private:
         const int smallestBlock = 512;
         if (QFileInfo(m_path).size() % smallestBlock != 0)
             return true;
+        const QByteArray content = contentOfFile(m_path);
+        if (!content.isEmpty() && content == m_content)
+            return true;
         int lines = 0;
-        for (const QByteArray& line : contentOfFile(m_path).split('\n')) {
+        for (const QByteArray& line : content.split('\n')) {
             if (!line.trimmed().isEmpty() && !line.startsWith('['))
                 ++lines;
         }
-        return lines >= valuesOf(m_settings).size(); // Others may have added some by now.
+        // Others may have added some by now.
+        return lines >= valuesOf(m_settings).size() && (content.isEmpty() || content.endsWith('\n'));
     }
 
     bool isWritten() const
@@ -186,11 +192,15 @@ private:
         QCoreApplication::removePostedEvents(&m_settings, QEvent::UpdateRequest);
     }
 
-    /// Writes the old content over a file that is cut short. There is room: its former blocks are free again.
+    /// Writes the old content over a file that is cut short, for which there is room again; removes a new
+    /// one.
     void restoreContent() const
     {
         QFile file(m_path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(m_content) != m_content.size() || !file.flush())
+        if (!m_existed)
+            file.remove();
+        else if (!file.open(QIODevice::WriteOnly) || file.write(m_content) != m_content.size() ||
+                 !file.flush())
             logWarning(
                 QString("Could not put the content of \"%1\" back: %2.").arg(m_path, file.errorString()));
     }
@@ -198,7 +208,7 @@ private:
     void restoreOwner() const
     {
         const QFileInfo file(m_path); // The new one belongs to the user who has written it.
-        if (m_existed && (file.ownerId() != m_owner || file.groupId() != m_group) &&
+        if (m_existed && file.isFile() && (file.ownerId() != m_owner || file.groupId() != m_group) &&
             !giveFileTo(file.canonicalFilePath(), m_owner, m_group))
             logWarning(QString("Could not give \"%1\" back to its owner and group.").arg(m_path));
     }

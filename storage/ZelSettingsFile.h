@@ -35,10 +35,10 @@ public:
     static bool IsWritable(const QString& path, QString& error);
 
     /// The only way to the disk: lets the change set and remove values, and writes them. What others have
-    /// written in the meantime stays. All that a damaged or emptied file has lost comes back from memory;
-    /// of another file, the registered keys. False when the change gave up or the file could not be written:
-    /// the settings then hold what they held before the change. The change is not called when it is known
-    /// that the file cannot be written.
+    /// written in the meantime stays. What a damaged, empty or cut file has lost comes back from memory; one
+    /// that lacks a registered key counts as cut. False when the change gave up or the file could not be
+    /// written: the settings then hold what they held before the change. The change is not called when it is
+    /// known that the file cannot be written.
     static bool Write(QSettings& settings, const Change& change, QString& error);
 
     /// Brings the file into the form that the registry asks for, as ZelSettingsRegistry::EnsureSettings does,

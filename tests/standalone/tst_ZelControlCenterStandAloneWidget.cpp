@@ -148,6 +148,18 @@ private Q_SLOTS:
         QTRY_COMPARE(m_application.getSettings().value("DBCache/cacheSize").toInt(), size->maximum());
     }
 
+    void appliesOnlyWhatTheUserHasEdited()
+    {
+        const QString path = m_application.getSettings().fileName();
+        store(path, contentOf(path).replace("cacheSize=4096", "cacheSize=1234")); // As another program does.
+        auto* check = m_window.findChild<QCheckBox*>("deferredFXAACheckBox");
+        check->toggle();
+        QTest::mouseClick(m_window.findChild<QPushButton*>("applyButton"), Qt::LeftButton);
+        QVERIFY(contentOf(path).contains(check->isChecked() ? "useFXAA=true" : "useFXAA=false"));
+        QVERIFY(contentOf(path).contains("cacheSize=1234"));
+        QCOMPARE(m_window.findChild<QSpinBox*>("databaseSpinBox")->value(), 1234);
+    }
+
     void edgesAndCornersResize()
     {
         const QRect start(30, 40, 740, 500);

@@ -191,6 +191,7 @@ private Q_SLOTS:
 
     void locksOfOthers()
     {
+        const char* const HeldLock = "another program"; // A process holds it that lives, but is stopped.
         QElapsedTimer clock;
         clock.start();
         // How the lock is made, and why it cannot be taken.
@@ -199,13 +200,16 @@ private Q_SLOTS:
             {"echo garbage >$lock", ""},
             {"ln -s nowhere $lock", "is in the way"},
             {"mkdir $lock", "is in the way"},
-            // Of a process that lives, but is stopped.
-            {"echo " + QByteArray::number(::getpid()) + " >$lock; touch -d -1hour $lock", "another program"}};
+            {"echo " + QByteArray::number(::getpid()) + " >$lock",
+             ""}, // Of a process that had this id before.
+            {"touch -d -1hour $lock", HeldLock}};
         for (const auto& [command, reason] : rows) {
             const bool free = QByteArray(reason).isEmpty();
             for (const QByteArray size : {"77", "7"}) {
                 init();
                 store(m_path, "[General]\nsettingsVersion=2\n[DBCache]\ncacheSize=" + size);
+                QLockFile holder(m_path + ".lock");
+                QVERIFY(reason != HeldLock || holder.tryLock());
                 QCOMPARE(::system("lock=" + m_path.toUtf8() + ".lock; " + command), 0);
                 error.clear();
                 QVERIFY2(ZelSettingsFile::IsWritable(m_path, error) == free && error.contains(reason),
@@ -314,6 +318,15 @@ private Q_SLOTS:
             QVERIFY(!write(*settings, {{"new/key", QString(40000, 'y')}}) && error.contains("No space left"));
             QVERIFY(!settings->contains("new/key") && contentOf(m_path) == Foreign);
         }
+        for (const int freePages : {4, 5}) { // The last value may be cut.
+            store(m_path, "");
+            fillDisk(filler, freePages);
+            const QByteArray value(16000, 'y');
+            const bool isWritten = write(*ZelSettingsFile::Open(m_path), {{"new/key", QString(value)}});
+            QVERIFY(isWritten == (freePages == 5) && contentOf(m_path).contains(value + '\n') == isWritten);
+        }
+        store(m_path, Foreign);
+        fillDisk(filler, 10);
         const QByteArray path = m_path.toUtf8(), other = path + ".other";
         store(other, Foreign);
         QVERIFY(::mount(other, path, nullptr, MS_BIND, nullptr) == 0);
@@ -362,7 +375,8 @@ private Q_SLOTS:
                                                            {": >Settings.ini", "own=1"},
                                                            {"echo garbage >Settings.ini", "own=1"},
                                                            {"printf 'x\\nown=2\\n' >Settings.ini", "own=2"},
-                                                           {"echo other=3 >Settings.ini", "other=3"}};
+                                                           {"echo other=3 >Settings.ini", "other=3"},
+                                                           {"echo other=3 >Settings.ini", "own=1"}};
         for (const auto& [command, kept] : rows) {
             init();
             store(m_path, complete);

@@ -117,7 +117,7 @@ QByteArray CheckReport::toText() const
 {
     const bool done = state == CheckState::Repaired;
     QByteArray result = quoted(file) + ": " + stateName(state) + '\n';
-    if (isFreshStart && !done)
+    if (isFreshStart)
         result +=
             "  fresh start: its version is too old, so the editor keeps nothing of it but the language\n";
     if (!damage.isEmpty())

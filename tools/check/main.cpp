@@ -61,6 +61,7 @@ struct Options
     bool json = false;
     bool help = false;
     QStringList files;
+    bool isComplete = true; ///< False when the list of files cannot be read to its end.
 };
 
 /// False when an option is unknown.
@@ -116,6 +117,10 @@ bool readNames(Options& options)
                 return false;
             if (!name.isEmpty())
                 all += name;
+        }
+        if (std::ferror(stdin)) { // QFile does not tell.
+            std::fputs("torvane-settings-check: the list of files cannot be read\n", stderr);
+            options.isComplete = false;
         }
     }
     options.files = all;
@@ -201,7 +206,7 @@ CheckReport check(const QString& path, bool mayRepair)
         return report;
     const SettingsInspection inspection(path);
     add(inspection, report);
-    report.isFreshStart = inspection.migration() == Migration::FreshStart && QFile::exists(path);
+    const bool exists = QFile::exists(path);
     const QString previousCopy = latestCopy(path);
     if (inspection.isClean())
         report.state = CheckState::Clean;
@@ -209,6 +214,8 @@ CheckReport check(const QString& path, bool mayRepair)
         report.state = CheckState::NeedsRepair;
     else if (report.error.isEmpty() && repair(path, inspection, report))
         report.state = CheckState::Repaired;
+    report.isFreshStart =
+        exists && inspection.migration() == Migration::FreshStart && report.state != CheckState::Repaired;
     if (latestCopy(path) != previousCopy)
         report.copy = latestCopy(path);
     return report;
@@ -226,7 +233,7 @@ bool print(const QByteArray& text)
 /// Checks all files, even after one that cannot be read. Returns the worst outcome.
 CheckState run(const Options& options)
 {
-    CheckState worst = CheckState::Clean;
+    CheckState worst = options.isComplete ? CheckState::Clean : CheckState::NotRepairable;
     for (const QString& file : options.files) {
         const CheckReport report = check(file, options.repair);
         worst = worseOf(worst, report.state);
