@@ -102,8 +102,9 @@ private Q_SLOTS:
             m_controlCenter->openMenu(open);
             QVERIFY(external.isChecked() == open && m_controlCenter->isMenuOpen() != open);
             QVERIFY(!m_application->engineUpdates.contains(true));
-            int between = 0;
-            QTRY_VERIFY((between = std::max(between, m_controlCenter->width() % 250)) > 0);
+            QPropertyAnimation* slide = pausedHalfWay("controlCenterWidth");
+            QVERIFY(m_controlCenter->width() % 250 > 0);
+            slide->resume();
             QTRY_COMPARE(m_controlCenter->isMenuOpen(), open);
             QCOMPARE(m_controlCenter->isVisible() ? m_controlCenter->width() : 0, open ? 250 : 0);
             QCOMPARE(m_application->engineUpdates.count(true), 1);
@@ -120,9 +121,10 @@ private Q_SLOTS:
         QTest::mouseClick(button("actionButton"), Qt::LeftButton);
         QCOMPARE(m_calls, QStringList({"P0 initialize", "P1 initialize"}));
         // The drawer uncovers pages that have their final width from the start.
-        QTRY_VERIFY(m_controlCenter->settingsWidth() > 50);
-        QVERIFY(m_controlCenter->settingsWidth() < 400);
+        QPropertyAnimation* slide = pausedHalfWay("settingsWidth");
+        QTRY_VERIFY(m_controlCenter->settingsWidth() > 50 && m_controlCenter->settingsWidth() < 400);
         const int pageWidth = m_pages.front()->width();
+        slide->resume();
         QTRY_VERIFY(m_controlCenter->isSettingsOpen());
         QCOMPARE(pageWidth, m_pages.front()->width());
         QVERIFY(m_controlCenter->isMenuOpen() && showsActions(false)); // "Settings" does not close the menu.
@@ -545,6 +547,18 @@ private:
     static void press(int key, Qt::KeyboardModifier modifier = Qt::NoModifier)
     {
         QTest::keyClick(QApplication::activeWindow()->windowHandle(), static_cast<Qt::Key>(key), modifier);
+    }
+
+    QPropertyAnimation* pausedHalfWay(const char* property) const
+    {
+        for (QPropertyAnimation* slide : m_controlCenter->findChildren<QPropertyAnimation*>()) {
+            if (slide->propertyName() != property)
+                continue;
+            slide->pause();
+            slide->setCurrentTime(slide->duration() / 2);
+            return slide;
+        }
+        return nullptr;
     }
 
     void openEverything()

@@ -14,6 +14,7 @@
 #include <fcntl.h>
 #include <functional>
 #include <grp.h>
+#include <limits>
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
@@ -30,7 +31,7 @@ const int Kills = 60;
 const int Kills = 1000;
 #endif
 const int UndisturbedRounds = 5;
-const int Patience = 5000; // ms; QSettings waits 30 s for a lock that it takes for a valid one.
+const int Patience = 20000; // ms; QSettings waits 30 s for a lock that it takes for a valid one.
 const QByteArray ForeignGroup = "[Foreign]\nemoji=\360\237\231\202\nlist=a, b\n";
 const QByteArray OtherGroup = "[%E6%97%A5]\nkey%20=\303\274\n";
 const QByteArray Foreign = ForeignGroup + '\n' + OtherGroup;
@@ -114,7 +115,7 @@ private:
     {
         const QByteArray before = general + Foreign;
         QByteArray after;
-        qint64 duration = Patience; // Microseconds of an undisturbed operation.
+        qint64 duration = std::numeric_limits<qint64>::max(); // Microseconds of an undisturbed operation.
         int unchanged = 0, changed = 0, locked = 0;
         for (int round = 0; round < UndisturbedRounds + Kills / 4; ++round) {
             init();
