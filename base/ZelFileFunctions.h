@@ -42,8 +42,7 @@ inline bool canCreateFolder(const QString& path)
     // A link that leads nowhere does not exist, and yet no folder can take its place.
     while (!QFileInfo(folder).exists() && !QFileInfo(folder).isSymLink() && !QDir(folder).isRoot())
         folder = QFileInfo(folder).path();
-    const QFileInfo ancestor(folder);
-    return ancestor.isDir() && ancestor.isWritable();
+    return isWritableFolder(QFileInfo(folder));
 }
 
 } // namespace zel

@@ -14,7 +14,12 @@
 #include <chrono>
 #include <thread>
 
-#if !defined(Q_OS_WIN)
+#if defined(Q_OS_WIN)
+#    if !defined(NOMINMAX)
+#        define NOMINMAX
+#    endif
+#    include <windows.h>
+#else
 #    include <cerrno>
 #    include <fcntl.h>
 #    include <sys/file.h>
@@ -71,12 +76,36 @@ inline bool mayReplace(const QFileInfo& file)
 #endif
 }
 
-/// True while a process holds a lock on the file, as QSettings does. It ends with the process. Always false
-/// on Windows, where nothing but the holder can write to such a file.
+/// True for a folder in which files can be created, as far as its permissions tell. On Windows its read-only
+/// attribute does not mean that, and access rights show only when a file is created.
+inline bool isWritableFolder(const QFileInfo& folder)
+{
+#if defined(Q_OS_WIN)
+    return folder.isDir();
+#else
+    return folder.isDir() && folder.isWritable();
+#endif
+}
+
+/// Lets the process that receives the next message put its window in front of others, which Windows allows
+/// only to the process that the user has started last.
+inline void passForegroundOn()
+{
+#if defined(Q_OS_WIN)
+    AllowSetForegroundWindow(ASFW_ANY);
+#endif
+}
+
+/// True while a process holds a lock on the file, as QSettings does. It ends with the process.
 inline bool isLocked(const QString& path)
 {
 #if defined(Q_OS_WIN)
-    Q_UNUSED(path)
+    const HANDLE file = CreateFileW(reinterpret_cast<const wchar_t*>(path.utf16()), GENERIC_WRITE,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return GetLastError() == ERROR_SHARING_VIOLATION;
+    CloseHandle(file);
     return false;
 #else
     const int file = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);

@@ -27,12 +27,10 @@ const char* const ScreenshotFolder = "screenshot/ImageFolder"; ///< Path.
 /// The kept fractions of triangles of the five levels, separated by "/".
 const char* const SimplificationRatios = "Simplification/Ratios";
 
-/// Largest angle between two facets, in degrees.
-const char* const MaxFaceAngle = "Tesselation/TesselationMaxFaceAngle";
-/// Largest length of a facet, in the unit of the model.
-const char* const MaxFaceLength = "Tesselation/TesselationMaxFaceLength";
-/// Largest distance of a facet from the surface, in the unit of the model.
-const char* const MaxFaceSag = "Tesselation/TesselationMaxFaceSag";
+// The limits of facets; lengths are in the unit of the model.
+const char* const MaxFaceAngle = "Tesselation/TesselationMaxFaceAngle";   ///< Between two facets, in degrees.
+const char* const MaxFaceLength = "Tesselation/TesselationMaxFaceLength"; ///< Of a facet.
+const char* const MaxFaceSag = "Tesselation/TesselationMaxFaceSag";       ///< From the surface.
 // Whether each limit, and the quality, is used.
 const char* const MaxFaceAngleSet = "Tesselation/TesselationMaxFaceAngleSet";
 const char* const MaxFaceLengthSet = "Tesselation/TesselationMaxFaceLengthSet";

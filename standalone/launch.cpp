@@ -231,6 +231,7 @@ int launch(int argc, char** argv)
 
     QtSingleApplication singleApplication(argc, argv);
     if (singleApplication.isRunning()) {
+        passForegroundOn();
         singleApplication.sendMessage(commandLineMessage(argc, argv), SendTimeout);
         return 0;
     }

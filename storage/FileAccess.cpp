@@ -84,7 +84,7 @@ QString unwritableReason(const QString& path)
     if (exists && !mayReplace(file))
         return SettingsFileText::tr("it belongs to another user, who would lose it");
     // The lock stands beside a link, and the new file beside its target, whose folder is not created.
-    if (!canCreateFolder(named.path()) || (named.isSymLink() && !QFileInfo(file.path()).isWritable()) ||
+    if (!canCreateFolder(named.path()) || (named.isSymLink() && !isWritableFolder(QFileInfo(file.path()))) ||
         (exists && !file.isWritable()))
         return probeWriteError(path);
     std::error_code error; // Set when the folder does not exist yet.

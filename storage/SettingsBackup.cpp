@@ -42,7 +42,7 @@ bool keepBackup(const QString& path, const QString& reason, QString& error, cons
 {
     const QString givenUp = source.isEmpty() ? path : source;
     const QByteArray content = contentOfFile(givenUp);
-    if (content.isEmpty())
+    if (content.isEmpty() && QFileInfo(givenUp).size() == 0) // Else it cannot be read.
         return true;
     QStringList copies = backupsOf(path);
     if (std::any_of(copies.begin(), copies.end(),

@@ -166,9 +166,11 @@ private:
             return false;
         if (m_settings.status() == QSettings::NoError)
             return true;
+        if (m_before == m_after && !m_damaged)
+            return true;
         // The status keeps an earlier error, so the content tells whether this write has succeeded.
-        const bool hasNothingToWrite = m_before == m_after && !m_damaged;
-        return hasNothingToWrite || contentOfFile(m_path) != m_content;
+        QFile file(m_path);
+        return openWhenFree(file, QIODevice::ReadOnly) && file.readAll() != m_content;
     }
 
     void rollBack()

@@ -6,6 +6,7 @@
 #    include <QString>
 
 #    include <shlobj.h>
+#    include <vector>
 #    include <windows.h>
 #else
 #    include <pwd.h>
@@ -30,12 +31,12 @@ std::string utf8(const wchar_t* text)
 
 std::string folderUtf8(const wchar_t* variable, int systemFolder)
 {
-    const wchar_t* value = _wgetenv(variable);
-    if (value && *value)
-        return utf8(value);
-    wchar_t path[MAX_PATH] = L"";
-    SHGetFolderPathW(nullptr, systemFolder, nullptr, SHGFP_TYPE_CURRENT, path);
-    return utf8(path);
+    // Not _wgetenv(), which may know only what the code page of the system can express.
+    std::vector<wchar_t> path(32768); // The longest path of the system.
+    const DWORD length = GetEnvironmentVariableW(variable, path.data(), static_cast<DWORD>(path.size()));
+    if (length == 0 || length >= path.size())
+        SHGetFolderPathW(nullptr, systemFolder, nullptr, SHGFP_TYPE_CURRENT, path.data());
+    return utf8(path.data());
 }
 
 #else

@@ -169,7 +169,7 @@ private Q_SLOTS:
                 QTRY_VERIFY_WITH_TIMEOUT((after = contentOf(settingsFile())) != before, Patience);
                 continue;
             }
-            QTest::qSleep(std::rand() % 10); // The click itself takes some milliseconds to arrive.
+            QTest::qSleep(1 + std::rand() % 10); // The click itself takes some milliseconds to arrive.
             editor.kill();
             const QByteArray content = contentOf(settingsFile());
             QVERIFY2(content == before || content == after, content.constData());

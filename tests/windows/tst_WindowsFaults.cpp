@@ -107,6 +107,24 @@ private Q_SLOTS:
         }
     }
 
+    void heldLockIsTold()
+    {
+        const QString lock = m_path + ".lock";
+        store(lock, "1\n");
+        QFile file(lock);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(
+            file.setFileTime(QDateTime::currentDateTime().addSecs(-60), QFileDevice::FileModificationTime));
+        file.close();
+        const auto holder = another({"hold", lock, QString::number(FILE_SHARE_READ), "8000"});
+        QVERIFY(holder->waitForReadyRead(Patience));
+        QElapsedTimer clock;
+        clock.start();
+        QString error;
+        QVERIFY(!write(*ZelSettingsFile::Open(m_path), "software", error) && error.contains(m_path));
+        QVERIFY2(clock.elapsed() < 5000, "it waits for a lock that is not released");
+    }
+
     void readOnlyFileStays()
     {
         const auto name = reinterpret_cast<const wchar_t*>(m_path.utf16());
