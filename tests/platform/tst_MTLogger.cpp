@@ -31,6 +31,17 @@ private Q_SLOTS:
             MTLogger::RemoveFileHandler();
         }
     }
+
+    void latestEventsAreKeptUntilThereIsAFile()
+    {
+        const QTemporaryDir folder;
+        for (int event = 0; event <= 1000; ++event)
+            MTLogger::Log("info", event == 0 ? "first" : "later");
+        MTLogger::InstallFileHandler(folder.filePath("log.txt").toStdString(), false, "");
+        const QByteArray events = contentOf(folder.filePath("log.txt"));
+        QVERIFY(events.count("later") == 1000 && !events.contains("first"));
+        MTLogger::RemoveFileHandler();
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_MTLogger)
