@@ -29,6 +29,9 @@ if(QtSingleApplication_FOUND AND NOT TARGET QtSingleApplication::QtSingleApplica
                                                     ${QtSingleApplication_SOURCE_DIR}/qtlocalpeer.cpp)
         # The sources are not ours, so their warnings do not concern this build.
         target_compile_options(GenuineSingleApplication PRIVATE -w)
+        if(WIN32) # They hand texts of Qt to functions of Windows that exist in both widths.
+            target_compile_definitions(GenuineSingleApplication PRIVATE UNICODE _UNICODE)
+        endif()
         target_include_directories(GenuineSingleApplication SYSTEM PUBLIC ${QtSingleApplication_INCLUDE_DIR})
         target_link_libraries(GenuineSingleApplication PUBLIC ${ZEL_QT_WIDGETS} ${ZEL_QT_NETWORK})
         add_library(QtSingleApplication::QtSingleApplication ALIAS GenuineSingleApplication)

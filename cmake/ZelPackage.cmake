@@ -1,6 +1,11 @@
 # The Debian packages that `cpack` makes: torvane-settings, with the runnable tree in a folder of its own and what a desktop
 # needs to start it, and libzelcontrolcenter-dev, for those who build on the library.
 
+if(NOT ZEL_QT EQUAL 5)
+    message(STATUS "Debian packages: left out, they depend on Qt 5")
+    return()
+endif()
+
 set(ZEL_PACKAGE_PREFIX /usr/lib/torvane-settings)
 set(ZEL_RELEASE_DATE 2024-01-31)
 set(ZEL_RELEASE_DATE_RFC "Wed, 31 Jan 2024 12:00:00 +0000")

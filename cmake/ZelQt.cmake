@@ -40,7 +40,12 @@ if(ZEL_QT EQUAL 5)
     set(ZEL_QT_CATALOG qtbase)
 elseif(ZEL_QT EQUAL 4)
     find_package(Qt4 4.8 REQUIRED QtCore QtGui QtNetwork)
-    find_program(QT_LRELEASE_EXECUTABLE lrelease PATHS ${zel_tool_folders}) # Many a Qt 4 is built without it.
+    # Many a Qt 4 is built without it. In the PATH may be one that only chooses between versions of Qt.
+    find_program(QT_LRELEASE_EXECUTABLE lrelease HINTS ${zel_tool_folders})
+    if(QT_LRELEASE_EXECUTABLE AND NOT TARGET Qt4::lrelease)
+        add_executable(Qt4::lrelease IMPORTED GLOBAL)
+        set_target_properties(Qt4::lrelease PROPERTIES IMPORTED_LOCATION ${QT_LRELEASE_EXECUTABLE})
+    endif()
     set(ZEL_QT_CORE Qt4::QtCore)
     set(ZEL_QT_WIDGETS Qt4::QtGui)
     set(ZEL_QT_NETWORK Qt4::QtNetwork)

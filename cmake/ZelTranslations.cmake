@@ -1,6 +1,11 @@
 # The translations: built from resources/languages into the runnable tree, and beside them Qt's own, for the texts of its
 # boxes, under a name that is the same for every version of Qt.
 
+if(ZEL_QT EQUAL 4 AND NOT TARGET Qt4::lrelease)
+    message(STATUS "Translations: left out, there is no lrelease")
+    return()
+endif()
+
 set(zel_languages ${ZEL_STAGE}/resources/languages)
 file(GLOB zel_translations CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/languages/Torvane_*.ts)
 set_source_files_properties(${zel_translations} PROPERTIES OUTPUT_LOCATION ${zel_languages})

@@ -36,7 +36,7 @@ zel_describe(torvane-settings-check "Torvane Settings Check")
 zel_describe(ZelControlCenter "Torvane Settings Control Center")
 
 # Where the DLLs are that ours ask for. What is found nowhere is a part of Windows.
-set(zel_dll_folders ${ZEL_QT_BINS})
+set(zel_dll_folders ${ZEL_QT_BINS} ${QT_LIBRARY_DIR}) # The second is where a Qt 4 may keep them.
 if(MINGW)
     foreach(dll libstdc++-6.dll libwinpthread-1.dll)
         execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll}
@@ -61,4 +61,14 @@ install(DIRECTORY ${ZEL_STAGE}/bin/ DESTINATION bin FILES_MATCHING PATTERN *.dll
 if(MSVC)
     set(CMAKE_INSTALL_SYSTEM_RUNTIME_DESTINATION bin)
     include(InstallRequiredSystemLibraries)
+endif()
+
+# Tests of a cross build run under Wine, by its own name, because Debian's script of the name "wine" is in another package.
+if(CMAKE_CROSSCOMPILING AND ZEL_BUILD_TESTS AND ZEL_QT EQUAL 5)
+    find_program(ZEL_WINE NAMES wine64 wine PATHS /usr/lib/wine)
+    find_package(Qt5Test 5.15 QUIET)
+    if(NOT ZEL_WINE OR NOT Qt5Test_FOUND)
+        message(STATUS "ZEL_BUILD_TESTS: left out, they need Wine and Qt5Test")
+        set(ZEL_BUILD_TESTS OFF)
+    endif()
 endif()

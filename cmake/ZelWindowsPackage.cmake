@@ -14,7 +14,25 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_MONOLITHIC_INSTALL ON)
 set(CPACK_INSTALL_CMAKE_PROJECTS "${PROJECT_BINARY_DIR};${PROJECT_NAME};runtime;/")
 
-# The installer's script is our own.
+# They contain Qt and the compiler's libraries, so the licences of these go with them.
+install(FILES ${PROJECT_SOURCE_DIR}/docs/third-party.md DESTINATION licences)
+foreach(pair IN ITEMS common-licenses/LGPL-3:LGPL-3 common-licenses/GPL-3:GPL-3 doc/libqt5core5a/copyright:Qt
+                      doc/gcc-mingw-w64-base/copyright:GCC doc/mingw-w64-common/copyright:MinGW-w64)
+    string(REPLACE ":" ";" pair ${pair})
+    list(GET pair 0 text)
+    list(GET pair 1 name)
+    if(EXISTS /usr/share/${text})
+        install(FILES /usr/share/${text} DESTINATION licences RENAME ${name}.txt)
+    else()
+        message(STATUS "Packages for Windows: add the licence \"${name}\", this machine does not have it")
+    endif()
+endforeach()
+
+# The installer's script is our own. Only the NSIS of Debian makes installers that are 64-bit programs.
 set(CPACK_MODULE_PATH ${zel_windows_resources})
+set(CPACK_ZEL_TARGET x86-unicode)
+if(CMAKE_HOST_SYSTEM_NAME STREQUAL Linux)
+    set(CPACK_ZEL_TARGET amd64-unicode)
+endif()
 set(CPACK_ZEL_ICON ${zel_windows_resources}/torvane-settings.ico)
 include(CPack)

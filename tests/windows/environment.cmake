@@ -5,8 +5,6 @@
 set(ZEL_TEST_ENVIRONMENT QT_PLUGIN_PATH=${ZEL_STAGE}/bin QT_FORCE_STDERR_LOGGING=1)
 set(ZEL_TEST_PATH PATH=path_list_prepend:${ZEL_STAGE}/bin)
 if(CMAKE_CROSSCOMPILING)
-    # By its own name, because Debian's script of the name "wine" is in another package.
-    find_program(ZEL_WINE NAMES wine64 wine PATHS /usr/lib/wine REQUIRED)
     set(CMAKE_CROSSCOMPILING_EMULATOR ${ZEL_WINE})
     # Wine keeps "PATH" and "QT_..." of the machine from a program, and hands over these in their place.
     set(ZEL_TEST_ENVIRONMENT WINEPATH=Z:${ZEL_STAGE}/bin WINEQT_PLUGIN_PATH=Z:${ZEL_STAGE}/bin
@@ -15,7 +13,8 @@ if(CMAKE_CROSSCOMPILING)
 endif()
 
 # Beside the tests' programs, because it is no part of the product.
-file(COPY ${ZEL_QT_BINS}/Qt5Test.dll DESTINATION ${PROJECT_BINARY_DIR}/tests)
+add_custom_target(ZelTestDll ALL
+    COMMAND ${CMAKE_COMMAND} -E copy_if_different $<TARGET_FILE:Qt5::Test> ${PROJECT_BINARY_DIR}/tests VERBATIM)
 
 # zel_leave_out(<test> <reason>)
 function(zel_leave_out test reason)
