@@ -115,12 +115,20 @@ QString probeWriteError(const QString& path)
 
 bool copySettingsFile(const QString& path, const QString& copy, QString& error)
 {
-    if (!QFile::copy(path, copy))
-        return failWith(SettingsFileText::tr("Could not keep a copy of the Torvane settings file \"%1\": %2"),
-                        path, probeWriteError(path), error);
+    // Gets its name when it is complete, because it may have to replace the file. An existing copy stays.
+    const QString incomplete = copy + ".new";
+    QFile::remove(incomplete);
+    const bool isCopied = QFile::copy(path, incomplete);
     const QFileInfo former(path);
-    giveFileTo(copy, former.ownerId(), former.groupId()); // If that is refused, the copy is still good.
-    return true;
+    giveFileTo(incomplete, former.ownerId(), former.groupId()); // If that is refused, the copy is still good.
+    std::error_code ignored; // Some systems give a copy the time of the file.
+    std::filesystem::last_write_time(nativePath(incomplete), std::filesystem::file_time_type::clock::now(),
+                                     ignored);
+    if (isCopied && QFile::rename(incomplete, copy))
+        return true;
+    QFile::remove(incomplete);
+    return failWith(SettingsFileText::tr("Could not keep a copy of the Torvane settings file \"%1\": %2"),
+                    path, probeWriteError(path), error);
 }
 
 } // namespace zel

@@ -33,19 +33,7 @@ QDateTime writtenAt(const QString& path)
 
 bool UnfinishedWrite::begin(const QString& path, QString& error)
 {
-    if (!QFile::exists(path))
-        return true;
-    // Renamed when it is complete, because it replaces the file if this process dies.
-    const QString incomplete = copyOf(path) + ".new";
-    QFile::remove(incomplete);
-    if (!copySettingsFile(path, incomplete, error))
-        return false;
-    // Some systems give the copy the time of the file; it would look like one that was left behind.
-    std::error_code ignored;
-    std::filesystem::last_write_time(nativePath(incomplete), std::filesystem::file_time_type::clock::now(),
-                                     ignored);
-    std::filesystem::rename(nativePath(incomplete), nativePath(copyOf(path)), ignored);
-    return true;
+    return !QFile::exists(path) || copySettingsFile(path, copyOf(path), error);
 }
 
 void UnfinishedWrite::end(const QString& path, bool written)
