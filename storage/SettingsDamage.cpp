@@ -32,10 +32,16 @@ int lineEnd(const QByteArray& text, int begin)
     return static_cast<int>(std::find_if(text.begin() + begin, text.end(), isEnd) - text.begin());
 }
 
+/// A raw line has no zero at its end, which Qt 4.8 would look for without the length.
+QString asText(const QByteArray& line)
+{
+    return QString::fromLatin1(line.constData(), line.size());
+}
+
 bool hasComment(const QByteArray& line)
 {
     static const QRegExp comment(Comment);
-    return line.contains(';') && comment.exactMatch(QString::fromLatin1(line));
+    return line.contains(';') && comment.exactMatch(asText(line));
 }
 
 bool isUnreadable(const QByteArray& line)
@@ -46,7 +52,7 @@ bool isUnreadable(const QByteArray& line)
     if (first == line.end() || *first == ';')
         return false;
     if (*first == '[' || line.contains('"') || line.contains('\\') || line.contains(';'))
-        return !(*first == '[' ? group : setting).exactMatch(QString::fromLatin1(line));
+        return !(*first == '[' ? group : setting).exactMatch(asText(line));
     return !line.contains('=');
 }
 

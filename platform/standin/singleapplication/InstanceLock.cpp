@@ -24,7 +24,7 @@ const char Prefix[] = "single-instance-";
 QString nameOf(const QString& id)
 {
     const QByteArray hash = QCryptographicHash::hash(id.toUtf8(), QCryptographicHash::Sha1).toHex();
-    return Prefix + QString::fromLatin1(hash.left(20));
+    return Prefix + QString::fromLatin1(hash.constData(), 20);
 }
 
 } // namespace
