@@ -16,9 +16,6 @@ const Qt::SplitBehavior SkipEmptyParts = Qt::SkipEmptyParts;
 const QString::SplitBehavior SkipEmptyParts = QString::SkipEmptyParts;
 #endif
 
-/// True where QSettings replaces its file in one step; before Qt 5.10 it rewrites the file in place.
-const bool SettingsReplaceTheirFile = QT_VERSION >= QT_VERSION_CHECK(5, 10, 0);
-
 /// While it lives, sends every message of Qt, of any type, to a function.
 template <void (*Sink)(const QString& text)>
 class QtMessageSink

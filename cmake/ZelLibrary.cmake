@@ -13,7 +13,7 @@ endforeach()
 target_sources(ZelControlCenter PRIVATE $<TARGET_OBJECTS:ZelResources>)
 target_link_libraries(ZelControlCenter
                       PUBLIC ZelPlatform ${ZEL_QT_CORE} ${ZEL_QT_WIDGETS}
-                      PRIVATE ZelSingleApplication)
+                      PRIVATE ZelSingleApplication $<$<NOT:$<BOOL:${WIN32}>>:acl$<SEMICOLON>attr>)
 # Users name a header with its folder, <zel/Version.h>: its bare name could be one of their own.
 target_include_directories(ZelControlCenter INTERFACE $<INSTALL_INTERFACE:include>)
 target_compile_features(ZelControlCenter PUBLIC cxx_std_17)

@@ -1,6 +1,7 @@
 #include "ZelSettingsPanel.h"
 
 #include "StyleSheetPause.h"
+#include "ZelSettingsFile.h"
 
 #include "platform/kqDMIApplication.h"
 
@@ -54,6 +55,11 @@ void ZelSettingsPanel::setPanelName(const QString& name)
     m_panelName = name;
     if (m_actionWidget)
         m_actionWidget->setText(name);
+}
+
+QSettings& ZelSettingsPanel::settings() const
+{
+    return ZelSettingsFile::Current(*m_settings);
 }
 
 const QStringList& ZelSettingsPanel::getSettingsKeys() const

@@ -90,8 +90,8 @@ protected:
 
     /// The application; may be null.
     kqDMIApplication* application() const { return m_application; }
-    /// The settings.
-    QSettings& settings() const { return *m_settings; }
+    /// The settings; while Apply runs, the copy of their file that takes its place at the end.
+    QSettings& settings() const;
 
     /// Sets the style sheet that kqDMIApplication::GetStylesheet() has under this name. Call it after the
     /// form is set up.

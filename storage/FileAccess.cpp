@@ -1,13 +1,15 @@
 #include "FileAccess.h"
 
-#include "base/ZelFileFunctions.h"
+#include "base/FileLock.h"
+#include "base/SystemFiles.h"
 
 #include "platform/MTLogger.h"
 
-#include <QDateTime>
-#include <QTemporaryFile>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 
-#include <chrono>
+#include <filesystem>
 #include <system_error>
 
 namespace zel {
@@ -16,119 +18,158 @@ namespace {
 
 const qint64 MaximumFileSize = qint64{64} * 1024 * 1024;
 const qint64 MaximumGrowth = 16384; // Bytes that a write needs besides, for its lock and a last block.
-const std::chrono::minutes StaleLockAge(1); // QSettings removes a lock that is older than half a minute.
-const int HeldLockAge = 2000; // ms; an older lock of a running process is stuck: a write takes milliseconds.
 
-const std::error_code NoRoom = std::make_error_code(std::errc::no_space_on_device);
-
-QString errorText(const std::error_code& error)
-{
-    return QString::fromLocal8Bit(error.message().c_str());
-}
-
-/// Why QSettings cannot take its lock, for which it would wait without end; empty when it can.
-QString lockReason(const QString& lock)
-{
-    const QFileInfo file(lock);
-    if (file.isSymLink() || (file.exists() && (!file.isFile() || !mayReplace(file))))
-        return SettingsFileText::tr("\"%1\" is in the way, which no program uses: remove it").arg(lock);
-    if (isLocked(lock))
-        return file.lastModified().msecsTo(QDateTime::currentDateTime()) > HeldLockAge
-                   ? SettingsFileText::tr("another program has locked it")
-                   : QString();
-    // Its process has died. QSettings removes such a lock when it is old. It is not removed here, because by
-    // now it may be another program's.
-    std::error_code error;
-    std::filesystem::last_write_time(nativePath(lock),
-                                     std::filesystem::file_time_type::clock::now() - StaleLockAge, error);
-    return QString();
-}
-
-} // namespace
-
-void logWarning(const QString& text)
-{
-    MTLogger::Log("warning", text.toUtf8().constData());
-}
-
-bool failWith(const QString& text, const QString& path, const QString& reason, QString& error)
+bool fail(const QString& text, const QString& path, const QString& reason, QString& error)
 {
     error = text.arg(path, reason);
     MTLogger::Log("error", error.toUtf8().constData());
     return false;
 }
 
-QString unreadableReason(const QString& path)
+bool isFull(const QString& folder, qint64 size)
 {
-    std::error_code error; // Set, for example, for a link that leads to itself.
-    const std::filesystem::file_type type = std::filesystem::status(nativePath(path), error).type();
+    std::error_code error; // Set when the folder does not exist yet.
+    const auto space = std::filesystem::space(std::filesystem::u8path(folder.toUtf8().constData()), error);
+    // Some file systems count nothing.
+    return !error && space.capacity > 0 && space.available < static_cast<std::uintmax_t>(size);
+}
+
+/// Of what a path leads to. The error is set, for example, for a link that leads to itself.
+std::filesystem::file_type typeOf(const QString& path, std::error_code& error)
+{
+    return std::filesystem::status(std::filesystem::u8path(path.toUtf8().constData()), error).type();
+}
+
+/// The existing folder in which the missing parents of a path would be created.
+QString existingFolder(const QString& path)
+{
+    QString folder = QDir(path).absolutePath();
+    // A link that leads nowhere does not exist, and yet no folder can take its place.
+    while (!QFileInfo(folder).exists() && !QFileInfo(folder).isSymLink() && !QDir(folder).isRoot())
+        folder = QFileInfo(folder).path();
+    return folder;
+}
+
+bool readOpenFile(QFile& file, QByteArray& content, QString& reason)
+{
+    QtSettingsLock lock(file, QtSettingsLock::Read);
+    if (file.size() > MaximumFileSize) {
+        reason = SettingsFileText::tr("it is too large");
+    } else if (!lock.take(LockTimeout)) {
+        reason = SettingsFileText::tr("another program has locked it");
+    } else {
+        content = file.readAll();
+        if (file.error() == QFile::NoError)
+            return true;
+        reason = file.errorString();
+    }
+    return false;
+}
+
+} // namespace
+
+bool canCreateFolder(const QString& path)
+{
+    return isWritableFolder(existingFolder(path));
+}
+
+void logWarning(const QString& text)
+{
+    MTLogger::Log("warning", text.toUtf8().constData());
+}
+
+bool refuseReading(const QString& path, const QString& reason, QString& error)
+{
+    return fail(SettingsFileText::tr("Could not read the Torvane settings file \"%1\": %2"), path, reason,
+                error);
+}
+
+bool refuseWriting(const QString& path, const QString& reason, QString& error)
+{
+    return fail(SettingsFileText::tr("Could not write the Torvane settings file \"%1\": %2"), path, reason,
+                error);
+}
+
+QString fileBehind(const QString& path)
+{
+    const QFileInfo file(path);
+    if (!file.isSymLink())
+        return path;
+    return file.exists() ? file.canonicalFilePath() : file.symLinkTarget();
+}
+
+bool exists(const QString& path)
+{
+    std::error_code error;
+    return typeOf(path, error) != std::filesystem::file_type::not_found;
+}
+
+bool readFile(const QString& path, QByteArray& content, QString& reason)
+{
+    content.clear();
+    std::error_code error;
+    const std::filesystem::file_type type = typeOf(path, error);
     if (type == std::filesystem::file_type::not_found)
-        return QString();
+        return true;
+    QFile file(path);
     if (type == std::filesystem::file_type::none)
-        return errorText(error);
-    if (type != std::filesystem::file_type::regular)
-        return SettingsFileText::tr("it is not a file");
-    QFile reader(path); // Permissions do not tell whether another program has it open for itself.
-    if (!openWhenFree(reader, QIODevice::ReadOnly))
-        return reader.errorString();
-    return reader.size() > MaximumFileSize ? SettingsFileText::tr("it is too large") : QString();
+        reason = QString::fromLocal8Bit(error.message().c_str());
+    else if (type != std::filesystem::file_type::regular)
+        reason = SettingsFileText::tr("it is not a file");
+    else if (!openWhenFree(file, QIODevice::ReadOnly | QIODevice::Unbuffered))
+        reason = file.errorString();
+    else
+        return readOpenFile(file, content, reason);
+    return false;
+}
+
+bool writeFile(const QString& path, const QByteArray& content, QString& reason)
+{
+    QFile file(path);
+    const bool isWritten =
+        file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(content) == content.size();
+    if (isWritten && syncToDisk(file))
+        return true;
+    reason = isWritten || file.error() == QFile::NoError ? systemError() : file.errorString();
+    return false;
+}
+
+QString lockReason(const QString& lock, bool isHeld)
+{
+    if (isHeld)
+        return SettingsFileText::tr("another program has locked it");
+    const QString error = systemError(); // Before it is lost.
+    const QFileInfo file(lock);
+    return file.exists() || file.isSymLink()
+               ? SettingsFileText::tr("\"%1\" is in the way, which no program uses: remove it").arg(lock)
+               : error;
 }
 
 QString unwritableReason(const QString& path)
 {
-    const QString unreadable = unreadableReason(path);
-    if (!unreadable.isEmpty())
-        return unreadable;
-    const QFileInfo named(path), file = fileBehind(path);
-    const bool exists = file.exists();
-    if (exists && !mayReplace(file))
+    QByteArray content;
+    QString reason;
+    if (!readFile(path, content, reason))
+        return reason;
+    const QString target = fileBehind(path);
+    QFile file(target);
+    if (file.exists() && !mayReplace(target))
         return SettingsFileText::tr("it belongs to another user, who would lose it");
+    if (file.exists() && !openWhenFree(file, QIODevice::ReadWrite))
+        return file.errorString();
     // The lock stands beside a link, and the new file beside its target, whose folder is not created.
-    if (!canCreateFolder(named.path()) || (named.isSymLink() && !isWritableFolder(QFileInfo(file.path()))) ||
-        (exists && !file.isWritable()))
-        return probeWriteError(path);
-    std::error_code error; // Set when the folder does not exist yet.
-    const auto space = std::filesystem::space(nativePath(file.path()), error);
-    if (!error && space.available < static_cast<std::uintmax_t>(file.size() + MaximumGrowth))
-        return errorText(NoRoom);
-    return lockReason(path + ".lock");
-}
-
-QString probeWriteError(const QString& path)
-{
-    const QFileInfo file = fileBehind(path);
-    QFile writer(file.filePath());
-    if (file.exists() && !writer.open(QIODevice::ReadWrite))
-        return writer.errorString();
-    const qint64 size = file.size() + MaximumGrowth;
-    // The lock stands beside a link, and the new file beside its target.
-    for (const QString& place : {path, file.filePath()}) {
-        QTemporaryFile probe(place + ".XXXXXX");
-        if (!probe.open())
-            return probe.errorString();
-        if (probe.write(QByteArray(static_cast<int>(size), '\0')) != size || !probe.flush())
-            return errorText(NoRoom);
+    for (const QString& folder : {existingFolder(QFileInfo(path).path()), QFileInfo(target).path()}) {
+        const QString probe = folder + "/.torvane-probe";
+        if (!isWritableFolder(folder) && QFileInfo(folder).exists() && !createPrivateFolder(probe))
+            return systemError();
+        QDir().rmdir(probe);
+        if (isFull(folder, file.size() + MaximumGrowth))
+            return QString::fromLocal8Bit(
+                std::make_error_code(std::errc::no_space_on_device).message().c_str());
     }
-    // For example a mount point, or a file that another program has open.
-    return SettingsFileText::tr("it cannot be replaced by a new one");
-}
-
-bool copySettingsFile(const QString& path, const QString& copy, QString& error)
-{
-    // Gets its name when it is complete, because it may have to replace the file. An existing copy stays.
-    const QString incomplete = copy + ".new";
-    QFile::remove(incomplete);
-    const bool isCopied = QFile::copy(path, incomplete);
-    const QFileInfo former(path);
-    giveFileTo(incomplete, former.ownerId(), former.groupId()); // If that is refused, the copy is still good.
-    std::error_code ignored; // Some systems give a copy the time of the file.
-    std::filesystem::last_write_time(nativePath(incomplete), std::filesystem::file_time_type::clock::now(),
-                                     ignored);
-    if (isCopied && QFile::rename(incomplete, copy))
-        return true;
-    QFile::remove(incomplete);
-    return failWith(SettingsFileText::tr("Could not keep a copy of the Torvane settings file \"%1\": %2"),
-                    path, probeWriteError(path), error);
+    const QString lock = path + ".lock";
+    const FileLock::State state = FileLock(lock).state();
+    return state == FileLock::Blocked ? lockReason(lock, false) : QString();
 }
 
 } // namespace zel

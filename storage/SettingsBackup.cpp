@@ -1,9 +1,12 @@
 #include "SettingsBackup.h"
 
 #include "FileAccess.h"
-#include "base/ZelFileFunctions.h"
+#include "base/SystemFiles.h"
 
 #include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QLocale>
 
 #include <algorithm>
 
@@ -15,13 +18,25 @@ const int MaximumCopies = 3;
 // In UTC, so that the order of the names is the order of the copies also when summer time ends.
 const char* const NameFormat = "yyyy-MM-dd'T'hh-mm-ss.zzz'Z.bak'";
 
+QString nameAt(const QString& path, const QDateTime& time)
+{
+    return path + "." + QLocale::c().toString(time, NameFormat); // Other locales have digits of their own.
+}
+
 QString newName(const QString& path)
 {
     const QDateTime now = QDateTime::currentDateTime().toUTC();
     QString name;
     for (int offset = 0; name.isEmpty() || QFile::exists(name); ++offset)
-        name = path + "." + now.addMSecs(offset).toString(NameFormat);
+        name = nameAt(path, now.addMSecs(offset));
     return name;
+}
+
+bool hasContent(const QString& copy, const QByteArray& content)
+{
+    QByteArray kept;
+    QString ignored;
+    return readFile(copy, kept, ignored) && kept == content;
 }
 
 } // namespace
@@ -32,29 +47,38 @@ QStringList backupsOf(const QString& path)
     const QString prefix = file.fileName() + ".";
     QStringList copies;
     for (const QString& name : file.dir().entryList(QDir::Files | QDir::Hidden, QDir::Name)) {
-        if (name.startsWith(prefix) && QDateTime::fromString(name.mid(prefix.length()), NameFormat).isValid())
+        if (name.startsWith(prefix) &&
+            QLocale::c().toDateTime(name.mid(prefix.length()), NameFormat).isValid())
             copies += file.dir().filePath(name);
     }
+    // A clock was wrong when they were made. They must not push out the later ones.
+    const QString now = nameAt(path, QDateTime::currentDateTime().toUTC());
+    std::stable_partition(copies.begin(), copies.end(), [&now](const QString& copy) { return copy > now; });
     return copies;
 }
 
-bool keepBackup(const QString& path, const QString& reason, QString& error, const QString& source)
+bool keepBackup(const QString& path, const QByteArray& content, const QString& loss,
+                const QString& incomplete, QString& reason)
 {
-    const QString givenUp = source.isEmpty() ? path : source;
-    const QByteArray content = contentOfFile(givenUp);
-    if (content.isEmpty() && QFileInfo(givenUp).size() == 0) // Else it cannot be read.
-        return true;
     QStringList copies = backupsOf(path);
-    if (std::any_of(copies.begin(), copies.end(),
-                    [&content](const QString& copy) { return contentOfFile(copy) == content; }))
+    if (content.isEmpty() || std::any_of(copies.begin(), copies.end(), [&content](const QString& copy) {
+            return hasContent(copy, content);
+        }))
         return true;
     const QString copy = newName(path);
-    if (!copySettingsFile(givenUp, copy, error))
+    const bool isComplete = writeFile(incomplete, content, reason);
+    if (isComplete)
+        copyRights(path, incomplete); // If that is refused, the copy is still good.
+    if (!isComplete || !replaceFile(incomplete, copy)) {
+        if (isComplete)
+            reason = systemError();
+        reason = SettingsFileText::tr("a copy of it cannot be kept: %1").arg(reason);
         return false;
+    }
     while (copies.size() >= MaximumCopies)
         QFile::remove(copies.takeFirst());
     logWarning(QString("The settings file \"%1\" will be replaced: %2. A copy of it is kept as \"%3\".")
-                   .arg(givenUp, reason, copy));
+                   .arg(path, loss, copy));
     return true;
 }
 

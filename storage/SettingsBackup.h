@@ -1,21 +1,23 @@
 #ifndef ZEL_SETTINGSBACKUP_H
 #define ZEL_SETTINGSBACKUP_H
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
 namespace zel {
 
-/// Keeps a dated copy of a settings file beside it, "Settings.ini.2024-05-31T18-04-09.123Z.bak", before its
-/// content is replaced, and names it in the log. The last three copies are kept. An empty file, or a content
-/// that a copy already has, is not copied. False, with a translated text, when the copy cannot be made: then
+/// Keeps a content of a settings file beside it, as a dated copy "Settings.ini.2024-05-31T18-04-09.123Z.bak"
+/// with the rights of the file, and names it in the log. The last three copies are kept. An empty content, or
+/// one that a copy already has, is not copied. False, with the reason, when the copy cannot be made: then
 /// leave the file as it is.
-/// @param reason  why the content is replaced, as in "it is too old"
-/// @param source  the file that holds the content, where it is not the settings file itself
-bool keepBackup(const QString& path, const QString& reason, QString& error,
-                const QString& source = QString());
+/// @param loss  why the content is replaced, as in "it is too old"
+/// @param incomplete  the name of the copy until it is complete
+bool keepBackup(const QString& path, const QByteArray& content, const QString& loss,
+                const QString& incomplete, QString& reason);
 
-/// The dated copies of a settings file, the oldest first.
+/// The dated copies of a settings file, the oldest first; those that are dated in the future come before all
+/// others.
 QStringList backupsOf(const QString& path);
 
 } // namespace zel

@@ -1,10 +1,10 @@
 #include "SettingsMigration.h"
 
-#include "SettingsBackup.h"
+#include "FileAccess.h"
 #include "SettingsKeys.h"
+#include "WorkingCopy.h"
 #include "ZelSettingsFile.h"
 
-#include <QFile>
 #include <QRegExp>
 #include <QSettings>
 
@@ -21,20 +21,24 @@ zel::Migration zel::migrationOf(const QSettings& settings)
 
 bool zel::migrateSettings(const QString& path, const QString& language, QString& error)
 {
-    if (!QFile::exists(path))
+    if (!exists(path))
         return true;
     const auto file = ZelSettingsFile::Open(path);
-    const Migration migration = migrationOf(*file);
-    if (migration == Migration::None)
+    if (migrationOf(*file) == Migration::None)
         return true;
-    if (migration == Migration::FreshStart &&
-        (!ZelSettingsFile::IsWritable(path, error) || !keepBackup(path, "it is too old", error)))
-        return false;
-    const auto change = [&](QSettings& settings, QString&) {
-        if (migration == Migration::Upgrade) {
+    // The version is asked for once more, because a read that failed looks like a file without one.
+    const auto change = [&](QSettings& settings, QString& failure) {
+        QString reason;
+        switch (migrationOf(settings)) {
+        case Migration::None:
+            break;
+        case Migration::Upgrade:
             settings.setValue(keys::SettingsVersion, CurrentSettingsVersion);
             settings.setValue(keys::Engine, engines::Deferred);
-        } else {
+            break;
+        case Migration::FreshStart:
+            if (!WorkingCopy::Changing->keepContent("it is too old", reason))
+                return refuseWriting(path, reason, failure);
             settings.clear();
             settings.setValue(keys::Language, language);
         }

@@ -12,9 +12,15 @@ class QSettings;
 
 namespace zel {
 
-/// What keeps the user's settings file whole: at any moment, also when the process is killed or the disk is
-/// full, it holds its old content or the new one, with every key that is not ours. Error texts are
-/// translated, name the file and the reason, and are logged. GUI thread only.
+/// What keeps the user's settings file whole: at any moment, also when the process is killed, the disk is
+/// full or a read fails, it holds its old content or the new one, with every key that is not ours. Each
+/// change is made to a copy beside the file, which is read back and then takes its place, with the rights of
+/// the file. A write excludes other programs that use this class or QSettings, and waits for them for up to
+/// three seconds. Built with Qt 4 on Unix, it rewrites the file in place, because QSettings locks the file
+/// itself there; a copy that is complete stands beside it meanwhile, and the next start puts it in place if
+/// the process is killed.
+///
+/// Error texts are translated, name the file and the reason, and are logged. GUI thread only.
 class ZEL_EXPORT ZelSettingsFile
 {
 public:
@@ -28,18 +34,29 @@ public:
     static void UseFileEncoding(QSettings& settings);
 
     /// True when the file does not exist yet or can be read: a regular file of a sensible size. To be asked
-    /// before the file is opened, because reading a pipe, a device or a file of gigabytes would never end.
+    /// before the file is opened: reading a pipe would never end, and a serialised object ("@Variant(...)")
+    /// may end the process. Such objects are dropped from the file, after a backup. A write that was killed
+    /// is brought to its end.
     static bool IsUsable(const QString& path, QString& error);
 
     /// False when it is known without writing that the file cannot be written, as on a full disk.
     static bool IsWritable(const QString& path, QString& error);
 
-    /// The only way to the disk: lets the change set and remove values, and writes them. What others have
-    /// written in the meantime stays. What a damaged, empty or cut file has lost comes back from memory; one
-    /// that lacks a registered key counts as cut. False when the change gave up or the file could not be
-    /// written: the settings then hold what they held before the change. The change is not called when it is
-    /// known that the file cannot be written.
+    /// The only way to the disk: lets the change set and remove values of the copy that will take the place
+    /// of the file. The given settings only read the file again; what the change sets in them is carried
+    /// over. What others have written in the meantime stays: the change is called again if another program
+    /// writes the file while it runs. What a damaged, empty or cut file has lost comes back from memory; one
+    /// that lacks a registered key counts as cut. False when the change gave up, the file could not be read
+    /// or written, or the change itself writes the file; the file and the settings then hold what they held
+    /// before.
     static bool Write(QSettings& settings, const Change& change, QString& error);
+
+    /// What a page reads and changes: while Write() runs, the copy of the file of these settings; else
+    /// themselves.
+    static QSettings& Current(QSettings& settings);
+
+    /// Reads the file again if others have changed it. False, and nothing is read, when it is not usable.
+    static bool ReadAgain(QSettings& settings, QString& error);
 
     /// Brings the file into the form that the registry asks for, as ZelSettingsRegistry::EnsureSettings does,
     /// but safely. A file that cannot be written is accepted if it needs no repair. False also when a

@@ -1,6 +1,6 @@
 #include "FolderDryRun.h"
 
-#include "base/ZelFileFunctions.h"
+#include "FileAccess.h"
 
 #include <QDir>
 

@@ -1,12 +1,12 @@
 #include "SettingsInspection.h"
 
+#include "FileAccess.h"
 #include "FolderDryRun.h"
 #include "SettingsDamage.h"
 #include "SettingsKeys.h"
 #include "SettingsValidation.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsValidators.h"
-#include "base/ZelFileFunctions.h"
 
 #include <algorithm>
 #include <iterator>
@@ -60,8 +60,11 @@ QString reasonFor(const Registered& entry, const QVariant& oldValue, const QStri
 } // namespace
 
 SettingsInspection::SettingsInspection(const QString& path)
-    : m_damage(settingsDamage(contentOfFile(path)))
 {
+    QByteArray content;
+    if (!readFile(path, content, m_error))
+        return;
+    m_damage = settingsDamage(content);
     inspectValues(path);
     if (m_error.isEmpty())
         ZelSettingsFile::IsWritable(path, m_error);

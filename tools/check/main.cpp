@@ -6,7 +6,7 @@
 #include "ZelSettingsFile.h"
 #include "ZelSettingsRegistry.h"
 #include "base/StandardStreams.h"
-#include "base/ZelFileFunctions.h"
+#include "base/SystemFiles.h"
 #include "base/ZelSystemCompat.h"
 
 #include "platform/kqLibraries.h"
@@ -137,15 +137,7 @@ bool createFolders(const QString& path, QString& error)
 
 bool runPass(const QString& path, QString& error)
 {
-    if (!ZelSettingsFile::Repair(*ZelSettingsFile::Open(path), error))
-        return false;
-    // While the size and the time of the file stay, QSettings answers from its cache. A later time makes the
-    // next pass read the file.
-    std::error_code ignored;
-    const std::filesystem::path file = nativePath(path);
-    std::filesystem::last_write_time(
-        file, std::filesystem::last_write_time(file, ignored) + std::chrono::milliseconds(1), ignored);
-    return true;
+    return ZelSettingsFile::Repair(*ZelSettingsFile::Open(path), error);
 }
 
 /// Adds the changes of one more pass to those of the earlier passes.
@@ -168,7 +160,7 @@ void add(const SettingsInspection& inspection, CheckReport& report)
 
 bool repair(const QString& path, SettingsInspection inspection, CheckReport& report)
 {
-    if (QFile::exists(path) && !isOwn(QFileInfo(path))) {
+    if (QFile::exists(path) && !isOwnFile(path)) {
         report.error = "It belongs to another user, whose default folders are others: run this as that user";
         return false;
     }

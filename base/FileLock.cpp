@@ -1,0 +1,268 @@
+#include "FileLock.h"
+
+#include <QByteArray>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QList>
+
+#include <chrono>
+#include <cstdint>
+#include <cstdlib>
+#include <thread>
+
+#if defined(Q_OS_WIN)
+#    include <windows.h>
+#else
+#    include <cerrno>
+#    include <csignal>
+#    include <ctime>
+#    include <fcntl.h>
+#    include <sys/file.h>
+#    include <sys/stat.h>
+#    include <unistd.h>
+#endif
+
+namespace zel {
+
+namespace {
+
+const int Pause = 10; // ms
+const qintptr None = -1;
+
+} // namespace
+
+FileLock::FileLock(const QString& lock)
+    : m_path(lock)
+    , m_handle(None)
+{
+}
+
+FileLock::~FileLock()
+{
+    release();
+}
+
+FileLock::State FileLock::take(int timeout)
+{
+    QElapsedTimer clock;
+    clock.start();
+    State found = tryOnce();
+    while (found == Held && clock.elapsed() < timeout) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(Pause));
+        found = tryOnce();
+    }
+    return found;
+}
+
+#if defined(Q_OS_WIN)
+
+// The system keeps a lock file that its process has open, so what can be removed is orphaned.
+
+namespace {
+
+const wchar_t* native(const QString& path)
+{
+    return reinterpret_cast<const wchar_t*>(path.utf16());
+}
+
+} // namespace
+
+FileLock::State FileLock::state() const
+{
+    const DWORD attributes = GetFileAttributesW(native(m_path));
+    if (attributes == INVALID_FILE_ATTRIBUTES)
+        return Free;
+    if (attributes & FILE_ATTRIBUTE_DIRECTORY)
+        return Blocked;
+    const HANDLE file =
+        CreateFileW(native(m_path), DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                    OPEN_EXISTING, 0, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return GetLastError() == ERROR_SHARING_VIOLATION ? Held : Blocked;
+    CloseHandle(file);
+    return Free;
+}
+
+FileLock::State FileLock::tryOnce()
+{
+    DeleteFileW(native(m_path));
+    const HANDLE file = CreateFileW(native(m_path), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                    CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return QFileInfo(m_path).isFile() ? Held : Blocked;
+    const QByteArray text = QByteArray::number(static_cast<uint>(GetCurrentProcessId())) + '\n';
+    DWORD written = 0;
+    WriteFile(file, text.constData(), static_cast<DWORD>(text.size()), &written, nullptr);
+    m_handle = reinterpret_cast<qintptr>(file);
+    return Free;
+}
+
+void FileLock::release()
+{
+    if (m_handle == None)
+        return;
+    CloseHandle(reinterpret_cast<HANDLE>(m_handle));
+    DeleteFileW(native(m_path));
+    m_handle = None;
+}
+
+#else
+
+namespace {
+
+const time_t MaximumAge = 30; // s
+const mode_t Permissions = 0666;
+
+/// The name of a running program; empty when the system does not tell.
+QByteArray programOf(const QByteArray& process)
+{
+    char target[4096];
+    const ssize_t length = ::readlink(("/proc/" + process + "/exe").constData(), target, sizeof(target));
+    const QByteArray path(target, static_cast<int>(length > 0 ? length : 0));
+    return path.mid(path.lastIndexOf('/') + 1);
+}
+
+QByteArray hostName()
+{
+    char name[256] = "";
+    ::gethostname(name, sizeof(name) - 1);
+    return name;
+}
+
+/// Holds a lock file and names this process in it.
+bool claim(int file)
+{
+    const QByteArray process = QByteArray::number(static_cast<qlonglong>(::getpid()));
+    const QByteArray text = process + '\n' + programOf(process) + '\n' + hostName() + '\n';
+    return ::flock(file, LOCK_EX | LOCK_NB) == 0 &&
+           ::write(file, text.constData(), static_cast<std::size_t>(text.size())) == text.size();
+}
+
+/// Creates a lock file that holds its text as soon as it has its name: an empty one, which a killed process
+/// would leave, counts as valid for half a minute. None, with the system's error, when that is not possible.
+qintptr create(const QByteArray& path)
+{
+    const QByteArray folder = path.left(path.lastIndexOf('/') + 1) + '.';
+    int file = ::open(folder.constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, Permissions);
+    const bool isUnnamed = file >= 0;
+    if (!isUnnamed) // Not all file systems have files without a name.
+        file = ::open(path.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, Permissions);
+    const QByteArray opened = "/proc/self/fd/" + QByteArray::number(file);
+    if (file < 0 || (claim(file) && (!isUnnamed || ::linkat(AT_FDCWD, opened.constData(), AT_FDCWD,
+                                                            path.constData(), AT_SYMLINK_FOLLOW) == 0)))
+        return file;
+    const int reason = errno;
+    if (!isUnnamed)
+        ::unlink(path.constData());
+    ::close(file);
+    errno = reason;
+    return None;
+}
+
+/// An existing lock file, opened to be judged.
+class ExistingLock
+{
+public:
+    explicit ExistingLock(const QByteArray& path)
+        : m_path(path)
+        , m_file(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK))
+    {
+        m_exists = ::lstat(path.constData(), &m_status) == 0;
+    }
+
+    ~ExistingLock()
+    {
+        if (m_file >= 0)
+            ::close(m_file);
+    }
+
+    bool exists() const { return m_exists; }
+    bool isFile() const { return S_ISREG(m_status.st_mode); }
+
+    /// True when its process has ended, or when it is too old.
+    bool isOrphaned() const
+    {
+        char text[1024];
+        const ssize_t length = m_file < 0 ? -1 : ::read(m_file, text, sizeof(text));
+        const QList<QByteArray> lines =
+            QByteArray(text, static_cast<int>(length > 0 ? length : 0)).split('\n');
+        const QByteArray process = lines.value(0), program = lines.value(1), host = lines.value(2);
+        const long number = std::strtol(process.constData(), nullptr, 10);
+        if (number > 0 && (host.isEmpty() || host == hostName())) {
+            if (::kill(static_cast<pid_t>(number), 0) != 0 && errno == ESRCH)
+                return true;
+            // A later program may have got the number of the one that has ended.
+            const QByteArray running = programOf(process);
+            if (!running.isEmpty() && running != program.mid(program.lastIndexOf('/') + 1))
+                return true;
+        }
+        return std::abs(::time(nullptr) - m_status.st_mtime) > MaximumAge;
+    }
+
+    /// False while its process holds it, also if it is orphaned otherwise. Holds it from then on.
+    bool isLetGo() const { return m_file >= 0 && ::flock(m_file, LOCK_EX | LOCK_NB) == 0; }
+
+    /// True when the file still has this name.
+    bool isInPlace() const
+    {
+        struct stat opened = {}, named = {};
+        return ::fstat(m_file, &opened) == 0 && ::lstat(m_path.constData(), &named) == 0 &&
+               opened.st_ino == named.st_ino && opened.st_dev == named.st_dev;
+    }
+
+    bool remove() const { return isLetGo() && isInPlace() && ::unlink(m_path.constData()) == 0; }
+
+private:
+    Q_DISABLE_COPY(ExistingLock)
+
+    const QByteArray m_path;
+    const int m_file;
+    struct stat m_status = {};
+    bool m_exists = false;
+};
+
+} // namespace
+
+FileLock::State FileLock::state() const
+{
+    const ExistingLock lock(QFile::encodeName(m_path));
+    if (!lock.exists())
+        return Free;
+    if (!lock.isFile())
+        return Blocked;
+    return lock.isOrphaned() && lock.isLetGo() ? Free : Held;
+}
+
+FileLock::State FileLock::tryOnce()
+{
+    const QByteArray path = QFile::encodeName(m_path);
+    m_handle = create(path);
+    if (m_handle != None)
+        return Free;
+    if (errno != EEXIST)
+        return Blocked;
+    const ExistingLock lock(path);
+    if (lock.exists() && !lock.isFile()) {
+        errno = EEXIST;
+        return Blocked;
+    }
+    // Another program that removes the same orphaned lock must not remove the one that is made in its place.
+    FileLock removal(m_path + ".rmlock");
+    if (lock.isOrphaned() && removal.tryOnce() == Free && lock.remove())
+        return tryOnce();
+    return Held;
+}
+
+void FileLock::release()
+{
+    if (m_handle == None)
+        return;
+    ::unlink(QFile::encodeName(m_path).constData());
+    ::close(static_cast<int>(m_handle));
+    m_handle = None;
+}
+
+#endif
+
+} // namespace zel

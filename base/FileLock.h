@@ -1,0 +1,45 @@
+#ifndef ZEL_FILELOCK_H
+#define ZEL_FILELOCK_H
+
+#include <QString>
+#include <QtGlobal>
+
+namespace zel {
+
+/// A lock file by the rules of Qt 5's QLockFile, which QSettings takes while it writes: it names its process,
+/// and is orphaned when that process has ended, or when it is older than half a minute and nobody holds it.
+/// An orphaned lock is removed. Qt 4 has no such class. Not recursive.
+class FileLock
+{
+public:
+    /// @param lock  the path of the lock file itself
+    explicit FileLock(const QString& lock);
+    ~FileLock();
+
+    enum State {
+        Free,   ///< It can be taken, or an orphaned lock can be removed.
+        Held,   ///< A program holds it, or may do so.
+        Blocked ///< Something else has its name, or it cannot be created: systemError() tells why.
+    };
+
+    /// Tells what take() would find now; changes nothing.
+    State state() const;
+
+    /// Waits for the lock up to the time in milliseconds. Free when this process holds it now.
+    State take(int timeout);
+
+    /// Lets go; does nothing when the lock is not held.
+    void release();
+
+private:
+    Q_DISABLE_COPY(FileLock)
+
+    State tryOnce();
+
+    const QString m_path;
+    qintptr m_handle;
+};
+
+} // namespace zel
+
+#endif

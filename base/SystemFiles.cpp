@@ -1,0 +1,282 @@
+#include "SystemFiles.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+
+#include <chrono>
+#include <filesystem>
+#include <system_error>
+#include <thread>
+#include <vector>
+
+#if defined(Q_OS_WIN)
+#    include <io.h>
+#    include <windows.h>
+#else
+#    include <acl/libacl.h>
+#    include <attr/libattr.h>
+#    include <cerrno>
+#    include <fcntl.h>
+#    include <sys/acl.h>
+#    include <sys/stat.h>
+#    include <unistd.h>
+#endif
+
+namespace zel {
+
+namespace {
+
+const int Pause = 20; // ms
+
+/// Repeats an attempt until it succeeds or the time, in milliseconds, is over.
+template <typename Attempt>
+bool succeedsWithin(int timeout, Attempt attempt)
+{
+    QElapsedTimer clock;
+    clock.start();
+    while (!attempt()) {
+        if (clock.elapsed() >= timeout)
+            return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(Pause));
+    }
+    return true;
+}
+
+#if defined(Q_OS_WIN)
+const int BusyFileTimeout = 1000; // ms; virus scanners, for example, open files for themselves.
+
+const wchar_t* native(const QString& path)
+{
+    return reinterpret_cast<const wchar_t*>(path.utf16());
+}
+#else
+const int BusyFileTimeout = 0;
+
+QByteArray native(const QString& path)
+{
+    return QFile::encodeName(path);
+}
+#endif
+
+} // namespace
+
+#if defined(Q_OS_WIN)
+const bool SettingsFilesAreReplaced = true;
+const bool SettingsIgnoreCase = true;
+#else
+const bool SettingsFilesAreReplaced = QT_VERSION >= QT_VERSION_CHECK(5, 10, 0);
+const bool SettingsIgnoreCase = false;
+#endif
+
+QString systemError()
+{
+    return qt_error_string();
+}
+
+bool openWhenFree(QFile& file, QIODevice::OpenMode mode)
+{
+    return succeedsWithin(BusyFileTimeout, [&] { return file.open(mode) || !file.exists(); }) &&
+           file.isOpen();
+}
+
+void makeLater(const QString& file, const QString& other)
+{
+    namespace fs = std::filesystem;
+    const fs::path later = fs::u8path(file.toUtf8().constData()),
+                   earlier = fs::u8path(other.toUtf8().constData());
+    std::error_code noFile, error;
+    const auto size = fs::file_size(earlier, noFile);
+    if (noFile || size != fs::file_size(later, error))
+        return;
+    const auto time = fs::last_write_time(earlier, error) + std::chrono::seconds(1);
+    if (fs::last_write_time(later, error) < time)
+        fs::last_write_time(later, time, error);
+}
+
+#if defined(Q_OS_WIN)
+
+bool isOwnFile(const QString&)
+{
+    return true;
+}
+
+bool mayReplace(const QString&)
+{
+    return true;
+}
+
+bool isWritableFolder(const QString& path)
+{
+    return QFileInfo(path).isDir();
+}
+
+bool createPrivateFolder(const QString& path)
+{
+    return CreateDirectoryW(native(path), nullptr) != 0;
+}
+
+bool syncToDisk(const QFile& file)
+{
+    return FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(file.handle()))) != 0;
+}
+
+bool copyRights(const QString&, const QString&)
+{
+    return true;
+}
+
+bool replaceFile(const QString& file, const QString& replaced)
+{
+    return succeedsWithin(BusyFileTimeout, [&] {
+        return ReplaceFileW(native(replaced), native(file), nullptr, 0, nullptr, nullptr) ||
+               (GetLastError() == ERROR_FILE_NOT_FOUND && MoveFileExW(native(file), native(replaced), 0));
+    });
+}
+
+#else
+
+bool isOwnFile(const QString& path)
+{
+    return QFileInfo(path).ownerId() == ::geteuid();
+}
+
+bool mayReplace(const QString& path)
+{
+    return isOwnFile(path) || ::geteuid() == 0;
+}
+
+bool isWritableFolder(const QString& path)
+{
+    const QFileInfo folder(path);
+    return folder.isDir() && folder.isWritable();
+}
+
+bool createPrivateFolder(const QString& path)
+{
+    return ::mkdir(native(path).constData(), S_IRWXU) == 0;
+}
+
+bool syncToDisk(const QFile& file)
+{
+    return ::fsync(file.handle()) == 0;
+}
+
+bool copyRights(const QString& from, const QString& to)
+{
+    const QByteArray source = native(from), target = native(to);
+    struct stat rights = {}, former = {};
+    if (::stat(source.constData(), &rights) != 0 || ::stat(target.constData(), &former) != 0)
+        return false;
+    // The owner first: giving a file away takes rights from it.
+    return ((former.st_uid == rights.st_uid && former.st_gid == rights.st_gid) ||
+            ::chown(target.constData(), rights.st_uid, rights.st_gid) == 0) &&
+           ::perm_copy_file(source.constData(), target.constData(), nullptr) == 0 &&
+           ::attr_copy_file(source.constData(), target.constData(), &attr_copy_check_permissions, nullptr) ==
+               0;
+}
+
+bool replaceFile(const QString& file, const QString& replaced)
+{
+    return ::rename(native(file).constData(), native(replaced).constData()) == 0;
+}
+
+#endif
+
+#if QT_VERSION >= QT_VERSION_CHECK(5, 10, 0)
+
+struct QtSettingsLock::Private
+{
+};
+
+QtSettingsLock::QtSettingsLock(const QFile&, Access)
+{
+}
+
+QtSettingsLock::~QtSettingsLock() = default;
+
+bool QtSettingsLock::take(int)
+{
+    return true;
+}
+
+#elif defined(Q_OS_WIN)
+
+struct QtSettingsLock::Private
+{
+    /// A semaphore, and how many of its units are held.
+    struct Units
+    {
+        HANDLE semaphore;
+        LONG wanted;
+        LONG held;
+    };
+
+    void add(const char* name, const QString& path, LONG available, LONG wanted)
+    {
+        const QString whole = QString(name) + QFileInfo(path).absoluteFilePath();
+        if (const HANDLE semaphore = CreateSemaphoreW(nullptr, available, available, native(whole)))
+            all.push_back({semaphore, wanted, 0});
+    }
+
+    std::vector<Units> all;
+};
+
+QtSettingsLock::QtSettingsLock(const QFile& file, Access access)
+    : d(new Private)
+{
+    const LONG readers = 50;
+    if (access == Write)
+        d->add("QSettingsWriteSem ", file.fileName(), 1, 1);
+    d->add("QSettingsReadSem ", file.fileName(), readers, access == Write ? readers : 1);
+}
+
+QtSettingsLock::~QtSettingsLock()
+{
+    for (const Private::Units& units : d->all) {
+        if (units.held > 0)
+            ReleaseSemaphore(units.semaphore, units.held, nullptr);
+        CloseHandle(units.semaphore);
+    }
+}
+
+bool QtSettingsLock::take(int timeout)
+{
+    for (Private::Units& units : d->all) {
+        for (; units.held < units.wanted; ++units.held) {
+            if (WaitForSingleObject(units.semaphore, static_cast<DWORD>(timeout)) != WAIT_OBJECT_0)
+                return false;
+        }
+    }
+    return true;
+}
+
+#else
+
+struct QtSettingsLock::Private
+{
+    int descriptor;
+    short type;
+};
+
+QtSettingsLock::QtSettingsLock(const QFile& file, Access access)
+    : d(new Private{file.handle(), static_cast<short>(access == Write ? F_WRLCK : F_RDLCK)})
+{
+}
+
+// The system takes the lock back when the file is closed.
+QtSettingsLock::~QtSettingsLock() = default;
+
+bool QtSettingsLock::take(int timeout)
+{
+    return succeedsWithin(timeout, [this] {
+        struct flock range = {};
+        range.l_type = d->type;
+        range.l_whence = SEEK_SET;
+        return ::fcntl(d->descriptor, F_SETLK, &range) == 0 || (errno != EACCES && errno != EAGAIN);
+    });
+}
+
+#endif
+
+} // namespace zel

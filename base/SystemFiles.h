@@ -1,0 +1,76 @@
+#ifndef ZEL_SYSTEMFILES_H
+#define ZEL_SYSTEMFILES_H
+
+#include <QFile>
+#include <QString>
+
+#include <memory>
+
+namespace zel {
+
+/// True where a file that QSettings writes may be replaced by a new one. QSettings of Qt 4 locks the file
+/// itself outside Windows: one that waits for that lock would go on to write to the file that is no longer
+/// there.
+extern const bool SettingsFilesAreReplaced;
+
+/// True where QSettings takes names that differ only in case for the same key.
+extern const bool SettingsIgnoreCase;
+
+/// The system's text for the error of the last call.
+QString systemError();
+
+/// True for a file of the user who runs the process; always true on Windows.
+bool isOwnFile(const QString& path);
+
+/// True when a new file that replaces this one can have the same owner.
+bool mayReplace(const QString& path);
+
+/// True for a folder in which files can be created, as far as its permissions tell. On Windows its read-only
+/// attribute does not mean that, and access rights show only when a file is created.
+bool isWritableFolder(const QString& path);
+
+/// Creates a folder that only its user can enter. On failure systemError() tells why.
+bool createPrivateFolder(const QString& path);
+
+/// Forces what was written to a file onto the disk. On failure systemError() tells why.
+bool syncToDisk(const QFile& file);
+
+/// Gives a file the owner, group, permissions, access list and extended attributes of another. False when
+/// that is not possible in full. On Windows replaceFile() does it.
+bool copyRights(const QString& from, const QString& to);
+
+/// Puts a file in the place of another in one step; on Windows it waits a second while a program has that one
+/// open. On failure systemError() tells why.
+bool replaceFile(const QString& file, const QString& replaced);
+
+/// Makes a file at least a second later than another of the same size, so that QSettings, which remembers
+/// size and time of what it has read, can tell them apart.
+void makeLater(const QString& file, const QString& other);
+
+/// Opens a file; on Windows it waits up to a second while another program has it open for itself.
+bool openWhenFree(QFile& file, QIODevice::OpenMode mode);
+
+/// What QSettings of Qt 4 locks while it reads or writes a file, so that it and this process wait for each
+/// other. With Qt 5 it locks nothing: FileLock is what QSettings takes there.
+class QtSettingsLock
+{
+public:
+    enum Access { Read, Write };
+
+    /// @param file  open for this access, except on Windows
+    QtSettingsLock(const QFile& file, Access access);
+    ~QtSettingsLock();
+
+    /// False when another program has the lock for longer than the time in milliseconds.
+    bool take(int timeout);
+
+private:
+    Q_DISABLE_COPY(QtSettingsLock)
+
+    struct Private;
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace zel
+
+#endif

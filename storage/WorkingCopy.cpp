@@ -1,0 +1,273 @@
+#include "WorkingCopy.h"
+
+#include "FileAccess.h"
+#include "IniCodec.h"
+#include "SettingsBackup.h"
+#include "SettingsDamage.h"
+#include "ZelSettingsFile.h"
+#include "base/SystemFiles.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+
+namespace zel {
+
+namespace {
+
+const int ProbeSize = 16384; // Bytes; more than what a file system gives away unasked.
+
+// The last setting of a new copy. If QSettings finds it, it has read the copy to its end.
+const char* const EndKey = "end of the working copy/isRead";
+const char* const EndText = "\n[end%20of%20the%20working%20copy]\nisRead=true\n";
+
+QString spareOf(const QString& target)
+{
+    return target + ".unfinished";
+}
+
+/// As QSettings writes it.
+QStringList textOf(const QVariant& value)
+{
+    return value.type() == QVariant::StringList || value.type() == QVariant::List
+               ? value.toStringList()
+               : QStringList(value.toString());
+}
+
+bool isSame(const QVariantMap& left, const QVariantMap& right)
+{
+    if (left.keys() != right.keys())
+        return false;
+    for (auto value = left.constBegin(); value != left.constEnd(); ++value)
+        if (textOf(*value).join("\n") != textOf(right.value(value.key())).join("\n"))
+            return false;
+    return true;
+}
+
+void removeFolder(const QString& path)
+{
+    if (QDir().rmdir(path))
+        return;
+    QDir folder(path);
+    for (const QString& name : folder.entryList(QDir::Files | QDir::Hidden | QDir::System))
+        folder.remove(name);
+    QDir().rmdir(path);
+}
+
+/// Writes over the file that another program may have opened already, and waits to write to it.
+WorkingCopy::Outcome overwrite(const QString& path, const QByteArray& expected, const QByteArray& content,
+                               QString& reason)
+{
+    QFile file(path);
+    if (!openWhenFree(file, QIODevice::ReadWrite | QIODevice::Unbuffered)) {
+        reason = file.errorString();
+        return WorkingCopy::Failed;
+    }
+    QtSettingsLock lock(file, QtSettingsLock::Write);
+    if (!lock.take(LockTimeout)) {
+        reason = SettingsFileText::tr("another program has locked it");
+        return WorkingCopy::Failed;
+    }
+    const QByteArray present = file.readAll();
+    if (file.error() != QFile::NoError) {
+        reason = file.errorString();
+        return WorkingCopy::Failed;
+    }
+    if (present != expected)
+        return WorkingCopy::Outdated;
+    const bool isWritten =
+        file.resize(0) && file.seek(0) && file.write(content) == content.size() && syncToDisk(file);
+    // Where there is no room, the spare copy still has its own.
+    if (isWritten || replaceFile(spareOf(path), path))
+        return WorkingCopy::InPlace;
+    reason = systemError();
+    return WorkingCopy::Failed;
+}
+
+} // namespace
+
+QVariantMap valuesOf(const QSettings& settings)
+{
+    QVariantMap values;
+    for (const QString& key : settings.allKeys()) {
+        if (!key.isEmpty() && !key.startsWith('/') && !key.endsWith('/') && !key.contains("//"))
+            values.insert(key, settings.value(key));
+    }
+    return values;
+}
+
+WorkingCopy* WorkingCopy::Changing = nullptr;
+
+WorkingCopy::WorkingCopy(const QString& path)
+    : m_path(path)
+    , m_target(fileBehind(path))
+    , m_folder(m_target + ".new")
+    , m_exists(false)
+    , m_damaged(false)
+{
+}
+
+WorkingCopy::~WorkingCopy()
+{
+    m_settings.reset();
+    if (!m_copy.isEmpty())
+        removeFolder(m_folder);
+}
+
+QString WorkingCopy::nextName() const
+{
+    // QSettings remembers files by their names, also those that are gone.
+    static int number = 0;
+    return QString("%1/%2.ini").arg(m_folder).arg(++number);
+}
+
+bool WorkingCopy::make(QString& reason)
+{
+    m_exists = exists(m_target);
+    if (m_exists && !mayReplace(m_target)) {
+        reason = SettingsFileText::tr("it belongs to another user, who would lose it");
+        return false;
+    }
+    QFile file(m_target);
+    if (m_exists && !openWhenFree(file, QIODevice::ReadWrite)) { // It may be read-only.
+        reason = file.errorString();
+        return false;
+    }
+    file.close();
+    if (!readFile(m_target, m_content, reason))
+        return false;
+    removeFolder(m_folder); // A killed writer may have left it.
+    if (!createPrivateFolder(m_folder)) {
+        reason = systemError();
+        return false;
+    }
+    m_copy = nextName();
+    const QString damage = settingsDamage(m_content);
+    const QString loss = damage.isEmpty() ? droppedComment(m_content) : damage;
+    m_damaged = !damage.isEmpty();
+    if (!loss.isEmpty() && !keepContent(loss, reason))
+        return false;
+    const bool endIsKnown = !m_damaged && !m_content.isEmpty();
+    QByteArray text = m_damaged ? withoutObjects(m_content) : m_content;
+    if (text.startsWith(Utf8Mark)) // It would make QSettings use Qt's own codec.
+        text.remove(0, static_cast<int>(qstrlen(Utf8Mark)));
+    if (!writeFile(m_copy, endIsKnown ? text + EndText : text, reason))
+        return false;
+    m_settings = ZelSettingsFile::Open(m_copy);
+    if (endIsKnown && !m_settings->contains(EndKey)) {
+        reason = SettingsFileText::tr("it cannot be read to its end");
+        return false;
+    }
+    m_settings->remove(EndKey);
+    return true;
+}
+
+bool WorkingCopy::keepContent(const QString& loss, QString& reason) const
+{
+    return keepBackup(m_path, m_content, loss, nextName(), reason);
+}
+
+bool WorkingCopy::write(QString& reason)
+{
+    const QVariantMap wanted = valuesOf(*m_settings);
+    m_settings->sync();
+    // Under another name, because QSettings answers from what it remembers.
+    const QString written = m_copy;
+    m_copy = nextName();
+    bool isComplete = replaceFile(written, m_copy);
+    if (isComplete) {
+        m_settings = ZelSettingsFile::Open(m_copy);
+        isComplete = isSame(valuesOf(*m_settings), wanted);
+    }
+    QFile copy(m_copy);
+    if (isComplete && readFile(m_copy, m_result, reason) && copy.open(QIODevice::ReadWrite) &&
+        syncToDisk(copy)) {
+        reason = settingsDamage(m_result);
+        return reason.isEmpty();
+    }
+    if (isComplete) {
+        reason = systemError();
+        return false;
+    }
+    // QSettings does not tell why.
+    int size = ProbeSize;
+    for (auto value = wanted.constBegin(); value != wanted.constEnd(); ++value)
+        size += value.key().size() + textOf(*value).join(",").size();
+    if (writeFile(nextName(), QByteArray(size, '\n'), reason))
+        reason = SettingsFileText::tr("not all values can be kept in it");
+    return false;
+}
+
+WorkingCopy::Outcome WorkingCopy::put(bool keepsSpare, QString& reason)
+{
+    m_settings.reset();
+    const bool replaces = !m_exists || (SettingsFilesAreReplaced && copyRights(m_target, m_copy));
+    if (m_exists)
+        makeLater(m_copy, m_target);
+    if (!replaces || keepsSpare) {
+        const QString spare = replaces ? nextName() : m_copy;
+        if (replaces && !writeFile(spare, m_result, reason))
+            return Failed;
+        if (replaces)
+            copyRights(m_copy, spare);
+        if (!replaceFile(spare, spareOf(m_target))) {
+            reason = systemError();
+            return Failed;
+        }
+    }
+    const Outcome outcome = replaces ? replace(reason) : overwrite(m_target, m_content, m_result, reason);
+    // A file that was cut while it was overwritten still needs its spare copy.
+    QByteArray present;
+    QString ignored;
+    if (outcome == Failed ? readFile(m_target, present, ignored) && present == m_content
+                          : outcome == Outdated || !keepsSpare)
+        QFile::remove(spareOf(m_target));
+    return outcome;
+}
+
+WorkingCopy::Outcome WorkingCopy::replace(QString& reason) const
+{
+    const QFile target(m_target);
+    QtSettingsLock lock(target, QtSettingsLock::Write);
+    QByteArray present;
+    if (!lock.take(LockTimeout)) {
+        reason = SettingsFileText::tr("another program has locked it");
+        return Failed;
+    }
+    if (!readFile(m_target, present, reason))
+        return Failed;
+    if (exists(m_target) != m_exists || present != m_content)
+        return Outdated;
+    if (replaceFile(m_copy, m_target))
+        return InPlace;
+    reason = systemError() + ": " + SettingsFileText::tr("it cannot be replaced by a new one");
+    return Failed;
+}
+
+bool WorkingCopy::isUnfinished(const QString& path)
+{
+    return QFile::exists(spareOf(fileBehind(path)));
+}
+
+bool WorkingCopy::finish(const QString& path, bool givesRights, QString& reason)
+{
+    const QString target = fileBehind(path), spare = spareOf(target);
+    QByteArray wanted, present;
+    if (!readFile(spare, wanted, reason) || !readFile(target, present, reason))
+        return false;
+    if (present == wanted) {
+        if (givesRights)
+            copyRights(spare, target);
+    } else if (wanted.startsWith(present)) {
+        if (!(SettingsFilesAreReplaced && copyRights(target, spare) && replaceFile(spare, target)) &&
+            overwrite(target, present, wanted, reason) != InPlace)
+            return false;
+    } else if (!keepBackup(path, wanted, "its writing was cut short, and another program has written it",
+                           spare, reason)) {
+        return false;
+    }
+    QFile::remove(spare);
+    return true;
+}
+
+} // namespace zel
