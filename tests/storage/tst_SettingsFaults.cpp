@@ -513,7 +513,7 @@ private Q_SLOTS:
         // In a mount namespace of its own, so that nothing is left mounted.
         if (::unshare(CLONE_NEWNS) != 0 ||
             ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
-            ::mount("tmpfs", qPrintable(m_folder.path()), "tmpfs", 0, "size=64k") != 0)
+            ::mount("tmpfs", qPrintable(m_folder.path()), "tmpfs", 0, "size=128k") != 0)
             QSKIP("not allowed to mount a small disk");
         QFile filler(m_folder.filePath("filler"));
         for (const bool damaged : {false, true}) {
