@@ -32,16 +32,9 @@ QString lockReason(const QString& lock)
     const QFileInfo file(lock);
     if (file.isSymLink() || (file.exists() && (!file.isFile() || !mayReplace(file))))
         return SettingsFileText::tr("\"%1\" is in the way, which no program uses: remove it").arg(lock);
-    if (isLocked(lock))
-        return file.lastModified().msecsTo(QDateTime::currentDateTime()) > HeldLockAge
-                   ? SettingsFileText::tr("another program has locked it")
-                   : QString();
-    // Its process has died. QSettings removes such a lock when it is old. It is not removed here, because by
-    // now it may be another program's.
-    std::error_code error;
-    std::filesystem::last_write_time(nativePath(lock),
-                                     std::filesystem::file_time_type::clock::now() - StaleLockAge, error);
-    return QString();
+    const bool isStuck =
+        isLocked(lock) && file.lastModified().msecsTo(QDateTime::currentDateTime()) > HeldLockAge;
+    return isStuck ? SettingsFileText::tr("another program has locked it") : QString();
 }
 
 } // namespace
@@ -92,6 +85,15 @@ QString unwritableReason(const QString& path)
     if (!error && space.available < static_cast<std::uintmax_t>(file.size() + MaximumGrowth))
         return errorText(NoRoom);
     return lockReason(path + ".lock");
+}
+
+void ageStaleLock(const QString& path)
+{
+    const QString lock = path + ".lock";
+    std::error_code error;
+    if (!isLocked(lock))
+        std::filesystem::last_write_time(nativePath(lock),
+                                         std::filesystem::file_time_type::clock::now() - StaleLockAge, error);
 }
 
 QString probeWriteError(const QString& path)

@@ -26,6 +26,10 @@ QString unreadableReason(const QString& path);
 /// known.
 QString unwritableReason(const QString& path);
 
+/// Makes a lock whose process has died so old that QSettings removes it, for which it would wait otherwise.
+/// It is not removed here, because by now it may be another program's.
+void ageStaleLock(const QString& path);
+
 /// Why a write has failed: writes a temporary file beside the settings file and returns the system's error.
 QString probeWriteError(const QString& path);
 

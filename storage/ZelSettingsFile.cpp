@@ -76,6 +76,7 @@ public:
             UnfinishedWrite::recover(m_path);
         if (!ZelSettingsFile::IsWritable(m_path, error))
             return false;
+        ageStaleLock(m_path);
         const QFileInfo file(m_path);
         m_existed = file.exists();
         m_owner = file.ownerId();
