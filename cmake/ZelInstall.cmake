@@ -10,7 +10,10 @@ get_property(zel_public_headers GLOBAL PROPERTY ZEL_PUBLIC_HEADERS)
 get_property(zel_platform_libraries GLOBAL PROPERTY ZEL_PLATFORM_LIBRARIES)
 file(GLOB zel_platform_headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/platform/*.h)
 
-# The runnable tree.
+# The runnable tree. The run paths are final from the start: one that `install` has to change ends with an empty entry until
+# then, which stands for the working directory. They name a Qt that the system does not find by itself.
+set_target_properties(torvane-settings torvane-settings-check ZelControlCenter ${zel_platform_libraries}
+                      PROPERTIES BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH_USE_LINK_PATH ON)
 install(TARGETS torvane-settings torvane-settings-check RUNTIME DESTINATION bin)
 install(TARGETS ZelControlCenter ZelPlatform ${zel_platform_libraries} EXPORT ZelTargets
         RUNTIME DESTINATION bin

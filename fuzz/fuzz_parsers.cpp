@@ -1,6 +1,7 @@
-// Fuzzes the parsers of ratios and scene units with any texts and numbers.
+// Fuzzes the parsers of ratios, scene units and settings files with any texts and numbers.
 
 #include "Check.h"
+#include "SettingsDamage.h"
 #include "SettingsNumbers.h"
 #include "ZelSettingsValidators.h"
 #include "base/ZelQtCompat.h"
@@ -62,6 +63,13 @@ void checkUnit(const QString& text)
     check(value == first, "a unit stays", first, value);
 }
 
+void checkFile(const QByteArray& text)
+{
+    droppedComment(text);
+    if (settingsDamage(text).isEmpty())
+        check(settingsDamage(text + "\n; comment\n").isEmpty(), "a comment at the end is no damage", text);
+}
+
 void checkNumbers(std::vector<float> numbers)
 {
     for (const float number : numbers) {
@@ -88,6 +96,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     if (texts.size() > 1)
         checkRatios(QString::fromUtf8(texts[1]), text);
     checkUnit(text);
+
+    checkFile(QByteArray(reinterpret_cast<const char*>(data), static_cast<int>(size)));
 
     std::vector<float> numbers(size / sizeof(float));
     if (!numbers.empty())

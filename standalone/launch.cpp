@@ -232,7 +232,10 @@ int launch(int argc, char** argv)
     QtSingleApplication singleApplication(argc, argv);
     if (singleApplication.isRunning()) {
         passForegroundOn();
-        singleApplication.sendMessage(commandLineMessage(argc, argv), SendTimeout);
+        if (!singleApplication.sendMessage(commandLineMessage(argc, argv), SendTimeout))
+            std::fputs("The settings editor is running already, and has not taken this command line: "
+                       "it does not answer, or the command line is too long.\n",
+                       stderr);
         return 0;
     }
 

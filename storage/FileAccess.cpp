@@ -160,7 +160,7 @@ QString unwritableReason(const QString& path)
     // The lock stands beside a link, and the new file beside its target, whose folder is not created.
     for (const QString& folder : {existingFolder(QFileInfo(path).path()), QFileInfo(target).path()}) {
         const QString probe = folder + "/.torvane-probe";
-        if (!isWritableFolder(folder) && QFileInfo(folder).exists() && !createPrivateFolder(probe))
+        if (!isWritableFolder(folder) && !createPrivateFolder(probe))
             return systemError();
         QDir().rmdir(probe);
         if (isFull(folder, file.size() + MaximumGrowth))

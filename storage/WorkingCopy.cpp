@@ -182,8 +182,10 @@ bool WorkingCopy::write(QString& reason)
     QFile copy(m_copy);
     if (isComplete && readFile(m_copy, m_result, reason) && copy.open(QIODevice::ReadWrite) &&
         syncToDisk(copy)) {
-        reason = settingsDamage(m_result);
-        return reason.isEmpty();
+        if (!holdsObjects(m_result))
+            return true;
+        reason = SettingsFileText::tr("not all values can be kept in it");
+        return false;
     }
     if (isComplete) {
         reason = systemError();

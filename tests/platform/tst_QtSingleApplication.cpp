@@ -140,8 +140,6 @@ private Q_SLOTS:
         QVERIFY(std::all_of(others, processes.end(), isClient));
         for (const auto& client : processes) {
             QCOMPARE(client->line(), QByteArray("sent"));
-            QVERIFY(client->state() == QProcess::NotRunning || client->waitForFinished(Patience));
-            QCOMPARE(client->exitCode(), 0);
             received << QByteArray::fromHex(instance->line());
         }
         std::sort(sent.begin(), sent.end());
@@ -206,6 +204,9 @@ private Q_SLOTS:
         QCOMPARE(instance->part(), QByteArray("instance"));
         QCOMPARE(patient->line(), QByteArray("sent"));
         QCOMPARE(instance->line(), QByteArray("patient").toHex());
+        // Of a stopped instance the system still takes what is sent.
+        QCOMPARE(QProcess::execute("kill", {"-STOP", QString::number(instance->processId())}), 0);
+        QCOMPARE(send("unheard", {"300"}), QByteArray("failed"));
     }
 
     void placeIsPrivate()
@@ -215,9 +216,7 @@ private Q_SLOTS:
             m_environment.insert("XDG_RUNTIME_DIR", unfit);
             const auto instance = start();
             QCOMPARE(instance->part(), QByteArray("instance"));
-            struct stat place;
-            QCOMPARE(::stat(qPrintable(own), &place), 0);
-            QCOMPARE(place.st_mode & 0777, mode_t(0700));
+            QCOMPARE(int(QFile::permissions(own)), 0x7700); // What its owner may, and this user.
             QCOMPARE(QDir(own).entryList({"*.socket"}, QDir::System).size(), 1);
             QVERIFY(QDir(own).removeRecursively());
         }

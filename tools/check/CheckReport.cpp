@@ -73,7 +73,7 @@ QByteArray quoted(const QString& text)
 
 QByteArray member(const char* name, const QByteArray& value)
 {
-    return QByteArray("  \"") + name + "\": " + value;
+    return QByteArray("\"") + name + "\": " + value;
 }
 
 QByteArray textOrNull(const QString& text)
@@ -86,14 +86,14 @@ QByteArray array(const Items& items, ItemToJson itemToJson)
 {
     QByteArray result;
     for (const auto& item : items)
-        result += (result.isEmpty() ? "\n    " : ",\n    ") + itemToJson(item);
-    return '[' + result + (result.isEmpty() ? "]" : "\n  ]");
+        result += (result.isEmpty() ? "" : ", ") + itemToJson(item);
+    return '[' + result + ']';
 }
 
 QByteArray changeToJson(const SettingsChange& change)
 {
     return "{\"key\": " + quoted(change.key) +
-           ", \"old\": " + (change.isMissing ? "null" : quoted(change.oldText)) +
+           ", \"old\": " + (change.old.isValid() ? quoted(textOf(change.old)) : "null") +
            ", \"new\": " + quoted(change.newText) + ", \"reason\": " + quoted(change.reason) + '}';
 }
 
@@ -101,9 +101,10 @@ QByteArray changeToText(const SettingsChange& change)
 {
     const QByteArray key = escaped(change.key, QString());
     const QByteArray newText = " -> " + quoted(change.newText);
-    if (change.isMissing)
+    if (!change.old.isValid())
         return key + ": missing" + newText;
-    return key + ": " + quoted(change.oldText) + newText + ", for the old value " + change.reason.toUtf8();
+    return key + ": " + quoted(textOf(change.old)) + newText + ", for the old value " +
+           change.reason.toUtf8();
 }
 
 } // namespace
@@ -127,7 +128,7 @@ QByteArray CheckReport::toText() const
     for (const QString& folder : folders)
         result += (done ? "  created folder " : "  missing folder ") + quoted(folder) + '\n';
     if (!copy.isEmpty())
-        result += "  a copy of the damaged file is kept as " + quoted(copy) + '\n';
+        result += "  a copy of the former file is kept as " + quoted(copy) + '\n';
     if (!error.isEmpty())
         result += "  " + escaped(error, QString()) + '\n';
     return result;
@@ -145,8 +146,8 @@ QByteArray CheckReport::toJson() const
                                        member("error", textOrNull(error))};
     QByteArray result;
     for (const QByteArray& one : members)
-        result += (result.isEmpty() ? "" : ",\n") + one;
-    return "{\n" + result + "\n}\n";
+        result += (result.isEmpty() ? "" : ", ") + one;
+    return '{' + result + "}\n";
 }
 
 } // namespace zel

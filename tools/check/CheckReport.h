@@ -26,13 +26,13 @@ struct CheckReport
     QString damage;                      ///< What the pass loses of the file; empty when nothing.
     std::vector<SettingsChange> changes; ///< Those that the repair made or would make.
     QStringList folders;                 ///< Those that the repair created or would create.
-    QString copy;                        ///< The copy of a damaged file; empty without one.
+    QString copy;                        ///< The copy of what the repair has replaced; empty without one.
     QString error;                       ///< Why it is not repairable.
 
     /// Lines for people to read. Texts from the file are escaped, so that they cannot control a terminal.
     QByteArray toText() const;
 
-    /// One JSON object.
+    /// One JSON object, on one line.
     QByteArray toJson() const;
 };
 

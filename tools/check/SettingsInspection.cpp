@@ -8,8 +8,12 @@
 #include "ZelSettingsFile.h"
 #include "ZelSettingsValidators.h"
 
+#include <QTemporaryFile>
+
 #include <algorithm>
 #include <iterator>
+#include <map>
+#include <utility>
 
 namespace zel {
 
@@ -31,15 +35,14 @@ const struct
     {&ZelSettingsValidators::ensureTmpFolder, "is not an existing folder"},
 };
 
+/// As further passes leave it: each removes one slash from the end.
 QString cleanedUp(QString path)
 {
-    ZelSettingsValidators::CleanupFolder(path);
+    for (QString former; path != former;) {
+        former = path;
+        ZelSettingsValidators::CleanupFolder(path);
+    }
     return path;
-}
-
-QString shown(const QVariant& value)
-{
-    return isList(value) ? value.toStringList().join(", ") : value.toString();
 }
 
 QString reasonFor(const Registered& entry, const QVariant& oldValue, const QString& newText)
@@ -57,16 +60,61 @@ QString reasonFor(const Registered& entry, const QVariant& oldValue, const QStri
     return found == std::end(Reasons) ? "is not valid" : found->reason;
 }
 
+/// Runs passes over the values of a file, without storing them, until one changes nothing, and then calls
+/// take(entry of the registry, stored value, resulting text). False, with the error text set, when a
+/// validator gives up.
+template <typename Take>
+bool settleValues(const QSettings& settings, QString& error, Take take)
+{
+    std::map<QString, std::pair<QVariant, QString>> values;
+    bool isChanging = false;
+    bool isValid = validateSettings(
+        settings, error, [&](const Registered& entry, const QVariant& stored, const QString& text) {
+            values[entry.first] = {stored, text};
+            isChanging = isChanging || needsRepair(stored, text);
+        });
+    while (isValid && isChanging) {
+        isChanging = false;
+        for (const auto& [key, rule] : ZelSettingsRegistry::GetDefaultSettingsValues()) {
+            QString& text = values[key].second;
+            const QString former = text;
+            isValid = isValid && rule.second(key, rule.first, text, error);
+            isChanging = isChanging || text != former;
+        }
+    }
+    if (!isValid && error.isEmpty())
+        error = "The default of a setting is not valid";
+    for (const Registered& entry : ZelSettingsRegistry::GetDefaultSettingsValues()) {
+        if (isValid)
+            take(entry, values[entry.first].first, values[entry.first].second);
+    }
+    return isValid;
+}
+
 } // namespace
+
+QString textOf(const QVariant& value)
+{
+    return isList(value) ? value.toStringList().join(", ") : value.toString();
+}
 
 SettingsInspection::SettingsInspection(const QString& path)
 {
     QByteArray content;
-    if (!readFile(path, content, m_error))
+    QString reason;
+    if (!readFile(path, content, reason)) {
+        refuseReading(path, reason, m_error);
         return;
+    }
     m_damage = settingsDamage(content);
-    inspectValues(path);
-    if (m_error.isEmpty())
+    // Of what has been read, and without serialised objects, because QSettings would decode them.
+    QTemporaryFile readable;
+    if (readable.open() && readable.write(withoutObjects(content)) >= 0 && readable.flush())
+        inspectValues(*ZelSettingsFile::Open(readable.fileName()));
+    else
+        m_error = readable.errorString();
+    // A start writes only what needs a change.
+    if (m_error.isEmpty() && !(m_damage.isEmpty() && m_changes.empty()))
         ZelSettingsFile::IsWritable(path, m_error);
 }
 
@@ -75,24 +123,29 @@ bool SettingsInspection::isClean() const
     return m_damage.isEmpty() && m_changes.empty() && m_folders.isEmpty() && m_error.isEmpty();
 }
 
-void SettingsInspection::inspectValues(const QString& path)
+void SettingsInspection::inspectValues(const QSettings& settings)
 {
-    const auto settings = ZelSettingsFile::Open(path);
-    m_migration = migrationOf(*settings);
+    m_migration = migrationOf(settings);
     const FolderDryRun dryRun;
     const auto recordChange = [&](const Registered& entry, const QVariant& stored, const QString& text) {
         const QString& key = entry.first;
+        const bool isUpgraded = m_migration == Migration::Upgrade && key == keys::Engine;
         if (!stored.isValid())
-            m_changes.push_back({key, true, QString(), text, "is missing"});
-        else if (m_migration == Migration::Upgrade && key == keys::Engine && text != engines::Deferred)
-            m_changes.push_back({key, false, shown(stored), engines::Deferred,
-                                 "is of an older version, whose engine is not kept"});
+            m_changes.push_back({key, stored, text, "is missing"});
+        else if (isUpgraded && text != engines::Deferred)
+            m_changes.push_back(
+                {key, stored, engines::Deferred, "is of an older version, whose engine is not kept"});
         else if (needsRepair(stored, text))
-            m_changes.push_back({key, false, shown(stored), text, reasonFor(entry, stored, text)});
+            m_changes.push_back({key, stored, text, reasonFor(entry, stored, text)});
     };
-    if (!validateSettings(*settings, m_error, recordChange) && m_error.isEmpty())
-        m_error = "The default of a setting is not valid";
+    settleValues(settings, m_error, recordChange);
     m_folders = dryRun.folders();
+}
+
+bool createFolders(const QString& path, QString& error)
+{
+    const auto ignore = [](const Registered&, const QVariant&, const QString&) {};
+    return settleValues(*ZelSettingsFile::Open(path), error, ignore);
 }
 
 } // namespace zel

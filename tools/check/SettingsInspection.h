@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QVariant>
 
 #include <vector>
 
@@ -14,18 +15,20 @@ namespace zel {
 struct SettingsChange
 {
     QString key;
-    bool isMissing;
-    QString oldText;
+    QVariant old; ///< Invalid for a missing key.
     QString newText;
     QString reason; ///< Why, in English, as a predicate of the old value: "is out of range".
 };
+
+/// The text of a stored value, which may be a list.
+QString textOf(const QVariant& value);
 
 /// Finds out what migration and the validation pass would do to a settings file, without changing the file or
 /// creating a folder. Skips the end checks of applications, because they may write.
 class SettingsInspection
 {
 public:
-    /// Inspects a file by the registered rules. ZelSettingsFile::IsUsable() must be true of it.
+    /// Inspects a file by the registered rules.
     explicit SettingsInspection(const QString& path);
 
     /// True when there is nothing to repair.
@@ -36,16 +39,16 @@ public:
 
     /// What the pass would lose of the file, as from settingsDamage(); empty when nothing.
     const QString& damage() const { return m_damage; }
-    /// The values that migration and the pass would change.
+    /// The values that migration and passes would change, until a further pass changes nothing.
     const std::vector<SettingsChange>& changes() const { return m_changes; }
-    /// The folders that the pass would create.
+    /// The folders that the passes would create.
     const QStringList& folders() const { return m_folders; }
-    /// Why a start would fail: the pass would stop after the changes above, or the file cannot be written.
-    /// Empty when it would not fail.
+    /// Why a start would fail: a validator gives up, or the file needs a change and cannot be written. Empty
+    /// when it would not fail.
     const QString& error() const { return m_error; }
 
 private:
-    void inspectValues(const QString& path);
+    void inspectValues(const QSettings& settings);
 
     Migration m_migration = Migration::None;
     QString m_damage;
@@ -53,6 +56,10 @@ private:
     QStringList m_folders;
     QString m_error;
 };
+
+/// Creates the folders that the validators need for a settings file. False, with the error text set, when one
+/// of them gives up.
+bool createFolders(const QString& path, QString& error);
 
 } // namespace zel
 

@@ -1,12 +1,15 @@
 #include "CheckReport.h"
+#include "FileAccess.h"
 #include "SettingsBackup.h"
 #include "SettingsKeys.h"
 #include "SettingsValidation.h"
+#include "WorkingCopy.h"
 #include "ZelSettingsCatalogue.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsRegistry.h"
 #include "base/StandardStreams.h"
 #include "base/SystemFiles.h"
+#include "base/VersionNumbers.h"
 #include "base/ZelSystemCompat.h"
 
 #include "platform/kqLibraries.h"
@@ -14,14 +17,14 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QSettings>
 #include <QStringList>
 
 #include <algorithm>
 #include <cerrno>
-#include <chrono>
 #include <cstdio>
 #include <cstring>
-#include <system_error>
+#include <vector>
 
 namespace {
 
@@ -32,119 +35,138 @@ const int MaximumPasses = 8;
 
 const char* const Usage = "usage: torvane-settings-check [--repair] [--json] [--] FILE...\n";
 
+const char* const Version = "torvane-settings-check " ZEL_MAJOR_MINOR_RELEASE_REVISION "\n";
+
 const char* const Help = R"(
 Shows what the viewer and its settings editor will change in settings files when they start: missing and
-invalid values, lines that cannot be read, and folders that they have to create. Changes nothing without
---repair. "-" stands for a list of names on standard input, one on each line.
+invalid values, lines that cannot be read, and folders that they have to create. Touches nothing without
+--repair. "-" stands for a list of names on standard input: each ends with a zero byte if the list has any
+(find -print0), or else with its line.
 
   --repair    make these changes now; a dated copy of a damaged file is kept beside it
-  --json      print one JSON object for each file instead of lines
+  --json      print one JSON object for each file, on a line of its own
   -h, --help  print this text
+  --version   print the version
 
 Exit codes, of which the worst of all files counts; from good to bad:
   0  the file is clean
   4  the file has been repaired
   1  the file needs a repair; nothing has been changed
   2  the file cannot be read, written or repaired, or this report cannot be written
-  3  wrong usage, or a name that is not UTF-8 text
+  3  wrong usage
+
+The members of the JSON object, all always there:
+  file         the name, with U+FFFD for what is not UTF-8 text
+  state        "clean", "needs repair", "repaired" or "not repairable"
+  freshStart   true if the editor keeps only the language of the file, and a copy; a repair keeps its values
+  damage       what of the file is lost, or null
+  changes      for each changed value an object of texts: key, old (null if the key is missing), new, reason
+  folders      the folders that are missing, or were created
+  copy         the copy that holds what the file held before the repair, or null
+  error        why the file is not repairable, or null
+Later versions may add members, and change texts that are not quoted here.
 
 Only the keys that the library itself registers are checked, not those of the pages
 (resources/Defaults.ini). The viewer checks more when it starts, and keys that are unknown here stay as they
-are. In a file that does not exist every key is missing. The default folders are those of the user who runs
-the check: run it as the owner of the file. Of a file whose "settingsVersion" is below 1 the editor keeps
-only the language, and a copy: the report calls this a fresh start. A repair keeps its values.
+are. In a file that does not exist every key is missing; only the editor creates it. The default folders are
+those of the user who runs the check: run it as the owner of the file.
 )";
+
+/// A name as the user gave it. Decoding changes one that is not UTF-8, so that it names another file.
+struct Name
+{
+    QString text;
+    bool isText;
+};
 
 struct Options
 {
     bool repair = false;
     bool json = false;
-    bool help = false;
-    QStringList files;
+    QByteArray answer; ///< What to print instead of a check.
+    std::vector<Name> files;
     bool isComplete = true; ///< False when the list of files cannot be read to its end.
 };
 
-/// False when an option is unknown.
-bool parse(QStringList arguments, Options& options)
+Name decoded(const QByteArray& name)
 {
-    const int end = arguments.indexOf("--");
-    if (end >= 0) {
-        options.files = arguments.mid(end + 1);
-        arguments = arguments.mid(0, end);
+    const QString text = QFile::decodeName(name);
+    return {text, QFile::encodeName(text) == name};
+}
+
+/// Adds the names on standard input.
+void readNames(Options& options)
+{
+    QFile input;
+    input.open(stdin, QIODevice::ReadOnly);
+    const QByteArray list = input.readAll();
+    for (const QByteArray& name : list.split(list.contains('\0') ? '\0' : '\n')) {
+        if (!name.isEmpty())
+            options.files.push_back(decoded(name));
     }
-    for (const QString& argument : arguments) {
-        if (argument == "--repair")
+    if (std::ferror(stdin)) { // QFile does not tell.
+        std::fputs("torvane-settings-check: the list of files cannot be read\n", stderr);
+        options.isComplete = false;
+    }
+}
+
+/// False when an option is unknown, or there is nothing to do.
+bool parse(const std::vector<Name>& arguments, Options& options)
+{
+    bool mayBeOption = true;
+    std::vector<Name> files;
+    for (const Name& argument : arguments) {
+        const QString& text = argument.text;
+        if (!mayBeOption || !text.startsWith('-') || text == "-")
+            files.push_back(argument);
+        else if (text == "--")
+            mayBeOption = false;
+        else if (text == "--repair")
             options.repair = true;
-        else if (argument == "--json")
+        else if (text == "--json")
             options.json = true;
-        else if (argument == "--help" || argument == "-h")
-            options.help = true;
-        else if (argument.startsWith('-') && argument != "-")
-            return false;
+        else if (text == "--help" || text == "-h")
+            options.answer = QByteArray(Usage) + Help;
+        else if (text == "--version")
+            options.answer = Version;
         else
-            options.files += argument;
-    }
-    return options.help || (!options.files.isEmpty() && !options.files.contains(QString()));
-}
-
-/// False when decoding has changed an argument, which then names another file.
-bool areDecoded(const QStringList& arguments, char** given)
-{
-    for (const QString& argument : arguments) {
-        if (QFile::encodeName(argument) != *given++)
             return false;
     }
-    return true;
-}
-
-/// Replaces "-" by the names on standard input, one on each line. False when a name is not UTF-8 text.
-bool readNames(Options& options)
-{
-    QStringList all;
-    for (const QString& file : options.files) {
-        if (file != "-") {
-            all += file;
-            continue;
-        }
-        QFile input;
-        input.open(stdin, QIODevice::ReadOnly);
-        // readLine() is empty at the end and after an error.
-        for (QByteArray line = input.readLine(); !line.isEmpty(); line = input.readLine()) {
-            if (line.endsWith('\n'))
-                line.chop(1);
-            const QString name = QFile::decodeName(line);
-            if (QFile::encodeName(name) != line || line.contains('\0'))
-                return false;
-            if (!name.isEmpty())
-                all += name;
-        }
-        if (std::ferror(stdin)) { // QFile does not tell.
-            std::fputs("torvane-settings-check: the list of files cannot be read\n", stderr);
-            options.isComplete = false;
-        }
+    if (!options.answer.isEmpty())
+        return true;
+    for (const Name& file : files) {
+        if (file.text.isEmpty())
+            return false;
+        if (file.text == "-")
+            readNames(options);
+        else
+            options.files.push_back(file);
     }
-    options.files = all;
-    return true;
+    return !files.empty();
 }
 
-/// Creates the folders that the validators need. False when a validator would stop the pass, which would
-/// leave half of a repair in the file.
-bool createFolders(const QString& path, QString& error)
+/// Stores the new values, with that a migration sets, and runs the pass.
+bool runPass(const QString& path, const std::vector<SettingsChange>& changes, QString& error)
 {
-    return validateSettings(*ZelSettingsFile::Open(path), error,
-                            [](const auto&, const QVariant&, const QString&) {});
+    const bool losesList =
+        std::any_of(changes.begin(), changes.end(), [](const auto& change) { return isList(change.old); });
+    const auto store = [&](QSettings& settings, QString& failure) {
+        for (const SettingsChange& change : changes) {
+            if (settings.value(change.key) == change.old) // Else another program has just written it.
+                settings.setValue(change.key, change.newText);
+        }
+        QString reason;
+        return !losesList ||
+               WorkingCopy::Changing->keepContent("it holds a list in place of a text", reason) ||
+               refuseWriting(path, reason, failure);
+    };
+    return (changes.empty() || ZelSettingsFile::Write(*ZelSettingsFile::Open(path), store, error)) &&
+           ZelSettingsFile::Repair(*ZelSettingsFile::Open(path), error);
 }
 
-bool runPass(const QString& path, QString& error)
-{
-    return ZelSettingsFile::Repair(*ZelSettingsFile::Open(path), error);
-}
-
-/// Adds the changes of one more pass to those of the earlier passes.
+/// Adds what one more pass changes to what the earlier ones have changed.
 void add(const SettingsInspection& inspection, CheckReport& report)
 {
-    if (report.damage.isEmpty())
-        report.damage = inspection.damage();
     for (const SettingsChange& change : inspection.changes()) {
         const auto earlier =
             std::find_if(report.changes.begin(), report.changes.end(),
@@ -164,18 +186,15 @@ bool repair(const QString& path, SettingsInspection inspection, CheckReport& rep
         report.error = "It belongs to another user, whose default folders are others: run this as that user";
         return false;
     }
-    if (!createFolders(path, report.error))
+    // A validator that stops the pass would leave half of a repair in the file.
+    if (!ZelSettingsFile::IsUsable(path, report.error) || !createFolders(path, report.error))
         return false;
-    // A pass may leave work for the next one: it removes only one slash from the end of a folder, for
-    // instance.
     for (int pass = 0; !inspection.isClean(); ++pass) {
         if (pass == MaximumPasses) {
             report.error = "It still changes whenever it is repaired: repair it again";
             return false;
         }
-        if ((inspection.migration() == Migration::Upgrade &&
-             !migrateSettings(path, QString(), report.error)) ||
-            !runPass(path, report.error))
+        if (!runPass(path, inspection.changes(), report.error))
             return false;
         inspection = SettingsInspection(path);
         add(inspection, report);
@@ -183,23 +202,37 @@ bool repair(const QString& path, SettingsInspection inspection, CheckReport& rep
     return true;
 }
 
-QString latestCopy(const QString& path)
+/// The copy that holds a content; empty without one.
+QString copyWith(const QByteArray& content, const QString& path)
 {
-    const QStringList copies = backupsOf(path);
-    return copies.isEmpty() ? QString() : copies.last();
+    for (const QString& copy : backupsOf(path)) {
+        QByteArray kept;
+        QString ignored;
+        if (!content.isEmpty() && readFile(copy, kept, ignored) && kept == content)
+            return copy;
+    }
+    return QString();
 }
 
-CheckReport check(const QString& path, bool mayRepair)
+CheckReport check(const Name& name, bool mayRepair)
 {
+    const QString& path = name.text;
     CheckReport report;
     report.file = path;
     report.state = CheckState::NotRepairable;
-    if (!ZelSettingsFile::IsUsable(path, report.error))
+    if (!name.isText)
+        report.error = "Its name is not UTF-8 text";
+    else if (mayRepair && !QFile::exists(path) && !QFileInfo(path).isSymLink())
+        report.error = "It does not exist: only the editor creates it, when it starts";
+    QByteArray before;
+    QString reason;
+    if (!report.error.isEmpty() ||
+        (!readFile(path, before, reason) && !refuseReading(path, reason, report.error)))
         return report;
     const SettingsInspection inspection(path);
+    report.damage = inspection.damage();
     add(inspection, report);
     const bool exists = QFile::exists(path);
-    const QString previousCopy = latestCopy(path);
     if (inspection.isClean())
         report.state = CheckState::Clean;
     else if (report.error.isEmpty() && !mayRepair)
@@ -208,8 +241,8 @@ CheckReport check(const QString& path, bool mayRepair)
         report.state = CheckState::Repaired;
     report.isFreshStart =
         exists && inspection.migration() == Migration::FreshStart && report.state != CheckState::Repaired;
-    if (latestCopy(path) != previousCopy)
-        report.copy = latestCopy(path);
+    if (mayRepair && report.state != CheckState::Clean)
+        report.copy = copyWith(before, path);
     return report;
 }
 
@@ -226,7 +259,7 @@ bool print(const QByteArray& text)
 CheckState run(const Options& options)
 {
     CheckState worst = options.isComplete ? CheckState::Clean : CheckState::NotRepairable;
-    for (const QString& file : options.files) {
+    for (const Name& file : options.files) {
         const CheckReport report = check(file, options.repair);
         worst = worseOf(worst, report.state);
         if (!print(options.json ? report.toJson() : report.toText()))
@@ -254,14 +287,15 @@ int main(int argc, char** argv)
     protectStandardStreams();
     useUtf8FileNames();
     const QCoreApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments().mid(1);
+    std::vector<Name> arguments;
+    for (const QString& argument : QCoreApplication::arguments().mid(1))
+        arguments.push_back({argument, QFile::encodeName(argument) == *++argv});
     Options options;
-    if (!areDecoded(arguments, argv + 1) || !parse(arguments, options) ||
-        (!options.help && !readNames(options))) {
+    if (!parse(arguments, options)) {
         std::fputs(Usage, stderr);
         return UsageError;
     }
-    if (!options.help)
+    if (options.answer.isEmpty())
         return static_cast<int>(runWithPlatform(options));
-    return static_cast<int>(print(QByteArray(Usage) + Help) ? CheckState::Clean : CheckState::NotRepairable);
+    return static_cast<int>(print(options.answer) ? CheckState::Clean : CheckState::NotRepairable);
 }
