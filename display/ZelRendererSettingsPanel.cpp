@@ -89,6 +89,9 @@ ZelRendererSettingsPanel::ZelRendererSettingsPanel(kqDMIApplication* application
         m_ui->coreUsedSlider->setMaximum(cores);
     m_ui->qualitySlider->setMaximum(kqDMRenderer::QualityCount - 1);
     m_ui->extendOptionFrame->hide();
+    for (zelSpinBox* memory : {m_ui->maxCPU3DSpinBox, m_ui->maxCPURaySpinBox, m_ui->maxGPUSPinBox})
+        memory->setRange(MinimumMebibytes, MaximumMebibytes);
+    m_ui->maxTrianglesSpinBox->setRange(MinimumTriangles, MaximumTriangles);
 
     const ZelFieldWidgets<bool> engines(m_ui->deferredButton, m_ui->raytracerButton);
     const ZelFieldWidgets<int> qualities(m_ui->qualitySlider, qualityText);

@@ -3,6 +3,7 @@
 #include "ui_ZelImportSettingsPanel.h"
 
 #include "SettingsKeys.h"
+#include "SettingsNumbers.h"
 
 #include <QCoreApplication>
 
@@ -31,6 +32,7 @@ ZelImportSettingsPanel::ZelImportSettingsPanel(kqDMIApplication* application, QS
     m_limits[Sag] = {m_ui->defaultSag, m_ui->sag, m_ui->faceSagSpin};
     m_limits[Length] = {m_ui->defaultLength, m_ui->length, m_ui->faceLengthSpin};
     m_limits[Angle] = {m_ui->defaultAngle, m_ui->angle, m_ui->faceAngleSpin};
+    m_ui->faceAngleSpin->setRange(0, MaximumFaceAngle);
     setNamedStyleSheet("ZelImportSettingsPanel");
     setPanelName(Text::tr("Tessellation"));
     setPanelCategory(AdvancedCategory);
