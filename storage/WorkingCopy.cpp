@@ -159,7 +159,15 @@ bool WorkingCopy::make(QString& reason)
         return false;
     }
     m_settings->remove(EndKey);
-    return true;
+    if (!m_damaged)
+        return true;
+    // QSettings writes nothing of a file that it could not read unless a value is set.
+    const QVariantMap values = valuesOf(*m_settings);
+    m_copy = nextName();
+    m_settings = ZelSettingsFile::Open(m_copy);
+    for (auto value = values.constBegin(); value != values.constEnd(); ++value)
+        m_settings->setValue(value.key(), *value);
+    return writeFile(m_copy, QByteArray(), reason);
 }
 
 bool WorkingCopy::keepContent(const QString& loss, QString& reason) const
