@@ -2,13 +2,14 @@
 
 #include "ui_ControlCenter.h"
 
+#include "ClickOutside.h"
 #include "ControlCenterActions.h"
 #include "DrawerLayout.h"
 #include "EnableButton.h"
-#include "FileAccess.h"
+#include "MenuColumn.h"
 #include "ReturnKey.h"
+#include "SettingsPages.h"
 #include "StyleSheetPause.h"
-#include "ZelCCActionItem.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsPanel.h"
 #include "base/ZelAccessibility.h"
@@ -47,8 +48,6 @@ namespace {
 const int SlideDuration = 350;   // ms
 const int MenuWidth = 250;       // pixels
 const int DrawerWidth = 450;     // pixels
-const int ClickGuard = 500;      // ms
-const int SeparatorMargin = 18;  // pixels
 const int ExternalIconSize = 40; // pixels
 
 QMessageBox::StandardButton showMessage(const QString& text, QMessageBox::StandardButtons buttons)
@@ -56,33 +55,6 @@ QMessageBox::StandardButton showMessage(const QString& text, QMessageBox::Standa
     return kqMessageBox::ShowMessage(QCoreApplication::translate("ZelControlCenter", "Settings Modification"),
                                      text, buttons, nullptr, Qt::WindowFlags(),
                                      QMap<QMessageBox::StandardButton, QString>(), false);
-}
-
-void logUnregisteredKeys(const ZelSettingsPanel& panel)
-{
-    const auto& registered = ZelSettingsRegistry::GetDefaultSettingsValues();
-    QStringList keys = panel.getSettingsKeys();
-    keys.erase(std::remove_if(keys.begin(), keys.end(),
-                              [&](const QString& key) { return registered.count(key) > 0; }),
-               keys.end());
-    if (!keys.isEmpty())
-        logWarning(QString("The page \"%1\" has keys without a default or a validator, because they are not "
-                           "registered: %2")
-                       .arg(panel.getPanelName(), keys.join(", ")));
-}
-
-/// Marks the button of a page that has pending edits. Otherwise a transparent icon takes the same space.
-void markPending(QPushButton& button, bool pending)
-{
-    const QString tip = pending ? QCoreApplication::translate("ZelControlCenter",
-                                                              "This page has changes that are not applied.")
-                                : QCoreApplication::translate("ZelControlCenter", "Shows this page.");
-    if (button.toolTip() == tip)
-        return;
-    button.setIcon(QIcon(pending ? ":/controlCenter/controlCenter/pending.png"
-                                 : ":/controlCenter/controlCenter/pendingNone.png"));
-    button.setToolTip(tip);
-    button.setAccessibleDescription(tip);
 }
 
 /// Applies the style to a widget and its descendants. Some read it only on a change event: QComboBox chooses
@@ -105,16 +77,17 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     : QWidget(parent, flags)
     , m_ui(new Ui::ControlCenter)
     , m_application(application)
+    , m_pages(new SettingsPages(this))
+    , m_clickOutside(new ClickOutside(application, this))
     , m_pageMapper(new QSignalMapper(this))
     , m_pageGroup(new QButtonGroup(this))
     , m_menuOpen(false)
     , m_settingsOpen(false)
-    , m_pressHandled(false)
 {
     m_ui->setupUi(this);
     setStyleSheet(kqDMIApplication::GetStylesheet("ZelControlCenter"));
     setObjectName("ZelControlCenter");
-    m_ui->verticalLayout->setAlignment(Qt::AlignTop);
+    m_menu = std::make_unique<MenuColumn>(this, m_ui->verticalLayout);
     m_ui->verticalLayout_4 = m_drawerLayout = new DrawerLayout(m_ui->verticalLayout_4);
     // Keeps its width while the column slides, which clips it.
     m_ui->mainPanel->setMinimumWidth(MenuWidth);
@@ -126,6 +99,8 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     m_ui->controlCenterButton->setChecked(false);
     m_drawer->hide();
 
+    connect(m_pages, SIGNAL(stateChanged()), this, SLOT(onStateChanged()));
+    connect(m_clickOutside, SIGNAL(clicked()), this, SLOT(onClickOutside()));
     connect(m_pageMapper, SIGNAL(mapped(QString)), this, SLOT(onPanelClicked(QString)));
     m_widthAnimation = createSlide("controlCenterWidth", MenuWidth, SLOT(onControlCenterWidthFinished()));
     m_settingsAnimation = createSlide("settingsWidth", DrawerWidth, SLOT(onSettingsWidthFinished()));
@@ -151,13 +126,12 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     showWriteError(QString());
     openMenu(false);
     createSettingsAction();
-    m_clickTimer.start();
 }
 
 ZelControlCenter::~ZelControlCenter()
 {
-    while (!m_panels.isEmpty())
-        unregisterSettingsPanel(m_panels.front(), true);
+    while (!m_pages->all().isEmpty())
+        unregisterSettingsPanel(m_pages->all().front(), true);
     if (isSliding())
         m_application->setUpdateEngineEnabled(true);
     delete m_drawer;
@@ -186,21 +160,15 @@ void ZelControlCenter::createSettingsAction()
         "Settings", QCoreApplication::translate("ZelControlCenter", "Settings"), nullptr);
     m_settingsAction->setStatusTip(
         QCoreApplication::translate("ZelControlCenter", "Changes the settings of the application"));
-    registerCCAction(m_settingsAction.get(), "", false, false, true);
+    // It opens the settings inside the menu, so it does not close the menu.
+    registerCCAction(m_settingsAction.get(), "", false, false, false);
     connect(m_settingsAction.get(), SIGNAL(triggered()), this, SLOT(openSettings()));
-    // This action opens the settings inside the menu, so it must not close the menu.
-    disconnect(m_settingsAction.get(), SIGNAL(triggered()), this, SLOT(closeMenu()));
 }
 
 void ZelControlCenter::registerSettingsPanel(ZelSettingsPanel* panel)
 {
-    if (m_panels.contains(panel))
+    if (!m_pages->add(panel))
         return;
-    m_panels.append(panel);
-    logUnregisteredKeys(*panel);
-    connect(panel, SIGNAL(stateChanged()), this, SLOT(onStateChanged()));
-    connect(panel, SIGNAL(destroyed(QObject*)), this, SLOT(onPanelDestroyed(QObject*)));
-
     if (QPushButton* button = panel->getActionWidget())
         addPageButton(button, panel->getPanelName());
     {
@@ -232,8 +200,7 @@ void ZelControlCenter::addPageButton(QPushButton* button, const QString& panelNa
 
 void ZelControlCenter::unregisterSettingsPanel(ZelSettingsPanel* panel, bool reevaluate)
 {
-    disconnect(panel, nullptr, this, nullptr);
-    if (m_panels.removeOne(panel)) {
+    if (m_pages->remove(panel)) {
         if (QPushButton* button = panel->getActionWidget()) {
             m_pageGroup->removeButton(button);
             disconnect(button, SIGNAL(clicked()), m_pageMapper, SLOT(map()));
@@ -258,40 +225,24 @@ bool ZelControlCenter::isSettingsOpen() const
 
 bool ZelControlCenter::hasModifications() const
 {
-    return std::any_of(m_panels.begin(), m_panels.end(),
-                       [](const ZelSettingsPanel* panel) { return panel->hasModifications(); });
+    return m_pages->hasModifications();
 }
 
 bool ZelControlCenter::applyModifications()
 {
-    QList<ZelSettingsPanel*> edited;
-    for (ZelSettingsPanel* panel : m_panels) {
-        if (panel->hasModifications())
-            edited << panel;
-    }
+    const QPointer<ZelControlCenter> self(this);
+    const bool edited = hasModifications();
     bool restart = false;
-    const auto apply = [&](QSettings&, QString&) {
-        forEachPanel([&](ZelSettingsPanel* panel) {
-            // Another program has changed the file. The page must not put its own values back.
-            if (!edited.contains(panel) && panel->hasModifications())
-                panel->initializeWidget();
-            restart = panel->applyModifications() || restart;
-        });
-        return true;
-    };
-    QSettings& settings = m_application->getSettings();
     QString error;
-    if (edited.isEmpty())
-        return apply(settings, error) && restart;
-    // One write for all pages, so that the file never has only some of the edits.
-    const bool written = ZelSettingsFile::Write(settings, apply, error);
-    showWriteError(error);
+    const bool written = m_pages->apply(m_application->getSettings(), restart, error);
+    if (self && edited)
+        showWriteError(error);
     return written && restart;
 }
 
 void ZelControlCenter::setGUIHandler(QWidget* handler)
 {
-    m_guiHandler = handler;
+    m_clickOutside->setHandler(handler);
 }
 
 void ZelControlCenter::setControlCenterButton(QPushButton* button)
@@ -344,51 +295,22 @@ void ZelControlCenter::setSettingsWidth(int width)
 void ZelControlCenter::registerCCAction(zelAction* action, const QString& anchorName, bool isWorkflowSpecific,
                                         bool after, bool closeMenuOnTrigger)
 {
-    auto* item = new ZelCCActionItem(action, this, Qt::WindowFlags());
-    item->setIsWorkflowSpecific(isWorkflowSpecific);
-    if (closeMenuOnTrigger)
-        connect(action, SIGNAL(triggered()), this, SLOT(closeMenu()), Qt::UniqueConnection);
-    m_actionItems.append(item);
-
-    const int anchor = anchorIndex(anchorName);
-    const bool besideAnchor = !anchorName.isEmpty() && anchor >= 0;
-    m_ui->verticalLayout->insertWidget(besideAnchor && after ? anchor + 1 : anchor, item);
-    if (!besideAnchor)
-        layout()->invalidate();
+    m_menu->addAction(action, anchorName, isWorkflowSpecific, after, closeMenuOnTrigger);
 }
 
 void ZelControlCenter::unregisterCCAction(zelAction* action)
 {
-    const auto items = m_actionItems;
-    for (ZelCCActionItem* item : items) {
-        if (item->getZelAction() != action)
-            continue;
-        disconnect(action, SIGNAL(triggered()), this, SLOT(closeMenu()));
-        m_actionItems.removeOne(item);
-        delete item;
-    }
+    m_menu->removeAction(action);
 }
 
 bool ZelControlCenter::addCCSeparator(const QString& anchorName, const QString& separatorName)
 {
-    if (m_separators.contains(separatorName))
-        return false;
-    auto* separator = new QFrame(this);
-    separator->setStyleSheet("background:rgb(0,0,0,30);");
-    separator->setFixedHeight(1);
-    separator->setFixedWidth(std::max(width() - SeparatorMargin, 0));
-    m_separators.insert(separatorName, separator);
-    m_ui->verticalLayout->insertWidget(anchorIndex(anchorName), separator);
-    return true;
+    return m_menu->addSeparator(anchorName, separatorName);
 }
 
 bool ZelControlCenter::setCCSeparatorVisible(const QString& separatorName, bool visible)
 {
-    QFrame* separator = m_separators.value(separatorName);
-    if (!separator)
-        return false;
-    separator->setVisible(visible);
-    return true;
+    return m_menu->setSeparatorVisible(separatorName, visible);
 }
 
 void ZelControlCenter::setInterfaceColor(const QColor& color, const QString& iconOnFile,
@@ -409,27 +331,15 @@ void ZelControlCenter::setInterfaceColor(const QColor& color, const QString& ico
 
 bool ZelControlCenter::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Resize)
-        m_clickTimer.restart();
-    // A press in a modal dialog answers it and is not a click outside. Qt delivers a press to the native
-    // window first, and then to the widget.
-    if (event->type() != QEvent::MouseButtonPress || m_pressHandled || QApplication::activeModalWidget() ||
-        isNativeWindow(watched))
-        return false;
-    if (m_clickTimer.elapsed() < ClickGuard)
-        return false;
-    m_clickTimer.restart();
-    const QPoint position = static_cast<QMouseEvent*>(event)->globalPos();
-    if (!isClickOutside(watched, position))
-        return false;
-    if (discardModifications()) {
-        openSettingsPanel(false);
-        openMenu(false);
-    }
-    // Qt delivers a press that no widget accepts to one parent after the other.
-    m_pressHandled = true;
-    QTimer::singleShot(0, this, SLOT(onPressDelivered()));
-    return false;
+    return m_clickOutside->eventFilter(watched, event);
+}
+
+void ZelControlCenter::onClickOutside()
+{
+    if (!discardModifications())
+        return;
+    openSettingsPanel(false);
+    openMenu(false);
 }
 
 void ZelControlCenter::openMenu(bool open)
@@ -449,7 +359,11 @@ void ZelControlCenter::openMenu(bool open)
         const bool drawerWasOpen = m_drawer && !m_drawer->isHidden() &&
                                    m_settingsAnimation->direction() == QAbstractAnimation::Forward;
         slideDrawer(false, false);
-        if (!discardModifications()) {
+        const QPointer<ZelControlCenter> self(this);
+        const bool discarded = discardModifications();
+        if (!self)
+            return;
+        if (!discarded) {
             m_application->setUpdateEngineEnabled(true);
             if (drawerWasOpen)
                 showDrawer(true);
@@ -492,12 +406,14 @@ void ZelControlCenter::openSettings()
 
 void ZelControlCenter::on_applyButton_clicked()
 {
-    if (applyModifications() && guiPlugin())
+    const QPointer<ZelControlCenter> self(this);
+    if (applyModifications() && self && guiPlugin())
         showMessage(QCoreApplication::translate(
                         "ZelControlCenter",
                         "You need to restart your application to turn settings modification effective."),
                     QMessageBox::Ok);
-    onStateChanged();
+    if (self)
+        onStateChanged();
 }
 
 void ZelControlCenter::on_resetButton_clicked()
@@ -509,7 +425,7 @@ void ZelControlCenter::onPanelClicked(const QString& pPanelName)
 {
     if (!m_settingsOpen)
         openSettingsPanel(true);
-    forEachPanel([&](ZelSettingsPanel* panel) {
+    m_pages->forEach([&](ZelSettingsPanel* panel) {
         if (panel->getPanelName() == pPanelName)
             ensureSettingVisible(panel);
     });
@@ -517,18 +433,8 @@ void ZelControlCenter::onPanelClicked(const QString& pPanelName)
 
 void ZelControlCenter::onStateChanged()
 {
-    enableButton(*m_ui->resetButton,
-                 std::any_of(m_panels.begin(), m_panels.end(),
-                             [](const ZelSettingsPanel* panel) { return panel->canResetContent(); }),
-                 m_pageGroup->checkedButton());
-    bool modified = false;
-    for (ZelSettingsPanel* panel : m_panels) {
-        const bool pending = panel->hasModifications();
-        if (QPushButton* button = panel->getActionWidget())
-            markPending(*button, pending);
-        modified = modified || pending;
-    }
-    enableButton(*m_ui->applyButton, modified, m_pageGroup->checkedButton());
+    enableButton(*m_ui->resetButton, m_pages->canReset(), m_pageGroup->checkedButton());
+    enableButton(*m_ui->applyButton, m_pages->mark(), m_pageGroup->checkedButton());
     Q_EMIT pagesChanged();
 }
 
@@ -574,13 +480,6 @@ void ZelControlCenter::onScrollBarRangeChanged()
         setSettingsWidth(settingsWidth());
 }
 
-void ZelControlCenter::onPanelDestroyed(QObject* panel)
-{
-    // A page that is being destroyed is only a QObject: compare its address.
-    m_panels.erase(std::remove(m_panels.begin(), m_panels.end(), panel), m_panels.end());
-    onStateChanged();
-}
-
 void ZelControlCenter::onFocusChanged(QWidget* previous, QWidget* current)
 {
     if (!m_drawer || !m_drawer->isAncestorOf(current) || m_drawer->isAncestorOf(previous))
@@ -588,11 +487,6 @@ void ZelControlCenter::onFocusChanged(QWidget* previous, QWidget* current)
     // Do not scroll the pages while a mouse button is down.
     if (QApplication::mouseButtons() == Qt::NoButton)
         m_drawer->ensureWidgetVisible(current, 0);
-}
-
-void ZelControlCenter::onPressDelivered()
-{
-    m_pressHandled = false;
 }
 
 void ZelControlCenter::openSettingsPanel(bool open)
@@ -649,7 +543,7 @@ void ZelControlCenter::ensureSettingVisible(QWidget* widget)
 
 void ZelControlCenter::resetControlCenter()
 {
-    forEachPanel([](ZelSettingsPanel* panel) { panel->resetContent(); });
+    m_pages->reset();
 }
 
 void ZelControlCenter::resizeEvent(QResizeEvent* event)
@@ -683,14 +577,6 @@ void ZelControlCenter::setActionSpace(bool given)
     m_ui->verticalLayout_5->setStretchFactor(m_ui->actionFrame, given ? 1 : 0);
 }
 
-void ZelControlCenter::forEachPanel(const std::function<void(ZelSettingsPanel*)>& action) const
-{
-    const QList<ZelSettingsPanel*> panels = m_panels;
-    for (ZelSettingsPanel* panel : panels)
-        if (m_panels.contains(panel))
-            action(panel);
-}
-
 kqDMGuiPlugin* ZelControlCenter::guiPlugin() const
 {
     return m_application->getGuiPlugin();
@@ -711,7 +597,7 @@ void ZelControlCenter::initializePanels()
     QString error;
     ZelSettingsFile::IsWritable(m_application->getSettings().fileName(), error);
     showWriteError(error);
-    forEachPanel([](ZelSettingsPanel* panel) { panel->initializeWidget(); });
+    m_pages->load();
     onStateChanged();
 }
 
@@ -721,31 +607,12 @@ bool ZelControlCenter::discardModifications()
         return true;
     const QString question = QCoreApplication::translate(
         "ZelControlCenter", "You have pending modifications. Continue and discard your changes ?");
-    if (guiPlugin() && showMessage(question, QMessageBox::Ok | QMessageBox::Cancel) != QMessageBox::Ok)
+    const QPointer<ZelControlCenter> self(this);
+    if (guiPlugin() &&
+        (showMessage(question, QMessageBox::Ok | QMessageBox::Cancel) != QMessageBox::Ok || !self))
         return false;
     initializePanels();
     return true;
-}
-
-bool ZelControlCenter::isClickOutside(QObject* watched, const QPoint& globalPosition) const
-{
-    const QWidget* view = guiPlugin() ? guiPlugin()->getMainViewWidget() : nullptr;
-    if (!view || !QRect(view->mapToGlobal(QPoint(0, 0)), view->size()).contains(globalPosition))
-        return false;
-    const auto* widget = qobject_cast<QWidget*>(watched);
-    return !m_guiHandler || !widget || m_guiHandler->isAncestorOf(widget);
-}
-
-int ZelControlCenter::anchorIndex(const QString& anchorName) const
-{
-    if (anchorName.isEmpty())
-        return 0;
-    for (int index = 0; index < m_ui->verticalLayout->count(); ++index) {
-        const auto* item = qobject_cast<ZelCCActionItem*>(m_ui->verticalLayout->itemAt(index)->widget());
-        if (item && item->getZelAction() && item->getZelAction()->getActionName() == anchorName)
-            return index;
-    }
-    return -1;
 }
 
 } // namespace zel

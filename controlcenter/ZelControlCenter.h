@@ -6,20 +6,15 @@
 #include "ZelSettingsValidators.h"
 #include "base/ZelExport.h"
 
-#include <QElapsedTimer>
-#include <QList>
-#include <QMap>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QWidget>
 
-#include <functional>
 #include <memory>
 
 class QButtonGroup;
 class QColor;
-class QFrame;
 class QPropertyAnimation;
 class QSignalMapper;
 class kqDMGuiPlugin;
@@ -32,8 +27,10 @@ class ControlCenter;
 
 namespace zel {
 
+class ClickOutside;
 class DrawerLayout;
-class ZelCCActionItem;
+class MenuColumn;
+class SettingsPages;
 class ZelSettingsPanel;
 
 /// The side panel that an application puts beside its 3D view: a menu column of actions that slides open, and
@@ -163,12 +160,10 @@ protected Q_SLOTS:
     void closeMenu();
     /// Fits the width of the pages to the scroll bar, which may have appeared or gone.
     void onScrollBarRangeChanged();
-    /// Removes a page that was deleted while registered.
-    void onPanelDestroyed(QObject* panel);
     /// Scrolls to the focused field when the focus enters the drawer.
     void onFocusChanged(QWidget* previous, QWidget* current);
-    /// A mouse press has reached all its receivers; the next one counts as another click.
-    void onPressDelivered();
+    /// The user has clicked outside the menu, which closes it.
+    void onClickOutside();
 
 protected:
     /// Slides the drawer open or closed. Opening a closed drawer loads the stored values into every page.
@@ -200,27 +195,19 @@ private:
     void closeDrawer();
     /// Lets the actions take space in the menu column, or none.
     void setActionSpace(bool given);
-    /// Calls a function for each page, in the order of registration. The function may register and unregister
-    /// pages.
-    void forEachPanel(const std::function<void(ZelSettingsPanel*)>& action) const;
     /// Shows below the Apply button why the settings file cannot be written; an empty text hides it.
     void showWriteError(const QString& error);
     void initializePanels();
-    /// Discards pending edits; in the viewer it asks first. False when the user keeps them.
+    /// Discards pending edits; in the viewer it asks first. False when the user keeps them, or when this
+    /// object was deleted while the question was open.
     bool discardModifications();
-    bool isClickOutside(QObject* watched, const QPoint& globalPosition) const;
-    /// Index of the item of an anchor in the menu column; 0 for an empty name; -1, which QBoxLayout takes for
-    /// the bottom, when there is none.
-    int anchorIndex(const QString& anchorName) const;
 
     const std::unique_ptr<Ui::ControlCenter> m_ui;
     std::unique_ptr<zelAction> m_settingsAction;
-    QList<ZelSettingsPanel*> m_panels;
-    QList<ZelCCActionItem*> m_actionItems;
-    QMap<QString, QFrame*> m_separators;
-    QElapsedTimer m_clickTimer;
-    QPointer<QWidget> m_guiHandler;
+    std::unique_ptr<MenuColumn> m_menu;
     kqDMIApplication* const m_application;
+    SettingsPages* const m_pages;
+    ClickOutside* const m_clickOutside;
     QSignalMapper* const m_pageMapper;
     QPointer<QPushButton> m_controlCenterButton;
     QButtonGroup* const m_pageGroup;
@@ -231,7 +218,6 @@ private:
     QPropertyAnimation* m_scrollAnimation;
     bool m_menuOpen;
     bool m_settingsOpen;
-    bool m_pressHandled; ///< The mouse press that is being delivered has already counted as a click.
 };
 
 } // namespace zel
