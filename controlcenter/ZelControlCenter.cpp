@@ -4,12 +4,13 @@
 
 #include "ClickOutside.h"
 #include "ControlCenterActions.h"
-#include "DrawerLayout.h"
 #include "EnableButton.h"
 #include "MenuColumn.h"
+#include "PageButtons.h"
 #include "ReturnKey.h"
+#include "SettingsDrawer.h"
 #include "SettingsPages.h"
-#include "StyleSheetPause.h"
+#include "Slide.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsPanel.h"
 #include "base/ZelAccessibility.h"
@@ -21,19 +22,11 @@
 #include "platform/zelAction.h"
 
 #include <QApplication>
-#include <QButtonGroup>
 #include <QColor>
 #include <QIcon>
-#include <QMouseEvent>
-#include <QPropertyAnimation>
 #include <QScrollBar>
 #include <QSettings>
-#include <QSignalMapper>
 #include <QTextDocument>
-#include <QTimer>
-
-#include <algorithm>
-#include <vector>
 
 // Q_CLEANUP_RESOURCE declares a global function, so it must not be used in a namespace.
 static void cleanupResources()
@@ -45,9 +38,7 @@ namespace zel {
 
 namespace {
 
-const int SlideDuration = 350;   // ms
 const int MenuWidth = 250;       // pixels
-const int DrawerWidth = 450;     // pixels
 const int ExternalIconSize = 40; // pixels
 
 QMessageBox::StandardButton showMessage(const QString& text, QMessageBox::StandardButtons buttons)
@@ -55,20 +46,6 @@ QMessageBox::StandardButton showMessage(const QString& text, QMessageBox::Standa
     return kqMessageBox::ShowMessage(QCoreApplication::translate("ZelControlCenter", "Settings Modification"),
                                      text, buttons, nullptr, Qt::WindowFlags(),
                                      QMap<QMessageBox::StandardButton, QString>(), false);
-}
-
-/// Applies the style to a widget and its descendants. Some read it only on a change event: QComboBox chooses
-/// its kind of list then.
-void polishAll(QWidget& tree)
-{
-    tree.ensurePolished();
-    const QList<QWidget*> descendants = tree.findChildren<QWidget*>();
-    const std::vector<QPointer<QWidget>> guarded(descendants.begin(), descendants.end());
-    for (const QPointer<QWidget>& widget : guarded) {
-        QEvent change(QEvent::StyleChange);
-        if (widget)
-            QCoreApplication::sendEvent(widget, &change);
-    }
 }
 
 } // namespace
@@ -79,8 +56,6 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     , m_application(application)
     , m_pages(new SettingsPages(this))
     , m_clickOutside(new ClickOutside(application, this))
-    , m_pageMapper(new QSignalMapper(this))
-    , m_pageGroup(new QButtonGroup(this))
     , m_menuOpen(false)
     , m_settingsOpen(false)
 {
@@ -88,41 +63,35 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     setStyleSheet(kqDMIApplication::GetStylesheet("ZelControlCenter"));
     setObjectName("ZelControlCenter");
     m_menu = std::make_unique<MenuColumn>(this, m_ui->verticalLayout);
-    m_ui->verticalLayout_4 = m_drawerLayout = new DrawerLayout(m_ui->verticalLayout_4);
     // Keeps its width while the column slides, which clips it.
     m_ui->mainPanel->setMinimumWidth(MenuWidth);
 
     // The drawer leaves the layout of the form, so that the application can put it into its own.
-    m_drawer = m_ui->settingsScrollArea;
-    m_ui->horizontalLayout_30->removeWidget(m_drawer);
-    m_drawer->setParent(this);
+    QScrollArea* drawer = m_ui->settingsScrollArea;
+    m_ui->horizontalLayout_30->removeWidget(drawer);
+    drawer->setParent(this);
     m_ui->controlCenterButton->setChecked(false);
-    m_drawer->hide();
+    drawer->hide();
+    m_drawer = new SettingsDrawer(drawer, m_ui->verticalLayout_4, m_ui->verticalLayout_8, this);
+    m_pageButtons = new PageButtons(m_ui->verticalLayout_6, {m_ui->resetButton, m_ui->applyButton}, this);
 
     connect(m_pages, SIGNAL(stateChanged()), this, SLOT(onStateChanged()));
     connect(m_clickOutside, SIGNAL(clicked()), this, SLOT(onClickOutside()));
-    connect(m_pageMapper, SIGNAL(mapped(QString)), this, SLOT(onPanelClicked(QString)));
+    connect(m_pageButtons, SIGNAL(chosen(QString)), this, SLOT(onPanelClicked(QString)));
     m_widthAnimation = createSlide("controlCenterWidth", MenuWidth, SLOT(onControlCenterWidthFinished()));
-    m_settingsAnimation = createSlide("settingsWidth", DrawerWidth, SLOT(onSettingsWidthFinished()));
+    m_settingsAnimation =
+        createSlide("settingsWidth", SettingsDrawer::OpenWidth, SLOT(onSettingsWidthFinished()));
 
-    QScrollBar* scrollBar = m_drawer->verticalScrollBar();
-    m_scrollAnimation = new QPropertyAnimation(scrollBar, "value", this);
-    m_scrollAnimation->setDuration(SlideDuration);
-    m_scrollAnimation->setEasingCurve(QEasingCurve::InOutQuad);
+    QScrollBar* scrollBar = drawer->verticalScrollBar();
     connect(scrollBar, SIGNAL(valueChanged(int)), this, SLOT(onScrollBarValueChanged(int)));
     // Queued: QScrollArea shows or hides the bar only after the range has changed.
     connect(scrollBar, SIGNAL(rangeChanged(int, int)), this, SLOT(onScrollBarRangeChanged()),
             Qt::QueuedConnection);
 
-    // QScrollArea follows only a focus that moves within it.
-    connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
-
     new ReturnKey(this);
-    new ReturnKey(m_drawer);
-    connect(new ControlCenterActions(this, m_drawer, m_ui->applyButton, m_ui->resetButton),
+    connect(new ControlCenterActions(this, drawer, m_ui->applyButton, m_ui->resetButton),
             SIGNAL(helpRequested(QWidget*)), this, SIGNAL(helpRequested(QWidget*)));
 
-    m_pageGroup->setExclusive(true);
     showWriteError(QString());
     openMenu(false);
     createSettingsAction();
@@ -134,7 +103,7 @@ ZelControlCenter::~ZelControlCenter()
         unregisterSettingsPanel(m_pages->all().front(), true);
     if (isSliding())
         m_application->setUpdateEngineEnabled(true);
-    delete m_drawer;
+    delete m_drawer->area();
     unregisterCCAction(m_settingsAction.get());
 }
 
@@ -147,7 +116,7 @@ QPropertyAnimation* ZelControlCenter::createSlide(const char* property, int open
                                                   const char* finishedSlot)
 {
     auto* slide = new QPropertyAnimation(this, property, this);
-    slide->setDuration(SlideDuration);
+    slide->setDuration(SlideTime);
     slide->setStartValue(0);
     slide->setEndValue(openWidth);
     connect(slide, SIGNAL(finished()), this, finishedSlot);
@@ -169,44 +138,16 @@ void ZelControlCenter::registerSettingsPanel(ZelSettingsPanel* panel)
 {
     if (!m_pages->add(panel))
         return;
-    if (QPushButton* button = panel->getActionWidget())
-        addPageButton(button, panel->getPanelName());
-    {
-        const StyleSheetPause pause(*panel);
-        m_ui->verticalLayout_8->addWidget(panel);
-    }
-    polishAll(*panel);
-    m_ui->applicationFrame->show();
-    panel->show();
+    m_pageButtons->add(panel);
+    m_drawer->addPage(panel);
     panel->initializeWidget();
     onStateChanged();
-}
-
-void ZelControlCenter::addPageButton(QPushButton* button, const QString& panelName)
-{
-    m_ui->verticalLayout_6->addWidget(button);
-    m_ui->applicationSettings->show();
-    // The Tab key visits the column from top to bottom before the pages.
-    if (m_pageGroup->buttons().isEmpty()) {
-        setTabOrder(button, m_ui->resetButton);
-        setTabOrder(m_ui->resetButton, m_ui->applyButton);
-    } else {
-        setTabOrder(m_pageGroup->buttons().last(), button);
-    }
-    m_pageGroup->addButton(button);
-    connect(button, SIGNAL(clicked()), m_pageMapper, SLOT(map()));
-    m_pageMapper->setMapping(button, panelName);
 }
 
 void ZelControlCenter::unregisterSettingsPanel(ZelSettingsPanel* panel, bool reevaluate)
 {
     if (m_pages->remove(panel)) {
-        if (QPushButton* button = panel->getActionWidget()) {
-            m_pageGroup->removeButton(button);
-            disconnect(button, SIGNAL(clicked()), m_pageMapper, SLOT(map()));
-            m_pageMapper->removeMappings(button);
-            button->setParent(nullptr);
-        }
+        m_pageButtons->remove(panel);
         panel->setParent(nullptr);
     }
     if (reevaluate)
@@ -252,12 +193,12 @@ void ZelControlCenter::setControlCenterButton(QPushButton* button)
 
 QScrollArea* ZelControlCenter::settingsWidget() const
 {
-    return m_drawer;
+    return m_drawer->area();
 }
 
 int ZelControlCenter::OpenWidth()
 {
-    return MenuWidth + DrawerWidth;
+    return MenuWidth + SettingsDrawer::OpenWidth;
 }
 
 int ZelControlCenter::controlCenterWidth() const
@@ -273,23 +214,19 @@ void ZelControlCenter::setControlCenterWidth(int width)
 
 int ZelControlCenter::settingsWidth() const
 {
-    return m_drawer && m_drawer->isVisible() ? m_drawer->minimumWidth() : 0;
+    return m_drawer->width();
 }
 
 void ZelControlCenter::setSettingsWidth(int width)
 {
-    if (!m_drawer)
+    m_drawer->setWidth(width);
+    const bool opening = m_settingsAnimation->state() == QAbstractAnimation::Running &&
+                         m_settingsAnimation->direction() == QAbstractAnimation::Forward;
+    if (!opening || !m_drawer->isVisible())
         return;
-    m_drawer->setVisible(width >= 1);
-    m_drawer->setFixedWidth(width);
-    const QScrollBar* scrollBar = m_drawer->verticalScrollBar();
-    const int barWidth = scrollBar->isVisible() ? scrollBar->width() : 0;
-    m_drawerLayout->setMinimumWidth(DrawerWidth - barWidth);
-    m_ui->settingsContent->setFixedWidth(std::max(width - barWidth, 0));
+    m_drawer->showNextPage();
     // An opening drawer has not scrolled yet, so nothing else has checked the button of its page.
-    if (m_settingsAnimation->state() == QAbstractAnimation::Running &&
-        m_settingsAnimation->direction() == QAbstractAnimation::Forward)
-        onScrollBarValueChanged(scrollBar->value());
+    onScrollBarValueChanged(m_drawer->area()->verticalScrollBar()->value());
 }
 
 void ZelControlCenter::registerCCAction(zelAction* action, const QString& anchorName, bool isWorkflowSpecific,
@@ -356,7 +293,7 @@ void ZelControlCenter::openMenu(bool open)
         m_widthAnimation->setDirection(QAbstractAnimation::Forward);
         m_ui->preferenceFrame->hide();
     } else {
-        const bool drawerWasOpen = m_drawer && !m_drawer->isHidden() &&
+        const bool drawerWasOpen = m_drawer->area() && !m_drawer->area()->isHidden() &&
                                    m_settingsAnimation->direction() == QAbstractAnimation::Forward;
         slideDrawer(false, false);
         const QPointer<ZelControlCenter> self(this);
@@ -433,8 +370,8 @@ void ZelControlCenter::onPanelClicked(const QString& pPanelName)
 
 void ZelControlCenter::onStateChanged()
 {
-    enableButton(*m_ui->resetButton, m_pages->canReset(), m_pageGroup->checkedButton());
-    enableButton(*m_ui->applyButton, m_pages->mark(), m_pageGroup->checkedButton());
+    enableButton(*m_ui->resetButton, m_pages->canReset(), m_pageButtons->checkedButton());
+    enableButton(*m_ui->applyButton, m_pages->mark(), m_pageButtons->checkedButton());
     Q_EMIT pagesChanged();
 }
 
@@ -450,23 +387,17 @@ void ZelControlCenter::onSettingsWidthFinished()
 {
     m_application->setUpdateEngineEnabled(true);
     m_settingsOpen = m_settingsAnimation->direction() == QAbstractAnimation::Forward;
-    if (!m_settingsOpen)
+    if (m_settingsOpen)
+        m_drawer->showAllPages();
+    else
         closeDrawer();
 }
 
 void ZelControlCenter::onScrollBarValueChanged(int value)
 {
-    if (m_scrollAnimation->state() == QAbstractAnimation::Running)
-        return;
-    const QPoint belowTop(10, value + 10);
-    for (QWidget* widget = m_ui->settingsContent->childAt(belowTop); widget;
-         widget = widget->parentWidget()) {
-        if (auto* panel = qobject_cast<ZelSettingsPanel*>(widget)) {
-            if (QPushButton* button = panel->getActionWidget())
-                button->setChecked(true);
-            return;
-        }
-    }
+    const ZelSettingsPanel* page = m_drawer->pageAt(value);
+    if (page && page->getActionWidget())
+        page->getActionWidget()->setChecked(true);
 }
 
 void ZelControlCenter::closeMenu()
@@ -476,17 +407,8 @@ void ZelControlCenter::closeMenu()
 
 void ZelControlCenter::onScrollBarRangeChanged()
 {
-    if (m_drawer && m_drawer->isVisible() && !isSliding())
+    if (m_drawer->isVisible() && !isSliding())
         setSettingsWidth(settingsWidth());
-}
-
-void ZelControlCenter::onFocusChanged(QWidget* previous, QWidget* current)
-{
-    if (!m_drawer || !m_drawer->isAncestorOf(current) || m_drawer->isAncestorOf(previous))
-        return;
-    // Do not scroll the pages while a mouse button is down.
-    if (QApplication::mouseButtons() == Qt::NoButton)
-        m_drawer->ensureWidgetVisible(current, 0);
 }
 
 void ZelControlCenter::openSettingsPanel(bool open)
@@ -505,7 +427,7 @@ void ZelControlCenter::showDrawer(bool keepEdits)
 
 void ZelControlCenter::slideDrawer(bool open, bool keepEdits)
 {
-    if (!m_drawer)
+    if (!m_drawer->area())
         return;
     const bool wasVisible = m_drawer->isVisible();
     // The closing drawer still shows the page buttons, which the actions must not push down.
@@ -515,7 +437,7 @@ void ZelControlCenter::slideDrawer(bool open, bool keepEdits)
     if (open) {
         if (!wasVisible && !keepEdits)
             initializePanels();
-        m_drawer->show();
+        m_drawer->showWithoutNewPages();
     }
     m_settingsAnimation->setEasingCurve(open ? QEasingCurve::OutQuad : QEasingCurve::InQuad);
     m_settingsAnimation->setDirection(open ? QAbstractAnimation::Forward : QAbstractAnimation::Backward);
@@ -533,12 +455,7 @@ void ZelControlCenter::resumeEngineUnlessSliding()
 
 void ZelControlCenter::ensureSettingVisible(QWidget* widget)
 {
-    QScrollBar* scrollBar = m_drawer->verticalScrollBar();
-    const int target = widget->y() + widget->parentWidget()->y();
-    m_scrollAnimation->stop();
-    m_scrollAnimation->setStartValue(scrollBar->value());
-    m_scrollAnimation->setEndValue(std::min(target, scrollBar->maximum()));
-    m_scrollAnimation->start();
+    m_drawer->scrollTo(*widget);
 }
 
 void ZelControlCenter::resetControlCenter()
@@ -567,8 +484,8 @@ void ZelControlCenter::closeDrawer()
     m_settingsOpen = false;
     m_ui->preferenceFrame->hide();
     setActionSpace(true);
-    if (m_drawer)
-        m_drawer->hide();
+    if (m_drawer->area())
+        m_drawer->area()->hide();
 }
 
 void ZelControlCenter::setActionSpace(bool given)

@@ -13,10 +13,8 @@
 
 #include <memory>
 
-class QButtonGroup;
 class QColor;
 class QPropertyAnimation;
-class QSignalMapper;
 class kqDMGuiPlugin;
 class kqDMIApplication;
 class zelAction;
@@ -28,8 +26,9 @@ class ControlCenter;
 namespace zel {
 
 class ClickOutside;
-class DrawerLayout;
 class MenuColumn;
+class PageButtons;
+class SettingsDrawer;
 class SettingsPages;
 class ZelSettingsPanel;
 
@@ -160,8 +159,6 @@ protected Q_SLOTS:
     void closeMenu();
     /// Fits the width of the pages to the scroll bar, which may have appeared or gone.
     void onScrollBarRangeChanged();
-    /// Scrolls to the focused field when the focus enters the drawer.
-    void onFocusChanged(QWidget* previous, QWidget* current);
     /// The user has clicked outside the menu, which closes it.
     void onClickOutside();
 
@@ -184,7 +181,6 @@ private:
     kqDMGuiPlugin* guiPlugin() const;
     QPropertyAnimation* createSlide(const char* property, int openWidth, const char* finishedSlot);
     void createSettingsAction();
-    void addPageButton(QPushButton* button, const QString& panelName);
     bool isSliding() const;
     /// Shows the list of pages and slides the drawer open.
     void showDrawer(bool keepEdits);
@@ -208,14 +204,11 @@ private:
     kqDMIApplication* const m_application;
     SettingsPages* const m_pages;
     ClickOutside* const m_clickOutside;
-    QSignalMapper* const m_pageMapper;
     QPointer<QPushButton> m_controlCenterButton;
-    QButtonGroup* const m_pageGroup;
-    QPointer<QScrollArea> m_drawer;
-    DrawerLayout* m_drawerLayout;
+    SettingsDrawer* m_drawer;
+    PageButtons* m_pageButtons;
     QPropertyAnimation* m_widthAnimation;
     QPropertyAnimation* m_settingsAnimation;
-    QPropertyAnimation* m_scrollAnimation;
     bool m_menuOpen;
     bool m_settingsOpen;
 };

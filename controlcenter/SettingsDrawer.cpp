@@ -1,0 +1,120 @@
+#include "SettingsDrawer.h"
+
+#include "DrawerLayout.h"
+#include "ReturnKey.h"
+#include "Slide.h"
+#include "StyleSheetPause.h"
+#include "ZelSettingsPanel.h"
+
+#include <QApplication>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace zel {
+
+SettingsDrawer::SettingsDrawer(QScrollArea* area, QVBoxLayout*& contentLayout, QBoxLayout* pageLayout,
+                               QObject* parent)
+    : QObject(parent)
+    , m_area(area)
+    , m_pageLayout(pageLayout)
+    , m_contentLayout(new DrawerLayout(contentLayout))
+    , m_scrolling(new QPropertyAnimation(area->verticalScrollBar(), "value", this))
+{
+    contentLayout = m_contentLayout;
+    m_scrolling->setDuration(SlideTime);
+    m_scrolling->setEasingCurve(QEasingCurve::InOutQuad);
+    new ReturnKey(area);
+    // QScrollArea follows only a focus that moves within it.
+    connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
+}
+
+void SettingsDrawer::addPage(ZelSettingsPanel* page)
+{
+    {
+        const StyleSheetPause pause(*page);
+        m_pageLayout->addWidget(page);
+    }
+    m_pageLayout->parentWidget()->show();
+    // In a drawer that is hidden, a page that is not hidden itself will be shown with it.
+    if (page->isHidden())
+        page->show();
+}
+
+int SettingsDrawer::width() const
+{
+    return isVisible() ? m_area->minimumWidth() : 0;
+}
+
+void SettingsDrawer::setWidth(int width)
+{
+    if (!m_area)
+        return;
+    m_area->setVisible(width >= 1);
+    m_area->setFixedWidth(width);
+    const QScrollBar* bar = m_area->verticalScrollBar();
+    // All pages together are higher than the drawer, so the first ones get their final width at once.
+    const int barWidth = bar->isVisible() || !m_newPages.isEmpty() ? bar->sizeHint().width() : 0;
+    m_contentLayout->setMinimumWidth(OpenWidth - barWidth);
+    m_area->widget()->setFixedWidth(std::max(width - barWidth, 0));
+}
+
+void SettingsDrawer::showWithoutNewPages()
+{
+    for (int index = 0; index < m_pageLayout->count(); ++index) {
+        QWidget* page = m_pageLayout->itemAt(index)->widget();
+        if (page->isHidden() || page->testAttribute(Qt::WA_WState_Polished))
+            continue;
+        page->hide();
+        m_newPages << page;
+    }
+    m_area->show();
+}
+
+void SettingsDrawer::showNextPage()
+{
+    if (m_newPages.isEmpty())
+        return;
+    if (QWidget* page = m_newPages.takeFirst())
+        page->show();
+}
+
+void SettingsDrawer::showAllPages()
+{
+    while (!m_newPages.isEmpty())
+        showNextPage();
+}
+
+void SettingsDrawer::scrollTo(const QWidget& widget)
+{
+    if (!m_area)
+        return;
+    showAllPages();
+    QScrollBar* bar = m_area->verticalScrollBar();
+    m_scrolling->stop();
+    m_scrolling->setStartValue(bar->value());
+    m_scrolling->setEndValue(std::min(widget.y() + widget.parentWidget()->y(), bar->maximum()));
+    startSlide(*m_scrolling, *m_area);
+}
+
+ZelSettingsPanel* SettingsDrawer::pageAt(int position) const
+{
+    if (!m_area || m_scrolling->state() == QAbstractAnimation::Running)
+        return nullptr;
+    const QPoint belowTop(10, position + 10);
+    QWidget* widget = m_area->widget()->childAt(belowTop);
+    while (widget && !qobject_cast<ZelSettingsPanel*>(widget))
+        widget = widget->parentWidget();
+    return qobject_cast<ZelSettingsPanel*>(widget);
+}
+
+void SettingsDrawer::onFocusChanged(QWidget* previous, QWidget* current)
+{
+    if (!m_area || !m_area->isAncestorOf(current) || m_area->isAncestorOf(previous))
+        return;
+    // Do not scroll the pages while a mouse button is down.
+    if (QApplication::mouseButtons() == Qt::NoButton)
+        m_area->ensureWidgetVisible(current, 0);
+}
+
+} // namespace zel
