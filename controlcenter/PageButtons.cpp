@@ -41,7 +41,8 @@ void PageButtons::add(ZelSettingsPanel* page)
     if (!button)
         return;
     m_layout->addWidget(button);
-    m_layout->parentWidget()->show();
+    if (m_layout->parentWidget()->isHidden())
+        m_layout->parentWidget()->show();
     // The Tab key visits the column from top to bottom before the pages.
     QWidget* last = m_group->buttons().isEmpty() ? nullptr : m_group->buttons().last();
     if (last)

@@ -13,6 +13,19 @@
 
 namespace zel {
 
+namespace {
+
+/// Qt polishes each new widget when it next processes events, even if it is never shown.
+void polishWhenShown(QWidget& tree)
+{
+    QCoreApplication::removePostedEvents(&tree, QEvent::PolishRequest);
+    const QList<QWidget*> descendants = tree.findChildren<QWidget*>();
+    for (QWidget* widget : descendants)
+        QCoreApplication::removePostedEvents(widget, QEvent::PolishRequest);
+}
+
+} // namespace
+
 SettingsDrawer::SettingsDrawer(QScrollArea* area, QVBoxLayout*& contentLayout, QBoxLayout* pageLayout,
                                QObject* parent)
     : QObject(parent)
@@ -35,10 +48,12 @@ void SettingsDrawer::addPage(ZelSettingsPanel* page)
         const StyleSheetPause pause(*page);
         m_pageLayout->addWidget(page);
     }
-    m_pageLayout->parentWidget()->show();
-    // In a drawer that is hidden, a page that is not hidden itself will be shown with it.
-    if (page->isHidden())
-        page->show();
+    if (!isVisible())
+        polishWhenShown(*page);
+    // What is hidden only with the drawer will be shown, and laid out, with it.
+    for (QWidget* widget : {m_pageLayout->parentWidget(), static_cast<QWidget*>(page)})
+        if (widget->isHidden())
+            widget->show();
 }
 
 int SettingsDrawer::width() const

@@ -220,10 +220,12 @@ int ZelControlCenter::settingsWidth() const
 void ZelControlCenter::setSettingsWidth(int width)
 {
     m_drawer->setWidth(width);
-    const bool opening = m_settingsAnimation->state() == QAbstractAnimation::Running &&
-                         m_settingsAnimation->direction() == QAbstractAnimation::Forward;
-    if (!opening || !m_drawer->isVisible())
+    if (!m_drawer->isVisible())
         return;
+    if (m_settingsAnimation->state() != QAbstractAnimation::Running) {
+        m_drawer->showAllPages();
+        return;
+    }
     m_drawer->showNextPage();
     // An opening drawer has not scrolled yet, so nothing else has checked the button of its page.
     onScrollBarValueChanged(m_drawer->area()->verticalScrollBar()->value());
