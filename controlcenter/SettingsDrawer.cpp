@@ -7,6 +7,7 @@
 #include "ZelSettingsPanel.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -15,6 +16,8 @@ namespace zel {
 
 namespace {
 
+const int PolishingTime = 2; // ms of a frame
+
 /// Qt polishes each new widget when it next processes events, even if it is never shown.
 void polishWhenShown(QWidget& tree)
 {
@@ -22,6 +25,20 @@ void polishWhenShown(QWidget& tree)
     const QList<QWidget*> descendants = tree.findChildren<QWidget*>();
     for (QWidget* widget : descendants)
         QCoreApplication::removePostedEvents(widget, QEvent::PolishRequest);
+}
+
+/// Polishes some widgets, from the leaves to the root. True when the tree needs no more of it.
+bool polishPartly(const QWidget& tree)
+{
+    const QList<QWidget*> descendants = tree.findChildren<QWidget*>();
+    QElapsedTimer clock;
+    clock.start();
+    for (auto widget = descendants.rbegin(); widget != descendants.rend(); ++widget) {
+        if (clock.elapsed() >= PolishingTime)
+            return false;
+        (*widget)->ensurePolished();
+    }
+    return true;
 }
 
 } // namespace
@@ -88,9 +105,10 @@ void SettingsDrawer::showWithoutNewPages()
 
 void SettingsDrawer::showNextPage()
 {
-    if (m_newPages.isEmpty())
+    if (m_newPages.isEmpty() || (m_newPages.first() && !polishPartly(*m_newPages.first())))
         return;
-    if (QWidget* page = m_newPages.takeFirst())
+    QWidget* page = m_newPages.takeFirst();
+    if (page && page->parentWidget() == m_pageLayout->parentWidget())
         page->show();
 }
 

@@ -58,6 +58,7 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     , m_clickOutside(new ClickOutside(application, this))
     , m_menuOpen(false)
     , m_settingsOpen(false)
+    , m_enginePaused(false)
 {
     m_ui->setupUi(this);
     setStyleSheet(kqDMIApplication::GetStylesheet("ZelControlCenter"));
@@ -101,8 +102,8 @@ ZelControlCenter::~ZelControlCenter()
 {
     while (!m_pages->all().isEmpty())
         unregisterSettingsPanel(m_pages->all().front(), true);
-    if (isSliding())
-        m_application->setUpdateEngineEnabled(true);
+    if (m_enginePaused)
+        resumeEngine();
     delete m_drawer->area();
     unregisterCCAction(m_settingsAction.get());
 }
@@ -285,7 +286,7 @@ void ZelControlCenter::openMenu(bool open)
 {
     const bool wasVisible = isVisible();
     if (open) {
-        m_application->setUpdateEngineEnabled(false);
+        pauseEngine();
         if (guiPlugin()) {
             // Removed first, so that it is installed only once.
             qApp->removeEventFilter(this);
@@ -303,12 +304,12 @@ void ZelControlCenter::openMenu(bool open)
         if (!self)
             return;
         if (!discarded) {
-            m_application->setUpdateEngineEnabled(true);
+            resumeEngine();
             if (drawerWasOpen)
                 showDrawer(true);
             return;
         }
-        m_application->setUpdateEngineEnabled(false);
+        pauseEngine();
         if (guiPlugin())
             qApp->removeEventFilter(this);
         m_widthAnimation->setEasingCurve(QEasingCurve::InQuad);
@@ -325,7 +326,7 @@ void ZelControlCenter::openMenu(bool open)
     if (wasVisible == open)
         onControlCenterWidthFinished();
     else
-        m_widthAnimation->start();
+        startSlide(*m_widthAnimation, *this);
 }
 
 void ZelControlCenter::setControlCenterVisible(bool visible)
@@ -382,12 +383,12 @@ void ZelControlCenter::onControlCenterWidthFinished()
     m_menuOpen = m_widthAnimation->direction() == QAbstractAnimation::Forward;
     if (!m_menuOpen)
         hide();
-    m_application->setUpdateEngineEnabled(true);
+    resumeEngine();
 }
 
 void ZelControlCenter::onSettingsWidthFinished()
 {
-    m_application->setUpdateEngineEnabled(true);
+    resumeEngine();
     m_settingsOpen = m_settingsAnimation->direction() == QAbstractAnimation::Forward;
     if (m_settingsOpen)
         m_drawer->showAllPages();
@@ -435,7 +436,7 @@ void ZelControlCenter::slideDrawer(bool open, bool keepEdits)
     // The closing drawer still shows the page buttons, which the actions must not push down.
     setActionSpace(open);
     m_ui->actionFrame->setVisible(!open);
-    m_application->setUpdateEngineEnabled(false);
+    pauseEngine();
     if (open) {
         if (!wasVisible && !keepEdits)
             initializePanels();
@@ -444,15 +445,29 @@ void ZelControlCenter::slideDrawer(bool open, bool keepEdits)
     m_settingsAnimation->setEasingCurve(open ? QEasingCurve::OutQuad : QEasingCurve::InQuad);
     m_settingsAnimation->setDirection(open ? QAbstractAnimation::Forward : QAbstractAnimation::Backward);
     if (wasVisible != open)
-        m_settingsAnimation->start();
+        startSlide(*m_settingsAnimation, *this);
     else if (!open)
         closeDrawer(); // It may still be open in a hidden window.
+}
+
+void ZelControlCenter::pauseEngine()
+{
+    if (!isAnimated(*this))
+        return;
+    m_enginePaused = true;
+    m_application->setUpdateEngineEnabled(false);
+}
+
+void ZelControlCenter::resumeEngine()
+{
+    m_enginePaused = false;
+    m_application->setUpdateEngineEnabled(true);
 }
 
 void ZelControlCenter::resumeEngineUnlessSliding()
 {
     if (!isSliding())
-        m_application->setUpdateEngineEnabled(true);
+        resumeEngine();
 }
 
 void ZelControlCenter::ensureSettingVisible(QWidget* widget)

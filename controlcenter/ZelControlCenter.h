@@ -187,6 +187,9 @@ private:
     /// Pauses the engine and slides the drawer, if its state changes. A closed drawer loads the stored values
     /// before it opens, unless keepEdits is true.
     void slideDrawer(bool open, bool keepEdits);
+    /// Where the style animates nothing, it is not paused.
+    void pauseEngine();
+    void resumeEngine();
     void resumeEngineUnlessSliding();
     void closeDrawer();
     /// Lets the actions take space in the menu column, or none.
@@ -211,6 +214,7 @@ private:
     QPropertyAnimation* m_settingsAnimation;
     bool m_menuOpen;
     bool m_settingsOpen;
+    bool m_enginePaused;
 };
 
 } // namespace zel
