@@ -2,6 +2,7 @@
 
 #include "ui_ControlCenter.h"
 
+#include "Accessibility.h"
 #include "ClickOutside.h"
 #include "ControlCenterActions.h"
 #include "EnableButton.h"
@@ -13,7 +14,6 @@
 #include "Slide.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsPanel.h"
-#include "base/ZelAccessibility.h"
 #include "base/ZelQtCompat.h"
 
 #include "platform/kqDMGuiPlugin.h"
@@ -523,7 +523,7 @@ void ZelControlCenter::showWriteError(const QString& error)
     m_ui->writeErrorLabel->setToolTip(error.isEmpty() ? QString() : Qt::convertFromPlainText(error));
     m_ui->writeErrorLabel->setVisible(!error.isEmpty());
     if (!error.isEmpty())
-        alertAbout(*m_ui->writeErrorLabel);
+        announceNotice(*m_ui->writeErrorLabel);
 }
 
 void ZelControlCenter::initializePanels()
