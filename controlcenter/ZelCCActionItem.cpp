@@ -8,6 +8,17 @@
 
 namespace zel {
 
+namespace {
+
+/// Qt lays a widget out when it is shown for the first time, even if its parent is hidden.
+void showOrHide(QWidget& widget, bool visible)
+{
+    if (widget.isHidden() == visible)
+        widget.setVisible(visible);
+}
+
+} // namespace
+
 ZelCCActionItem::ZelCCActionItem(zelAction* action, QWidget* parent, Qt::WindowFlags flags)
     : QWidget(parent, flags)
     , m_ui(new Ui::ZelCCActionItem)
@@ -43,12 +54,12 @@ void ZelCCActionItem::onActionChanged()
 {
     if (!m_action)
         return;
-    setVisible(m_action->isVisible());
+    showOrHide(*this, m_action->isVisible());
     m_ui->actionButton->setText(m_action->getActionGuiName());
     const QKeySequence shortcut = m_action->shortcut();
     if (!shortcut.isEmpty())
         m_ui->shortcut->setText(shortcut.toString(QKeySequence::NativeText));
-    m_ui->shortcut->setVisible(!shortcut.isEmpty());
+    showOrHide(*m_ui->shortcut, !shortcut.isEmpty());
     setStatusTip(m_action->statusTip());
     setToolTip(m_action->toolTip());
     m_ui->actionButton->setEnabled(m_action->isEnabled());

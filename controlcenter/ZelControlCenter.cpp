@@ -2,16 +2,18 @@
 
 #include "ui_ControlCenter.h"
 
+#include "Accessibility.h"
+#include "ClickOutside.h"
 #include "ControlCenterActions.h"
-#include "DrawerLayout.h"
 #include "EnableButton.h"
-#include "FileAccess.h"
+#include "MenuColumn.h"
+#include "PageButtons.h"
 #include "ReturnKey.h"
-#include "StyleSheetPause.h"
-#include "ZelCCActionItem.h"
+#include "SettingsDrawer.h"
+#include "SettingsPages.h"
+#include "Slide.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsPanel.h"
-#include "base/ZelAccessibility.h"
 #include "base/ZelQtCompat.h"
 
 #include "platform/kqDMGuiPlugin.h"
@@ -20,19 +22,11 @@
 #include "platform/zelAction.h"
 
 #include <QApplication>
-#include <QButtonGroup>
 #include <QColor>
 #include <QIcon>
-#include <QMouseEvent>
-#include <QPropertyAnimation>
 #include <QScrollBar>
 #include <QSettings>
-#include <QSignalMapper>
 #include <QTextDocument>
-#include <QTimer>
-
-#include <algorithm>
-#include <vector>
 
 // Q_CLEANUP_RESOURCE declares a global function, so it must not be used in a namespace.
 static void cleanupResources()
@@ -44,11 +38,7 @@ namespace zel {
 
 namespace {
 
-const int SlideDuration = 350;   // ms
 const int MenuWidth = 250;       // pixels
-const int DrawerWidth = 450;     // pixels
-const int ClickGuard = 500;      // ms
-const int SeparatorMargin = 18;  // pixels
 const int ExternalIconSize = 40; // pixels
 
 QMessageBox::StandardButton showMessage(const QString& text, QMessageBox::StandardButtons buttons)
@@ -58,109 +48,63 @@ QMessageBox::StandardButton showMessage(const QString& text, QMessageBox::Standa
                                      QMap<QMessageBox::StandardButton, QString>(), false);
 }
 
-void logUnregisteredKeys(const ZelSettingsPanel& panel)
-{
-    const auto& registered = ZelSettingsRegistry::GetDefaultSettingsValues();
-    QStringList keys = panel.getSettingsKeys();
-    keys.erase(std::remove_if(keys.begin(), keys.end(),
-                              [&](const QString& key) { return registered.count(key) > 0; }),
-               keys.end());
-    if (!keys.isEmpty())
-        logWarning(QString("The page \"%1\" has keys without a default or a validator, because they are not "
-                           "registered: %2")
-                       .arg(panel.getPanelName(), keys.join(", ")));
-}
-
-/// Marks the button of a page that has pending edits. Otherwise a transparent icon takes the same space.
-void markPending(QPushButton& button, bool pending)
-{
-    const QString tip = pending ? QCoreApplication::translate("ZelControlCenter",
-                                                              "This page has changes that are not applied.")
-                                : QCoreApplication::translate("ZelControlCenter", "Shows this page.");
-    if (button.toolTip() == tip)
-        return;
-    button.setIcon(QIcon(pending ? ":/controlCenter/controlCenter/pending.png"
-                                 : ":/controlCenter/controlCenter/pendingNone.png"));
-    button.setToolTip(tip);
-    button.setAccessibleDescription(tip);
-}
-
-/// Applies the style to a widget and its descendants. Some read it only on a change event: QComboBox chooses
-/// its kind of list then.
-void polishAll(QWidget& tree)
-{
-    tree.ensurePolished();
-    const QList<QWidget*> descendants = tree.findChildren<QWidget*>();
-    const std::vector<QPointer<QWidget>> guarded(descendants.begin(), descendants.end());
-    for (const QPointer<QWidget>& widget : guarded) {
-        QEvent change(QEvent::StyleChange);
-        if (widget)
-            QCoreApplication::sendEvent(widget, &change);
-    }
-}
-
 } // namespace
 
 ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* parent, Qt::WindowFlags flags)
     : QWidget(parent, flags)
     , m_ui(new Ui::ControlCenter)
     , m_application(application)
-    , m_pageMapper(new QSignalMapper(this))
-    , m_pageGroup(new QButtonGroup(this))
+    , m_pages(new SettingsPages(this))
+    , m_clickOutside(new ClickOutside(application, this))
     , m_menuOpen(false)
     , m_settingsOpen(false)
-    , m_pressHandled(false)
+    , m_enginePaused(false)
 {
     m_ui->setupUi(this);
     setStyleSheet(kqDMIApplication::GetStylesheet("ZelControlCenter"));
     setObjectName("ZelControlCenter");
-    m_ui->verticalLayout->setAlignment(Qt::AlignTop);
-    m_ui->verticalLayout_4 = m_drawerLayout = new DrawerLayout(m_ui->verticalLayout_4);
+    m_menu = std::make_unique<MenuColumn>(this, m_ui->verticalLayout);
     // Keeps its width while the column slides, which clips it.
     m_ui->mainPanel->setMinimumWidth(MenuWidth);
 
     // The drawer leaves the layout of the form, so that the application can put it into its own.
-    m_drawer = m_ui->settingsScrollArea;
-    m_ui->horizontalLayout_30->removeWidget(m_drawer);
-    m_drawer->setParent(this);
+    QScrollArea* drawer = m_ui->settingsScrollArea;
+    m_ui->horizontalLayout_30->removeWidget(drawer);
+    drawer->setParent(this);
     m_ui->controlCenterButton->setChecked(false);
-    m_drawer->hide();
+    drawer->hide();
+    m_drawer = new SettingsDrawer(drawer, m_ui->verticalLayout_4, m_ui->verticalLayout_8, this);
+    m_pageButtons = new PageButtons(m_ui->verticalLayout_6, {m_ui->resetButton, m_ui->applyButton}, this);
 
-    connect(m_pageMapper, SIGNAL(mapped(QString)), this, SLOT(onPanelClicked(QString)));
+    connect(m_pages, SIGNAL(stateChanged()), this, SLOT(onStateChanged()));
+    connect(m_clickOutside, SIGNAL(clicked()), this, SLOT(onClickOutside()));
+    connect(m_pageButtons, SIGNAL(chosen(QString)), this, SLOT(onPanelClicked(QString)));
     m_widthAnimation = createSlide("controlCenterWidth", MenuWidth, SLOT(onControlCenterWidthFinished()));
-    m_settingsAnimation = createSlide("settingsWidth", DrawerWidth, SLOT(onSettingsWidthFinished()));
+    m_settingsAnimation =
+        createSlide("settingsWidth", SettingsDrawer::OpenWidth, SLOT(onSettingsWidthFinished()));
 
-    QScrollBar* scrollBar = m_drawer->verticalScrollBar();
-    m_scrollAnimation = new QPropertyAnimation(scrollBar, "value", this);
-    m_scrollAnimation->setDuration(SlideDuration);
-    m_scrollAnimation->setEasingCurve(QEasingCurve::InOutQuad);
+    QScrollBar* scrollBar = drawer->verticalScrollBar();
     connect(scrollBar, SIGNAL(valueChanged(int)), this, SLOT(onScrollBarValueChanged(int)));
     // Queued: QScrollArea shows or hides the bar only after the range has changed.
     connect(scrollBar, SIGNAL(rangeChanged(int, int)), this, SLOT(onScrollBarRangeChanged()),
             Qt::QueuedConnection);
 
-    // QScrollArea follows only a focus that moves within it.
-    connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
-
     new ReturnKey(this);
-    new ReturnKey(m_drawer);
-    connect(new ControlCenterActions(this, m_drawer, m_ui->applyButton, m_ui->resetButton),
+    connect(new ControlCenterActions(this, drawer, m_ui->applyButton, m_ui->resetButton),
             SIGNAL(helpRequested(QWidget*)), this, SIGNAL(helpRequested(QWidget*)));
 
-    m_pageGroup->setExclusive(true);
     showWriteError(QString());
     openMenu(false);
     createSettingsAction();
-    m_clickTimer.start();
 }
 
 ZelControlCenter::~ZelControlCenter()
 {
-    while (!m_panels.isEmpty())
-        unregisterSettingsPanel(m_panels.front(), true);
-    if (isSliding())
-        m_application->setUpdateEngineEnabled(true);
-    delete m_drawer;
+    while (!m_pages->all().isEmpty())
+        unregisterSettingsPanel(m_pages->all().front(), true);
+    if (m_enginePaused)
+        resumeEngine();
+    delete m_drawer->area();
     unregisterCCAction(m_settingsAction.get());
 }
 
@@ -173,7 +117,7 @@ QPropertyAnimation* ZelControlCenter::createSlide(const char* property, int open
                                                   const char* finishedSlot)
 {
     auto* slide = new QPropertyAnimation(this, property, this);
-    slide->setDuration(SlideDuration);
+    slide->setDuration(SlideTime);
     slide->setStartValue(0);
     slide->setEndValue(openWidth);
     connect(slide, SIGNAL(finished()), this, finishedSlot);
@@ -186,60 +130,25 @@ void ZelControlCenter::createSettingsAction()
         "Settings", QCoreApplication::translate("ZelControlCenter", "Settings"), nullptr);
     m_settingsAction->setStatusTip(
         QCoreApplication::translate("ZelControlCenter", "Changes the settings of the application"));
-    registerCCAction(m_settingsAction.get(), "", false, false, true);
+    // It opens the settings inside the menu, so it does not close the menu.
+    registerCCAction(m_settingsAction.get(), "", false, false, false);
     connect(m_settingsAction.get(), SIGNAL(triggered()), this, SLOT(openSettings()));
-    // This action opens the settings inside the menu, so it must not close the menu.
-    disconnect(m_settingsAction.get(), SIGNAL(triggered()), this, SLOT(closeMenu()));
 }
 
 void ZelControlCenter::registerSettingsPanel(ZelSettingsPanel* panel)
 {
-    if (m_panels.contains(panel))
+    if (!m_pages->add(panel))
         return;
-    m_panels.append(panel);
-    logUnregisteredKeys(*panel);
-    connect(panel, SIGNAL(stateChanged()), this, SLOT(onStateChanged()));
-    connect(panel, SIGNAL(destroyed(QObject*)), this, SLOT(onPanelDestroyed(QObject*)));
-
-    if (QPushButton* button = panel->getActionWidget())
-        addPageButton(button, panel->getPanelName());
-    {
-        const StyleSheetPause pause(*panel);
-        m_ui->verticalLayout_8->addWidget(panel);
-    }
-    polishAll(*panel);
-    m_ui->applicationFrame->show();
-    panel->show();
+    m_pageButtons->add(panel);
+    m_drawer->addPage(panel);
     panel->initializeWidget();
     onStateChanged();
 }
 
-void ZelControlCenter::addPageButton(QPushButton* button, const QString& panelName)
-{
-    m_ui->verticalLayout_6->addWidget(button);
-    m_ui->applicationSettings->show();
-    // The Tab key visits the column from top to bottom before the pages.
-    if (m_pageGroup->buttons().isEmpty()) {
-        setTabOrder(button, m_ui->resetButton);
-        setTabOrder(m_ui->resetButton, m_ui->applyButton);
-    } else {
-        setTabOrder(m_pageGroup->buttons().last(), button);
-    }
-    m_pageGroup->addButton(button);
-    connect(button, SIGNAL(clicked()), m_pageMapper, SLOT(map()));
-    m_pageMapper->setMapping(button, panelName);
-}
-
 void ZelControlCenter::unregisterSettingsPanel(ZelSettingsPanel* panel, bool reevaluate)
 {
-    disconnect(panel, nullptr, this, nullptr);
-    if (m_panels.removeOne(panel)) {
-        if (QPushButton* button = panel->getActionWidget()) {
-            m_pageGroup->removeButton(button);
-            disconnect(button, SIGNAL(clicked()), m_pageMapper, SLOT(map()));
-            m_pageMapper->removeMappings(button);
-            button->setParent(nullptr);
-        }
+    if (m_pages->remove(panel)) {
+        m_pageButtons->remove(panel);
         panel->setParent(nullptr);
     }
     if (reevaluate)
@@ -258,40 +167,24 @@ bool ZelControlCenter::isSettingsOpen() const
 
 bool ZelControlCenter::hasModifications() const
 {
-    return std::any_of(m_panels.begin(), m_panels.end(),
-                       [](const ZelSettingsPanel* panel) { return panel->hasModifications(); });
+    return m_pages->hasModifications();
 }
 
 bool ZelControlCenter::applyModifications()
 {
-    QList<ZelSettingsPanel*> edited;
-    for (ZelSettingsPanel* panel : m_panels) {
-        if (panel->hasModifications())
-            edited << panel;
-    }
+    const QPointer<ZelControlCenter> self(this);
+    const bool edited = hasModifications();
     bool restart = false;
-    const auto apply = [&](QSettings&, QString&) {
-        forEachPanel([&](ZelSettingsPanel* panel) {
-            // Another program has changed the file. The page must not put its own values back.
-            if (!edited.contains(panel) && panel->hasModifications())
-                panel->initializeWidget();
-            restart = panel->applyModifications() || restart;
-        });
-        return true;
-    };
-    QSettings& settings = m_application->getSettings();
     QString error;
-    if (edited.isEmpty())
-        return apply(settings, error) && restart;
-    // One write for all pages, so that the file never has only some of the edits.
-    const bool written = ZelSettingsFile::Write(settings, apply, error);
-    showWriteError(error);
+    const bool written = m_pages->apply(m_application->getSettings(), restart, error);
+    if (self && edited)
+        showWriteError(error);
     return written && restart;
 }
 
 void ZelControlCenter::setGUIHandler(QWidget* handler)
 {
-    m_guiHandler = handler;
+    m_clickOutside->setHandler(handler);
 }
 
 void ZelControlCenter::setControlCenterButton(QPushButton* button)
@@ -301,12 +194,12 @@ void ZelControlCenter::setControlCenterButton(QPushButton* button)
 
 QScrollArea* ZelControlCenter::settingsWidget() const
 {
-    return m_drawer;
+    return m_drawer->area();
 }
 
 int ZelControlCenter::OpenWidth()
 {
-    return MenuWidth + DrawerWidth;
+    return MenuWidth + SettingsDrawer::OpenWidth;
 }
 
 int ZelControlCenter::controlCenterWidth() const
@@ -322,73 +215,42 @@ void ZelControlCenter::setControlCenterWidth(int width)
 
 int ZelControlCenter::settingsWidth() const
 {
-    return m_drawer && m_drawer->isVisible() ? m_drawer->minimumWidth() : 0;
+    return m_drawer->width();
 }
 
 void ZelControlCenter::setSettingsWidth(int width)
 {
-    if (!m_drawer)
+    m_drawer->setWidth(width);
+    if (!m_drawer->isVisible())
         return;
-    m_drawer->setVisible(width >= 1);
-    m_drawer->setFixedWidth(width);
-    const QScrollBar* scrollBar = m_drawer->verticalScrollBar();
-    const int barWidth = scrollBar->isVisible() ? scrollBar->width() : 0;
-    m_drawerLayout->setMinimumWidth(DrawerWidth - barWidth);
-    m_ui->settingsContent->setFixedWidth(std::max(width - barWidth, 0));
+    if (m_settingsAnimation->state() != QAbstractAnimation::Running) {
+        m_drawer->showAllPages();
+        return;
+    }
+    m_drawer->showNextPage();
     // An opening drawer has not scrolled yet, so nothing else has checked the button of its page.
-    if (m_settingsAnimation->state() == QAbstractAnimation::Running &&
-        m_settingsAnimation->direction() == QAbstractAnimation::Forward)
-        onScrollBarValueChanged(scrollBar->value());
+    onScrollBarValueChanged(m_drawer->area()->verticalScrollBar()->value());
 }
 
 void ZelControlCenter::registerCCAction(zelAction* action, const QString& anchorName, bool isWorkflowSpecific,
                                         bool after, bool closeMenuOnTrigger)
 {
-    auto* item = new ZelCCActionItem(action, this, Qt::WindowFlags());
-    item->setIsWorkflowSpecific(isWorkflowSpecific);
-    if (closeMenuOnTrigger)
-        connect(action, SIGNAL(triggered()), this, SLOT(closeMenu()), Qt::UniqueConnection);
-    m_actionItems.append(item);
-
-    const int anchor = anchorIndex(anchorName);
-    const bool besideAnchor = !anchorName.isEmpty() && anchor >= 0;
-    m_ui->verticalLayout->insertWidget(besideAnchor && after ? anchor + 1 : anchor, item);
-    if (!besideAnchor)
-        layout()->invalidate();
+    m_menu->addAction(action, anchorName, isWorkflowSpecific, after, closeMenuOnTrigger);
 }
 
 void ZelControlCenter::unregisterCCAction(zelAction* action)
 {
-    const auto items = m_actionItems;
-    for (ZelCCActionItem* item : items) {
-        if (item->getZelAction() != action)
-            continue;
-        disconnect(action, SIGNAL(triggered()), this, SLOT(closeMenu()));
-        m_actionItems.removeOne(item);
-        delete item;
-    }
+    m_menu->removeAction(action);
 }
 
 bool ZelControlCenter::addCCSeparator(const QString& anchorName, const QString& separatorName)
 {
-    if (m_separators.contains(separatorName))
-        return false;
-    auto* separator = new QFrame(this);
-    separator->setStyleSheet("background:rgb(0,0,0,30);");
-    separator->setFixedHeight(1);
-    separator->setFixedWidth(std::max(width() - SeparatorMargin, 0));
-    m_separators.insert(separatorName, separator);
-    m_ui->verticalLayout->insertWidget(anchorIndex(anchorName), separator);
-    return true;
+    return m_menu->addSeparator(anchorName, separatorName);
 }
 
 bool ZelControlCenter::setCCSeparatorVisible(const QString& separatorName, bool visible)
 {
-    QFrame* separator = m_separators.value(separatorName);
-    if (!separator)
-        return false;
-    separator->setVisible(visible);
-    return true;
+    return m_menu->setSeparatorVisible(separatorName, visible);
 }
 
 void ZelControlCenter::setInterfaceColor(const QColor& color, const QString& iconOnFile,
@@ -409,34 +271,22 @@ void ZelControlCenter::setInterfaceColor(const QColor& color, const QString& ico
 
 bool ZelControlCenter::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Resize)
-        m_clickTimer.restart();
-    // A press in a modal dialog answers it and is not a click outside. Qt delivers a press to the native
-    // window first, and then to the widget.
-    if (event->type() != QEvent::MouseButtonPress || m_pressHandled || QApplication::activeModalWidget() ||
-        isNativeWindow(watched))
-        return false;
-    if (m_clickTimer.elapsed() < ClickGuard)
-        return false;
-    m_clickTimer.restart();
-    const QPoint position = static_cast<QMouseEvent*>(event)->globalPos();
-    if (!isClickOutside(watched, position))
-        return false;
-    if (discardModifications()) {
-        openSettingsPanel(false);
-        openMenu(false);
-    }
-    // Qt delivers a press that no widget accepts to one parent after the other.
-    m_pressHandled = true;
-    QTimer::singleShot(0, this, SLOT(onPressDelivered()));
-    return false;
+    return m_clickOutside->eventFilter(watched, event);
+}
+
+void ZelControlCenter::onClickOutside()
+{
+    if (!discardModifications())
+        return;
+    openSettingsPanel(false);
+    openMenu(false);
 }
 
 void ZelControlCenter::openMenu(bool open)
 {
     const bool wasVisible = isVisible();
     if (open) {
-        m_application->setUpdateEngineEnabled(false);
+        pauseEngine();
         if (guiPlugin()) {
             // Removed first, so that it is installed only once.
             qApp->removeEventFilter(this);
@@ -446,16 +296,20 @@ void ZelControlCenter::openMenu(bool open)
         m_widthAnimation->setDirection(QAbstractAnimation::Forward);
         m_ui->preferenceFrame->hide();
     } else {
-        const bool drawerWasOpen = m_drawer && !m_drawer->isHidden() &&
+        const bool drawerWasOpen = m_drawer->area() && !m_drawer->area()->isHidden() &&
                                    m_settingsAnimation->direction() == QAbstractAnimation::Forward;
         slideDrawer(false, false);
-        if (!discardModifications()) {
-            m_application->setUpdateEngineEnabled(true);
+        const QPointer<ZelControlCenter> self(this);
+        const bool discarded = discardModifications();
+        if (!self)
+            return;
+        if (!discarded) {
+            resumeEngine();
             if (drawerWasOpen)
                 showDrawer(true);
             return;
         }
-        m_application->setUpdateEngineEnabled(false);
+        pauseEngine();
         if (guiPlugin())
             qApp->removeEventFilter(this);
         m_widthAnimation->setEasingCurve(QEasingCurve::InQuad);
@@ -472,7 +326,7 @@ void ZelControlCenter::openMenu(bool open)
     if (wasVisible == open)
         onControlCenterWidthFinished();
     else
-        m_widthAnimation->start();
+        startSlide(*m_widthAnimation, *this);
 }
 
 void ZelControlCenter::setControlCenterVisible(bool visible)
@@ -492,12 +346,14 @@ void ZelControlCenter::openSettings()
 
 void ZelControlCenter::on_applyButton_clicked()
 {
-    if (applyModifications() && guiPlugin())
+    const QPointer<ZelControlCenter> self(this);
+    if (applyModifications() && self && guiPlugin())
         showMessage(QCoreApplication::translate(
                         "ZelControlCenter",
                         "You need to restart your application to turn settings modification effective."),
                     QMessageBox::Ok);
-    onStateChanged();
+    if (self)
+        onStateChanged();
 }
 
 void ZelControlCenter::on_resetButton_clicked()
@@ -509,7 +365,7 @@ void ZelControlCenter::onPanelClicked(const QString& pPanelName)
 {
     if (!m_settingsOpen)
         openSettingsPanel(true);
-    forEachPanel([&](ZelSettingsPanel* panel) {
+    m_pages->forEach([&](ZelSettingsPanel* panel) {
         if (panel->getPanelName() == pPanelName)
             ensureSettingVisible(panel);
     });
@@ -517,18 +373,8 @@ void ZelControlCenter::onPanelClicked(const QString& pPanelName)
 
 void ZelControlCenter::onStateChanged()
 {
-    enableButton(*m_ui->resetButton,
-                 std::any_of(m_panels.begin(), m_panels.end(),
-                             [](const ZelSettingsPanel* panel) { return panel->canResetContent(); }),
-                 m_pageGroup->checkedButton());
-    bool modified = false;
-    for (ZelSettingsPanel* panel : m_panels) {
-        const bool pending = panel->hasModifications();
-        if (QPushButton* button = panel->getActionWidget())
-            markPending(*button, pending);
-        modified = modified || pending;
-    }
-    enableButton(*m_ui->applyButton, modified, m_pageGroup->checkedButton());
+    enableButton(*m_ui->resetButton, m_pages->canReset(), m_pageButtons->checkedButton());
+    enableButton(*m_ui->applyButton, m_pages->mark(), m_pageButtons->checkedButton());
     Q_EMIT pagesChanged();
 }
 
@@ -537,30 +383,24 @@ void ZelControlCenter::onControlCenterWidthFinished()
     m_menuOpen = m_widthAnimation->direction() == QAbstractAnimation::Forward;
     if (!m_menuOpen)
         hide();
-    m_application->setUpdateEngineEnabled(true);
+    resumeEngine();
 }
 
 void ZelControlCenter::onSettingsWidthFinished()
 {
-    m_application->setUpdateEngineEnabled(true);
+    resumeEngine();
     m_settingsOpen = m_settingsAnimation->direction() == QAbstractAnimation::Forward;
-    if (!m_settingsOpen)
+    if (m_settingsOpen)
+        m_drawer->showAllPages();
+    else
         closeDrawer();
 }
 
 void ZelControlCenter::onScrollBarValueChanged(int value)
 {
-    if (m_scrollAnimation->state() == QAbstractAnimation::Running)
-        return;
-    const QPoint belowTop(10, value + 10);
-    for (QWidget* widget = m_ui->settingsContent->childAt(belowTop); widget;
-         widget = widget->parentWidget()) {
-        if (auto* panel = qobject_cast<ZelSettingsPanel*>(widget)) {
-            if (QPushButton* button = panel->getActionWidget())
-                button->setChecked(true);
-            return;
-        }
-    }
+    const ZelSettingsPanel* page = m_drawer->pageAt(value);
+    if (page && page->getActionWidget())
+        page->getActionWidget()->setChecked(true);
 }
 
 void ZelControlCenter::closeMenu()
@@ -570,29 +410,8 @@ void ZelControlCenter::closeMenu()
 
 void ZelControlCenter::onScrollBarRangeChanged()
 {
-    if (m_drawer && m_drawer->isVisible() && !isSliding())
+    if (m_drawer->isVisible() && !isSliding())
         setSettingsWidth(settingsWidth());
-}
-
-void ZelControlCenter::onPanelDestroyed(QObject* panel)
-{
-    // A page that is being destroyed is only a QObject: compare its address.
-    m_panels.erase(std::remove(m_panels.begin(), m_panels.end(), panel), m_panels.end());
-    onStateChanged();
-}
-
-void ZelControlCenter::onFocusChanged(QWidget* previous, QWidget* current)
-{
-    if (!m_drawer || !m_drawer->isAncestorOf(current) || m_drawer->isAncestorOf(previous))
-        return;
-    // Do not scroll the pages while a mouse button is down.
-    if (QApplication::mouseButtons() == Qt::NoButton)
-        m_drawer->ensureWidgetVisible(current, 0);
-}
-
-void ZelControlCenter::onPressDelivered()
-{
-    m_pressHandled = false;
 }
 
 void ZelControlCenter::openSettingsPanel(bool open)
@@ -611,45 +430,54 @@ void ZelControlCenter::showDrawer(bool keepEdits)
 
 void ZelControlCenter::slideDrawer(bool open, bool keepEdits)
 {
-    if (!m_drawer)
+    if (!m_drawer->area())
         return;
     const bool wasVisible = m_drawer->isVisible();
     // The closing drawer still shows the page buttons, which the actions must not push down.
     setActionSpace(open);
     m_ui->actionFrame->setVisible(!open);
-    m_application->setUpdateEngineEnabled(false);
+    pauseEngine();
     if (open) {
         if (!wasVisible && !keepEdits)
             initializePanels();
-        m_drawer->show();
+        m_drawer->showWithoutNewPages();
     }
     m_settingsAnimation->setEasingCurve(open ? QEasingCurve::OutQuad : QEasingCurve::InQuad);
     m_settingsAnimation->setDirection(open ? QAbstractAnimation::Forward : QAbstractAnimation::Backward);
     if (wasVisible != open)
-        m_settingsAnimation->start();
+        startSlide(*m_settingsAnimation, *this);
     else if (!open)
         closeDrawer(); // It may still be open in a hidden window.
+}
+
+void ZelControlCenter::pauseEngine()
+{
+    if (!isAnimated(*this))
+        return;
+    m_enginePaused = true;
+    m_application->setUpdateEngineEnabled(false);
+}
+
+void ZelControlCenter::resumeEngine()
+{
+    m_enginePaused = false;
+    m_application->setUpdateEngineEnabled(true);
 }
 
 void ZelControlCenter::resumeEngineUnlessSliding()
 {
     if (!isSliding())
-        m_application->setUpdateEngineEnabled(true);
+        resumeEngine();
 }
 
 void ZelControlCenter::ensureSettingVisible(QWidget* widget)
 {
-    QScrollBar* scrollBar = m_drawer->verticalScrollBar();
-    const int target = widget->y() + widget->parentWidget()->y();
-    m_scrollAnimation->stop();
-    m_scrollAnimation->setStartValue(scrollBar->value());
-    m_scrollAnimation->setEndValue(std::min(target, scrollBar->maximum()));
-    m_scrollAnimation->start();
+    m_drawer->scrollTo(*widget);
 }
 
 void ZelControlCenter::resetControlCenter()
 {
-    forEachPanel([](ZelSettingsPanel* panel) { panel->resetContent(); });
+    m_pages->reset();
 }
 
 void ZelControlCenter::resizeEvent(QResizeEvent* event)
@@ -673,22 +501,14 @@ void ZelControlCenter::closeDrawer()
     m_settingsOpen = false;
     m_ui->preferenceFrame->hide();
     setActionSpace(true);
-    if (m_drawer)
-        m_drawer->hide();
+    if (m_drawer->area())
+        m_drawer->area()->hide();
 }
 
 void ZelControlCenter::setActionSpace(bool given)
 {
     m_ui->actionFrame->setMaximumHeight(given ? QWIDGETSIZE_MAX : 0);
     m_ui->verticalLayout_5->setStretchFactor(m_ui->actionFrame, given ? 1 : 0);
-}
-
-void ZelControlCenter::forEachPanel(const std::function<void(ZelSettingsPanel*)>& action) const
-{
-    const QList<ZelSettingsPanel*> panels = m_panels;
-    for (ZelSettingsPanel* panel : panels)
-        if (m_panels.contains(panel))
-            action(panel);
 }
 
 kqDMGuiPlugin* ZelControlCenter::guiPlugin() const
@@ -703,7 +523,7 @@ void ZelControlCenter::showWriteError(const QString& error)
     m_ui->writeErrorLabel->setToolTip(error.isEmpty() ? QString() : Qt::convertFromPlainText(error));
     m_ui->writeErrorLabel->setVisible(!error.isEmpty());
     if (!error.isEmpty())
-        alertAbout(*m_ui->writeErrorLabel);
+        announceNotice(*m_ui->writeErrorLabel);
 }
 
 void ZelControlCenter::initializePanels()
@@ -711,7 +531,7 @@ void ZelControlCenter::initializePanels()
     QString error;
     ZelSettingsFile::IsWritable(m_application->getSettings().fileName(), error);
     showWriteError(error);
-    forEachPanel([](ZelSettingsPanel* panel) { panel->initializeWidget(); });
+    m_pages->load();
     onStateChanged();
 }
 
@@ -721,31 +541,12 @@ bool ZelControlCenter::discardModifications()
         return true;
     const QString question = QCoreApplication::translate(
         "ZelControlCenter", "You have pending modifications. Continue and discard your changes ?");
-    if (guiPlugin() && showMessage(question, QMessageBox::Ok | QMessageBox::Cancel) != QMessageBox::Ok)
+    const QPointer<ZelControlCenter> self(this);
+    if (guiPlugin() &&
+        (showMessage(question, QMessageBox::Ok | QMessageBox::Cancel) != QMessageBox::Ok || !self))
         return false;
     initializePanels();
     return true;
-}
-
-bool ZelControlCenter::isClickOutside(QObject* watched, const QPoint& globalPosition) const
-{
-    const QWidget* view = guiPlugin() ? guiPlugin()->getMainViewWidget() : nullptr;
-    if (!view || !QRect(view->mapToGlobal(QPoint(0, 0)), view->size()).contains(globalPosition))
-        return false;
-    const auto* widget = qobject_cast<QWidget*>(watched);
-    return !m_guiHandler || !widget || m_guiHandler->isAncestorOf(widget);
-}
-
-int ZelControlCenter::anchorIndex(const QString& anchorName) const
-{
-    if (anchorName.isEmpty())
-        return 0;
-    for (int index = 0; index < m_ui->verticalLayout->count(); ++index) {
-        const auto* item = qobject_cast<ZelCCActionItem*>(m_ui->verticalLayout->itemAt(index)->widget());
-        if (item && item->getZelAction() && item->getZelAction()->getActionName() == anchorName)
-            return index;
-    }
-    return -1;
 }
 
 } // namespace zel

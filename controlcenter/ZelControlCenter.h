@@ -6,22 +6,15 @@
 #include "ZelSettingsValidators.h"
 #include "base/ZelExport.h"
 
-#include <QElapsedTimer>
-#include <QList>
-#include <QMap>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QWidget>
 
-#include <functional>
 #include <memory>
 
-class QButtonGroup;
 class QColor;
-class QFrame;
 class QPropertyAnimation;
-class QSignalMapper;
 class kqDMGuiPlugin;
 class kqDMIApplication;
 class zelAction;
@@ -32,8 +25,11 @@ class ControlCenter;
 
 namespace zel {
 
-class DrawerLayout;
-class ZelCCActionItem;
+class ClickOutside;
+class MenuColumn;
+class PageButtons;
+class SettingsDrawer;
+class SettingsPages;
 class ZelSettingsPanel;
 
 /// The side panel that an application puts beside its 3D view: a menu column of actions that slides open, and
@@ -163,12 +159,8 @@ protected Q_SLOTS:
     void closeMenu();
     /// Fits the width of the pages to the scroll bar, which may have appeared or gone.
     void onScrollBarRangeChanged();
-    /// Removes a page that was deleted while registered.
-    void onPanelDestroyed(QObject* panel);
-    /// Scrolls to the focused field when the focus enters the drawer.
-    void onFocusChanged(QWidget* previous, QWidget* current);
-    /// A mouse press has reached all its receivers; the next one counts as another click.
-    void onPressDelivered();
+    /// The user has clicked outside the menu, which closes it.
+    void onClickOutside();
 
 protected:
     /// Slides the drawer open or closed. Opening a closed drawer loads the stored values into every page.
@@ -189,49 +181,40 @@ private:
     kqDMGuiPlugin* guiPlugin() const;
     QPropertyAnimation* createSlide(const char* property, int openWidth, const char* finishedSlot);
     void createSettingsAction();
-    void addPageButton(QPushButton* button, const QString& panelName);
     bool isSliding() const;
     /// Shows the list of pages and slides the drawer open.
     void showDrawer(bool keepEdits);
     /// Pauses the engine and slides the drawer, if its state changes. A closed drawer loads the stored values
     /// before it opens, unless keepEdits is true.
     void slideDrawer(bool open, bool keepEdits);
+    /// Where the style animates nothing, it is not paused.
+    void pauseEngine();
+    void resumeEngine();
     void resumeEngineUnlessSliding();
     void closeDrawer();
     /// Lets the actions take space in the menu column, or none.
     void setActionSpace(bool given);
-    /// Calls a function for each page, in the order of registration. The function may register and unregister
-    /// pages.
-    void forEachPanel(const std::function<void(ZelSettingsPanel*)>& action) const;
     /// Shows below the Apply button why the settings file cannot be written; an empty text hides it.
     void showWriteError(const QString& error);
     void initializePanels();
-    /// Discards pending edits; in the viewer it asks first. False when the user keeps them.
+    /// Discards pending edits; in the viewer it asks first. False when the user keeps them, or when this
+    /// object was deleted while the question was open.
     bool discardModifications();
-    bool isClickOutside(QObject* watched, const QPoint& globalPosition) const;
-    /// Index of the item of an anchor in the menu column; 0 for an empty name; -1, which QBoxLayout takes for
-    /// the bottom, when there is none.
-    int anchorIndex(const QString& anchorName) const;
 
     const std::unique_ptr<Ui::ControlCenter> m_ui;
     std::unique_ptr<zelAction> m_settingsAction;
-    QList<ZelSettingsPanel*> m_panels;
-    QList<ZelCCActionItem*> m_actionItems;
-    QMap<QString, QFrame*> m_separators;
-    QElapsedTimer m_clickTimer;
-    QPointer<QWidget> m_guiHandler;
+    std::unique_ptr<MenuColumn> m_menu;
     kqDMIApplication* const m_application;
-    QSignalMapper* const m_pageMapper;
+    SettingsPages* const m_pages;
+    ClickOutside* const m_clickOutside;
     QPointer<QPushButton> m_controlCenterButton;
-    QButtonGroup* const m_pageGroup;
-    QPointer<QScrollArea> m_drawer;
-    DrawerLayout* m_drawerLayout;
+    SettingsDrawer* m_drawer;
+    PageButtons* m_pageButtons;
     QPropertyAnimation* m_widthAnimation;
     QPropertyAnimation* m_settingsAnimation;
-    QPropertyAnimation* m_scrollAnimation;
     bool m_menuOpen;
     bool m_settingsOpen;
-    bool m_pressHandled; ///< The mouse press that is being delivered has already counted as a click.
+    bool m_enginePaused;
 };
 
 } // namespace zel

@@ -2,8 +2,8 @@
 
 #include "ui_ZelRendererSelector.h"
 
+#include "Accessibility.h"
 #include "LabelImage.h"
-#include "base/ZelAccessibility.h"
 
 #include "platform/kqMovableObject.h"
 

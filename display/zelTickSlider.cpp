@@ -1,6 +1,6 @@
 #include "zelTickSlider.h"
 
-#include "base/ZelAccessibility.h"
+#include "Accessibility.h"
 
 #include <QPainter>
 #include <QStyleOptionSlider>

@@ -2,6 +2,7 @@
 
 #include "ui_ControlCenterStandAlone.h"
 
+#include "Accessibility.h"
 #include "FrameResizer.h"
 #include "ReturnKey.h"
 #include "WindowGeometry.h"
@@ -11,7 +12,6 @@
 #include "ZelImportSettingsPanel.h"
 #include "ZelRendererSettingsPanel.h"
 #include "ZelSimplificationSettingsPanel.h"
-#include "base/ZelAccessibility.h"
 
 #include "platform/kqDMIApplication.h"
 #include "platform/kqMovableObject.h"
@@ -68,8 +68,8 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
 {
     m_ui->setupUi(this);
     // Screen readers read the whole name from the label "Tor"; "-" and "vane" stay silent.
-    leaveUnannounced(*m_ui->label_3);
-    leaveUnannounced(*m_ui->label_4);
+    keepSilent(*m_ui->label_3);
+    keepSilent(*m_ui->label_4);
     setWindowIcon(createWindowIcon());
     makeContentScrollable();
     new FrameResizer(this);

@@ -231,6 +231,65 @@ private Q_SLOTS:
             }
     }
 
+    void mayBeDeletedAtAnyTime_data()
+    {
+        QTest::addColumn<QString>("when");
+        QTest::addColumn<bool>("agree");
+        for (const char* when : {"closing the menu", "clicking outside", "telling of a restart", "sliding"})
+            for (const bool agree : {true, false})
+                QTest::addRow("while %s, %s", when, agree ? "then Ok" : "then Escape") << when << agree;
+    }
+
+    void mayBeDeletedAtAnyTime()
+    {
+        QFETCH(const QString, when);
+        QFETCH(const bool, agree);
+        addPages(1);
+        m_application->guiPlugin = &m_guiPlugin;
+        openEverything();
+        m_pages[0]->edit();
+        m_pages[0]->needsRestart = true;
+        BoxAnswer answer(agree ? QList<Qt::Key>{Qt::Key_Tab, Qt::Key_Return}
+                               : QList<Qt::Key>{Qt::Key_Escape});
+        answer.beforeAnswer = [this] { m_controlCenter.reset(); };
+        if (when == "closing the menu") {
+            m_controlCenter->openMenu(false);
+        } else if (when == "clicking outside") {
+            QTest::qWait(GuardTime);
+            QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, {}, m_view->pos() + QPoint(10, 10));
+        } else if (when == "telling of a restart") {
+            QTest::mouseClick(button("applyButton"), Qt::LeftButton);
+        } else {
+            m_controlCenter->setControlCenterVisible(false);
+            QCOMPARE(m_application->engineUpdates, QList<bool>{false});
+            m_controlCenter.reset();
+        }
+        QVERIFY(!m_controlCenter && answer.texts.size() == (when == "sliding" ? 0 : 1));
+        QVERIFY(m_application->engineUpdates.isEmpty() || m_application->engineUpdates.last());
+    }
+
+    void nothingSlidesWhereTheStyleAnimatesNothing()
+    {
+        struct : QProxyStyle
+        {
+            int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                          QStyleHintReturn* data) const override
+            {
+                return hint == SH_Widget_Animate ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+            }
+        } still;
+        m_controlCenter->setStyleSheet(QString());
+        m_controlCenter->setStyle(&still);
+        m_application->engineUpdates.clear();
+        for (const bool open : {true, false}) {
+            m_controlCenter->openMenu(open);
+            m_controlCenter->setControlCenterVisible(open);
+            QVERIFY(m_controlCenter->isMenuOpen() == open && m_controlCenter->isSettingsOpen() == open);
+        }
+        QVERIFY(!m_application->engineUpdates.contains(false));
+        m_controlCenter.reset();
+    }
+
     void refusedCloseKeepsTheEdits()
     {
         addPages(1);

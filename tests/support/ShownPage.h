@@ -7,6 +7,8 @@
 
 #include <QtWidgets>
 
+#include <functional>
+
 /// Key and text, as a settings file or the registry holds them.
 using SettingsTexts = QMap<QString, QString>;
 
@@ -62,6 +64,8 @@ struct BoxAnswer : QTimer
             if (!box || !box->isVisible())
                 return;
             texts << box->text();
+            if (beforeAnswer)
+                beforeAnswer();
             for (const Qt::Key key : keys)
                 QTest::keyClick(box->windowHandle(), key);
         });
@@ -69,6 +73,7 @@ struct BoxAnswer : QTimer
     }
 
     QStringList texts;
+    std::function<void()> beforeAnswer;
 };
 
 /// A page in an active window of the drawer's width, loaded from the settings, and the user in front of it.

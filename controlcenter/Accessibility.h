@@ -1,5 +1,5 @@
-#ifndef ZEL_ZELACCESSIBILITY_H
-#define ZEL_ZELACCESSIBILITY_H
+#ifndef ZEL_ACCESSIBILITY_H
+#define ZEL_ACCESSIBILITY_H
 
 #include <QString>
 
@@ -18,11 +18,15 @@ void announceValue(QSlider& slider, const QString& text);
 /// Announces a label as a radio button. To press it sends the label the key Space.
 void announceChoice(QLabel& label, bool chosen);
 
-/// Hides a widget from screen readers, because another widget already says the same.
-void leaveUnannounced(QWidget& widget);
+/// Announces a widget as a window, outside of which screen readers ignore the focus. Qt does so only for
+/// dialogs and main windows.
+void announceWindow(QWidget& window);
 
-/// Reads a widget out at once, because it shows an error.
-void alertAbout(QWidget& widget);
+/// Announces a label as a notice that has appeared by itself, and reads it out at once.
+void announceNotice(QLabel& label);
+
+/// Hides a widget from screen readers, because another widget already says the same.
+void keepSilent(QWidget& widget);
 
 } // namespace zel
 

@@ -1,26 +1,16 @@
-#include "ZelAccessibility.h"
+#include "AccessibleCompat.h"
 
-#include <QAccessible>
 #include <QAccessibleWidget>
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QSlider>
-#include <QVariant>
+
+namespace zel {
 
 namespace {
 
-// Dynamic properties of the widgets that this file serves; all other widgets keep Qt's own interface.
-const char* const ValueProperty = "announcedValue";
-const char* const ChosenProperty = "announcedAsChosen";
-const char* const UnannouncedProperty = "unannounced";
-
-QAccessible::Role roleOf(const QWidget& widget)
-{
-    if (widget.property(ValueProperty).isValid())
-        return QAccessible::Slider;
-    return widget.property(ChosenProperty).isValid() ? QAccessible::RadioButton : QAccessible::StaticText;
-}
+bool (*Concerns)(const QWidget&) = nullptr;
+AccessibleTraits (*TraitsOf)(const QWidget&) = nullptr;
 
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
 
@@ -28,7 +18,7 @@ class Interface : public QAccessibleWidget, public QAccessibleValueInterface
 {
 public:
     explicit Interface(QWidget* widget)
-        : QAccessibleWidget(widget, roleOf(*widget))
+        : QAccessibleWidget(widget, TraitsOf(*widget).role)
         , m_slider(qobject_cast<QSlider*>(widget))
     {
     }
@@ -42,7 +32,7 @@ public:
 
     QString text(QAccessible::Text kind) const override
     {
-        const QString value = widget()->property(ValueProperty).toString();
+        const QString value = TraitsOf(*widget()).value;
         if (kind == QAccessible::Value)
             return value;
         const QString own = QAccessibleWidget::text(kind);
@@ -55,10 +45,10 @@ public:
     QAccessible::State state() const override
     {
         QAccessible::State state = QAccessibleWidget::state();
-        const QVariant chosen = widget()->property(ChosenProperty);
-        state.checkable = chosen.isValid();
-        state.checked = chosen.toBool();
-        state.invisible = state.invisible || widget()->property(UnannouncedProperty).toBool();
+        const AccessibleTraits traits = TraitsOf(*widget());
+        state.checkable = traits.chosen.isValid();
+        state.checked = traits.chosen.toBool();
+        state.invisible = state.invisible || traits.isSilent;
         return state;
     }
 
@@ -97,8 +87,7 @@ private:
     QSlider* const m_slider;
 };
 
-/// Setting up a form already creates interfaces, and Qt caches them.
-void dropCachedInterface(QWidget& widget)
+void dropInterface(QWidget& widget)
 {
     QAccessibleInterface* cached = QAccessible::queryAccessibleInterface(&widget);
     QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(cached));
@@ -126,28 +115,28 @@ class Interface : public QAccessibleWidget
 {
 public:
     explicit Interface(QWidget* widget)
-        : QAccessibleWidget(widget, roleOf(*widget))
+        : QAccessibleWidget(widget, TraitsOf(*widget).role)
     {
     }
 
     QString text(Text kind, int child) const
     {
-        return kind == Value ? widget()->property(ValueProperty).toString()
-                             : QAccessibleWidget::text(kind, child);
+        return kind == Value ? TraitsOf(*widget()).value : QAccessibleWidget::text(kind, child);
     }
 
     State state(int child) const
     {
         State state = QAccessibleWidget::state(child);
-        if (widget()->property(ChosenProperty).toBool())
+        const AccessibleTraits traits = TraitsOf(*widget());
+        if (traits.chosen.toBool())
             state |= Checked;
-        if (widget()->property(UnannouncedProperty).toBool())
+        if (traits.isSilent)
             state |= Invisible;
         return state;
     }
 };
 
-void dropCachedInterface(QWidget&)
+void dropInterface(QWidget&)
 {
 }
 
@@ -168,47 +157,42 @@ void notifyStateChanged(QWidget& widget)
 QAccessibleInterface* createInterface(const QString&, QObject* object)
 {
     auto* widget = qobject_cast<QWidget*>(object);
-    for (const char* property : {ValueProperty, ChosenProperty, UnannouncedProperty})
-        if (widget && widget->property(property).isValid())
-            return new Interface(widget);
-    return nullptr;
-}
-
-/// Removes the factory when the library is unloaded.
-struct Factory
-{
-    Factory() { QAccessible::installFactory(&createInterface); }
-    ~Factory() { QAccessible::removeFactory(&createInterface); }
-};
-
-void announce(QWidget& widget, const char* property, const QVariant& value)
-{
-    static const Factory factory;
-    if (!widget.property(property).isValid())
-        dropCachedInterface(widget);
-    widget.setProperty(property, value);
+    return widget && Concerns(*widget) ? new Interface(widget) : nullptr;
 }
 
 } // namespace
 
-void zel::announceValue(QSlider& slider, const QString& text)
+AccessibleFactory::AccessibleFactory(bool (*concerns)(const QWidget&),
+                                     AccessibleTraits (*traits)(const QWidget&))
 {
-    announce(slider, ValueProperty, text);
-    notify(slider, ValueTextChanged);
+    Concerns = concerns;
+    TraitsOf = traits;
+    QAccessible::installFactory(&createInterface);
 }
 
-void zel::announceChoice(QLabel& label, bool chosen)
+AccessibleFactory::~AccessibleFactory()
 {
-    announce(label, ChosenProperty, chosen);
-    notifyStateChanged(label);
+    QAccessible::removeFactory(&createInterface);
 }
 
-void zel::leaveUnannounced(QWidget& widget)
+void forgetAccessible(QWidget& widget)
 {
-    announce(widget, UnannouncedProperty, true);
+    dropInterface(widget);
 }
 
-void zel::alertAbout(QWidget& widget)
+void tellAccessibleValue(QWidget& widget)
+{
+    notify(widget, ValueTextChanged);
+}
+
+void tellAccessibleState(QWidget& widget)
+{
+    notifyStateChanged(widget);
+}
+
+void tellAccessibleAlert(QWidget& widget)
 {
     notify(widget, QAccessible::Alert);
 }
+
+} // namespace zel

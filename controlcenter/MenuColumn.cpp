@@ -1,0 +1,87 @@
+#include "MenuColumn.h"
+
+#include "MenuSeparator.h"
+#include "ZelCCActionItem.h"
+
+#include "platform/zelAction.h"
+
+#include <QBoxLayout>
+
+#include <algorithm>
+
+namespace zel {
+
+namespace {
+
+const int SeparatorMargin = 18; // pixels
+
+} // namespace
+
+MenuColumn::MenuColumn(QWidget* owner, QBoxLayout* layout)
+    : m_owner(owner)
+    , m_layout(layout)
+{
+    layout->setAlignment(Qt::AlignTop);
+}
+
+void MenuColumn::addAction(zelAction* action, const QString& anchorName, bool isWorkflowSpecific, bool after,
+                           bool closesMenu)
+{
+    auto* item = new ZelCCActionItem(action, m_owner, Qt::WindowFlags());
+    item->setIsWorkflowSpecific(isWorkflowSpecific);
+    if (closesMenu)
+        QObject::connect(action, SIGNAL(triggered()), m_owner, SLOT(closeMenu()), Qt::UniqueConnection);
+    m_items.append(item);
+
+    const int anchor = anchorIndex(anchorName);
+    const bool besideAnchor = !anchorName.isEmpty() && anchor >= 0;
+    m_layout->insertWidget(besideAnchor && after ? anchor + 1 : anchor, item);
+    if (!besideAnchor)
+        m_owner->layout()->invalidate();
+}
+
+void MenuColumn::removeAction(zelAction* action)
+{
+    const auto items = m_items;
+    for (ZelCCActionItem* item : items) {
+        if (item->getZelAction() != action)
+            continue;
+        QObject::disconnect(action, SIGNAL(triggered()), m_owner, SLOT(closeMenu()));
+        m_items.removeOne(item);
+        delete item;
+    }
+}
+
+bool MenuColumn::addSeparator(const QString& anchorName, const QString& separatorName)
+{
+    if (m_separators.contains(separatorName))
+        return false;
+    auto* separator = new MenuSeparator(m_owner);
+    separator->setFixedSize(std::max(m_owner->width() - SeparatorMargin, 0), 1);
+    m_separators.insert(separatorName, separator);
+    m_layout->insertWidget(anchorIndex(anchorName), separator);
+    return true;
+}
+
+bool MenuColumn::setSeparatorVisible(const QString& separatorName, bool visible)
+{
+    QFrame* separator = m_separators.value(separatorName);
+    if (!separator)
+        return false;
+    separator->setVisible(visible);
+    return true;
+}
+
+int MenuColumn::anchorIndex(const QString& anchorName) const
+{
+    if (anchorName.isEmpty())
+        return 0;
+    for (int index = 0; index < m_layout->count(); ++index) {
+        const auto* item = qobject_cast<ZelCCActionItem*>(m_layout->itemAt(index)->widget());
+        if (item && item->getZelAction() && item->getZelAction()->getActionName() == anchorName)
+            return index;
+    }
+    return -1;
+}
+
+} // namespace zel

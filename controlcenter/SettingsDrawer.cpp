@@ -1,0 +1,153 @@
+#include "SettingsDrawer.h"
+
+#include "DrawerLayout.h"
+#include "ReturnKey.h"
+#include "Slide.h"
+#include "StyleSheetPause.h"
+#include "ZelSettingsPanel.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace zel {
+
+namespace {
+
+const int PolishingTime = 2; // ms of a frame
+
+/// Qt polishes each new widget when it next processes events, even if it is never shown.
+void polishWhenShown(QWidget& tree)
+{
+    QCoreApplication::removePostedEvents(&tree, QEvent::PolishRequest);
+    const QList<QWidget*> descendants = tree.findChildren<QWidget*>();
+    for (QWidget* widget : descendants)
+        QCoreApplication::removePostedEvents(widget, QEvent::PolishRequest);
+}
+
+/// Polishes some widgets, from the leaves to the root. True when the tree needs no more of it.
+bool polishPartly(const QWidget& tree)
+{
+    const QList<QWidget*> descendants = tree.findChildren<QWidget*>();
+    QElapsedTimer clock;
+    clock.start();
+    for (auto widget = descendants.rbegin(); widget != descendants.rend(); ++widget) {
+        if (clock.elapsed() >= PolishingTime)
+            return false;
+        (*widget)->ensurePolished();
+    }
+    return true;
+}
+
+} // namespace
+
+SettingsDrawer::SettingsDrawer(QScrollArea* area, QVBoxLayout*& contentLayout, QBoxLayout* pageLayout,
+                               QObject* parent)
+    : QObject(parent)
+    , m_area(area)
+    , m_pageLayout(pageLayout)
+    , m_contentLayout(new DrawerLayout(contentLayout))
+    , m_scrolling(new QPropertyAnimation(area->verticalScrollBar(), "value", this))
+{
+    contentLayout = m_contentLayout;
+    m_scrolling->setDuration(SlideTime);
+    m_scrolling->setEasingCurve(QEasingCurve::InOutQuad);
+    new ReturnKey(area);
+    // QScrollArea follows only a focus that moves within it.
+    connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
+}
+
+void SettingsDrawer::addPage(ZelSettingsPanel* page)
+{
+    {
+        const StyleSheetPause pause(*page);
+        m_pageLayout->addWidget(page);
+    }
+    if (!isVisible())
+        polishWhenShown(*page);
+    // What is hidden only with the drawer will be shown, and laid out, with it.
+    for (QWidget* widget : {m_pageLayout->parentWidget(), static_cast<QWidget*>(page)})
+        if (widget->isHidden())
+            widget->show();
+}
+
+int SettingsDrawer::width() const
+{
+    return isVisible() ? m_area->minimumWidth() : 0;
+}
+
+void SettingsDrawer::setWidth(int width)
+{
+    if (!m_area)
+        return;
+    m_area->setVisible(width >= 1);
+    m_area->setFixedWidth(width);
+    const QScrollBar* bar = m_area->verticalScrollBar();
+    // All pages together are higher than the drawer, so the first ones get their final width at once.
+    const int barWidth = bar->isVisible() || !m_newPages.isEmpty() ? bar->sizeHint().width() : 0;
+    m_contentLayout->setMinimumWidth(OpenWidth - barWidth);
+    m_area->widget()->setFixedWidth(std::max(width - barWidth, 0));
+}
+
+void SettingsDrawer::showWithoutNewPages()
+{
+    for (int index = 0; index < m_pageLayout->count(); ++index) {
+        QWidget* page = m_pageLayout->itemAt(index)->widget();
+        if (page->isHidden() || page->testAttribute(Qt::WA_WState_Polished))
+            continue;
+        page->hide();
+        m_newPages << page;
+    }
+    m_area->show();
+}
+
+void SettingsDrawer::showNextPage()
+{
+    if (m_newPages.isEmpty() || (m_newPages.first() && !polishPartly(*m_newPages.first())))
+        return;
+    QWidget* page = m_newPages.takeFirst();
+    if (page && page->parentWidget() == m_pageLayout->parentWidget())
+        page->show();
+}
+
+void SettingsDrawer::showAllPages()
+{
+    while (!m_newPages.isEmpty())
+        showNextPage();
+}
+
+void SettingsDrawer::scrollTo(const QWidget& widget)
+{
+    if (!m_area)
+        return;
+    showAllPages();
+    QScrollBar* bar = m_area->verticalScrollBar();
+    m_scrolling->stop();
+    m_scrolling->setStartValue(bar->value());
+    m_scrolling->setEndValue(std::min(widget.y() + widget.parentWidget()->y(), bar->maximum()));
+    startSlide(*m_scrolling, *m_area);
+}
+
+ZelSettingsPanel* SettingsDrawer::pageAt(int position) const
+{
+    if (!m_area || m_scrolling->state() == QAbstractAnimation::Running)
+        return nullptr;
+    const QPoint belowTop(10, position + 10);
+    QWidget* widget = m_area->widget()->childAt(belowTop);
+    while (widget && !qobject_cast<ZelSettingsPanel*>(widget))
+        widget = widget->parentWidget();
+    return qobject_cast<ZelSettingsPanel*>(widget);
+}
+
+void SettingsDrawer::onFocusChanged(QWidget* previous, QWidget* current)
+{
+    if (!m_area || !m_area->isAncestorOf(current) || m_area->isAncestorOf(previous))
+        return;
+    // Do not scroll the pages while a mouse button is down.
+    if (QApplication::mouseButtons() == Qt::NoButton)
+        m_area->ensureWidgetVisible(current, 0);
+}
+
+} // namespace zel

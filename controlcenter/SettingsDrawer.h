@@ -1,0 +1,70 @@
+#ifndef ZEL_SETTINGSDRAWER_H
+#define ZEL_SETTINGSDRAWER_H
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QScrollArea>
+
+class QBoxLayout;
+class QPropertyAnimation;
+class QVBoxLayout;
+
+namespace zel {
+
+class DrawerLayout;
+class ZelSettingsPanel;
+
+/// The drawer of the control center: a scroll area with the pages, one below the other. What opens and closes
+/// it is ZelControlCenter.
+///
+/// A page is styled and laid out when it is first shown, which takes as long as half a frame. While the
+/// drawer slides open for the first time, its pages are shown one by one.
+class SettingsDrawer : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// In pixels, when it is open.
+    static const int OpenWidth = 450;
+
+    /// Takes over the layout of the form that has the area's content, and puts the pages into another of its
+    /// layouts. Anyone may delete the area.
+    SettingsDrawer(QScrollArea* area, QVBoxLayout*& contentLayout, QBoxLayout* pageLayout, QObject* parent);
+
+    /// Null when it has been deleted.
+    QScrollArea* area() const { return m_area; }
+    bool isVisible() const { return m_area && m_area->isVisible(); }
+
+    void addPage(ZelSettingsPanel* page);
+
+    /// In pixels; 0 while it is hidden.
+    int width() const;
+    /// Shows the drawer with this width; 0 hides it.
+    void setWidth(int width);
+    /// Shows the drawer, but the pages that have not been seen yet only by showNextPage().
+    void showWithoutNewPages();
+    void showNextPage();
+    void showAllPages();
+
+    /// Scrolls to a page, or until the drawer cannot scroll further.
+    void scrollTo(const QWidget& page);
+    /// The page at this position of the scroll bar; null while the drawer scrolls to a page, and without
+    /// pages.
+    ZelSettingsPanel* pageAt(int position) const;
+
+private Q_SLOTS:
+    /// Scrolls to the focused field when the focus enters the drawer.
+    void onFocusChanged(QWidget* previous, QWidget* current);
+
+private:
+    QPointer<QScrollArea> m_area;
+    QBoxLayout* const m_pageLayout;
+    DrawerLayout* const m_contentLayout;
+    QPropertyAnimation* const m_scrolling;
+    QList<QPointer<QWidget>> m_newPages; ///< Those that showNextPage() will show.
+};
+
+} // namespace zel
+
+#endif
