@@ -14,11 +14,14 @@ namespace {
 const char* const ValueProperty = "announcedValue";
 const char* const ChosenProperty = "announcedAsChosen";
 const char* const UnannouncedProperty = "unannounced";
+const char* const WindowProperty = "announcedAsWindow";
 
 QAccessible::Role roleOf(const QWidget& widget)
 {
     if (widget.property(ValueProperty).isValid())
         return QAccessible::Slider;
+    if (widget.property(WindowProperty).isValid())
+        return QAccessible::Window;
     return widget.property(ChosenProperty).isValid() ? QAccessible::RadioButton : QAccessible::StaticText;
 }
 
@@ -168,7 +171,7 @@ void notifyStateChanged(QWidget& widget)
 QAccessibleInterface* createInterface(const QString&, QObject* object)
 {
     auto* widget = qobject_cast<QWidget*>(object);
-    for (const char* property : {ValueProperty, ChosenProperty, UnannouncedProperty})
+    for (const char* property : {ValueProperty, ChosenProperty, UnannouncedProperty, WindowProperty})
         if (widget && widget->property(property).isValid())
             return new Interface(widget);
     return nullptr;
@@ -201,6 +204,11 @@ void zel::announceChoice(QLabel& label, bool chosen)
 {
     announce(label, ChosenProperty, chosen);
     notifyStateChanged(label);
+}
+
+void zel::announceWindow(QWidget& window)
+{
+    announce(window, WindowProperty, true);
 }
 
 void zel::leaveUnannounced(QWidget& widget)

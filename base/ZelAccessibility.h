@@ -18,6 +18,10 @@ void announceValue(QSlider& slider, const QString& text);
 /// Announces a label as a radio button. To press it sends the label the key Space.
 void announceChoice(QLabel& label, bool chosen);
 
+/// Announces a widget as a window, outside of which screen readers ignore the focus. Qt does so only for
+/// dialogs and main windows.
+void announceWindow(QWidget& window);
+
 /// Hides a widget from screen readers, because another widget already says the same.
 void leaveUnannounced(QWidget& widget);
 

@@ -67,6 +67,7 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
     , m_ui(new Ui::ControlCenterStandAlone)
 {
     m_ui->setupUi(this);
+    announceWindow(*this);
     // Screen readers read the whole name from the label "Tor"; "-" and "vane" stay silent.
     leaveUnannounced(*m_ui->label_3);
     leaveUnannounced(*m_ui->label_4);

@@ -103,6 +103,7 @@ private Q_SLOTS:
             QTRY_COMPARE(button->toolTip() + button->accessibleName(), QString(tip) + tip);
         }
         QVERIFY(!m_window.isMaximized() && !m_window.windowIcon().isNull());
+        QCOMPARE(QAccessible::queryAccessibleInterface(&m_window)->role(), QAccessible::Window);
         QString product; // Is read as one name, although one half of it is bold.
         for (QLabel* label : m_window.findChild<QFrame*>("appFrame")->findChildren<QLabel*>()) {
             const QAccessibleInterface* read = QAccessible::queryAccessibleInterface(label);
