@@ -73,16 +73,6 @@ inline bool isNativeWindow(const QObject* object)
     return object->inherits("QWindow");
 }
 
-/// Makes the interface follow the screen's scale; does nothing before Qt 5.6. Call it before the
-/// application object exists.
-inline void followScreenScale()
-{
-#if QT_VERSION >= QT_VERSION_CHECK(5, 6, 0)
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-#endif
-}
-
 } // namespace zel
 
 #endif

@@ -1,7 +1,7 @@
 #ifndef ZEL_ZELWINDOWCOMPAT_H
 #define ZEL_ZELWINDOWCOMPAT_H
 
-// The differences between Qt versions, and between window systems, that concern a window without a frame.
+// The differences between Qt versions, and between window systems, that concern windows.
 
 #include <QApplication>
 #include <QWidget>
@@ -11,6 +11,19 @@
 #endif
 
 namespace zel {
+
+/// Makes the interface follow the screen's scale: by whole factors from Qt 5.6 on, by any from Qt 5.14 on, not
+/// at all before. Call it before the application object exists.
+inline void followScreenScale()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 6, 0)
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
+#if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+#endif
+}
 
 /// Lets the window system move a window with the pressed mouse button, with all that the desktop has for it,
 /// such as tiling at the edges of the screen. False where it cannot, and before Qt 5.15: move it yourself.
