@@ -12,8 +12,8 @@
 
 namespace zel {
 
-/// Makes the interface follow the screen's scale: by whole factors from Qt 5.6 on, by any from Qt 5.14 on, not
-/// at all before. Call it before the application object exists.
+/// Makes the interface follow the screen's scale: by whole factors from Qt 5.6 on, by any from Qt 5.14 on,
+/// not at all before. Call it before the application object exists.
 inline void followScreenScale()
 {
 #if QT_VERSION >= QT_VERSION_CHECK(5, 6, 0)

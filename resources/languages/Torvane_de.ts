@@ -61,6 +61,21 @@
     </message>
 </context>
 <context>
+    <name>PendingList</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Not applied yet</source>
+        <translation>Noch nicht angewendet</translation>
+    </message>
+    <message>
+        <source>Goes to the setting.</source>
+        <translation>Springt zur Einstellung.</translation>
+    </message>
+</context>
+<context>
     <name>TurntableSettingsPanel</name>
     <message>
         <source>Turntable</source>
@@ -402,7 +417,7 @@ Sie können auch den Speicherort Ihres Screenshot-Albums ändern.</translation>
     </message>
 </context>
 <context>
-    <name>ZelHelpArea</name>
+    <name>ZelHelpCard</name>
     <message>
         <source>Range</source>
         <translation>Bereich</translation>

@@ -61,6 +61,21 @@
     </message>
 </context>
 <context>
+    <name>PendingList</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Not applied yet</source>
+        <translation>Not applied yet</translation>
+    </message>
+    <message>
+        <source>Goes to the setting.</source>
+        <translation>Goes to the setting.</translation>
+    </message>
+</context>
+<context>
     <name>TurntableSettingsPanel</name>
     <message>
         <source>Turntable</source>
@@ -402,7 +417,7 @@ You may also change the location for your screenshots album.</translation>
     </message>
 </context>
 <context>
-    <name>ZelHelpArea</name>
+    <name>ZelHelpCard</name>
     <message>
         <source>Range</source>
         <translation>Range</translation>

@@ -61,6 +61,21 @@
     </message>
 </context>
 <context>
+    <name>PendingList</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Not applied yet</source>
+        <translation>Aún sin aplicar</translation>
+    </message>
+    <message>
+        <source>Goes to the setting.</source>
+        <translation>Va al ajuste.</translation>
+    </message>
+</context>
+<context>
     <name>TurntableSettingsPanel</name>
     <message>
         <source>Turntable</source>
@@ -402,7 +417,7 @@ También puede cambiar la ubicación de su álbum de capturas de pantalla.</tran
     </message>
 </context>
 <context>
-    <name>ZelHelpArea</name>
+    <name>ZelHelpCard</name>
     <message>
         <source>Range</source>
         <translation>Intervalo</translation>

@@ -61,6 +61,21 @@
     </message>
 </context>
 <context>
+    <name>PendingList</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Not applied yet</source>
+        <translation>Pas encore appliqué</translation>
+    </message>
+    <message>
+        <source>Goes to the setting.</source>
+        <translation>Va au paramètre.</translation>
+    </message>
+</context>
+<context>
     <name>TurntableSettingsPanel</name>
     <message>
         <source>Turntable</source>
@@ -402,7 +417,7 @@ Vous pouvez également changer l’emplacement de votre album de captures d’é
     </message>
 </context>
 <context>
-    <name>ZelHelpArea</name>
+    <name>ZelHelpCard</name>
     <message>
         <source>Range</source>
         <translation>Plage</translation>
