@@ -230,6 +230,26 @@
         <source>Tab chooses a link, Return opens it.</source>
         <translation>Mit Tab wählen Sie einen Link, mit der Eingabetaste öffnen Sie ihn.</translation>
     </message>
+    <message>
+        <source>Settings file</source>
+        <translation>Einstellungsdatei</translation>
+    </message>
+    <message>
+        <source>The path can be selected and copied.</source>
+        <translation>Der Pfad kann markiert und kopiert werden.</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>Protokolldatei</translation>
+    </message>
+    <message>
+        <source>Copies version, system, files and plug-ins, for the report of a fault</source>
+        <translation>Kopiert Version, System, Dateien und Plug-ins, um einen Fehler zu melden</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>Bericht kopieren</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenter</name>

@@ -230,6 +230,26 @@
         <source>Tab chooses a link, Return opens it.</source>
         <translation>Tab chooses a link, Return opens it.</translation>
     </message>
+    <message>
+        <source>Settings file</source>
+        <translation>Settings file</translation>
+    </message>
+    <message>
+        <source>The path can be selected and copied.</source>
+        <translation>The path can be selected and copied.</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>Log file</translation>
+    </message>
+    <message>
+        <source>Copies version, system, files and plug-ins, for the report of a fault</source>
+        <translation>Copies version, system, files and plug-ins, for the report of a fault</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>Copy report</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenter</name>

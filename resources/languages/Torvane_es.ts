@@ -230,6 +230,26 @@
         <source>Tab chooses a link, Return opens it.</source>
         <translation>Tab elige un enlace, Intro lo abre.</translation>
     </message>
+    <message>
+        <source>Settings file</source>
+        <translation>Archivo de ajustes</translation>
+    </message>
+    <message>
+        <source>The path can be selected and copied.</source>
+        <translation>La ruta se puede seleccionar y copiar.</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>Archivo de registro</translation>
+    </message>
+    <message>
+        <source>Copies version, system, files and plug-ins, for the report of a fault</source>
+        <translation>Copia versión, sistema, archivos y complementos para informar de un fallo</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>Copiar informe</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenter</name>

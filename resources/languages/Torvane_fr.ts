@@ -230,6 +230,26 @@
         <source>Tab chooses a link, Return opens it.</source>
         <translation>Tab choisit un lien, Entrée l’ouvre.</translation>
     </message>
+    <message>
+        <source>Settings file</source>
+        <translation>Fichier de paramètres</translation>
+    </message>
+    <message>
+        <source>The path can be selected and copied.</source>
+        <translation>Le chemin peut être sélectionné et copié.</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>Fichier journal</translation>
+    </message>
+    <message>
+        <source>Copies version, system, files and plug-ins, for the report of a fault</source>
+        <translation>Copie la version, le système, les fichiers et les plug-ins pour signaler une erreur</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>Copier le rapport</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenter</name>

@@ -230,6 +230,26 @@
         <source>Tab chooses a link, Return opens it.</source>
         <translation>Tab sceglie un collegamento, Invio lo apre.</translation>
     </message>
+    <message>
+        <source>Settings file</source>
+        <translation>File di impostazioni</translation>
+    </message>
+    <message>
+        <source>The path can be selected and copied.</source>
+        <translation>Il percorso può essere selezionato e copiato.</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>File di log</translation>
+    </message>
+    <message>
+        <source>Copies version, system, files and plug-ins, for the report of a fault</source>
+        <translation>Copia versione, sistema, file e plug-in per segnalare un errore</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>Copia rapporto</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenter</name>

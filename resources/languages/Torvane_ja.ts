@@ -230,6 +230,26 @@
         <source>Tab chooses a link, Return opens it.</source>
         <translation>Tab でリンクを選び、Enter で開きます。</translation>
     </message>
+    <message>
+        <source>Settings file</source>
+        <translation>設定ファイル</translation>
+    </message>
+    <message>
+        <source>The path can be selected and copied.</source>
+        <translation>パスは選択してコピーできます。</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>ログファイル</translation>
+    </message>
+    <message>
+        <source>Copies version, system, files and plug-ins, for the report of a fault</source>
+        <translation>不具合の報告のために、バージョン、システム、ファイル、プラグインをコピーします</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>レポートをコピー</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenter</name>

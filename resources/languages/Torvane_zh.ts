@@ -230,6 +230,26 @@
         <source>Tab chooses a link, Return opens it.</source>
         <translation>按 Tab 选择链接，按回车打开。</translation>
     </message>
+    <message>
+        <source>Settings file</source>
+        <translation>设置文件</translation>
+    </message>
+    <message>
+        <source>The path can be selected and copied.</source>
+        <translation>可以选择并复制此路径。</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>日志文件</translation>
+    </message>
+    <message>
+        <source>Copies version, system, files and plug-ins, for the report of a fault</source>
+        <translation>复制版本、系统、文件和插件信息，用于报告故障</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>复制报告</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenter</name>
