@@ -14,23 +14,33 @@ class SignalBlock
 {
 public:
     /// Blocks the signals of these objects, which must outlive it.
-    SignalBlock(std::initializer_list<QObject*> objects)
+    SignalBlock(std::initializer_list<QObject*> objects) { block(objects); }
+    /// The same for a container of pointers.
+    template <class Objects>
+    explicit SignalBlock(const Objects& objects)
     {
-        for (QObject* object : objects)
-            m_previous.emplace_back(object, object->blockSignals(true));
+        block(objects);
     }
 
     /// Restores the previous state of each object.
     ~SignalBlock()
     {
-        for (const auto& [object, blocked] : m_previous)
-            object->blockSignals(blocked);
+        // Backwards, because an object may be there twice.
+        for (auto each = m_previous.rbegin(); each != m_previous.rend(); ++each)
+            each->first->blockSignals(each->second);
     }
 
     SignalBlock(const SignalBlock&) = delete;
     SignalBlock& operator=(const SignalBlock&) = delete;
 
 private:
+    template <class Objects>
+    void block(const Objects& objects)
+    {
+        for (QObject* object : objects)
+            m_previous.emplace_back(object, object->blockSignals(true));
+    }
+
     std::vector<std::pair<QObject*, bool>> m_previous;
 };
 

@@ -2,95 +2,72 @@
 #define ZEL_ZELEDITABLEPANEL_H
 
 #include "EnableButton.h"
+#include "SignalBlock.h"
+#include "ZelPageEdits.h"
 #include "ZelPageHelp.h"
 #include "ZelSettingsField.h"
 #include "ZelSettingsPanel.h"
 #include "ZelSettingsRegistry.h"
 
-#include <QCoreApplication>
+#include <QMetaObject>
 #include <QSettings>
 #include <QStringList>
 
 #include <algorithm>
 #include <functional>
-#include <utility>
 #include <vector>
 
 namespace zel {
 
-/// The base of pages that edit settings: it loads, compares, applies and resets them. A page adds a model (a
-/// plain struct with operator==), the table of its fields, and the functions that read its widgets into a
-/// model and fill them from one. Its form has a button named "resetButton", which is enabled while the page
-/// differs from the defaults.
+/// The base of pages that edit settings: it loads, compares, applies and resets them, and gives help on them.
+/// A page adds a model (a plain struct), the table of its rows, and a slot for each of its widgets. Its form
+/// has a button named "resetButton", which is enabled while the page differs from the defaults.
 ///
 /// Nothing is written before applyModifications().
 template <class Model>
-class ZelEditablePanel : public ZelSettingsPanel
+class ZelEditablePanel : public ZelSettingsPanel, public ZelPageEdits
 {
 public:
-    /// The table of a page, with a row for each key.
-    using Fields = std::vector<ZelSettingsField<Model>>;
-
-    /// The first four arguments are those of ZelSettingsPanel.
-    ZelEditablePanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
-                     Qt::WindowFlags flags, Fields fields)
-        : ZelSettingsPanel(application, settings, parent, flags)
-        , m_fields(std::move(fields))
-    {
-        QStringList keys;
-        for (const auto& field : m_fields)
-            keys.append(field.key);
-        setSettingsKeys(keys);
-    }
+    using ZelSettingsPanel::ZelSettingsPanel;
 
     /// Loads the stored values into the widgets.
     void initializeWidget() override
     {
-        Model stored;
-        readSettings(stored);
-        applyModel(stored);
+        m_stored = storedModel();
+        applyModel(m_stored);
+        m_loaded = m_applied = currentModel();
+        m_isLoaded = true;
         checkContent();
     }
 
     /// True when the widgets differ from the stored values.
-    bool hasModifications() const override
-    {
-        Model stored, current;
-        readSettings(stored);
-        getCurrentModel(current);
-        return !(stored == current);
-    }
+    bool hasModifications() const override { return differ(storedModel(), currentModel()); }
 
-    /// Passes the edits to the running application, then stores them. Returns shouldRestart().
+    /// Takes what others have stored, passes the edits to the running application, then stores them. Returns
+    /// shouldRestart().
     bool applyModifications() override
     {
+        takeStored();
         if (!hasModifications())
             return false;
-        pushToApplication();
+        pushToApplication(currentModel());
         // Before saving, because shouldRestart() compares with the stored values.
         const bool restart = shouldRestart();
         saveSettingsInternal();
+        m_applied = currentModel();
         checkContent();
         return restart;
     }
 
     /// True when the widgets differ from the defaults.
-    bool canResetContent() const override
-    {
-        Model defaults, current;
-        getDefaultSettings(defaults);
-        getCurrentModel(current);
-        return !(defaults == current);
-    }
+    bool canResetContent() const override { return differ(defaultModel(), currentModel()); }
 
     /// Puts the defaults into the widgets, as a pending edit.
     void resetContent() override
     {
         if (!canResetContent())
             return;
-        Model defaults;
-        getDefaultSettings(defaults);
-        applyModel(defaults);
+        applyModel(defaultModel());
         onEdited();
     }
 
@@ -100,72 +77,188 @@ public:
     /// Does nothing: applyModifications() saves.
     virtual void saveSettings() {}
 
-protected:
-    /// A row of the page's help: one setting, with one or more keys.
-    struct Help
+    void takeStored() override
     {
-        QList<QWidget*> fields;  ///< The widgets that edit the setting.
-        const char* name;        ///< Null for the name or the label of the first field.
-        const char* description; ///< What the setting does, in a few sentences.
-        QString range;           ///< Empty for a setting without a range.
-        ZelSettingEffect effect; ///< When an applied edit takes effect.
-        QStringList keys;        ///< The keys that the fields edit.
-        /// The text that the fields show for the value in a model.
-        std::function<QString(const Model&)> shown;
-        /// Copies the setting from one model to another. Null copies the values of the keys.
-        std::function<void(Model& to, const Model& from)> copy = nullptr;
-        bool tipIsValue = false; ///< The tool tips of the fields are their values, so help must not use them.
-    };
+        if (!m_isLoaded)
+            return;
+        const Model stored = storedModel(), current = currentModel();
+        Model merged = current;
+        std::vector<const Field*> changed;
+        forEachField([&](const Field& field) {
+            if (field.isSame(stored, m_applied)) // The last Apply has been written.
+                field.copy(m_loaded, m_applied);
+            if (field.isSame(stored, current))
+                field.copy(m_loaded, current);
+            if (!field.isSame(current, m_loaded) || field.isSame(stored, m_stored))
+                return;
+            field.copy(merged, stored);
+            changed.push_back(&field);
+        });
+        m_stored = stored;
+        if (changed.empty())
+            return;
+        fill(merged, changed);
+        const Model shown = currentModel();
+        for (const Field* field : changed) {
+            field->copy(m_loaded, shown);
+            field->copy(m_applied, shown);
+        }
+        checkContent();
+    }
 
-    /// Adds help on some or all settings of the page. Call it after the form is set up and the keys are
-    /// registered.
-    /// @param context  the translation context of names and descriptions
-    void describe(const char* context, const std::vector<Help>& rows)
+    void pushStored() override
     {
-        auto* help = findChild<ZelPageHelp*>();
-        if (!help)
-            help = new ZelPageHelp(this);
-        for (const Help& row : rows)
-            help->add(settingHelp(context, row));
+        if (hasModifications())
+            pushToApplication(storedModel());
+    }
+
+    std::vector<ZelPendingEdit> pendingEdits() override
+    {
+        std::vector<ZelPendingEdit> edits;
+        const Model stored = storedModel(), current = currentModel();
+        for (const Row& row : m_rows) {
+            if (!hasModifications() || !row.differs(current, stored))
+                continue;
+            const ZelSettingHelp* help = m_help->setting(row.fields.front().widgets.first());
+            ZelPendingEdit edit = {help->name, row.text(stored), row.text(current), nullptr, help->putBack};
+            if (edit.stored == edit.shown) // The field cannot show what is stored.
+                edit.stored = settings().value(row.fields.front().key).toString();
+            for (QWidget* field : help->fields)
+                if (!edit.field && field->isEnabled() && !field->isHidden())
+                    edit.field = field;
+            edits.push_back(edit);
+        }
+        return edits;
+    }
+
+    std::function<void()> copyOfEdits() override
+    {
+        std::vector<const Field*> edited;
+        const Model current = currentModel();
+        forEachField([&](const Field& field) {
+            if (!field.isSame(current, m_loaded))
+                edited.push_back(&field);
+        });
+        if (edited.empty())
+            return nullptr;
+        return [this, current, edited] {
+            Model model = currentModel();
+            for (const Field* field : edited)
+                field->copy(model, current);
+            fill(model, edited);
+            onEdited();
+        };
+    }
+
+protected:
+    /// One setting of the page.
+    using Row = ZelSettingsRow<Model>;
+
+    /// Makes a row.
+    /// @param key          as in Settings.ini
+    /// @param member       holds its value in the model
+    /// @param widgets      shows the value: a widget of a usual kind, or ZelFieldWidgets
+    /// @param effect       when an applied edit takes effect
+    /// @param description  what the setting does, in a few translated sentences
+    /// @param conversion   how the value is stored
+    template <class T>
+    static Row row(const char* key, T Model::*member,
+                   const typename std::common_type<ZelFieldWidgets<T>>::type& widgets,
+                   ZelSettingEffect effect, const QString& description,
+                   const ZelFieldConversion<T>& conversion = plainConversion<T>())
+    {
+        return row(Field(key, member, widgets, conversion), widgets.range, effect, description);
+    }
+
+    /// Makes a row of a value that differs from the usual ones.
+    static Row row(const ZelSettingsField<Model>& field, const QString& range, ZelSettingEffect effect,
+                   const QString& description)
+    {
+        Row made;
+        made.fields = {field};
+        made.description = description;
+        made.effect = effect;
+        made.range = range;
+        made.text = field.text;
+        return made;
+    }
+
+    /// Sets the rows of the page and adds help on them. Call it once, in the constructor, after the form is
+    /// set up and the keys are registered. The values are stored in the order of the rows: first the first
+    /// value of each row, then the further ones.
+    void setRows(const std::vector<Row>& rows)
+    {
+        m_rows = rows;
+        m_help = new ZelPageHelp(this);
+        QStringList keys;
+        for (const Row& row : m_rows) {
+            for (const Field& field : row.fields)
+                keys.append(field.key);
+            m_help->add(helpOn(row));
+        }
+        keys.removeDuplicates();
+        setSettingsKeys(keys);
     }
 
     /// Reads the stored values.
     void readSettings(Model& model) const
     {
-        for (const auto& field : m_fields)
-            field.readStored(model, settings().value(field.key));
+        forEachField([&](const Field& field) { field.readStored(model, settings().value(field.key)); });
     }
 
     /// Reads the registered defaults.
     void getDefaultSettings(Model& model) const
     {
-        for (const auto& field : m_fields)
+        forEachField([&](const Field& field) {
             field.readDefault(model, ZelSettingsRegistry::GetDefaultSettingsValue(field.key));
+        });
     }
 
     /// Reads the widgets.
-    virtual void getCurrentModel(Model& model) const = 0;
-
-    /// Fills the widgets, with their signals blocked, so that it does not count as an edit.
-    virtual void applyModel(const Model& model) = 0;
-
-    /// Writes every field, in the order of the table.
-    virtual void saveSettingsInternal()
+    void getCurrentModel(Model& model) const
     {
-        Model current;
-        getCurrentModel(current);
-        for (const auto& field : m_fields)
-            settings().setValue(field.key, field.stored(current));
+        forEachField([&](const Field& field) { field.read(model); });
     }
 
-    /// Passes to the running application what it can use at once.
-    virtual void pushToApplication() {}
+    /// @{
+    /// The values of one of the three sources.
+    Model storedModel() const { return read(&ZelEditablePanel::readSettings); }
+    Model defaultModel() const { return read(&ZelEditablePanel::getDefaultSettings); }
+    Model currentModel() const { return read(&ZelEditablePanel::getCurrentModel); }
+    /// @}
+
+    /// Fills the widgets, with their signals blocked, so that it does not count as an edit.
+    void applyModel(const Model& model)
+    {
+        std::vector<const Field*> all;
+        forEachField([&](const Field& field) { all.push_back(&field); });
+        fill(model, all);
+    }
+
+    /// The widgets have been filled from a model, while their signals were blocked: brings what follows from
+    /// their values up to date.
+    virtual void onFilled(const Model&) {}
+
+    /// Writes every value.
+    virtual void saveSettingsInternal()
+    {
+        const Model current = currentModel();
+        for (std::size_t index = 0, further = 1; further > 0; ++index) {
+            further = 0;
+            for (const Row& row : m_rows) {
+                if (index < row.fields.size())
+                    settings().setValue(row.fields[index].key, row.fields[index].stored(current));
+                further += index + 1 < row.fields.size();
+            }
+        }
+    }
+
+    /// Passes to the running application what it can use at once: the current values, or the stored ones
+    /// after they could not be stored.
+    virtual void pushToApplication(const Model&) {}
 
     /// True when the pending edits need a restart to take effect.
     virtual bool shouldRestart() const { return false; }
-
-    /// Emits the page's own stateChanged().
-    virtual void notifyStateChanged() = 0;
 
     /// Enables or disables the reset button.
     void checkContent() const
@@ -177,78 +270,95 @@ protected:
                      qPrintable(getPanelName()));
     }
 
-    /// Call it after every edit: updates the reset button and emits stateChanged().
+    /// Call it after every edit: updates the reset button and emits the page's own stateChanged().
     void onEdited()
     {
         checkContent();
-        notifyStateChanged();
+        QMetaObject::invokeMethod(this, "stateChanged", Qt::DirectConnection);
     }
 
 private:
-    using Reader = void (ZelEditablePanel::*)(Model& model) const;
-    using Copier = std::function<void(Model& to, const Model& from)>;
+    using Field = ZelSettingsField<Model>;
 
-    Model read(Reader reader) const
+    Model read(void (ZelEditablePanel::*reader)(Model& model) const) const
     {
         Model model;
         (this->*reader)(model);
         return model;
     }
 
-    /// The values of the widgets, except for one setting, which comes from another source.
-    Model currentModelWith(const Copier& copy, Reader source) const
+    template <class Action>
+    void forEachField(const Action& action) const
     {
-        Model current = read(&ZelEditablePanel::getCurrentModel);
-        copy(current, read(source));
-        return current;
+        for (const Row& row : m_rows)
+            std::for_each(row.fields.begin(), row.fields.end(), action);
     }
 
-    ZelSettingHelp settingHelp(const char* context, const Help& row)
+    /// True when a value that counts in both models differs.
+    bool differ(const Model& left, const Model& right) const
     {
-        const auto keys = row.keys;
-        const auto shown = row.shown;
-        const Copier copy = row.copy ? row.copy : copierOf(keys);
-        const auto differs = [this, copy](Reader source) {
-            return !(currentModelWith(copy, source) == read(&ZelEditablePanel::getCurrentModel));
-        };
-        const auto replace = [this, copy](Reader source) {
-            applyModel(currentModelWith(copy, source));
-            onEdited();
-        };
-        const auto hasDefault = [keys] {
-            return std::none_of(keys.begin(), keys.end(), [](const QString& key) {
-                return ZelSettingsRegistry::GetDefaultSettingsValue(key).isNull();
+        bool differs = false;
+        forEachField([&](const Field& field) {
+            differs = differs || (field.counts(left) && field.counts(right) && !field.isSame(left, right));
+        });
+        return differs;
+    }
+
+    void fill(const Model& model, const std::vector<const Field*>& fields)
+    {
+        QList<QWidget*> widgets;
+        forEachField([&](const Field& field) { widgets += field.widgets; });
+        const SignalBlock block(widgets);
+        for (const Field* field : fields)
+            field->show(model);
+        onFilled(model);
+    }
+
+    void replace(const Row& row, const Model& source)
+    {
+        std::vector<const Field*> fields;
+        for (const Field& field : row.fields)
+            fields.push_back(&field);
+        fill(source, fields);
+        onEdited();
+    }
+
+    ZelSettingHelp helpOn(const Row& row)
+    {
+        const auto hasDefault = [&row] {
+            return !row.fixed && std::none_of(row.fields.begin(), row.fields.end(), [](const Field& field) {
+                return ZelSettingsRegistry::GetDefaultSettingsValue(field.key).isNull();
             });
         };
-        const Reader stored = &ZelEditablePanel::readSettings,
-                     defaults = &ZelEditablePanel::getDefaultSettings;
-
         ZelSettingHelp help;
-        help.fields = row.fields;
-        help.name = row.name ? QCoreApplication::translate(context, row.name) : QString();
-        help.description = QCoreApplication::translate(context, row.description);
+        for (const Field& field : row.fields)
+            help.fields += field.widgets;
+        help.name = row.name;
+        help.description = row.description;
         help.range = row.range;
         help.effect = ZelPageHelp::effectText(row.effect);
         help.tipIsValue = row.tipIsValue;
-        help.byDefault = [=] { return hasDefault() ? shown(read(defaults)) : QString(); };
-        help.stored = [=] { return shown(read(stored)); };
-        help.differsFromDefault = [=] { return hasDefault() && differs(defaults); };
-        help.differsFromStored = [=] { return differs(stored); };
-        help.useDefault = [=] { replace(defaults); };
-        help.putBack = [=] { replace(stored); };
+        help.byDefault = [this, &row, hasDefault] {
+            return hasDefault() ? row.text(defaultModel()) : QString();
+        };
+        help.stored = [this, &row] { return row.text(storedModel()); };
+        help.differsFromDefault = [this, &row, hasDefault] {
+            return hasDefault() && row.differs(currentModel(), defaultModel());
+        };
+        help.differsFromStored = [this, &row] {
+            return !row.fixed && row.differs(currentModel(), storedModel());
+        };
+        help.useDefault = [this, &row] { replace(row, defaultModel()); };
+        help.putBack = [this, &row] { replace(row, storedModel()); };
         return help;
     }
 
-    Copier copierOf(const QStringList& keys) const
-    {
-        return [this, keys](Model& to, const Model& from) {
-            for (const auto& field : m_fields)
-                if (keys.contains(field.key))
-                    field.copy(to, from);
-        };
-    }
-
-    const Fields m_fields;
+    std::vector<Row> m_rows; ///< Constant after setRows(), so that the help can refer to them.
+    ZelPageHelp* m_help = nullptr;
+    Model m_stored;  ///< What was stored when the widgets were last filled from it.
+    Model m_loaded;  ///< What the widgets have shown then.
+    Model m_applied; ///< What they have shown at the last Apply, which may not have been written.
+    bool m_isLoaded = false;
 };
 
 } // namespace zel

@@ -1,13 +1,19 @@
 #include "ZelPageHelp.h"
 
 #include <QAbstractButton>
+#include <QContextMenuEvent>
 #include <QCoreApplication>
-#include <QEvent>
 #include <QGroupBox>
+#include <QKeyEvent>
+#include <QKeySequence>
 #include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
 #include <QMetaMethod>
 #include <QMetaProperty>
+#include <QPointer>
 #include <QTextDocument>
+#include <QWhatsThis>
 
 #include <algorithm>
 
@@ -108,10 +114,72 @@ QString ZelPageHelp::choiceText(const QList<QWidget*>& buttons)
     return texts.join(" / ");
 }
 
+struct ZelPageHelp::Command
+{
+    const char* text;
+    int key;
+    std::function<bool()> ZelSettingHelp::*enabled; ///< Null for always.
+    std::function<void()> ZelSettingHelp::*action;  ///< Null for helpRequested().
+};
+
+const ZelPageHelp::Command ZelPageHelp::Commands[] = {
+    {QT_TRANSLATE_NOOP("ZelPageHelp", "Put back"), Qt::ALT | Qt::Key_Backspace,
+     &ZelSettingHelp::differsFromStored, &ZelSettingHelp::putBack},
+    {QT_TRANSLATE_NOOP("ZelPageHelp", "Default"), Qt::ALT | Qt::Key_Delete,
+     &ZelSettingHelp::differsFromDefault, &ZelSettingHelp::useDefault},
+    {QT_TRANSLATE_NOOP("ZelPageHelp", "What is this?"), Qt::SHIFT | Qt::Key_F1, nullptr, nullptr},
+};
+
+void ZelPageHelp::run(const Command& command, QWidget* field)
+{
+    const ZelSettingHelp& help = *setting(field);
+    if (command.action && (help.*command.enabled)())
+        (help.*command.action)();
+    if (command.action)
+        return;
+    if (receivers(SIGNAL(helpRequested(QWidget*))) > 0)
+        Q_EMIT helpRequested(field);
+    else
+        QWhatsThis::showText(field->mapToGlobal(field->rect().bottomLeft()), help.summary(), field);
+}
+
+void ZelPageHelp::showMenu(QWidget* field, const QPoint& position)
+{
+    auto* editor = field->findChild<QLineEdit*>();
+    const QPointer<QMenu> menu = editor ? editor->createStandardContextMenu() : new QMenu(field);
+    if (!menu->isEmpty())
+        menu->addSeparator();
+    for (const Command& command : Commands) {
+        // Not a shortcut, which could clash with those of the application: the text after the tabulator.
+        QAction* action = menu->addAction(translated(command.text) + '\t' +
+                                          QKeySequence(command.key).toString(QKeySequence::NativeText));
+        action->setData(static_cast<int>(&command - Commands));
+        action->setEnabled(!command.enabled || (setting(field)->*command.enabled)());
+    }
+    const QPointer<QWidget> guarded = field;
+    const QAction* chosen = menu->exec(position);
+    if (chosen && guarded && chosen->data().isValid())
+        run(Commands[chosen->data().toInt()], field);
+    delete menu;
+}
+
 bool ZelPageHelp::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
     QWidget* field = m_fields.value(watched);
+    if (type == QEvent::ContextMenu) {
+        showMenu(field, static_cast<QContextMenuEvent*>(event)->globalPos());
+        return true;
+    }
+    if (type == QEvent::KeyPress) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        for (const Command& command : Commands) {
+            if (static_cast<int>(key->key() | (key->modifiers() & ~Qt::KeypadModifier)) == command.key) {
+                run(command, field);
+                return true;
+            }
+        }
+    }
     // A field that scrolls under a resting pointer gets no Enter event, but one for its tool tip.
     if (type == QEvent::Enter || type == QEvent::FocusIn || type == QEvent::ToolTip)
         Q_EMIT reached(field);

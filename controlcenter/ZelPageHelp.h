@@ -12,6 +12,7 @@
 #include <functional>
 #include <vector>
 
+class QPoint;
 class QWidget;
 
 namespace zel {
@@ -40,7 +41,8 @@ struct ZelSettingHelp
 };
 
 /// The help on the settings of a page: tool tips and accessible descriptions for the fields, and all that a
-/// ZelHelpArea shows.
+/// ZelHelpArea shows. On a field, the context menu and keys take back an edit (Alt+Backspace), put the
+/// default into it (Alt+Delete), and ask what it is (Shift+F1).
 ///
 /// A page has at most one, as its child; a help area finds it there.
 class ZEL_EXPORT ZelPageHelp : public QObject
@@ -77,7 +79,8 @@ public:
     /// The texts of the buttons of a choice.
     static QString choiceText(const QList<QWidget*>& buttons);
 
-    /// Watches the fields for the pointer and the focus. Consumes only tool tips that are switched off.
+    /// Watches the fields for the pointer and the focus. Consumes tool tips that are switched off, and the
+    /// keys and the context menu of the fields' commands.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
@@ -85,8 +88,16 @@ Q_SIGNALS:
     void reached(QWidget* field);
     /// The user has changed what a field shows.
     void edited();
+    /// The user asks what a field is. Without a receiver the help appears at the field.
+    void helpRequested(QWidget* field);
 
 private:
+    /// A command on the setting of a field: "Put back", "Default" or "What is this?".
+    struct Command;
+    static const Command Commands[];
+
+    void run(const Command& command, QWidget* field);
+    void showMenu(QWidget* field, const QPoint& position);
     QString nameOf(const QWidget& field) const;
     void watch(QWidget* widget, QWidget* field);
 

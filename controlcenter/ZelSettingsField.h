@@ -1,10 +1,22 @@
 #ifndef ZEL_ZELSETTINGSFIELD_H
 #define ZEL_ZELSETTINGSFIELD_H
 
-#include <QString>
+#include "ZelPageHelp.h"
+#include "zelDoubleSpinBox.h"
+#include "zelSpinBox.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QRadioButton>
+#include <QSlider>
 #include <QVariant>
 
+#include <algorithm>
 #include <functional>
+#include <limits>
+#include <type_traits>
+#include <utility>
+#include <vector>
 
 namespace zel {
 
@@ -20,71 +32,217 @@ struct ZelFieldConversion
     std::function<QVariant(const T& value)> toStored;
 };
 
-/// Stores a value without a conversion.
+/// Stores a text, an int, a quint64, a double or a bool as it is. A default that is no number is 0; every
+/// default except "true" is false.
 template <class T>
-ZelFieldConversion<T> plainConversion(std::function<T(const QString& defaultText)> fromDefault)
+ZelFieldConversion<T> plainConversion()
 {
+    const auto fromDefault = [](const QString& text) {
+        if constexpr (std::is_same<T, bool>::value)
+            return text == QLatin1String("true");
+        else if constexpr (std::is_same<T, int>::value)
+            return text.toInt();
+        else if constexpr (std::is_same<T, quint64>::value)
+            return text.toULongLong();
+        else if constexpr (std::is_same<T, double>::value)
+            return text.toDouble();
+        else
+            return text;
+    };
     return {[](const QVariant& stored) { return stored.value<T>(); }, fromDefault,
             [](const T& value) { return QVariant::fromValue(value); }};
 }
 
-/// A text.
-inline ZelFieldConversion<QString> textConversion()
+/// The widgets that show a value of the type T. The usual kinds are known; others set the members. The
+/// widgets must outlive it.
+template <class T>
+struct ZelFieldWidgets
 {
-    return plainConversion<QString>([](const QString& text) { return text; });
-}
+    ZelFieldWidgets() = default;
 
-/// An integer; 0 for a default that is not one.
-inline ZelFieldConversion<int> integerConversion()
-{
-    return plainConversion<int>([](const QString& text) { return text.toInt(); });
-}
-
-/// An unsigned 64-bit integer; 0 for a default that is not one.
-inline ZelFieldConversion<quint64> unsignedConversion()
-{
-    return plainConversion<quint64>([](const QString& text) { return text.toULongLong(); });
-}
-
-/// A floating-point number; 0 for a default that is not one.
-inline ZelFieldConversion<double> realConversion()
-{
-    return plainConversion<double>([](const QString& text) { return text.toDouble(); });
-}
-
-/// "true" or "false"; every default except "true" is false.
-inline ZelFieldConversion<bool> flagConversion()
-{
-    return plainConversion<bool>([](const QString& text) { return text == QLatin1String("true"); });
-}
-
-/// A row in the table of a page: a key, and the functions that move its value into a model and out of it.
-template <class Model>
-struct ZelSettingsField
-{
-    /// A row for a key and the member of the model that holds its value.
-    template <class T>
-    ZelSettingsField(const char* settingsKey, T Model::*member, const ZelFieldConversion<T>& conversion)
-        : key(QLatin1String(settingsKey))
-        , readStored(
-              [=](Model& model, const QVariant& value) { model.*member = conversion.fromStored(value); })
-        , readDefault(
-              [=](Model& model, const QString& text) { model.*member = conversion.fromDefault(text); })
-        , stored([=](const Model& model) { return conversion.toStored(model.*member); })
-        , copy([=](Model& to, const Model& from) { to.*member = from.*member; })
+    /// A check box: on or off.
+    ZelFieldWidgets(QCheckBox* box)
+        : widgets{box}
+        , read([box] { return box->isChecked(); })
+        , show([box](bool on) { box->setChecked(on); })
+        , text(&ZelPageHelp::flagText)
+        , range(ZelPageHelp::flagRange())
     {
     }
 
-    /// The key, as in Settings.ini.
-    QString key;
-    /// Sets the member of a model from a stored value.
-    std::function<void(Model&, const QVariant& stored)> readStored;
-    /// Sets the member of a model from a default.
-    std::function<void(Model&, const QString& defaultText)> readDefault;
-    /// The variant to write for a model.
-    std::function<QVariant(const Model&)> stored;
-    /// Copies the value from one model to another.
+    /// Two radio buttons, of which one is checked: the first for false.
+    ZelFieldWidgets(QRadioButton* off, QRadioButton* on)
+        : widgets{off, on}
+        , read([off] { return !off->isChecked(); })
+        , show([off, on](bool value) {
+            on->setChecked(value);
+            off->setChecked(!value);
+        })
+        , text([off, on](bool value) { return (value ? on : off)->text(); })
+        , range(ZelPageHelp::choiceText(widgets))
+    {
+    }
+
+    /// The index of an item.
+    ZelFieldWidgets(QComboBox* box)
+        : widgets{box}
+        , read([box] { return box->currentIndex(); })
+        , show([box](int index) { box->setCurrentIndex(index); })
+        , text([box](int index) { return box->itemText(index); })
+        , range(ZelPageHelp::rangeText(box->itemText(0), box->itemText(box->count() - 1)))
+    {
+    }
+
+    /// A slider, with the text of each of its values.
+    ZelFieldWidgets(QSlider* slider, const std::function<QString(int value)>& textOf)
+        : widgets{slider}
+        , read([slider] { return slider->value(); })
+        , show([slider](int value) { slider->setValue(value); })
+        , text(textOf)
+        , range(ZelPageHelp::rangeText(textOf(slider->minimum()), textOf(slider->maximum())))
+    {
+    }
+
+    /// An integer; without the last bits, which the box does not show, when it shows a larger unit.
+    ZelFieldWidgets(zelSpinBox* box, int hiddenBits = 0)
+        : widgets{box}
+        , read([=] { return static_cast<T>(box->value()) << hiddenBits; })
+        // std::min before the conversion, because a number that exceeds an int would wrap.
+        , show([=](T number) {
+            box->setValue(
+                static_cast<int>(std::min<T>(number >> hiddenBits, std::numeric_limits<int>::max())));
+        })
+        , text([=](T number) { return box->shownText(static_cast<double>(number >> hiddenBits)); })
+        , range(ZelPageHelp::rangeText(box))
+    {
+    }
+
+    /// A floating-point number.
+    ZelFieldWidgets(zelDoubleSpinBox* box)
+        : widgets{box}
+        , read([box] { return box->value(); })
+        , show([box](double number) { box->setValue(number); })
+        , text([box](double number) { return box->shownText(number); })
+        , range(ZelPageHelp::rangeText(box))
+    {
+    }
+
+    QList<QWidget*> widgets;                     ///< The widgets; the first one names the setting.
+    std::function<T()> read;                     ///< The value that they show.
+    std::function<void(const T& value)> show;    ///< Shows a value, as near as they can.
+    std::function<QString(const T& value)> text; ///< The text that they show for a value.
+    QString range;                               ///< Empty without one.
+};
+
+/// A number of bytes, in a box that shows mebibytes.
+inline ZelFieldWidgets<quint64> inMebibytes(zelSpinBox* box)
+{
+    return {box, 20};
+}
+
+/// One value of a page: the functions that move it between Settings.ini, the model and the widgets.
+template <class Model>
+struct ZelSettingsField
+{
+    /// The place of the value is the member of a model that also has the widgets' value.
+    template <class T>
+    ZelSettingsField(const char* settingsKey, T Model::*member, const ZelFieldWidgets<T>& widgets,
+                     const ZelFieldConversion<T>& conversion)
+        : ZelSettingsField(settingsKey, member, conversion, std::mem_fn(member), widgets)
+    {
+    }
+
+    /// For widgets that show a part of the member.
+    /// @param place  returns the part of a model, as a reference that can be assigned unless the model is
+    /// const
+    template <class T, class Place, class Part>
+    ZelSettingsField(const char* settingsKey, T Model::*member, const ZelFieldConversion<T>& conversion,
+                     const Place& place, const ZelFieldWidgets<Part>& in)
+        : key(QLatin1String(settingsKey))
+        , widgets(in.widgets)
+        , readStored([=](Model& to, const QVariant& value) { to.*member = conversion.fromStored(value); })
+        , readDefault([=](Model& to, const QString& text) { to.*member = conversion.fromDefault(text); })
+        , stored([=](const Model& model) { return conversion.toStored(model.*member); })
+        , read([=](Model& to) { place(to) = in.read(); })
+        , show([=](const Model& model) { in.show(place(model)); })
+        , text([=](const Model& model) { return in.text(place(model)); })
+        , isSame([=](const Model& left, const Model& right) { return place(left) == place(right); })
+        , copy([=](Model& to, const Model& from) { place(to) = place(from); })
+    {
+    }
+
+    /// False when the other values of the model leave this one without effect.
+    bool counts(const Model& model) const
+    {
+        return std::all_of(conditions.begin(), conditions.end(),
+                           [&](const auto& condition) { return model.*condition.first == condition.second; });
+    }
+
+    QString key;             ///< As in Settings.ini.
+    QList<QWidget*> widgets; ///< That show it.
+    std::function<void(Model& to, const QVariant& stored)> readStored;
+    std::function<void(Model& to, const QString& defaultText)> readDefault;
+    std::function<QVariant(const Model&)> stored; ///< The variant to write.
+    std::function<void(Model& to)> read;          ///< Reads the widgets.
+    std::function<void(const Model&)> show;       ///< Fills the widgets.
+    std::function<QString(const Model&)> text;    ///< As the widgets show it.
+    std::function<bool(const Model& left, const Model& right)> isSame;
     std::function<void(Model& to, const Model& from)> copy;
+    std::vector<std::pair<bool Model::*, bool>> conditions; ///< Flags of the model, and what they must be.
+};
+
+/// One setting of a page, with all that the page does with it: a row of the page's table.
+template <class Model>
+struct ZelSettingsRow
+{
+    /// A further value that belongs to the setting.
+    template <class T>
+    ZelSettingsRow& with(const char* key, T Model::*member,
+                         const typename std::common_type<ZelFieldWidgets<T>>::type& widgets)
+    {
+        fields.push_back({key, member, widgets, plainConversion<T>()});
+        return *this;
+    }
+
+    /// The value added last counts only while a flag of the model has this value: two models with different
+    /// values are equal otherwise.
+    ZelSettingsRow& onlyWhile(bool Model::*flag, bool value = true)
+    {
+        fields.back().conditions.emplace_back(flag, value);
+        return *this;
+    }
+
+    /// Names the setting, where no label, group or button on the page does.
+    ZelSettingsRow& named(const QString& settingName)
+    {
+        name = settingName;
+        return *this;
+    }
+
+    /// Replaces the text and the range that follow from the widgets of the first value.
+    ZelSettingsRow& shownAs(const std::function<QString(const Model&)>& textOf, const QString& rangeText)
+    {
+        text = textOf;
+        range = rangeText;
+        return *this;
+    }
+
+    /// True when a value that counts in the first model differs.
+    bool differs(const Model& current, const Model& other) const
+    {
+        return std::any_of(fields.begin(), fields.end(), [&](const auto& field) {
+            return field.counts(current) && !field.isSame(current, other);
+        });
+    }
+
+    std::vector<ZelSettingsField<Model>> fields;
+    QString name; ///< Empty for the name or the label of the first widget.
+    QString description;
+    ZelSettingEffect effect;
+    QString range;                             ///< Empty without one.
+    std::function<QString(const Model&)> text; ///< As the widgets show the setting.
+    bool tipIsValue = false; ///< The tool tips of the widgets are their values, so help must not use them.
+    bool fixed = false;      ///< It never changes, so the help offers neither default nor stored value.
 };
 
 } // namespace zel

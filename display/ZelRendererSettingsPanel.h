@@ -5,7 +5,6 @@
 #include "base/ZelExport.h"
 
 #include <memory>
-#include <vector>
 
 namespace Ui {
 class ZelRendererSettingsPanel;
@@ -13,7 +12,7 @@ class ZelRendererSettingsPanel;
 
 namespace zel {
 
-/// The settings of the page "Display". The engine decides which of the other values it uses.
+/// The settings of the page "Display". The values of the engine that is not chosen do not count.
 struct EngineModel
 {
     quint64 maxCPUMemory3D = 0;        ///< Bytes, used by the deferred renderer.
@@ -28,9 +27,6 @@ struct EngineModel
     bool useFXAA = false;              ///< Antialiasing.
     bool useED = false;                ///< Edge detection.
 };
-
-/// Ignores the values of the engine that is not chosen, and the scene unit without SSAO.
-ZEL_EXPORT bool operator==(const EngineModel& left, const EngineModel& right);
 
 /// The page "Display": the rendering engine, its effects or its quality, and its limits of memory, cores and
 /// triangles. It shows only the settings of the chosen engine. Another engine needs a restart, and so do
@@ -57,34 +53,27 @@ Q_SIGNALS:
 protected Q_SLOTS:
     /// @{
     /// Connected to the widgets of the form by their names.
-    void on_resetButton_clicked();
-    void on_maxTrianglesSpinBox_valueChanged(int triangles);
-    void on_maxGPUSPinBox_valueChanged(int mebibytes);
-    void on_maxCPURaySpinBox_valueChanged(int mebibytes);
-    void on_maxCPU3DSpinBox_valueChanged(int mebibytes);
-    void on_sceneUnitComboBox_currentIndexChanged(int index);
-    void on_deferredEDCheckBox_stateChanged(int state);
-    void on_deferredFXAACheckBox_stateChanged(int state);
-    void on_deferredSSAOCheckBox_stateChanged(int state);
-    void on_coreUsedSlider_valueChanged(int cores);
-    void on_qualitySlider_valueChanged(int quality);
-    void on_deferredButton_toggled(bool checked);
-    void on_raytracerButton_toggled(bool checked);
+    void on_resetButton_clicked() { resetContent(); }
+    void on_maxTrianglesSpinBox_valueChanged(int) { onEdited(); }
+    void on_maxGPUSPinBox_valueChanged(int) { onEdited(); }
+    void on_maxCPURaySpinBox_valueChanged(int) { onEdited(); }
+    void on_maxCPU3DSpinBox_valueChanged(int) { onEdited(); }
+    void on_sceneUnitComboBox_currentIndexChanged(int) { onEdited(); }
+    void on_deferredEDCheckBox_stateChanged(int) { onEdited(); }
+    void on_deferredFXAACheckBox_stateChanged(int) { onEdited(); }
+    void on_deferredSSAOCheckBox_stateChanged(int) { enableSceneUnit(), onEdited(); }
+    void on_coreUsedSlider_valueChanged(int cores) { setNbCoresTxt(cores), onEdited(); }
+    void on_qualitySlider_valueChanged(int quality) { setRaytracerQuality(quality), onEdited(); }
+    void on_deferredButton_toggled(bool checked) { forceGPUMode(checked), onEdited(); }
+    void on_raytracerButton_toggled(bool checked) { forceGPUMode(!checked), onEdited(); }
     /// @}
 
 protected:
-    void getCurrentModel(EngineModel& model) const override;
-    void applyModel(const EngineModel& model) override;
-    void pushToApplication() override;
+    void onFilled(const EngineModel& model) override;
+    void pushToApplication(const EngineModel& model) override;
     bool shouldRestart() const override;
-    void notifyStateChanged() override;
 
 private:
-    // Help on the engine and its quality, on the deferred renderer's effects, and on the limits.
-    std::vector<Help> choiceHelp() const;
-    std::vector<Help> effectHelp() const;
-    std::vector<Help> limitHelp() const;
-
     /// True when the raytracer is chosen and its quality or number of cores needs a restart.
     bool hasRaytracerRebootChanged() const;
 

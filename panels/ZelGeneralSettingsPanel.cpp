@@ -3,7 +3,6 @@
 #include "ui_ZelGeneralSettingsPanel.h"
 
 #include "SettingsKeys.h"
-#include "SignalBlock.h"
 
 #include "platform/kqDMIApplication.h"
 #include "platform/kqDMManager.h"
@@ -19,77 +18,46 @@ namespace {
 
 const int ButtonTextMargin = 12; // pixels: border and padding, left and right
 
-ZelEditablePanel<GeneralModel>::Fields generalFields()
+struct Text
 {
-    return {
-        {keys::CacheDirectory, &GeneralModel::cacheDirectory, textConversion()},
-        {keys::CacheSize, &GeneralModel::cacheSize, integerConversion()},
-        {keys::ScreenshotFolder, &GeneralModel::screenshotFolder, textConversion()},
-    };
-}
+    Q_DECLARE_TR_FUNCTIONS(ZelGeneralSettingsPanel)
+};
 
 } // namespace
 
-bool operator==(const GeneralModel& left, const GeneralModel& right)
-{
-    return left.cacheDirectory == right.cacheDirectory && left.screenshotFolder == right.screenshotFolder &&
-           left.cacheSize == right.cacheSize;
-}
-
 ZelGeneralSettingsPanel::ZelGeneralSettingsPanel(kqDMIApplication* application, QSettings& settings,
                                                  QWidget* parent, Qt::WindowFlags flags)
-    : ZelEditablePanel<GeneralModel>(application, settings, parent, flags, generalFields())
+    : ZelEditablePanel<GeneralModel>(application, settings, parent, flags)
     , m_ui(new Ui::ZelGeneralSettingsPanel)
     , m_initialCacheDirectory(settings.value(keys::CacheDirectory).toString())
 {
     m_ui->setupUi(this);
     setNamedStyleSheet("ZelGeneralSettingsPanel");
-    setPanelName(QCoreApplication::translate("ZelGeneralSettingsPanel", "Folders"));
+    setPanelName(Text::tr("Folders"));
     setPanelCategory(ApplicationCategory);
-    describe(
-        "ZelGeneralSettingsPanel",
-        {folderHelp(m_ui->screenshotFolderButton, &GeneralModel::screenshotFolder, keys::ScreenshotFolder,
-                    EffectAtOnce,
-                    QT_TRANSLATE_NOOP("ZelGeneralSettingsPanel",
-                                      "Where your screenshots are saved. A click chooses a folder.")),
-         folderHelp(
-             m_ui->databaseButton, &GeneralModel::cacheDirectory, keys::CacheDirectory, EffectAfterRestart,
-             QT_TRANSLATE_NOOP("ZelGeneralSettingsPanel",
-                               "Where parts of loaded models are kept on the disk. Choose a fast disk with "
-                               "enough free space. A click chooses a folder.")),
-         {{m_ui->databaseSpinBox},
-          nullptr,
-          QT_TRANSLATE_NOOP("ZelGeneralSettingsPanel",
-                            "How large the cache may grow on the disk. With a larger one, models that you "
-                            "have opened before load faster."),
-          ZelPageHelp::rangeText(m_ui->databaseSpinBox),
-          EffectAtOnce,
-          {keys::CacheSize},
-          [this](const GeneralModel& model) { return m_ui->databaseSpinBox->shownText(model.cacheSize); }}});
+    setRows({
+        folderRow(keys::CacheDirectory, &GeneralModel::cacheDirectory, m_ui->databaseButton,
+                  EffectAfterRestart,
+                  Text::tr("Where parts of loaded models are kept on the disk. Choose a fast disk with "
+                           "enough free space. A click chooses a folder.")),
+        row(keys::CacheSize, &GeneralModel::cacheSize, m_ui->databaseSpinBox, EffectAtOnce,
+            Text::tr("How large the cache may grow on the disk. With a larger one, models that you "
+                     "have opened before load faster.")),
+        folderRow(keys::ScreenshotFolder, &GeneralModel::screenshotFolder, m_ui->screenshotFolderButton,
+                  EffectAtOnce, Text::tr("Where your screenshots are saved. A click chooses a folder.")),
+    });
 }
 
 ZelGeneralSettingsPanel::~ZelGeneralSettingsPanel() = default;
 
 void ZelGeneralSettingsPanel::on_databaseButton_clicked()
 {
-    chooseFolder(m_ui->databaseButton, QCoreApplication::translate("ZelGeneralSettingsPanel",
-                                                                   "Please set your database cache folder"));
+    chooseFolder(m_ui->databaseButton, Text::tr("Please set your database cache folder"));
 }
 
 void ZelGeneralSettingsPanel::on_screenshotFolderButton_clicked()
 {
-    chooseFolder(m_ui->screenshotFolderButton,
-                 QCoreApplication::translate("ZelGeneralSettingsPanel", "Please set your screenshot folder"));
-}
-
-void ZelGeneralSettingsPanel::on_databaseSpinBox_valueChanged(int)
-{
-    onEdited();
-}
-
-void ZelGeneralSettingsPanel::on_resetButton_clicked()
-{
-    resetContent();
+    chooseFolder(m_ui->screenshotFolderButton, Text::tr("Please set your screenshot folder"));
 }
 
 void ZelGeneralSettingsPanel::showEvent(QShowEvent* event)
@@ -104,19 +72,8 @@ void ZelGeneralSettingsPanel::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
 }
 
-void ZelGeneralSettingsPanel::getCurrentModel(GeneralModel& model) const
+void ZelGeneralSettingsPanel::onFilled(const GeneralModel&)
 {
-    model.cacheDirectory = m_ui->databaseButton->toolTip();
-    model.cacheSize = m_ui->databaseSpinBox->value();
-    model.screenshotFolder = m_ui->screenshotFolderButton->toolTip();
-}
-
-void ZelGeneralSettingsPanel::applyModel(const GeneralModel& model)
-{
-    const SignalBlock block{m_ui->databaseSpinBox};
-    m_ui->databaseButton->setToolTip(model.cacheDirectory);
-    m_ui->screenshotFolderButton->setToolTip(model.screenshotFolder);
-    m_ui->databaseSpinBox->setValue(model.cacheSize);
     elideText();
 }
 
@@ -126,10 +83,10 @@ void ZelGeneralSettingsPanel::saveSettingsInternal()
     setScreenshotFolder();
 }
 
-void ZelGeneralSettingsPanel::pushToApplication()
+void ZelGeneralSettingsPanel::pushToApplication(const GeneralModel& model)
 {
-    setMaxCacheSize();
-    setScreenshotFolder();
+    setMaxCacheSize(model);
+    setScreenshotFolder(model);
 }
 
 bool ZelGeneralSettingsPanel::shouldRestart() const
@@ -138,25 +95,19 @@ bool ZelGeneralSettingsPanel::shouldRestart() const
     return current != settings().value(keys::CacheDirectory).toString() && current != m_initialCacheDirectory;
 }
 
-void ZelGeneralSettingsPanel::notifyStateChanged()
+ZelGeneralSettingsPanel::Row ZelGeneralSettingsPanel::folderRow(const char* key,
+                                                                QString GeneralModel::*folder,
+                                                                QPushButton* button, ZelSettingEffect effect,
+                                                                const QString& description)
 {
-    Q_EMIT stateChanged();
-}
-
-ZelGeneralSettingsPanel::Help ZelGeneralSettingsPanel::folderHelp(QPushButton* button,
-                                                                  QString GeneralModel::*folder,
-                                                                  const char* key, ZelSettingEffect effect,
-                                                                  const char* description)
-{
-    Help help;
-    help.fields << button;
-    help.name = nullptr;
-    help.description = description;
-    help.effect = effect;
-    help.keys << key;
-    help.shown = [folder](const GeneralModel& model) { return model.*folder; };
-    help.tipIsValue = true;
-    return help;
+    ZelFieldWidgets<QString> widgets;
+    widgets.widgets << button;
+    widgets.read = [button] { return button->toolTip(); };
+    widgets.show = [button](const QString& path) { button->setToolTip(path); };
+    widgets.text = [](const QString& path) { return path; };
+    Row made = row(key, folder, widgets, effect, description);
+    made.tipIsValue = true;
+    return made;
 }
 
 void ZelGeneralSettingsPanel::elideText()
@@ -168,24 +119,22 @@ void ZelGeneralSettingsPanel::elideText()
         // Without a folder the button shows an icon instead.
         const bool unset = button->toolTip().isEmpty();
         button->setIcon(unset ? QIcon(":/controlCenter/controlCenter/folder.png") : QIcon());
-        const QString folder =
-            unset ? QCoreApplication::translate("ZelGeneralSettingsPanel", "No folder is set.")
-                  : button->toolTip();
-        button->setAccessibleDescription(folder + ' ' + button->statusTip());
+        button->setAccessibleDescription((unset ? Text::tr("No folder is set.") : button->toolTip()) + ' ' +
+                                         button->statusTip());
     }
 }
 
-void ZelGeneralSettingsPanel::setScreenshotFolder()
+void ZelGeneralSettingsPanel::setScreenshotFolder(const GeneralModel& model)
 {
     if (application())
-        application()->setScreenshotImageFolder(m_ui->screenshotFolderButton->toolTip());
+        application()->setScreenshotImageFolder(model.screenshotFolder);
 }
 
-void ZelGeneralSettingsPanel::setMaxCacheSize()
+void ZelGeneralSettingsPanel::setMaxCacheSize(const GeneralModel& model)
 {
     kqDMManager* manager = application() ? application()->getDMManager() : nullptr;
     if (manager)
-        manager->setMaxCacheSize(static_cast<unsigned int>(m_ui->databaseSpinBox->value()));
+        manager->setMaxCacheSize(static_cast<unsigned int>(model.cacheSize));
 }
 
 void ZelGeneralSettingsPanel::chooseFolder(QPushButton* button, const QString& title)

@@ -26,8 +26,6 @@ struct GeneralModel
     int cacheSize = 0; ///< Megabytes.
 };
 
-ZEL_EXPORT bool operator==(const GeneralModel& left, const GeneralModel& right);
-
 /// The page "Folders": the folders of the disk cache and the screenshots, and the size limit of the cache.
 /// The tool tip of a folder button holds the folder; its text is the part of the path that fits.
 class ZEL_EXPORT ZelGeneralSettingsPanel : public ZelEditablePanel<GeneralModel>
@@ -49,8 +47,8 @@ protected Q_SLOTS:
     /// Connected to the widgets of the form by their names.
     void on_databaseButton_clicked();
     void on_screenshotFolderButton_clicked();
-    void on_databaseSpinBox_valueChanged(int megabytes);
-    void on_resetButton_clicked();
+    void on_databaseSpinBox_valueChanged(int) { onEdited(); }
+    void on_resetButton_clicked() { resetContent(); }
     /// @}
 
 protected:
@@ -58,27 +56,27 @@ protected:
     /// Calls elideText().
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void onFilled(const GeneralModel& model) override;
     /// @}
 
-    void getCurrentModel(GeneralModel& model) const override;
-    void applyModel(const GeneralModel& model) override;
     void saveSettingsInternal() override;
-    void pushToApplication() override;
+    void pushToApplication(const GeneralModel& model) override;
 
     /// True when the cache folder on the page is neither the stored one nor the one at the start.
     bool shouldRestart() const override;
-    void notifyStateChanged() override;
 
     /// Shows on each folder button as much of the end of the path as fits.
     void elideText();
     /// Passes the folder of the screenshots to the running application.
-    void setScreenshotFolder();
+    void setScreenshotFolder() { setScreenshotFolder(currentModel()); }
     /// Passes the size of the cache to the running application.
-    void setMaxCacheSize();
+    void setMaxCacheSize() { setMaxCacheSize(currentModel()); }
 
 private:
-    static Help folderHelp(QPushButton* button, QString GeneralModel::*folder, const char* key,
-                           ZelSettingEffect effect, const char* description);
+    static Row folderRow(const char* key, QString GeneralModel::*folder, QPushButton* button,
+                         ZelSettingEffect effect, const QString& description);
+    void setScreenshotFolder(const GeneralModel& model);
+    void setMaxCacheSize(const GeneralModel& model);
     void chooseFolder(QPushButton* button, const QString& title);
 
     const std::unique_ptr<Ui::ZelGeneralSettingsPanel> m_ui;

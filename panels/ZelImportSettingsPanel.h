@@ -16,7 +16,8 @@ class ZelImportSettingsPanel;
 
 namespace zel {
 
-/// The settings of the page "Tessellation".
+/// The settings of the page "Tessellation". A value that is not set does not count: the import does not use
+/// it.
 struct ImportModel
 {
     double maxFaceSag = 0;         ///< In the unit of the imported model.
@@ -28,9 +29,6 @@ struct ImportModel
     bool maxFaceLengthSet = false; ///< The limit of the length is used.
     bool maxFaceAngleSet = false;  ///< The limit of the angle is used.
 };
-
-/// Ignores values that are not set, because the import does not use them.
-ZEL_EXPORT bool operator==(const ImportModel& left, const ImportModel& right);
 
 /// The page "Tessellation": how finely the import divides CAD models into triangles, by a quality or by
 /// limits. The next import reads the settings.
@@ -51,42 +49,37 @@ Q_SIGNALS:
 protected Q_SLOTS:
     /// @{
     /// Connected to the widgets of the form by their names.
-    void on_defaultQuality_clicked();
-    void on_highQuality_clicked();
+    void on_defaultQuality_clicked() { setQuality(false, true), onEdited(); }
+    void on_highQuality_clicked() { setQuality(true, true), onEdited(); }
     void on_lowQuality_clicked();
-    void on_defaultSag_clicked();
-    void on_sag_clicked();
-    void on_defaultLength_clicked();
-    void on_length_clicked();
-    void on_resetButton_clicked();
-    void on_defaultAngle_clicked();
-    void on_angle_clicked();
+    void on_defaultSag_clicked() { setFaceSagSet(false), onEdited(); }
+    void on_sag_clicked() { setFaceSagSet(true), onEdited(); }
+    void on_defaultLength_clicked() { setFaceLengthSet(false), onEdited(); }
+    void on_length_clicked() { setFaceLengthSet(true), onEdited(); }
+    void on_resetButton_clicked() { resetContent(); }
+    void on_defaultAngle_clicked() { setFaceAngleSet(false), onEdited(); }
+    void on_angle_clicked() { setFaceAngleSet(true), onEdited(); }
     /// @}
-
-protected:
-    void getCurrentModel(ImportModel& model) const override;
-    void applyModel(const ImportModel& model) override;
-    void notifyStateChanged() override;
 
 private:
     /// A limit: the importer chooses it (byDefault), or the user sets it in a spin box (byValue).
     struct Limit
     {
-        bool ImportModel::*set;
         QRadioButton* byDefault;
         QRadioButton* byValue;
         QWidget* value;
     };
-    enum { Sag, Length, Angle };
+    enum LimitIndex { Sag, Length, Angle };
 
     template <class Box, class Value>
-    Help limitHelp(int index, const Box* box, Value ImportModel::*value, const char* description,
-                   const QStringList& keys) const;
+    Row limitRow(LimitIndex index, const char* setKey, bool ImportModel::*set, const char* valueKey,
+                 Value ImportModel::*value, Box* box, const QString& description);
+    Row qualityRow();
     void setQuality(bool set, bool high);
-    void setFaceSagSet(bool set) { setLimitSet(m_limits[Sag], set); }
-    void setFaceLengthSet(bool set) { setLimitSet(m_limits[Length], set); }
-    void setFaceAngleSet(bool set) { setLimitSet(m_limits[Angle], set); }
-    void setLimitSet(const Limit& limit, bool set);
+    void setFaceSagSet(bool set) { setLimitSet(Sag, set); }
+    void setFaceLengthSet(bool set) { setLimitSet(Length, set); }
+    void setFaceAngleSet(bool set) { setLimitSet(Angle, set); }
+    void setLimitSet(LimitIndex index, bool set);
 
     const std::unique_ptr<Ui::ZelImportSettingsPanel> m_ui;
     std::array<Limit, 3> m_limits;

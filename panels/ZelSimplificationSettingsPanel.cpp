@@ -5,7 +5,6 @@
 #include "LabelImage.h"
 #include "SettingsKeys.h"
 #include "SettingsNumbers.h"
-#include "SignalBlock.h"
 #include "base/ZelQtCompat.h"
 
 #include "platform/kqDMIApplication.h"
@@ -14,9 +13,16 @@
 #include <QCoreApplication>
 #include <QStringList>
 
+#include <cmath>
+
 namespace zel {
 
 namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(ZelSimplificationSettingsPanel)
+};
 
 using Ratios = std::vector<float>;
 
@@ -61,17 +67,21 @@ Ratios storedRatios(const QVariant& stored)
     return defaultRatios(ZelSettingsRegistry::GetDefaultSettingsValue(keys::SimplificationRatios));
 }
 
-QVariant ratiosToStore(const Ratios& ratios)
+/// The place of a level's ratio. A model that is not well-formed has none: NaN.
+struct LevelRatio
 {
-    return ratiosText(ratios);
-}
+    std::size_t index;
 
-ZelEditablePanel<SimplificationModel>::Fields simplificationFields()
-{
-    return {{keys::SimplificationRatios,
-             &SimplificationModel::ratios,
-             {storedRatios, defaultRatios, ratiosToStore}}};
-}
+    float& operator()(SimplificationModel& model) const
+    {
+        model.ratios.resize(LastLevel);
+        return model.ratios[index];
+    }
+    float operator()(const SimplificationModel& model) const
+    {
+        return isWellFormed(model.ratios) ? model.ratios[index] : std::nanf("");
+    }
+};
 
 void showLevelImages(const Ui::ZelSimplificationSettingsPanel& form)
 {
@@ -90,15 +100,10 @@ void showLevelImages(const Ui::ZelSimplificationSettingsPanel& form)
 
 } // namespace
 
-bool operator==(const SimplificationModel& left, const SimplificationModel& right)
-{
-    return left.ratios == right.ratios;
-}
-
 ZelSimplificationSettingsPanel::ZelSimplificationSettingsPanel(kqDMIApplication* application,
                                                                QSettings& settings, QWidget* parent,
                                                                Qt::WindowFlags flags)
-    : ZelEditablePanel<SimplificationModel>(application, settings, parent, flags, simplificationFields())
+    : ZelEditablePanel<SimplificationModel>(application, settings, parent, flags)
     , m_ui(new Ui::ZelSimplificationSettingsPanel)
     , m_editing(false)
 {
@@ -106,41 +111,13 @@ ZelSimplificationSettingsPanel::ZelSimplificationSettingsPanel(kqDMIApplication*
     showLevelImages(*m_ui);
     m_percentages = {m_ui->ratio1, m_ui->ratio2, m_ui->ratio3, m_ui->ratio4, m_ui->ratio5};
     setNamedStyleSheet("ZelSimplificationSettingsPanel");
-    setPanelName(QCoreApplication::translate("ZelSimplificationSettingsPanel", "Simplification"));
+    setPanelName(Text::tr("Simplification"));
     setPanelCategory(ProjectCategory);
 
-    std::vector<Help> help;
-    for (int level = 1; level <= LastLevel; ++level)
-        help.push_back(levelHelp(level));
-    describe("ZelSimplificationSettingsPanel", help);
+    setRows({levelRow(1), levelRow(2), levelRow(3), levelRow(4), levelRow(5)});
 }
 
 ZelSimplificationSettingsPanel::~ZelSimplificationSettingsPanel() = default;
-
-void ZelSimplificationSettingsPanel::on_resetButton_clicked()
-{
-    resetContent();
-}
-
-void ZelSimplificationSettingsPanel::on_ratio2_editingFinished()
-{
-    finishEditing(2);
-}
-
-void ZelSimplificationSettingsPanel::on_ratio3_editingFinished()
-{
-    finishEditing(3);
-}
-
-void ZelSimplificationSettingsPanel::on_ratio4_editingFinished()
-{
-    finishEditing(4);
-}
-
-void ZelSimplificationSettingsPanel::on_ratio5_editingFinished()
-{
-    finishEditing(5);
-}
 
 bool ZelSimplificationSettingsPanel::hasModifications() const
 {
@@ -149,70 +126,41 @@ bool ZelSimplificationSettingsPanel::hasModifications() const
            ZelEditablePanel<SimplificationModel>::hasModifications();
 }
 
-void ZelSimplificationSettingsPanel::getCurrentModel(SimplificationModel& model) const
-{
-    model.ratios.clear();
-    for (const zelDoubleSpinBox* box : m_percentages)
-        model.ratios.push_back(static_cast<float>(box->value()) / 100);
-}
-
-void ZelSimplificationSettingsPanel::applyModel(const SimplificationModel& model)
-{
-    if (!isWellFormed(model.ratios))
-        return;
-    for (int level = FirstEditableLevel; level <= LastLevel; ++level) {
-        const SignalBlock block{percentage(level)};
-        // In single precision, because it decides how a half is rounded: 0.755 is shown as 76, not as 75.
-        percentage(level)->setValue(model.ratios[level - 1] * 100);
-    }
-}
-
-void ZelSimplificationSettingsPanel::pushToApplication()
-{
-    setRatios();
-}
-
-void ZelSimplificationSettingsPanel::notifyStateChanged()
-{
-    Q_EMIT stateChanged();
-}
-
-void ZelSimplificationSettingsPanel::setRatios()
+void ZelSimplificationSettingsPanel::pushToApplication(const SimplificationModel& model)
 {
     kqDMManager* manager = application() ? application()->getDMManager() : nullptr;
-    if (!manager)
-        return;
-    SimplificationModel current;
-    getCurrentModel(current);
-    manager->setSimplificationRatios(current.ratios);
+    std::vector<float> ratios = model.ratios; // Which the manager may change.
+    if (manager)
+        manager->setSimplificationRatios(ratios);
 }
 
-ZelSimplificationSettingsPanel::Help ZelSimplificationSettingsPanel::levelHelp(int level) const
+ZelSimplificationSettingsPanel::Row ZelSimplificationSettingsPanel::levelRow(int level) const
 {
-    const zelDoubleSpinBox* box = percentage(level);
+    zelDoubleSpinBox* box = percentage(level);
     const auto percent = [box](double number) { return box->shownText(number) + " %"; };
-    Help help;
-    help.fields << percentage(level);
-    help.name = nullptr;
-    help.description =
-        level < FirstEditableLevel
-            ? QT_TRANSLATE_NOOP("ZelSimplificationSettingsPanel",
-                                "This level keeps every triangle of the model. It cannot be changed.")
-            : QT_TRANSLATE_NOOP(
-                  "ZelSimplificationSettingsPanel",
-                  "How many of the model's triangles an export at this level keeps, in percent. A "
-                  "level never keeps more than the one above it.");
-    help.range = ZelPageHelp::rangeText(percent(box->minimum()), percent(box->maximum()));
-    help.effect = EffectAtOnce;
-    help.keys << keys::SimplificationRatios;
-    help.shown = [level, percent](const SimplificationModel& model) {
-        return isWellFormed(model.ratios) ? percent(model.ratios[level - 1] * 100) : QString();
+    ZelFieldWidgets<float> widgets;
+    widgets.widgets << box;
+    widgets.read = [box] { return static_cast<float>(box->value()) / 100; };
+    // In single precision, because it decides how a half is rounded: 0.755 is shown as 76, not as 75.
+    widgets.show = [box](float ratio) {
+        if (!std::isnan(ratio))
+            box->setValue(ratio * 100);
     };
-    help.copy = [level](SimplificationModel& to, const SimplificationModel& from) {
-        if (isWellFormed(from.ratios) && level >= FirstEditableLevel)
-            to.ratios[level - 1] = from.ratios[level - 1];
-    };
-    return help;
+    widgets.text = [percent](float ratio) { return std::isnan(ratio) ? QString() : percent(ratio * 100); };
+
+    const bool fixed = level < FirstEditableLevel;
+    const QString description =
+        fixed ? Text::tr("This level keeps every triangle of the model. It cannot be changed.")
+              : Text::tr("How many of the model's triangles an export at this level keeps, in percent. A "
+                         "level never keeps more than the one above it.");
+    const QString range =
+        fixed ? QString() : ZelPageHelp::rangeText(percent(box->minimum()), percent(box->maximum()));
+    Row made = row({keys::SimplificationRatios, &SimplificationModel::ratios,
+                    ZelFieldConversion<Ratios>{storedRatios, defaultRatios, ratiosText},
+                    LevelRatio{static_cast<std::size_t>(level - 1)}, widgets},
+                   range, EffectAtOnce, description);
+    made.fixed = fixed;
+    return made;
 }
 
 void ZelSimplificationSettingsPanel::finishEditing(int level)

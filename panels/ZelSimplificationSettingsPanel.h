@@ -22,8 +22,6 @@ struct SimplificationModel
     std::vector<float> ratios;
 };
 
-ZEL_EXPORT bool operator==(const SimplificationModel& left, const SimplificationModel& right);
-
 /// The page "Simplification": the percentage of triangles that a scene keeps when it is exported at each of
 /// five levels. The first level keeps all; each of the others keeps at most as many as the one before.
 class ZEL_EXPORT ZelSimplificationSettingsPanel : public ZelEditablePanel<SimplificationModel>
@@ -46,26 +44,23 @@ Q_SIGNALS:
 protected Q_SLOTS:
     /// @{
     /// Connected to the widgets of the form by their names.
-    void on_resetButton_clicked();
-    void on_ratio2_editingFinished();
-    void on_ratio3_editingFinished();
-    void on_ratio4_editingFinished();
-    void on_ratio5_editingFinished();
+    void on_resetButton_clicked() { resetContent(); }
+    void on_ratio2_editingFinished() { finishEditing(2); }
+    void on_ratio3_editingFinished() { finishEditing(3); }
+    void on_ratio4_editingFinished() { finishEditing(4); }
+    void on_ratio5_editingFinished() { finishEditing(5); }
     /// @}
 
 protected:
-    void getCurrentModel(SimplificationModel& model) const override;
-    void applyModel(const SimplificationModel& model) override;
-    void pushToApplication() override;
-    void notifyStateChanged() override;
+    void pushToApplication(const SimplificationModel& model) override;
 
     /// Passes the ratios to the running simplifier.
-    void setRatios();
+    void setRatios() { pushToApplication(currentModel()); }
 
 private:
     /// Brings an edited level and its two neighbours into descending order; other levels stay as they are.
     void finishEditing(int level);
-    Help levelHelp(int level) const;
+    Row levelRow(int level) const;
     zelDoubleSpinBox* percentage(int level) const
     {
         return m_percentages[static_cast<std::size_t>(level - 1)];

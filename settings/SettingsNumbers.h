@@ -32,6 +32,13 @@ inline QString ratiosText(const std::vector<float>& ratios)
     return parts.join("/");
 }
 
+// The limits of what both a validator and a page accept.
+const int MinimumMebibytes = 128;  ///< Of each kind of memory.
+const int MaximumMebibytes = 8096; ///< On purpose not 8192.
+const int MinimumTriangles = 50000;
+const int MaximumTriangles = 500000000;
+const int MaximumFaceAngle = 359; ///< Degrees.
+
 /// The scene units, from the kilometre to the millimetre: how many of the unit make one metre.
 const float SceneUnitFactors[] = {0.001F, 0.01F, 0.1F, 1.F, 10.F, 100.F, 1000.F};
 const int SceneUnitCount = sizeof(SceneUnitFactors) / sizeof(*SceneUnitFactors);

@@ -30,7 +30,8 @@ FolderFunctions folderFunctions = {
 namespace {
 
 const quint64 MiB = quint64{1024} * 1024;
-const quint64 MaximumMemory = 8096 * MiB;
+const quint64 MinimumMemory = MinimumMebibytes * MiB;
+const quint64 MaximumMemory = MaximumMebibytes * MiB;
 const std::size_t RatioCount = 5;
 const char* const Truths[] = {"true", "false"};
 const char* const Engines[] = {engines::Deferred, engines::Software};
@@ -139,13 +140,13 @@ ZEL_VALIDATOR(ensurePortValue, isUnsignedWithin(value, 0, 65535))
 ZEL_VALIDATOR(ensureCacheSize, isUnsignedWithin(value, 10, 10240))
 ZEL_VALIDATOR(ensureSimplificationRAM, isUnsignedWithin(value, 64 * MiB, MaximumMemory))
 ZEL_VALIDATOR(ensureCoreNumber, clampInteger(value, 1, coreCount()))
-ZEL_VALIDATOR(ensureTesselationMaxFaceAngle, clampInteger(value, 0, 359))
+ZEL_VALIDATOR(ensureTesselationMaxFaceAngle, clampInteger(value, 0, MaximumFaceAngle))
 ZEL_VALIDATOR(ensureTesselationMaxFaceLength, clampFloat(value, 0.F, 100.F))
 ZEL_VALIDATOR(ensureTesselationMaxFaceSag, clampFloat(value, 0.F, 100.F))
-ZEL_VALIDATOR(ensureLODTrianglesCap, clampUnsigned(value, 50000, 500000000))
-ZEL_VALIDATOR(ensureMaxGPUMemory, clampUnsigned(value, 128 * MiB, MaximumMemory))
-ZEL_VALIDATOR(ensureMaxCPUMemoryRaytracer, clampUnsigned(value, 128 * MiB, MaximumMemory))
-ZEL_VALIDATOR(ensureMaxCPUMemory3D, clampUnsigned(value, 128 * MiB, MaximumMemory))
+ZEL_VALIDATOR(ensureLODTrianglesCap, clampUnsigned(value, MinimumTriangles, MaximumTriangles))
+ZEL_VALIDATOR(ensureMaxGPUMemory, clampUnsigned(value, MinimumMemory, MaximumMemory))
+ZEL_VALIDATOR(ensureMaxCPUMemoryRaytracer, clampUnsigned(value, MinimumMemory, MaximumMemory))
+ZEL_VALIDATOR(ensureMaxCPUMemory3D, clampUnsigned(value, MinimumMemory, MaximumMemory))
 ZEL_VALIDATOR(ensureRaytracerQuality, isOneOf(value, kqDMRenderer::scQualityEnum))
 ZEL_VALIDATOR(ensureSceneUnit, snapToSceneUnit(value))
 ZEL_VALIDATOR(ensureIpOrHostName, isIpOrHostName(value))

@@ -7,7 +7,6 @@
 #include <QPushButton>
 
 #include <zel/SettingsKeys.h>
-#include <zel/SignalBlock.h>
 #include <zel/ZelControlCenter.h>
 #include <zel/ZelEditablePanel.h>
 #include <zel/ZelSettingsApplication.h>
@@ -31,7 +30,6 @@ bool ensureMinutes(const QString&, const QString& defaultValue, QString& value, 
 struct BackupModel
 {
     int minutes = 0;
-    bool operator==(const BackupModel& other) const { return minutes == other.minutes; }
 };
 
 class BackupPage : public zel::ZelEditablePanel<BackupModel>
@@ -40,34 +38,24 @@ class BackupPage : public zel::ZelEditablePanel<BackupModel>
 
 public:
     explicit BackupPage(kqDMIApplication& host)
-        : ZelEditablePanel(&host, host.getSettings(), nullptr, Qt::WindowFlags(),
-                           {{MinutesKey, &BackupModel::minutes, zel::integerConversion()}})
-        , m_minutes(new zel::zelSpinBox(this))
+        : ZelEditablePanel(&host, host.getSettings(), nullptr, Qt::WindowFlags())
     {
+        auto* minutes = new zel::zelSpinBox(this);
         auto* reset = new QPushButton(tr("Default"), this);
         reset->setObjectName(QLatin1String("resetButton"));
-        m_minutes->setRange(0, 60);
+        minutes->setRange(0, 60);
         auto* layout = new QFormLayout(this);
-        layout->addRow(tr("Minutes between backups"), m_minutes);
+        layout->addRow(tr("Minutes between backups"), minutes);
         layout->addRow(reset);
         setPanelName(tr("Backups"));
-        connect(m_minutes, QOverload<int>::of(&QSpinBox::valueChanged), this, &BackupPage::onEdited);
+        setRows({row(MinutesKey, &BackupModel::minutes, minutes, zel::EffectAtOnce,
+                     tr("How often your work is saved. Without backups, set 0."))});
+        connect(minutes, QOverload<int>::of(&QSpinBox::valueChanged), this, &BackupPage::onEdited);
         connect(reset, &QPushButton::clicked, this, &BackupPage::resetContent);
     }
 
 Q_SIGNALS:
     void stateChanged();
-
-private:
-    void getCurrentModel(BackupModel& model) const override { model.minutes = m_minutes->value(); }
-    void applyModel(const BackupModel& model) override
-    {
-        const zel::SignalBlock block{m_minutes};
-        m_minutes->setValue(model.minutes);
-    }
-    void notifyStateChanged() override { Q_EMIT stateChanged(); }
-
-    zel::zelSpinBox* const m_minutes;
 };
 
 /// The application object. As a plug-in, it lets the control center ask the user.

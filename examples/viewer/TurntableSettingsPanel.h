@@ -15,8 +15,6 @@ struct TurntableModel
 {
     bool turns = false;
     int degreesPerSecond = 0;
-
-    bool operator==(const TurntableModel& other) const;
 };
 
 /// A page of the viewer itself: whether the model turns by itself, and how fast.
@@ -33,15 +31,12 @@ Q_SIGNALS:
     void stateChanged();
 
 protected Q_SLOTS:
-    void on_resetButton_clicked();
-    void on_turnsCheckBox_toggled(bool checked);
-    void on_speedSpinBox_valueChanged(int degreesPerSecond);
+    void on_resetButton_clicked() { resetContent(); }
+    void on_turnsCheckBox_toggled(bool) { onEdited(); }
+    void on_speedSpinBox_valueChanged(int) { onEdited(); }
 
 protected:
-    void getCurrentModel(TurntableModel& model) const override;
-    void applyModel(const TurntableModel& model) override;
-    void pushToApplication() override;
-    void notifyStateChanged() override;
+    void pushToApplication(const TurntableModel& model) override;
 
 private:
     const std::unique_ptr<Ui::TurntableSettingsPanel> m_ui;

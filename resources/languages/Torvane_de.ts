@@ -598,6 +598,18 @@ Sie können die Parameter, die Ihren Anforderungen am besten entsprechen, auch m
         <source>%1 or %2</source>
         <translation>%1 oder %2</translation>
     </message>
+    <message>
+        <source>Put back</source>
+        <translation>Zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>What is this?</source>
+        <translation>Was ist das?</translation>
+    </message>
 </context>
 <context>
     <name>ZelRendererSelector</name>

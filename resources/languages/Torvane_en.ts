@@ -598,6 +598,18 @@ You may manually choose the parameters that will best fit your needs.</translati
         <source>%1 or %2</source>
         <translation>%1 or %2</translation>
     </message>
+    <message>
+        <source>Put back</source>
+        <translation>Put back</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Default</translation>
+    </message>
+    <message>
+        <source>What is this?</source>
+        <translation>What is this?</translation>
+    </message>
 </context>
 <context>
     <name>ZelRendererSelector</name>

@@ -598,6 +598,18 @@ Puede elegir manualmente los parámetros que mejor se adapten a sus necesidades.
         <source>%1 or %2</source>
         <translation>%1 o %2</translation>
     </message>
+    <message>
+        <source>Put back</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Predeterminado</translation>
+    </message>
+    <message>
+        <source>What is this?</source>
+        <translation>¿Qué es esto?</translation>
+    </message>
 </context>
 <context>
     <name>ZelRendererSelector</name>

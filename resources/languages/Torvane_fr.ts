@@ -598,6 +598,18 @@ Vous pouvez choisir manuellement les paramètres qui répondent le mieux à vos 
         <source>%1 or %2</source>
         <translation>%1 ou %2</translation>
     </message>
+    <message>
+        <source>Put back</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Par défaut</translation>
+    </message>
+    <message>
+        <source>What is this?</source>
+        <translation>Qu’est-ce que c’est ?</translation>
+    </message>
 </context>
 <context>
     <name>ZelRendererSelector</name>

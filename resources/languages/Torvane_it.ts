@@ -598,6 +598,18 @@ Puoi scegliere manualmente i parametri più adatti alle tue esigenze.</translati
         <source>%1 or %2</source>
         <translation>%1 o %2</translation>
     </message>
+    <message>
+        <source>Put back</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Predefinito</translation>
+    </message>
+    <message>
+        <source>What is this?</source>
+        <translation>Che cos’è?</translation>
+    </message>
 </context>
 <context>
     <name>ZelRendererSelector</name>

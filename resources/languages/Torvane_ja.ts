@@ -598,6 +598,18 @@ You may manually choose the parameters that will best fit your needs.</source>
         <source>%1 or %2</source>
         <translation>%1 または %2</translation>
     </message>
+    <message>
+        <source>Put back</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>デフォルト</translation>
+    </message>
+    <message>
+        <source>What is this?</source>
+        <translation>これは何ですか?</translation>
+    </message>
 </context>
 <context>
     <name>ZelRendererSelector</name>

@@ -598,6 +598,18 @@ You may manually choose the parameters that will best fit your needs.</source>
         <source>%1 or %2</source>
         <translation>%1 或 %2</translation>
     </message>
+    <message>
+        <source>Put back</source>
+        <translation>撤消</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>默认</translation>
+    </message>
+    <message>
+        <source>What is this?</source>
+        <translation>这是什么?</translation>
+    </message>
 </context>
 <context>
     <name>ZelRendererSelector</name>

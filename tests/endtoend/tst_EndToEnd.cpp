@@ -1,5 +1,7 @@
 #include "../support/Files.h"
 #include "Editor.h"
+#include "ZelPageDefaults.h"
+#include "ZelSettingsRegistry.h"
 
 #include "platform/kqDMIApplication.h"
 
@@ -227,8 +229,10 @@ private:
     /// What a new file holds, but for some values.
     Texts completed(const Texts& others) const
     {
-        // The editor runs in the tree that it was staged in, with the defaults that lie there.
-        Texts texts = textsOf(QFileInfo(TORVANE_SETTINGS).path() + "/../resources/Defaults.ini");
+        zel::ZelPageDefaults::Register(QSettings(QString(), QSettings::IniFormat));
+        Texts texts;
+        for (const auto& [key, setting] : zel::ZelSettingsRegistry::GetDefaultSettingsValues())
+            texts[key] = setting.first;
         texts.insert({{"DBCache/cacheDirectory", m_home + "/cache/TorvaneBoundlessX64/" + userName()},
                       {"DBCache/cacheSize", "4096"},
                       {"Logging/logFile", settingsFolder() + "/log.txt"},

@@ -71,8 +71,7 @@ private Q_SLOTS:
                           {"DBCache/cacheDirectory", ""},
                           {"DBCache/cacheSize", "1024"},
                           {"engine", "deferred"}});
-        QSettings defaults(ZEL_DEFAULTS, QSettings::IniFormat);
-        ZelPageDefaults::Register(defaults);
+        ZelPageDefaults::Register(QSettings(QString(), QSettings::IniFormat));
         open("en");
     }
 

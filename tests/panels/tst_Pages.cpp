@@ -220,16 +220,17 @@ private Q_SLOTS:
         QSettings defaults(folder.filePath("Defaults.ini"), QSettings::IniFormat);
         defaults.setValue(keys::ScreenshotFolder, QStringList({"/a", "b"})); // As a comma without quotes.
         ZelPageDefaults::Register(defaults);
-        QVERIFY(ZelSettingsRegistry::GetDefaultSettingsValues().empty());
+        QCOMPARE(ZelSettingsRegistry::GetDefaultSettingsValue(keys::ScreenshotFolder), QString(""));
+        ZelSettingsRegistry::ClearSettingsValues();
 
         // Key, text, and what is registered; a null text where nothing is.
         const QString folderName = QString::fromUtf8("/\303\274");
         const QString rows[][3] = {
             {"raytracer/coreNumber", "100000", QString::number(QThread::idealThreadCount())},
             {"Resources/LODTrianglesCap", "1", "50000"},
-            {"deferred/useED", "yes", {}},
-            {"deferred/useSSAO", "", {}},
-            {"Simplification/Ratios", "1/0.5", {}},
+            {"deferred/useED", "yes", "false"},
+            {"deferred/useSSAO", "", "true"},
+            {"Simplification/Ratios", "1/0.5", DefaultRatios},
             {"screenshot/ImageFolder", folderName, folderName},
             {"raytracer/quality", "Ultra", "Low"}, // Registered before.
             {"unknown", "1", {}}};
