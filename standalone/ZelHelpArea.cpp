@@ -40,7 +40,6 @@ QVBoxLayout* newLayout(QWidget* widget, int margin)
 {
     auto* layout = new QVBoxLayout(widget);
     layout->setContentsMargins(margin, margin, margin, margin);
-    layout->setSpacing(margin);
     layout->addStretch();
     return layout;
 }
@@ -57,12 +56,16 @@ bool isOver(const QWidget& field, const QPoint& globalPosition)
 
 ZelHelpArea::ZelHelpArea(QWidget* parent)
     : QWidget(parent)
-    , m_card(new ZelHelpCard(this))
-    , m_pending(new PendingList(this))
+    , m_help(new QWidget(this))
+    , m_card(new ZelHelpCard(m_help))
+    , m_pending(new PendingList(m_help))
     , m_areaLayout(newLayout(this, Margin))
 {
-    m_areaLayout->insertWidget(0, m_card);
-    m_areaLayout->insertWidget(1, m_pending);
+    auto* layout = new QVBoxLayout(m_help);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_card);
+    layout->addWidget(m_pending);
+    m_areaLayout->insertWidget(0, m_help);
     m_rest.setSingleShot(true);
     m_rest.setInterval(RestTime);
     connect(&m_rest, SIGNAL(timeout()), this, SLOT(onRest()));
@@ -118,7 +121,7 @@ void ZelHelpArea::showHelp(QWidget* field)
 {
     m_rest.stop();
     m_card->setField(field);
-    if (field && m_card->isHidden())
+    if (field && m_help->isHidden())
         openAt(*field);
 }
 
@@ -175,12 +178,10 @@ void ZelHelpArea::place()
         m_columnHost->setGeometry(0, column.height() - height, column.width(), height);
     }
     QBoxLayout* layout = inColumn ? m_columnLayout : m_areaLayout;
-    if (layout->indexOf(m_card) < 0) {
-        layout->insertWidget(0, m_card);
-        layout->insertWidget(1, m_pending);
-    }
+    if (layout->indexOf(m_help) < 0)
+        layout->insertWidget(0, m_help);
     m_card->setCompact(inColumn);
-    m_card->setVisible(beside || inColumn);
+    m_help->setVisible(beside || inColumn);
     if (m_columnHost)
         m_columnHost->setVisible(inColumn);
     for (const QPointer<ZelPageHelp>& page : m_pages)

@@ -67,6 +67,7 @@ private:
     int freeHeightOfColumn() const;
     void openAt(QWidget& field);
 
+    QWidget* const m_help; ///< What is placed: the card and the list below it.
     ZelHelpCard* const m_card;
     PendingList* const m_pending;
     QBoxLayout* m_areaLayout;

@@ -235,10 +235,6 @@
         <translation>Einstellungsdatei</translation>
     </message>
     <message>
-        <source>The path can be selected and copied.</source>
-        <translation>Der Pfad kann markiert und kopiert werden.</translation>
-    </message>
-    <message>
         <source>Log file</source>
         <translation>Protokolldatei</translation>
     </message>
@@ -249,6 +245,10 @@
     <message>
         <source>Copy report</source>
         <translation>Bericht kopieren</translation>
+    </message>
+    <message>
+        <source>The text can be selected and copied.</source>
+        <translation>Der Text kann markiert und kopiert werden.</translation>
     </message>
 </context>
 <context>

@@ -235,10 +235,6 @@
         <translation>Settings file</translation>
     </message>
     <message>
-        <source>The path can be selected and copied.</source>
-        <translation>The path can be selected and copied.</translation>
-    </message>
-    <message>
         <source>Log file</source>
         <translation>Log file</translation>
     </message>
@@ -249,6 +245,10 @@
     <message>
         <source>Copy report</source>
         <translation>Copy report</translation>
+    </message>
+    <message>
+        <source>The text can be selected and copied.</source>
+        <translation>The text can be selected and copied.</translation>
     </message>
 </context>
 <context>

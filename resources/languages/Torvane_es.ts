@@ -235,10 +235,6 @@
         <translation>Archivo de ajustes</translation>
     </message>
     <message>
-        <source>The path can be selected and copied.</source>
-        <translation>La ruta se puede seleccionar y copiar.</translation>
-    </message>
-    <message>
         <source>Log file</source>
         <translation>Archivo de registro</translation>
     </message>
@@ -249,6 +245,10 @@
     <message>
         <source>Copy report</source>
         <translation>Copiar informe</translation>
+    </message>
+    <message>
+        <source>The text can be selected and copied.</source>
+        <translation>El texto se puede seleccionar y copiar.</translation>
     </message>
 </context>
 <context>

@@ -235,10 +235,6 @@
         <translation>Fichier de paramètres</translation>
     </message>
     <message>
-        <source>The path can be selected and copied.</source>
-        <translation>Le chemin peut être sélectionné et copié.</translation>
-    </message>
-    <message>
         <source>Log file</source>
         <translation>Fichier journal</translation>
     </message>
@@ -249,6 +245,10 @@
     <message>
         <source>Copy report</source>
         <translation>Copier le rapport</translation>
+    </message>
+    <message>
+        <source>The text can be selected and copied.</source>
+        <translation>Le texte peut être sélectionné et copié.</translation>
     </message>
 </context>
 <context>

@@ -235,10 +235,6 @@
         <translation>File di impostazioni</translation>
     </message>
     <message>
-        <source>The path can be selected and copied.</source>
-        <translation>Il percorso può essere selezionato e copiato.</translation>
-    </message>
-    <message>
         <source>Log file</source>
         <translation>File di log</translation>
     </message>
@@ -249,6 +245,10 @@
     <message>
         <source>Copy report</source>
         <translation>Copia rapporto</translation>
+    </message>
+    <message>
+        <source>The text can be selected and copied.</source>
+        <translation>Il testo può essere selezionato e copiato.</translation>
     </message>
 </context>
 <context>

@@ -235,10 +235,6 @@
         <translation>設定ファイル</translation>
     </message>
     <message>
-        <source>The path can be selected and copied.</source>
-        <translation>パスは選択してコピーできます。</translation>
-    </message>
-    <message>
         <source>Log file</source>
         <translation>ログファイル</translation>
     </message>
@@ -249,6 +245,10 @@
     <message>
         <source>Copy report</source>
         <translation>レポートをコピー</translation>
+    </message>
+    <message>
+        <source>The text can be selected and copied.</source>
+        <translation>テキストは選択してコピーできます。</translation>
     </message>
 </context>
 <context>

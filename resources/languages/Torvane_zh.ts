@@ -235,10 +235,6 @@
         <translation>设置文件</translation>
     </message>
     <message>
-        <source>The path can be selected and copied.</source>
-        <translation>可以选择并复制此路径。</translation>
-    </message>
-    <message>
         <source>Log file</source>
         <translation>日志文件</translation>
     </message>
@@ -249,6 +245,10 @@
     <message>
         <source>Copy report</source>
         <translation>复制报告</translation>
+    </message>
+    <message>
+        <source>The text can be selected and copied.</source>
+        <translation>可以选择并复制此文本。</translation>
     </message>
 </context>
 <context>
