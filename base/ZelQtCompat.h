@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QString>
+#include <QSysInfo>
 #include <QtGlobal>
 
 namespace zel {
@@ -64,20 +65,22 @@ private:
 #endif
 };
 
+/// Name and version of the operating system; before Qt 5.4 only its family.
+inline QString systemName()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 4, 0)
+    return QSysInfo::prettyProductName() + ", " + QSysInfo::kernelType() + ' ' + QSysInfo::kernelVersion();
+#elif defined(Q_OS_WIN)
+    return "Windows";
+#else
+    return "Unix";
+#endif
+}
+
 /// True for the native window (QWindow) to which Qt 5 delivers input before the widget.
 inline bool isNativeWindow(const QObject* object)
 {
     return object->inherits("QWindow");
-}
-
-/// Makes the interface follow the screen's scale; does nothing before Qt 5.6. Call it before the
-/// application object exists.
-inline void followScreenScale()
-{
-#if QT_VERSION >= QT_VERSION_CHECK(5, 6, 0)
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-#endif
 }
 
 } // namespace zel

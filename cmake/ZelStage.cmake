@@ -10,7 +10,9 @@ set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../lib")
 
 # Without xcbglintegrations: nothing here draws with OpenGL, and finding its drivers takes as long as building all pages.
-set(ZEL_PLUGIN_FOLDERS iconengines imageformats platforminputcontexts platforms platformthemes styles)
+set(ZEL_PLUGIN_FOLDERS iconengines imageformats platforminputcontexts platforms platformthemes styles
+                       # Without these three, a Wayland session shows no window.
+                       wayland-decoration-client wayland-graphics-integration-client wayland-shell-integration)
 if(WIN32)
     set(CMAKE_SHARED_LIBRARY_PREFIX "") # MinGW would name them as on Unix.
     set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)

@@ -57,12 +57,33 @@ bool ZelRendererSelector::eventFilter(QObject* watched, QEvent* event)
 
 void ZelRendererSelector::keyPressEvent(QKeyEvent* event)
 {
+    QWidget* const low = m_ui->raytracerButton;
+    QWidget* const high = m_ui->deferredButton;
     const QWidget* focused = focusWidget();
-    const bool onEngine = focused == m_ui->raytracerButton || focused == m_ui->deferredButton;
-    if (onEngine && event->key() == Qt::Key_Space)
-        choose(focused);
-    else
+    QWidget* engine = nullptr;
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        engine = focused == low ? low : high;
+        break;
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+        engine = low;
+        break;
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+        engine = high;
+        break;
+    default:
+        break;
+    }
+    if (!engine || (focused != low && focused != high)) {
         QDialog::keyPressEvent(event);
+        return;
+    }
+    engine->setFocus();
+    choose(engine);
 }
 
 bool ZelRendererSelector::choose(const QObject* engine)

@@ -17,8 +17,9 @@ namespace zel {
 /// the graphics card, "Low" the software raytracer. It stores nothing: run it with exec() and, if the user
 /// accepts it, read useGPURenderer().
 ///
-/// A click on "High" or "Low" chooses it and gives it the focus; the key Space chooses the one with the
-/// focus. The window has no frame; the user moves it by its title.
+/// A click on "High" or "Low" chooses it and gives it the focus. While one of the two has the focus, Space
+/// and Return choose it, and the arrow keys choose the one to the left or to the right. The window has no
+/// frame; the user moves it by its title.
 class ZEL_EXPORT ZelRendererSelector : public QDialog
 {
     Q_OBJECT
@@ -42,7 +43,7 @@ protected Q_SLOTS:
     /// @}
 
 protected:
-    /// Space chooses the engine that has the focus.
+    /// Chooses an engine if one has the focus.
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

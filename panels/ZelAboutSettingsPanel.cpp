@@ -3,13 +3,19 @@
 #include "ui_ZelAboutSettingsPanel.h"
 
 #include "LabelImage.h"
+#include "SettingsKeys.h"
 #include "base/VersionNumbers.h"
+#include "base/ZelQtCompat.h"
 
 #include "platform/kqDMIApplication.h"
 #include "platform/kqDMPlugin.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
 #include <QHeaderView>
+#include <QSettings>
+#include <QStringList>
 #include <QTableWidget>
 #include <QTextDocumentFragment>
 #include <QUrl>
@@ -93,6 +99,8 @@ void ZelAboutSettingsPanel::initializeWidget()
     if (m_initialized)
         return;
     m_ui->applicationVersion->setText(kqDMIApplication::GetKernelVersion());
+    m_ui->settingsFileEdit->setText(QDir::toNativeSeparators(settings().fileName()));
+    m_ui->logFileEdit->setText(QDir::toNativeSeparators(settings().value(keys::LogFile).toString()));
     fillPlugins();
     m_initialized = true;
 }
@@ -109,6 +117,21 @@ void ZelAboutSettingsPanel::resizeEvent(QResizeEvent* event)
 void ZelAboutSettingsPanel::onLinkActivated(const QString& link)
 {
     kqDMIApplication::OpenUrl(QUrl(link));
+}
+
+void ZelAboutSettingsPanel::on_copyButton_clicked()
+{
+    // In English, for whoever reads the report.
+    QStringList lines;
+    lines << QString("%1 %2 (%3)")
+                 .arg(m_ui->applicationLabel->text(), m_ui->applicationVersion->text(),
+                      m_ui->platform->text())
+          << QString("Qt %1, %2").arg(qVersion(), systemName())
+          << "Settings: " + m_ui->settingsFileEdit->text() << "Log: " + m_ui->logFileEdit->text();
+    const QTableWidget& plugins = *m_ui->tableWidget;
+    for (int row = 0; row < plugins.rowCount(); ++row)
+        lines << "Plug-in: " + plugins.item(row, 0)->text() + ' ' + plugins.item(row, 1)->text();
+    QApplication::clipboard()->setText(lines.join("\n"));
 }
 
 void ZelAboutSettingsPanel::fillPlugins()

@@ -40,6 +40,8 @@ Q_SIGNALS:
 protected Q_SLOTS:
     /// Opens a link of the page in the browser.
     void onLinkActivated(const QString& link);
+    /// Copies name, version, Qt, system, files and plug-ins as text, for the report of a fault.
+    void on_copyButton_clicked();
 
 protected:
     /// Fits the heights of the texts and of the table to the new width.

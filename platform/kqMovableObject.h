@@ -42,6 +42,7 @@ private:
     QPoint m_pressed;
     QPoint m_grip;
     bool m_dragging;
+    bool m_moving; ///< The drag has begun to move the target.
     bool m_expandOnDoubleClick;
 };
 

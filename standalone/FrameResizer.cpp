@@ -1,5 +1,7 @@
 #include "FrameResizer.h"
 
+#include "base/ZelWindowCompat.h"
+
 #include <QApplication>
 #include <QDesktopWidget>
 #include <QMouseEvent>
@@ -51,7 +53,11 @@ bool FrameResizer::press(const QMouseEvent& event)
     m_draggedEdges = edgesAt(event.globalPos());
     m_pressPosition = event.globalPos();
     m_pressGeometry = m_window->geometry();
-    return m_draggedEdges != NoEdge;
+    if (m_draggedEdges == NoEdge)
+        return false;
+    if (startSystemResize(*m_window, m_draggedEdges))
+        m_draggedEdges = NoEdge;
+    return true;
 }
 
 bool FrameResizer::move(const QMouseEvent& event)

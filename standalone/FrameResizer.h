@@ -20,7 +20,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    enum Edge { NoEdge = 0, Left = 1, Top = 2, Right = 4, Bottom = 8 };
+    enum Edge { NoEdge = 0, Top = 1, Left = 2, Right = 4, Bottom = 8 }; // The values of Qt::Edge.
 
     bool press(const QMouseEvent& event);
     bool move(const QMouseEvent& event);

@@ -1,16 +1,56 @@
 #include "WindowGeometry.h"
 
+#include "base/ZelSmallFile.h"
+
 #include <QApplication>
 #include <QDesktopWidget>
-#include <QSettings>
+#include <QEvent>
+#include <QRegExp>
+#include <QStringList>
 #include <QWidget>
 
 namespace zel {
 
 namespace {
-const char* const DesktopKey = "desktop"; // The bounding rectangle of all screens.
-const char* const GeometryKey = "geometry";
-const char* const MaximizedKey = "maximized";
+
+const int SizeLimit = 200; // bytes
+
+/// What the file holds, as one line of nine numbers.
+struct Place
+{
+    QRect desktop; ///< The bounding rectangle of all screens.
+    QRect geometry;
+    bool maximized;
+};
+
+QString textOf(const QRect& rect)
+{
+    return QString("%1 %2 %3 %4").arg(rect.x()).arg(rect.y()).arg(rect.width()).arg(rect.height());
+}
+
+QRect rectOf(const QStringList& numbers)
+{
+    return QRect(numbers[0].toInt(), numbers[1].toInt(), numbers[2].toInt(), numbers[3].toInt());
+}
+
+QByteArray format(const Place& place)
+{
+    return QString("%1 %2 %3\n")
+        .arg(textOf(place.desktop), textOf(place.geometry), QString::number(place.maximized))
+        .toLatin1();
+}
+
+/// With an invalid geometry if the text has another format.
+Place parse(const QByteArray& text)
+{
+    const QRegExp format("(-?\\d{1,6} ){8}[01]\n");
+    const QString line = QString::fromLatin1(text.constData(), text.size());
+    if (!format.exactMatch(line))
+        return Place();
+    const QStringList numbers = line.trimmed().split(' ');
+    return {rectOf(numbers), rectOf(numbers.mid(4)), numbers.last() == "1"};
+}
+
 } // namespace
 
 WindowGeometry::WindowGeometry(QWidget* window, const QSize& minimumSize, const QString& file)
@@ -19,29 +59,39 @@ WindowGeometry::WindowGeometry(QWidget* window, const QSize& minimumSize, const 
     , m_minimumSize(minimumSize)
     , m_file(file)
 {
-    connect(QApplication::desktop(), SIGNAL(resized(int)), this, SLOT(fitToScreen()));
-    connect(QApplication::desktop(), SIGNAL(workAreaResized(int)), this, SLOT(fitToScreen()));
+    for (const char* change :
+         {SIGNAL(resized(int)), SIGNAL(workAreaResized(int)), SIGNAL(screenCountChanged(int))})
+        connect(QApplication::desktop(), change, this, SLOT(fitToScreen()));
+    window->installEventFilter(this);
 }
 
 void WindowGeometry::restore()
 {
     fitToScreen();
-    const QSettings file(m_file, QSettings::IniFormat);
-    const QRect geometry = file.value(GeometryKey).toRect();
-    if (!geometry.isValid() || file.value(DesktopKey).toRect() != QApplication::desktop()->geometry())
+    const Place place = parse(contentOfSmallFile(m_file, SizeLimit));
+    if (!place.geometry.isValid() || place.desktop != QApplication::desktop()->geometry())
         return;
-    m_window->setGeometry(geometry);
+    m_window->setGeometry(place.geometry);
     fitToScreen();
-    if (file.value(MaximizedKey).toBool())
+    if (place.maximized)
         m_window->setWindowState(m_window->windowState() | Qt::WindowMaximized);
 }
 
 void WindowGeometry::save() const
 {
-    QSettings file(m_file, QSettings::IniFormat);
-    file.setValue(DesktopKey, QApplication::desktop()->geometry());
-    file.setValue(GeometryKey, m_window->normalGeometry());
-    file.setValue(MaximizedKey, m_window->isMaximized());
+    const Place place = {QApplication::desktop()->geometry(), m_window->normalGeometry(),
+                         m_window->isMaximized()};
+    replaceSmallFile(m_file, format(place));
+}
+
+bool WindowGeometry::eventFilter(QObject*, QEvent* event)
+{
+    // A window that was maximised while its screen went away is restored to where that screen was.
+    // Queued, because the window is still being moved.
+    if (event->type() == QEvent::Move &&
+        !QApplication::desktop()->geometry().intersects(m_window->geometry()))
+        QMetaObject::invokeMethod(this, "fitToScreen", Qt::QueuedConnection);
+    return false;
 }
 
 void WindowGeometry::fitToScreen()

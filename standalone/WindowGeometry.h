@@ -10,7 +10,8 @@ class QWidget;
 namespace zel {
 
 /// Saves the position and size of a frameless window and restores them, unless the screens have changed. Also
-/// keeps the window within the available area of its screen. The window owns this object.
+/// keeps the window within the available area of its screen, and brings it back when its screen goes away.
+/// The window owns this object.
 class WindowGeometry : public QObject
 {
     Q_OBJECT
@@ -20,11 +21,14 @@ public:
     /// @param file         the file that holds position and size, and nothing else
     WindowGeometry(QWidget* window, const QSize& minimumSize, const QString& file);
 
-    /// Call it before the window is shown. A missing or invalid file changes nothing.
+    /// Call it before the window is shown. Changes nothing unless the file is a plain one that save() has
+    /// made.
     void restore();
 
     /// Ignores failures: the user loses nothing of value.
     void save() const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private Q_SLOTS:
     void fitToScreen();

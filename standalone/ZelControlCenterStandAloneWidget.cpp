@@ -67,6 +67,7 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
     , m_ui(new Ui::ControlCenterStandAlone)
 {
     m_ui->setupUi(this);
+    announceWindow(*this);
     // Screen readers read the whole name from the label "Tor"; "-" and "vane" stay silent.
     keepSilent(*m_ui->label_3);
     keepSilent(*m_ui->label_4);
@@ -96,6 +97,7 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
     for (const auto& panel : m_panels)
         m_controlCenter->registerSettingsPanel(panel.get());
     m_ui->helpArea->watchPages(m_controlCenter->settingsWidget());
+    m_ui->helpArea->useColumn(m_controlCenter.get(), m_controlCenter->findChild<QWidget*>("preferenceFrame"));
     connect(m_controlCenter.get(), SIGNAL(pagesChanged()), m_ui->helpArea, SLOT(refresh()));
 
     createActions();
@@ -154,9 +156,11 @@ void ZelControlCenterStandAloneWidget::createActions()
 void ZelControlCenterStandAloneWidget::orderFocus()
 {
     m_controlCenter->installEventFilter(this);
-    // The Tab key reaches the buttons of the window last.
+    // The Tab key reaches those of the help after the pages, and the buttons of the window last.
     QWidget* last = previousInFocusChain();
-    for (QWidget* button : {m_ui->minimizeButton, m_ui->maximizeButton, m_ui->closeButton}) {
+    for (const char* name :
+         {"putBackButton", "defaultButton", "minimizeButton", "maximizeButton", "closeButton"}) {
+        auto* button = findChild<QPushButton*>(name);
         setTabOrder(last, button);
         last = button;
     }

@@ -1,151 +1,234 @@
 #include "ZelHelpArea.h"
 
-#include "ui_ZelHelpArea.h"
-
-#include "EnableButton.h"
+#include "PendingList.h"
+#include "ReturnKey.h"
+#include "ZelHelpCard.h"
 #include "ZelPageHelp.h"
 #include "ZelSettingsPanel.h"
 
 #include <QApplication>
-#include <QCoreApplication>
-#include <QStringList>
-#include <QWhatsThis>
+#include <QCursor>
+#include <QDesktopWidget>
+#include <QEvent>
+#include <QLabel>
+#include <QScrollArea>
+#include <QVBoxLayout>
 
 namespace zel {
 
 namespace {
 
-// In pixels.
-const int MinimumWidth = 310; // fits the longest words of all languages
-const int ScrollBarRoom = 20; // else the help and the scroll bar that it needs could hide each other in turns
+const int RestTime = 400; // ms
 
-/// Lets paths wrap at every character, because one may be wider than the area.
-QString breakable(const QString& text)
+// In pixels.
+const int MinimumWidth = 310; // fits the longest words of all languages, also beside a scroll bar
+const int MinimumHeight = 220;
+const int Margin = 12;
+const int ColumnMargin = 8;
+const int OpenedWidth = 340;
+
+/// Independent of its scroll bar: else the help and the bar that it needs could hide each other in turns.
+int roomOf(const QWidget& area)
 {
-    QStringList words = text.split(' ');
-    for (QString& word : words)
-        if (word.size() > 1 && word.contains('/'))
-            word = word.split(QString()).join(QString(QChar(0x200B)));
-    return words.join(" ");
+    for (const QWidget* around = area.parentWidget(); around; around = around->parentWidget())
+        if (qobject_cast<const QScrollArea*>(around))
+            return around->width();
+    return area.width();
 }
 
-QString stateText(const ZelSettingHelp& help)
+QVBoxLayout* newLayout(QWidget* widget, int margin)
 {
-    QStringList parts;
-    if (help.differsFromStored())
-        parts << QCoreApplication::translate("ZelHelpArea", "Changed, and not applied yet.");
-    if (help.differsFromDefault())
-        parts << QCoreApplication::translate("ZelHelpArea", "Not the default.");
-    return parts.join(" ");
+    auto* layout = new QVBoxLayout(widget);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->addStretch();
+    return layout;
+}
+
+bool isOver(const QWidget& field, const QPoint& globalPosition)
+{
+    const QWidget* window = field.window();
+    const QWidget* widget = window->childAt(window->mapFromGlobal(globalPosition));
+    const auto* label = qobject_cast<const QLabel*>(widget);
+    return widget == &field || field.isAncestorOf(widget) || (label && label->buddy() == &field);
 }
 
 } // namespace
 
 ZelHelpArea::ZelHelpArea(QWidget* parent)
     : QWidget(parent)
-    , m_ui(new Ui::ZelHelpArea)
+    , m_help(new QWidget(this))
+    , m_card(new ZelHelpCard(m_help))
+    , m_pending(new PendingList(m_help))
+    , m_areaLayout(newLayout(this, Margin))
 {
-    m_ui->setupUi(this);
-    refresh();
+    auto* layout = new QVBoxLayout(m_help);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_card);
+    layout->addWidget(m_pending);
+    m_areaLayout->insertWidget(0, m_help);
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(RestTime);
+    connect(&m_rest, SIGNAL(timeout()), this, SLOT(onRest()));
+    connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
 }
-
-ZelHelpArea::~ZelHelpArea() = default;
 
 void ZelHelpArea::watchPages(QWidget* tree)
 {
+    m_pending->setPages(tree->findChildren<ZelSettingsPanel*>());
     const QList<ZelPageHelp*> pages = tree->findChildren<ZelPageHelp*>();
     for (ZelPageHelp* page : pages) {
-        connect(page, SIGNAL(reached(QWidget*)), this, SLOT(showField(QWidget*)));
+        connect(page, SIGNAL(reached(QWidget*)), this, SLOT(onReached(QWidget*)));
         connect(page, SIGNAL(edited()), this, SLOT(refresh()));
-        page->setHelpAreaVisible(!m_ui->helpFrame->isHidden());
+        connect(page, SIGNAL(helpRequested(QWidget*)), this, SLOT(showHelp(QWidget*)));
         m_pages << page;
         // Buttons such as Reset change a page without an edit in a field.
         connect(page->parent(), SIGNAL(stateChanged()), this, SLOT(refresh()));
     }
+    place();
+}
+
+void ZelHelpArea::useColumn(QWidget* column, QWidget* above)
+{
+    m_above = above;
+    m_columnHost = new QScrollArea(column);
+    m_columnHost->setObjectName("helpColumn");
+    m_columnHost->setFrameShape(QFrame::NoFrame);
+    m_columnHost->setFocusPolicy(Qt::NoFocus);
+    m_columnHost->setWidgetResizable(true);
+    m_columnHost->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* content = new QWidget;
+    content->setObjectName("helpColumnContent");
+    m_columnLayout = newLayout(content, ColumnMargin);
+    m_columnHost->setWidget(content);
+    for (QWidget* clear : {content, m_columnHost->viewport()})
+        clear->setAutoFillBackground(false);
+    m_columnHost->hide();
+    column->installEventFilter(this);
+    above->installEventFilter(this);
+    place();
+}
+
+bool ZelHelpArea::eventFilter(QObject*, QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    // Queued, because the layout of the column is still at work.
+    if (type == QEvent::Resize || type == QEvent::Move || type == QEvent::Show || type == QEvent::Hide)
+        QMetaObject::invokeMethod(this, "place", Qt::QueuedConnection);
+    return false;
+}
+
+void ZelHelpArea::showHelp(QWidget* field)
+{
+    m_rest.stop();
+    m_card->setField(field);
+    if (field && m_help->isHidden())
+        openAt(*field);
 }
 
 void ZelHelpArea::showHelpOfFocusedField()
 {
-    QWidget* field = QApplication::focusWidget();
-    showField(field);
-    if (!field || m_ui->helpFrame->isVisible())
-        return;
-    const ZelSettingHelp* help = helpOf(field);
-    QWhatsThis::showText(field->mapToGlobal(field->rect().bottomLeft()),
-                         help ? help->summary() : m_ui->descriptionLabel->text(), field);
+    showHelp(QApplication::focusWidget());
 }
 
 void ZelHelpArea::refresh()
 {
-    const ZelSettingHelp* help = helpOf(m_field);
-    m_ui->nameLabel->setText(help ? help->name : QCoreApplication::translate("ZelHelpArea", "Help"));
-    m_ui->descriptionLabel->setText(
-        help ? help->description
-             : QCoreApplication::translate("ZelHelpArea",
-                                           "Point at a setting, or move to it with the Tab key, "
-                                           "to read here what it does."));
-    m_ui->factsFrame->setVisible(help);
-    if (!help)
-        return;
-
-    const struct
-    {
-        QLabel* title;
-        QLabel* fact;
-        QString text;
-    } facts[] = {
-        {m_ui->rangeTitle, m_ui->rangeLabel, help->range},
-        {m_ui->defaultTitle, m_ui->defaultLabel, help->byDefault()},
-        {m_ui->storedTitle, m_ui->storedLabel, help->stored()},
-        {m_ui->effectTitle, m_ui->effectLabel, help->effect},
-    };
-    for (const auto& each : facts) {
-        each.fact->setText(breakable(each.text));
-        each.title->setVisible(!each.text.isEmpty());
-        each.fact->setVisible(!each.text.isEmpty());
-    }
-    m_ui->stateLabel->setText(stateText(*help));
-    enableButton(*m_ui->putBackButton, help->differsFromStored());
-    enableButton(*m_ui->defaultButton, help->differsFromDefault());
+    m_card->refresh();
+    m_pending->refresh();
 }
 
 void ZelHelpArea::resizeEvent(QResizeEvent* event)
 {
-    const bool fits = width() >= MinimumWidth + (m_ui->helpFrame->isHidden() ? ScrollBarRoom : 0);
-    m_ui->helpFrame->setVisible(fits);
+    QWidget::resizeEvent(event);
+    place();
+}
+
+void ZelHelpArea::onReached(QWidget* field)
+{
+    m_hovered = field;
+    m_pointer = QCursor::pos();
+    m_rest.start();
+}
+
+void ZelHelpArea::onFocusChanged(QWidget*, QWidget* current)
+{
+    if (!ZelHelpCard::HelpOn(current))
+        return;
+    m_rest.stop();
+    m_card->setField(current);
+}
+
+void ZelHelpArea::onRest()
+{
+    const QPoint pointer = QCursor::pos();
+    if (!m_hovered || !isOver(*m_hovered, pointer))
+        return;
+    if (pointer == m_pointer)
+        m_card->setField(m_hovered);
+    else
+        onReached(m_hovered); // Still moving.
+}
+
+void ZelHelpArea::place()
+{
+    const bool beside = roomOf(*this) >= MinimumWidth;
+    const bool inColumn = !beside && freeHeightOfColumn() >= MinimumHeight;
+    if (m_columnHost && inColumn) {
+        const QWidget& column = *m_columnHost->parentWidget();
+        const int height = freeHeightOfColumn();
+        m_columnHost->setGeometry(0, column.height() - height, column.width(), height);
+    }
+    QBoxLayout* layout = inColumn ? m_columnLayout : m_areaLayout;
+    if (layout->indexOf(m_help) < 0)
+        layout->insertWidget(0, m_help);
+    m_card->setCompact(inColumn);
+    m_help->setVisible(beside || inColumn);
+    if (m_columnHost)
+        m_columnHost->setVisible(inColumn);
     for (const QPointer<ZelPageHelp>& page : m_pages)
         if (page)
-            page->setHelpAreaVisible(fits);
-    QWidget::resizeEvent(event);
+            page->setHelpAreaVisible(beside || inColumn);
 }
 
-void ZelHelpArea::showField(QWidget* field)
+int ZelHelpArea::freeHeightOfColumn() const
 {
-    m_field = field;
-    refresh();
+    if (!m_columnHost || !m_above || !m_above->isVisible())
+        return 0;
+    const QWidget* column = m_columnHost->parentWidget();
+    return column->height() - m_above->mapTo(column, QPoint(0, m_above->height())).y();
 }
 
-void ZelHelpArea::on_putBackButton_clicked()
+void ZelHelpArea::openAt(QWidget& field)
 {
-    if (const ZelSettingHelp* help = helpOf(m_field))
-        help->putBack();
-}
-
-void ZelHelpArea::on_defaultButton_clicked()
-{
-    if (const ZelSettingHelp* help = helpOf(m_field))
-        help->useDefault();
-}
-
-const ZelSettingHelp* ZelHelpArea::helpOf(const QWidget* field)
-{
-    for (const QWidget* widget = field; widget; widget = widget->parentWidget()) {
-        if (!qobject_cast<const ZelSettingsPanel*>(widget))
-            continue;
-        const auto* page = widget->findChild<ZelPageHelp*>();
-        return page ? page->setting(field) : nullptr;
+    // Of another colour behind the round corners of a card.
+    auto* opened = new QFrame(this, Qt::Popup);
+    opened->setAttribute(Qt::WA_DeleteOnClose);
+    opened->setObjectName("openedHelp");
+    opened->setStyleSheet("#openedHelp { background: rgb(237,237,237); border: 1px solid rgb(69,68,229); }");
+    auto* layout = new QVBoxLayout(opened);
+    layout->setContentsMargins(1, 1, 1, 1);
+    auto* card = new ZelHelpCard(opened);
+    layout->addWidget(card);
+    card->setField(&field);
+    new ReturnKey(opened);
+    const ZelPageHelp* page = nullptr;
+    for (const QPointer<ZelPageHelp>& each : m_pages)
+        if (each && each->setting(&field))
+            page = each;
+    if (page) {
+        connect(page, SIGNAL(edited()), card, SLOT(refresh()));
+        connect(page->parent(), SIGNAL(stateChanged()), card, SLOT(refresh()));
     }
-    return nullptr;
+    opened->setFixedWidth(OpenedWidth);
+    opened->ensurePolished();
+    opened->resize(OpenedWidth, layout->heightForWidth(OpenedWidth));
+    const QRect screen = QApplication::desktop()->availableGeometry(&field);
+    const QPoint below = field.mapToGlobal(QPoint(0, field.height() + 2));
+    const QPoint above = field.mapToGlobal(QPoint(0, -opened->height() - 2));
+    const QPoint place = below.y() + opened->height() > screen.bottom() ? above : below;
+    opened->move(qBound(screen.left(), place.x(), qMax(screen.left(), screen.right() - opened->width())),
+                 qMax(screen.top(), place.y()));
+    opened->show();
+    opened->setFocus();
 }
 
 } // namespace zel

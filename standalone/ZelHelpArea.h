@@ -4,25 +4,28 @@
 #include "base/ZelExport.h"
 
 #include <QList>
+#include <QPoint>
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 
-#include <memory>
-
-namespace Ui {
-class ZelHelpArea;
-}
+class QBoxLayout;
+class QScrollArea;
 
 namespace zel {
 
+class PendingList;
+class ZelHelpCard;
 class ZelPageHelp;
-struct ZelSettingHelp;
 
-/// The area beside the pages with the help on one setting, that of the field which the pointer or the
-/// keyboard focus has entered last: description, range, default, stored value and when an edit takes effect.
-/// Two buttons put the stored value or the default back, while the setting differs from it.
+/// The area beside the pages with the help on one setting, and below it what Apply would store. The setting
+/// is that of the field which has got the keyboard focus last, or on which the pointer rests. A pointer on
+/// its way to the help changes nothing.
 ///
-/// The help comes from the ZelPageHelp of each page. The area is empty while it is too narrow.
+/// While the area is too narrow, the help stands in the column of the pages' list instead. Where that is too
+/// low as well, showHelp() opens it at the field.
+///
+/// The help comes from the ZelPageHelp of each page.
 class ZEL_EXPORT ZelHelpArea : public QWidget
 {
     Q_OBJECT
@@ -30,35 +33,51 @@ class ZEL_EXPORT ZelHelpArea : public QWidget
 public:
     /// Shows no setting until watchPages() is called.
     explicit ZelHelpArea(QWidget* parent = nullptr);
-    ~ZelHelpArea() override;
 
     /// Shows the help of the pages among the descendants of a widget. Call it once, after they are
     /// registered.
     void watchPages(QWidget* tree);
 
+    /// Uses the empty space of a column below one of its widgets while the area is too narrow.
+    void useColumn(QWidget* column, QWidget* above);
+
+    /// Places the help again when the column changes. Consumes nothing.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 public Q_SLOTS:
-    /// Shows the help on the focused field, or a hint where there is none. While the area is too narrow, the
-    /// help appears at the field.
+    /// Shows the help on a field, or a hint where there is none. Without room for it, the help opens at the
+    /// field until the user clicks elsewhere or presses Escape.
+    void showHelp(QWidget* field);
+    /// The same for the focused field.
     void showHelpOfFocusedField();
     /// Updates the area. Call it after edits are applied or discarded.
     void refresh();
 
 protected:
-    /// Hides the help while the area is too narrow.
+    /// Places the help where there is room.
     void resizeEvent(QResizeEvent* event) override;
 
 private Q_SLOTS:
-    void showField(QWidget* field);
-    void on_putBackButton_clicked();
-    void on_defaultButton_clicked();
+    void onReached(QWidget* field);
+    void onFocusChanged(QWidget* previous, QWidget* current);
+    void onRest();
+    void place();
 
 private:
-    /// Null for a widget that is not a field of a page.
-    static const ZelSettingHelp* helpOf(const QWidget* field);
+    int freeHeightOfColumn() const;
+    void openAt(QWidget& field);
 
-    const std::unique_ptr<Ui::ZelHelpArea> m_ui;
-    QPointer<QWidget> m_field;
+    QWidget* const m_help; ///< What is placed: the card and the list below it.
+    ZelHelpCard* const m_card;
+    PendingList* const m_pending;
+    QBoxLayout* m_areaLayout;
+    QBoxLayout* m_columnLayout = nullptr;
+    QPointer<QScrollArea> m_columnHost; ///< A child of the column, over its empty space.
+    QPointer<QWidget> m_above;
     QList<QPointer<ZelPageHelp>> m_pages;
+    QPointer<QWidget> m_hovered;
+    QPoint m_pointer; ///< Where it was when the rest began.
+    QTimer m_rest;
 };
 
 } // namespace zel

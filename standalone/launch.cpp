@@ -9,6 +9,7 @@
 #include "ZelSettingsFile.h"
 #include "base/ZelQtCompat.h"
 #include "base/ZelSystemCompat.h"
+#include "base/ZelWindowCompat.h"
 
 #include "platform/MTLogger.h"
 #include "platform/kqDMIApplication.h"

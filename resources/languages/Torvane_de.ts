@@ -61,6 +61,21 @@
     </message>
 </context>
 <context>
+    <name>PendingList</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Not applied yet</source>
+        <translation>Noch nicht angewendet</translation>
+    </message>
+    <message>
+        <source>Goes to the setting.</source>
+        <translation>Springt zur Einstellung.</translation>
+    </message>
+</context>
+<context>
     <name>TurntableSettingsPanel</name>
     <message>
         <source>Turntable</source>
@@ -214,6 +229,26 @@
     <message>
         <source>Tab chooses a link, Return opens it.</source>
         <translation>Mit Tab wählen Sie einen Link, mit der Eingabetaste öffnen Sie ihn.</translation>
+    </message>
+    <message>
+        <source>Settings file</source>
+        <translation>Einstellungsdatei</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>Protokolldatei</translation>
+    </message>
+    <message>
+        <source>Copies version, system, files and plug-ins, for the report of a fault</source>
+        <translation>Kopiert Version, System, Dateien und Plug-ins, um einen Fehler zu melden</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>Bericht kopieren</translation>
+    </message>
+    <message>
+        <source>The text can be selected and copied.</source>
+        <translation>Der Text kann markiert und kopiert werden.</translation>
     </message>
 </context>
 <context>
@@ -402,7 +437,7 @@ Sie können auch den Speicherort Ihres Screenshot-Albums ändern.</translation>
     </message>
 </context>
 <context>
-    <name>ZelHelpArea</name>
+    <name>ZelHelpCard</name>
     <message>
         <source>Range</source>
         <translation>Bereich</translation>

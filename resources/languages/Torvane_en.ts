@@ -61,6 +61,21 @@
     </message>
 </context>
 <context>
+    <name>PendingList</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Not applied yet</source>
+        <translation>Not applied yet</translation>
+    </message>
+    <message>
+        <source>Goes to the setting.</source>
+        <translation>Goes to the setting.</translation>
+    </message>
+</context>
+<context>
     <name>TurntableSettingsPanel</name>
     <message>
         <source>Turntable</source>
@@ -214,6 +229,26 @@
     <message>
         <source>Tab chooses a link, Return opens it.</source>
         <translation>Tab chooses a link, Return opens it.</translation>
+    </message>
+    <message>
+        <source>Settings file</source>
+        <translation>Settings file</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>Log file</translation>
+    </message>
+    <message>
+        <source>Copies version, system, files and plug-ins, for the report of a fault</source>
+        <translation>Copies version, system, files and plug-ins, for the report of a fault</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>Copy report</translation>
+    </message>
+    <message>
+        <source>The text can be selected and copied.</source>
+        <translation>The text can be selected and copied.</translation>
     </message>
 </context>
 <context>
@@ -402,7 +437,7 @@ You may also change the location for your screenshots album.</translation>
     </message>
 </context>
 <context>
-    <name>ZelHelpArea</name>
+    <name>ZelHelpCard</name>
     <message>
         <source>Range</source>
         <translation>Range</translation>

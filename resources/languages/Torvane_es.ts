@@ -61,6 +61,21 @@
     </message>
 </context>
 <context>
+    <name>PendingList</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Not applied yet</source>
+        <translation>Aún sin aplicar</translation>
+    </message>
+    <message>
+        <source>Goes to the setting.</source>
+        <translation>Va al ajuste.</translation>
+    </message>
+</context>
+<context>
     <name>TurntableSettingsPanel</name>
     <message>
         <source>Turntable</source>
@@ -214,6 +229,26 @@
     <message>
         <source>Tab chooses a link, Return opens it.</source>
         <translation>Tab elige un enlace, Intro lo abre.</translation>
+    </message>
+    <message>
+        <source>Settings file</source>
+        <translation>Archivo de ajustes</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>Archivo de registro</translation>
+    </message>
+    <message>
+        <source>Copies version, system, files and plug-ins, for the report of a fault</source>
+        <translation>Copia versión, sistema, archivos y complementos para informar de un fallo</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>Copiar informe</translation>
+    </message>
+    <message>
+        <source>The text can be selected and copied.</source>
+        <translation>El texto se puede seleccionar y copiar.</translation>
     </message>
 </context>
 <context>
@@ -402,7 +437,7 @@ También puede cambiar la ubicación de su álbum de capturas de pantalla.</tran
     </message>
 </context>
 <context>
-    <name>ZelHelpArea</name>
+    <name>ZelHelpCard</name>
     <message>
         <source>Range</source>
         <translation>Intervalo</translation>

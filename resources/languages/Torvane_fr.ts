@@ -61,6 +61,21 @@
     </message>
 </context>
 <context>
+    <name>PendingList</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Not applied yet</source>
+        <translation>Pas encore appliqué</translation>
+    </message>
+    <message>
+        <source>Goes to the setting.</source>
+        <translation>Va au paramètre.</translation>
+    </message>
+</context>
+<context>
     <name>TurntableSettingsPanel</name>
     <message>
         <source>Turntable</source>
@@ -214,6 +229,26 @@
     <message>
         <source>Tab chooses a link, Return opens it.</source>
         <translation>Tab choisit un lien, Entrée l’ouvre.</translation>
+    </message>
+    <message>
+        <source>Settings file</source>
+        <translation>Fichier de paramètres</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>Fichier journal</translation>
+    </message>
+    <message>
+        <source>Copies version, system, files and plug-ins, for the report of a fault</source>
+        <translation>Copie la version, le système, les fichiers et les plug-ins pour signaler une erreur</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>Copier le rapport</translation>
+    </message>
+    <message>
+        <source>The text can be selected and copied.</source>
+        <translation>Le texte peut être sélectionné et copié.</translation>
     </message>
 </context>
 <context>
@@ -402,7 +437,7 @@ Vous pouvez également changer l’emplacement de votre album de captures d’é
     </message>
 </context>
 <context>
-    <name>ZelHelpArea</name>
+    <name>ZelHelpCard</name>
     <message>
         <source>Range</source>
         <translation>Plage</translation>

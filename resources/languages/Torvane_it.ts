@@ -61,6 +61,21 @@
     </message>
 </context>
 <context>
+    <name>PendingList</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Not applied yet</source>
+        <translation>Non ancora applicato</translation>
+    </message>
+    <message>
+        <source>Goes to the setting.</source>
+        <translation>Va all’impostazione.</translation>
+    </message>
+</context>
+<context>
     <name>TurntableSettingsPanel</name>
     <message>
         <source>Turntable</source>
@@ -214,6 +229,26 @@
     <message>
         <source>Tab chooses a link, Return opens it.</source>
         <translation>Tab sceglie un collegamento, Invio lo apre.</translation>
+    </message>
+    <message>
+        <source>Settings file</source>
+        <translation>File di impostazioni</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>File di log</translation>
+    </message>
+    <message>
+        <source>Copies version, system, files and plug-ins, for the report of a fault</source>
+        <translation>Copia versione, sistema, file e plug-in per segnalare un errore</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>Copia rapporto</translation>
+    </message>
+    <message>
+        <source>The text can be selected and copied.</source>
+        <translation>Il testo può essere selezionato e copiato.</translation>
     </message>
 </context>
 <context>
@@ -402,7 +437,7 @@ Puoi anche cambiare la posizione del tuo album degli screenshot.</translation>
     </message>
 </context>
 <context>
-    <name>ZelHelpArea</name>
+    <name>ZelHelpCard</name>
     <message>
         <source>Range</source>
         <translation>Intervallo</translation>

@@ -61,6 +61,21 @@
     </message>
 </context>
 <context>
+    <name>PendingList</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Not applied yet</source>
+        <translation>未適用の変更</translation>
+    </message>
+    <message>
+        <source>Goes to the setting.</source>
+        <translation>設定に移動します。</translation>
+    </message>
+</context>
+<context>
     <name>TurntableSettingsPanel</name>
     <message>
         <source>Turntable</source>
@@ -214,6 +229,26 @@
     <message>
         <source>Tab chooses a link, Return opens it.</source>
         <translation>Tab でリンクを選び、Enter で開きます。</translation>
+    </message>
+    <message>
+        <source>Settings file</source>
+        <translation>設定ファイル</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>ログファイル</translation>
+    </message>
+    <message>
+        <source>Copies version, system, files and plug-ins, for the report of a fault</source>
+        <translation>不具合の報告のために、バージョン、システム、ファイル、プラグインをコピーします</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>レポートをコピー</translation>
+    </message>
+    <message>
+        <source>The text can be selected and copied.</source>
+        <translation>テキストは選択してコピーできます。</translation>
     </message>
 </context>
 <context>
@@ -402,7 +437,7 @@ You may also change the location for your screenshots album.</source>
     </message>
 </context>
 <context>
-    <name>ZelHelpArea</name>
+    <name>ZelHelpCard</name>
     <message>
         <source>Range</source>
         <translation>範囲</translation>

@@ -61,6 +61,21 @@
     </message>
 </context>
 <context>
+    <name>PendingList</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Not applied yet</source>
+        <translation>尚未应用</translation>
+    </message>
+    <message>
+        <source>Goes to the setting.</source>
+        <translation>转到该设置。</translation>
+    </message>
+</context>
+<context>
     <name>TurntableSettingsPanel</name>
     <message>
         <source>Turntable</source>
@@ -214,6 +229,26 @@
     <message>
         <source>Tab chooses a link, Return opens it.</source>
         <translation>按 Tab 选择链接，按回车打开。</translation>
+    </message>
+    <message>
+        <source>Settings file</source>
+        <translation>设置文件</translation>
+    </message>
+    <message>
+        <source>Log file</source>
+        <translation>日志文件</translation>
+    </message>
+    <message>
+        <source>Copies version, system, files and plug-ins, for the report of a fault</source>
+        <translation>复制版本、系统、文件和插件信息，用于报告故障</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>复制报告</translation>
+    </message>
+    <message>
+        <source>The text can be selected and copied.</source>
+        <translation>可以选择并复制此文本。</translation>
     </message>
 </context>
 <context>
@@ -402,7 +437,7 @@ You may also change the location for your screenshots album.</source>
     </message>
 </context>
 <context>
-    <name>ZelHelpArea</name>
+    <name>ZelHelpCard</name>
     <message>
         <source>Range</source>
         <translation>范围</translation>

@@ -220,7 +220,10 @@ private Q_SLOTS:
             child("okButton")->setFocus();
             QVERIFY2(selector.grab().toImage() == window, "a choice is not to be highlighted");
         }
-        for (const char* name : {"raytracerButton", "deferredButton", "raytracerButton"}) {
+        const std::pair<const char*, Qt::Key> keys[] = {{"raytracerButton", Qt::Key_Return},
+                                                        {"deferredButton", Qt::Key_Space},
+                                                        {"raytracerButton", Qt::Key_Enter}};
+        for (const auto& [name, key] : keys) {
             QWidget* engine = child(name);
             const bool before = selector.useGPURenderer();
             const QImage look = engine->grab().toImage();
@@ -228,10 +231,17 @@ private Q_SLOTS:
                 QTest::keyClick(selector.focusWidget(), Qt::Key_Tab);
             QVERIFY2(engine->grab().toImage() != look, "the focus is to be seen");
             QCOMPARE(selector.useGPURenderer(), before);
-            QTest::keyClick(engine, Qt::Key_Space);
+            QTest::keyClick(engine, key);
             QCOMPARE(selector.useGPURenderer(), !before);
         }
-        QTest::keyClick(selector.focusWidget(), Qt::Key_Return); // Wherever the focus is.
+        for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Left}) {
+            QTest::keyClick(selector.focusWidget(), key);
+            QCOMPARE(selector.useGPURenderer(), key == Qt::Key_Right);
+            QCOMPARE(child("deferredButton")->hasFocus(), key == Qt::Key_Right);
+        }
+        QVERIFY(selector.isVisible());
+        child("okButton")->setFocus();
+        QTest::keyClick(selector.focusWidget(), Qt::Key_Return);
         QVERIFY(!selector.isVisible() && !selector.useGPURenderer());
         QCOMPARE(selector.result(), int(QDialog::Accepted));
     }

@@ -26,7 +26,7 @@ public:
         for (QProcess* process : {&m_windowManager, &m_server})
             process->setStandardErrorFile(QProcess::nullDevice());
         // A server that resets itself when its only client has left throws out the one that is just coming.
-        const QString server = "-screen 0 1000x800x24 -displayfd 1 -noreset -nolisten tcp";
+        const QString server = "-screen 0 1000x800x24 -dpi 96 -displayfd 1 -noreset -nolisten tcp";
         m_server.start("Xvfb", server.split(' '));
         if (!m_server.waitForReadyRead(Patience))
             return false;

@@ -43,6 +43,7 @@ class tst_PageHelp : public QObject, private User
 
 private:
     QString said(const char* label) { return find<QLabel>(label)->text(); }
+    void point(const char* name) { QTest::mouseMove(find(name)); }
     QSettings& settings() { return m_application->getSettings(); }
 
     void open(const char* language)
@@ -86,29 +87,45 @@ private Q_SLOTS:
         const QString tip = QTextDocumentFragment::fromHtml(find("databaseSpinBox")->toolTip()).toPlainText();
         QVERIFY(tip.contains(said("descriptionLabel")) && tip.contains(said("effectLabel")));
         QCOMPARE(find("databaseSpinBox")->accessibleDescription(), tip);
-        QEvent enter(QEvent::Enter);
-        QCoreApplication::sendEvent(find("label_29"), &enter); // A label stands for its field.
-        QCOMPARE(said("nameLabel"), QString("Screenshot folder"));
+        point("label_29"); // A label stands for its field, once the pointer rests on it.
+        QCOMPARE(said("nameLabel"), QString("Cache size"));
+        QTRY_COMPARE(said("nameLabel"), QString("Screenshot folder"));
         QVERIFY(find("screenshotFolderButton")->toolTip().isEmpty());
 
+        // On its way to the help the pointer crosses other fields.
+        point("databaseSpinBox");
+        QTest::qWait(100);
+        point("helpFrame");
+        QTest::qWait(600);
+        QCOMPARE(said("nameLabel"), QString("Screenshot folder"));
+    }
+
+    void showsTheHelpWhereThereIsRoom()
+    {
+        auto* size = find("databaseSpinBox");
         const QPoint drawer = m_window->findChild<ZelControlCenter*>()->settingsWidget()->pos();
-        for (const int width : {1200, 800}) { // A field shows its tool tip where the area does not.
-            m_window->resize(width, 600);
-            QCOMPARE(find("helpFrame")->isVisible(), width == 1200);
-            QHelpEvent rest(QEvent::ToolTip, QPoint(1, 1), find("databaseSpinBox")->mapToGlobal({1, 1}));
-            QCoreApplication::sendEvent(find("databaseSpinBox"), &rest);
-            QCOMPARE(QToolTip::isVisible(), width == 800);
+        const std::tuple<QSize, bool, bool> rows[] = {// Shown at all, and in the column of the list.
+                                                      {{1012, 600}, true, false},
+                                                      {{1011, 600}, true, true},
+                                                      {{702, 600}, true, true},
+                                                      {{702, 400}, false, false}};
+        for (const auto& [window, shown, inColumn] : rows) {
+            m_window->resize(window);
+            QTRY_COMPARE(find("helpFrame")->isVisible(), shown);
+            QCOMPARE(find("mainPanel")->parentWidget()->isAncestorOf(find("helpFrame")), inColumn);
+            size->setFocus();
+            QHelpEvent rest(QEvent::ToolTip, QPoint(1, 1), size->mapToGlobal({1, 1}));
+            QCoreApplication::sendEvent(size, &rest); // A field shows its tool tip where there is no help.
+            QCOMPARE(QToolTip::isVisible(), !shown);
+            find<ZelHelpArea>("helpArea")->showHelpOfFocusedField();
+            QCOMPARE(QApplication::activePopupWidget() != nullptr, !shown);
         }
         QToolTip::hideText();
-        find("databaseSpinBox")->setFocus();
-        find<ZelHelpArea>("helpArea")->showHelpOfFocusedField();
-        QString shown;
-        for (const QWidget* box : QApplication::topLevelWidgets())
-            shown += box->isVisible() ? box->metaObject()->className() : "";
-        QVERIFY2(shown.contains("QWhatsThat"), qPrintable(shown));
-        QWhatsThis::hideText();
-        QCOMPARE(m_window->findChild<ZelControlCenter*>()->settingsWidget()->x(), drawer.x());
-        QCOMPARE(m_window->width(), 800);
+        const auto* opened = QApplication::activePopupWidget();
+        QCOMPARE(opened->findChild<QLabel*>("rangeLabel")->text(), QString("10 Mo to 4,096 Mo"));
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        QVERIFY(!QApplication::activePopupWidget());
+        QCOMPARE(m_window->findChild<ZelControlCenter*>()->settingsWidget()->pos(), drawer);
     }
 
     void marksAndTakesBackEdits()

@@ -253,6 +253,9 @@ private Q_SLOTS:
             QCOMPARE(table->item(cell / 2, cell % 2)->text(), texts[cell]);
         QVERIFY(table->isVisible() && table->rowHeight(1) > table->rowHeight(0));
         QVERIFY(table->viewport()->rect().contains(table->visualItemRect(table->item(1, 1))));
+        page.click("copyButton");
+        for (const QString& part : QStringList{"Reader v. 1.2", qVersion(), settings().fileName()})
+            QVERIFY2(QApplication::clipboard()->text().contains(part), qPrintable(part));
     }
 
     void linksOpenFromTheKeyboard()

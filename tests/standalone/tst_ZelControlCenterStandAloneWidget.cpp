@@ -1,3 +1,4 @@
+#include "Files.h"
 #include "ShownPage.h"
 #include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
@@ -103,6 +104,7 @@ private Q_SLOTS:
             QTRY_COMPARE(button->toolTip() + button->accessibleName(), QString(tip) + tip);
         }
         QVERIFY(!m_window.isMaximized() && !m_window.windowIcon().isNull());
+        QCOMPARE(QAccessible::queryAccessibleInterface(&m_window)->role(), QAccessible::Window);
         QString product; // Is read as one name, although one half of it is bold.
         for (QLabel* label : m_window.findChild<QFrame*>("appFrame")->findChildren<QLabel*>()) {
             const QAccessibleInterface* read = QAccessible::queryAccessibleInterface(label);
@@ -203,17 +205,37 @@ private Q_SLOTS:
                 window.showMaximized();
             window.close();
         }
-        const std::tuple<const char*, QVariant, QRect> rows[] = {
-            {"geometry", QRect(-500, 900, 3000, 400), {0, 200, 800, 400}},
-            {"geometry", "nonsense", usual},
-            {"geometry", place, place},
-            {"desktop", QRect(0, 0, 1920, 1080), usual}};
-        QSettings file(QFileInfo(application.getSettings().fileName()).path() + "/Window.ini",
-                       QSettings::IniFormat);
-        for (const auto& [key, value, opened] : rows) {
-            file.setValue(key, value);
-            file.sync();
+        const QString file = QFileInfo(application.getSettings().fileName()).path() + "/Window.ini";
+        const std::pair<QByteArray, QRect> rows[] = {
+            {"0 0 800 600 -500 900 3000 400 0\n", {0, 200, 800, 400}},
+            {"0 0 800 600 20 30 720 400 0\n", place},
+            {"0 0 800 600 20 30 720 400\n", usual},
+            {"0 0 1920 1080 20 30 720 400 0\n", usual},
+            {"geometry=@Variant(\\x0\\x0\\x0\\xb\\x7f\\xff\\xff\\xff)\n", usual}};
+        for (const auto& [text, opened] : rows) {
+            store(file, text);
             QCOMPARE(NextWindow(application).geometry(), opened);
+        }
+        for (const char* make : {"mkfifo", "ln -s /dev/zero"}) { // Neither read from nor written to.
+            QFile::remove(file);
+            QCOMPARE(std::system(qPrintable(QString("%1 '%2'").arg(make, file))), 0);
+            NextWindow window(application);
+            QCOMPARE(window.geometry(), usual);
+            window.close();
+            QVERIFY(QFileInfo(file).isFile() && !QFileInfo(file).isSymLink());
+        }
+    }
+
+    void comesBackFromALostScreen()
+    {
+        FakeApplication application;
+        for (const bool maximized : {false, true}) {
+            NextWindow window(application);
+            window.setGeometry(3000, 40, 720, 400);
+            if (maximized)
+                window.showMaximized();
+            window.showNormal();
+            QTRY_VERIFY(window.screen()->availableGeometry().contains(window.geometry()));
         }
     }
 

@@ -1,5 +1,7 @@
 #include "platform/kqMovableObject.h"
 
+#include "base/ZelWindowCompat.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QMouseEvent>
@@ -7,6 +9,7 @@
 kqMovableObject::kqMovableObject(QObject* parent)
     : QObject(parent)
     , m_dragging(false)
+    , m_moving(false)
     , m_expandOnDoubleClick(false)
 {
 }
@@ -54,6 +57,7 @@ bool kqMovableObject::press(const QMouseEvent& event)
     m_dragging = isHandle(event);
     if (!m_dragging)
         return false;
+    m_moving = false;
     m_pressed = event.globalPos();
     m_grip = m_pressed - m_target->pos();
     return true;
@@ -79,13 +83,17 @@ bool kqMovableObject::drag(const QMouseEvent& event)
     m_dragging = m_dragging && (event.buttons() & Qt::LeftButton);
     if (!m_dragging)
         return false;
-    if (m_target->isMaximized()) {
-        // A small movement during a click is not a drag.
-        if ((event.globalPos() - m_pressed).manhattanLength() < QApplication::startDragDistance())
-            return true;
+    // A small movement during a click is not a drag, and must not keep a double click from coming.
+    if (!m_moving && (event.globalPos() - m_pressed).manhattanLength() < QApplication::startDragDistance())
+        return true;
+    // Window managers of X11 move a window from where it was before it was restored.
+    const bool restore = m_target->isMaximized() && !zel::placesItsWindows();
+    if (restore)
         restoreUnderGrip();
-    }
-    m_target->move(event.globalPos() - m_grip);
+    m_dragging = m_moving || restore || !zel::startSystemMove(*m_target);
+    m_moving = true;
+    if (m_dragging)
+        m_target->move(event.globalPos() - m_grip);
     return true;
 }
 

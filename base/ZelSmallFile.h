@@ -1,0 +1,52 @@
+#ifndef ZEL_ZELSMALLFILE_H
+#define ZEL_ZELSMALLFILE_H
+
+// Files that are a convenience: nothing waits for them, and nothing is said when they cannot be used.
+
+#include "ZelFileFunctions.h"
+
+#include <QTemporaryFile>
+
+#if !defined(Q_OS_WIN)
+#    include <sys/stat.h>
+#endif
+
+namespace zel {
+
+/// At most this many bytes of a file. Empty when it cannot be read or is none: links, pipes and devices are
+/// not opened.
+inline QByteArray contentOfSmallFile(const QString& path, qint64 limit)
+{
+    QFile file(path);
+#if defined(Q_OS_WIN)
+    const bool opened = !QFileInfo(path).isSymLink() && file.open(QIODevice::ReadOnly);
+#else
+    struct stat status = {};
+    const int descriptor =
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+    if (descriptor < 0)
+        return QByteArray();
+    const bool opened = ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
+                        file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle);
+    if (!opened)
+        ::close(descriptor);
+#endif
+    return opened ? file.read(limit) : QByteArray();
+}
+
+/// Replaces a file in one step; a link itself, not what it leads to. False when that fails.
+inline bool replaceSmallFile(const QString& path, const QByteArray& content)
+{
+    QTemporaryFile file(path + ".XXXXXX"); // Removed at the end, unless it has got its name.
+    if (!file.open() || file.write(content) != content.size() || !file.flush())
+        return false;
+    const QString written = file.fileName(); // Before it is closed, because it may have no name until then.
+    file.close();
+    std::error_code error;
+    std::filesystem::rename(nativePath(written), nativePath(path), error);
+    return !error;
+}
+
+} // namespace zel
+
+#endif

@@ -1,0 +1,156 @@
+#include "PendingList.h"
+
+#include "ZelPageEdits.h"
+#include "ZelSettingsPanel.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalMapper>
+#include <QVBoxLayout>
+
+#include <vector>
+
+namespace zel {
+
+namespace {
+
+const char* const Style =
+    "#pendingList { background: rgb(237,237,237); border-radius: 4px; }"
+    "QLabel { font: bold 14px \"Open Sans\"; color: rgb(34,34,34); }"
+    "QPushButton { background: transparent; border: 1px solid transparent; padding: 3px;"
+    "              color: rgb(34,34,34); font: 14px \"Open Sans\"; text-align: left; outline: none; }"
+    "QPushButton:hover { background: rgb(215,215,235); }"
+    "QPushButton:focus { border-color: rgb(52,51,180); }"
+    "#takeBack { text-align: center; color: rgb(52,51,180); font: bold 14px \"Open Sans\"; }";
+
+/// A button that elides its text in the middle.
+class Line : public QPushButton
+{
+public:
+    Line(const QString& text, QWidget* parent)
+        : QPushButton(parent)
+        , m_text(text)
+    {
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        setAccessibleName(text);
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QPushButton::resizeEvent(event);
+        const int margins = 8; // Padding and borders.
+        const QString shown = fontMetrics().elidedText(m_text, Qt::ElideMiddle, width() - margins);
+        setToolTip(shown == m_text ? QString() : m_text);
+        setText(QString(shown).replace('&', "&&"));
+    }
+
+private:
+    const QString m_text;
+};
+
+std::vector<ZelPendingEdit> editsOf(const QList<QPointer<ZelSettingsPanel>>& pages)
+{
+    std::vector<ZelPendingEdit> all;
+    for (const QPointer<ZelSettingsPanel>& page : pages) {
+        auto* edits = dynamic_cast<ZelPageEdits*>(page.data());
+        for (const ZelPendingEdit& edit : edits ? edits->pendingEdits() : std::vector<ZelPendingEdit>())
+            all.push_back(edit);
+    }
+    return all;
+}
+
+QString textOf(const ZelPendingEdit& edit)
+{
+    const QString change = edit.stored + ' ' + QChar(0x2192) + ' ' + edit.shown; // An arrow.
+    return QCoreApplication::translate("PendingList", "%1: %2").arg(edit.name, change);
+}
+
+} // namespace
+
+PendingList::PendingList(QWidget* parent)
+    : QFrame(parent)
+    , m_goTo(new QSignalMapper(this))
+    , m_putBack(new QSignalMapper(this))
+{
+    setObjectName("pendingList");
+    setStyleSheet(Style);
+    setMaximumWidth(520);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(12, 10, 8, 10);
+    layout->setSpacing(4);
+    auto* title = new QLabel(QCoreApplication::translate("PendingList", "Not applied yet"), this);
+    title->setTextFormat(Qt::PlainText);
+    layout->addWidget(title);
+    m_lines = new QVBoxLayout;
+    m_lines->setSpacing(0);
+    layout->addLayout(m_lines);
+    connect(m_goTo, SIGNAL(mapped(int)), this, SLOT(goToField(int)));
+    connect(m_putBack, SIGNAL(mapped(int)), this, SLOT(putBack(int)));
+    hide();
+}
+
+void PendingList::setPages(const QList<ZelSettingsPanel*>& pages)
+{
+    for (ZelSettingsPanel* page : pages)
+        m_pages << page;
+    refresh();
+}
+
+void PendingList::refresh()
+{
+    QStringList texts;
+    for (const ZelPendingEdit& edit : editsOf(m_pages))
+        texts << textOf(edit);
+    if (texts == m_shown)
+        return;
+    m_shown = texts;
+    setVisible(!texts.isEmpty());
+    while (QLayoutItem* item = m_lines->takeAt(0)) {
+        // Later, because the line may be sending the click that has led here.
+        item->widget()->hide();
+        item->widget()->deleteLater();
+        delete item;
+    }
+    for (int i = 0; i < texts.size(); ++i) {
+        auto* row = new QWidget(this);
+        auto* layout = new QHBoxLayout(row);
+        layout->setContentsMargins(0, 0, 0, 0);
+        auto* line = new Line(texts[i], row);
+        line->setAccessibleDescription(QCoreApplication::translate("PendingList", "Goes to the setting."));
+        auto* takeBack = new QPushButton(QString(QChar(0x00D7)), row); // A cross.
+        takeBack->setObjectName("takeBack");
+        takeBack->setFixedSize(26, 26);
+        takeBack->setToolTip(QCoreApplication::translate("ZelHelpCard", "Puts back what is stored"));
+        takeBack->setAccessibleName(takeBack->toolTip());
+        takeBack->setAccessibleDescription(texts[i]);
+        layout->addWidget(line);
+        layout->addWidget(takeBack);
+        m_lines->addWidget(row);
+        row->show();
+        m_goTo->setMapping(line, i);
+        connect(line, SIGNAL(clicked()), m_goTo, SLOT(map()));
+        m_putBack->setMapping(takeBack, i);
+        connect(takeBack, SIGNAL(clicked()), m_putBack, SLOT(map()));
+    }
+}
+
+void PendingList::goToField(int line)
+{
+    const auto edits = editsOf(m_pages);
+    if (line < static_cast<int>(edits.size()))
+        edits[line].field->setFocus(Qt::OtherFocusReason);
+}
+
+void PendingList::putBack(int line)
+{
+    const auto edits = editsOf(m_pages);
+    if (line >= static_cast<int>(edits.size()))
+        return;
+    // The line goes away, and the focus with it.
+    edits[line].field->setFocus(Qt::OtherFocusReason);
+    edits[line].putBack();
+}
+
+} // namespace zel

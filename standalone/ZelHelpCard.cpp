@@ -1,0 +1,151 @@
+#include "ZelHelpCard.h"
+
+#include "ui_ZelHelpCard.h"
+
+#include "EnableButton.h"
+#include "ZelPageHelp.h"
+#include "ZelSettingsPanel.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+#include <QVariant>
+
+namespace zel {
+
+namespace {
+
+/// Lets paths wrap at every character, because one may be wider than the card. A character beyond 16 bits is
+/// two QChars, which stay together.
+QString breakable(const QString& text)
+{
+    QStringList words = text.split(' ');
+    for (QString& word : words) {
+        if (word.size() < 2 || !word.contains('/'))
+            continue;
+        for (int end = word.size() - 1; end > 0; --end)
+            if (!word.at(end).isLowSurrogate())
+                word.insert(end, QChar(0x200B));
+    }
+    return words.join(" ");
+}
+
+QString stateText(const ZelSettingHelp& help)
+{
+    QStringList parts;
+    if (help.differsFromStored())
+        parts << QCoreApplication::translate("ZelHelpCard", "Changed, and not applied yet.");
+    if (help.differsFromDefault())
+        parts << QCoreApplication::translate("ZelHelpCard", "Not the default.");
+    return parts.join(" ");
+}
+
+} // namespace
+
+ZelHelpCard::ZelHelpCard(QWidget* parent)
+    : QFrame(parent)
+    , m_ui(new Ui::ZelHelpCard)
+{
+    m_ui->setupUi(this);
+    setObjectName("helpFrame");
+    refresh();
+}
+
+ZelHelpCard::~ZelHelpCard() = default;
+
+void ZelHelpCard::setField(QWidget* field)
+{
+    m_field = field;
+    refresh();
+}
+
+void ZelHelpCard::setCompact(bool compact)
+{
+    const char* const property = "compact"; // A selector of the style sheet.
+    if (this->property(property).toBool() == compact)
+        return;
+    setProperty(property, compact);
+    setStyleSheet(styleSheet());
+    showName();
+}
+
+const ZelSettingHelp* ZelHelpCard::HelpOn(const QWidget* field)
+{
+    for (const QWidget* widget = field; widget; widget = widget->parentWidget()) {
+        if (!qobject_cast<const ZelSettingsPanel*>(widget))
+            continue;
+        const auto* page = widget->findChild<ZelPageHelp*>();
+        return page ? page->setting(field) : nullptr;
+    }
+    return nullptr;
+}
+
+void ZelHelpCard::refresh()
+{
+    const ZelSettingHelp* help = HelpOn(m_field);
+    m_name = help ? help->name : QCoreApplication::translate("ZelHelpCard", "Help");
+    showName();
+    m_ui->descriptionLabel->setText(
+        help ? help->description
+             : QCoreApplication::translate("ZelHelpCard",
+                                           "Point at a setting, or move to it with the Tab key, "
+                                           "to read here what it does."));
+    m_ui->factsFrame->setVisible(help);
+    m_ui->actionsFrame->setVisible(help);
+    if (!help)
+        return;
+
+    const struct
+    {
+        QLabel* title;
+        QLabel* fact;
+        QString text;
+    } facts[] = {
+        {m_ui->rangeTitle, m_ui->rangeLabel, help->range},
+        {m_ui->defaultTitle, m_ui->defaultLabel, help->byDefault()},
+        {m_ui->storedTitle, m_ui->storedLabel, help->stored()},
+        {m_ui->effectTitle, m_ui->effectLabel, help->effect},
+    };
+    for (const auto& each : facts) {
+        each.fact->setText(breakable(each.text));
+        each.fact->setAccessibleName(each.text);
+        each.title->setVisible(!each.text.isEmpty());
+        each.fact->setVisible(!each.text.isEmpty());
+    }
+    m_ui->stateLabel->setText(stateText(*help));
+    m_ui->stateLabel->setVisible(!m_ui->stateLabel->text().isEmpty());
+    const bool hasDefault = !help->byDefault().isEmpty();
+    m_ui->actionsFrame->setVisible(hasDefault || !help->range.isEmpty() || help->differsFromStored());
+    enableButton(*m_ui->putBackButton, help->differsFromStored());
+    enableButton(*m_ui->defaultButton, help->differsFromDefault());
+}
+
+void ZelHelpCard::resizeEvent(QResizeEvent* event)
+{
+    QFrame::resizeEvent(event);
+    showName();
+}
+
+void ZelHelpCard::on_putBackButton_clicked()
+{
+    if (const ZelSettingHelp* help = HelpOn(m_field))
+        help->putBack();
+}
+
+void ZelHelpCard::on_defaultButton_clicked()
+{
+    if (const ZelSettingHelp* help = HelpOn(m_field))
+        help->useDefault();
+}
+
+void ZelHelpCard::showName()
+{
+    // In one line, so that the buttons below stand still.
+    QLabel& label = *m_ui->nameLabel;
+    label.ensurePolished();
+    const QString shown = label.fontMetrics().elidedText(m_name, Qt::ElideRight, contentsRect().width() - 24);
+    label.setText(shown);
+    label.setAccessibleName(m_name);
+    label.setToolTip(shown == m_name ? QString() : m_name);
+}
+
+} // namespace zel

@@ -1,0 +1,61 @@
+#ifndef ZEL_ZELHELPCARD_H
+#define ZEL_ZELHELPCARD_H
+
+#include <QFrame>
+#include <QPointer>
+#include <QString>
+
+#include <memory>
+
+namespace Ui {
+class ZelHelpCard;
+}
+
+namespace zel {
+
+struct ZelSettingHelp;
+
+/// The help on one setting: name, description, range, default, stored value and when an edit takes effect.
+/// Two buttons put the stored value or the default back, while the setting differs from it.
+class ZelHelpCard : public QFrame
+{
+    Q_OBJECT
+
+public:
+    /// Shows a hint until setField() is called. The parent, if any, owns the card.
+    explicit ZelHelpCard(QWidget* parent = nullptr);
+    ~ZelHelpCard() override;
+
+    /// Shows the help on a field of a page; the hint for null or any other widget.
+    void setField(QWidget* field);
+    QWidget* field() const { return m_field; }
+
+    /// Makes texts and buttons smaller, for a narrow place.
+    void setCompact(bool compact);
+
+    /// The help on a field of a page. Null for any other widget.
+    static const ZelSettingHelp* HelpOn(const QWidget* field);
+
+public Q_SLOTS:
+    /// Reads what the card shows again, after a value has changed.
+    void refresh();
+
+protected:
+    /// Elides the name to the new width.
+    void resizeEvent(QResizeEvent* event) override;
+
+private Q_SLOTS:
+    void on_putBackButton_clicked();
+    void on_defaultButton_clicked();
+
+private:
+    void showName();
+
+    const std::unique_ptr<Ui::ZelHelpCard> m_ui;
+    QPointer<QWidget> m_field;
+    QString m_name;
+};
+
+} // namespace zel
+
+#endif
