@@ -86,6 +86,8 @@ foreach(pair IN ITEMS desktop=torvane-settings debian_development=libzelcontrolc
     zel_debian_file(${component} ${zel_debian}/${package}.lintian-overrides /usr/share/lintian/overrides ${package})
 endforeach()
 
+zel_debian_file(desktop ${PROJECT_SOURCE_DIR}/docs/administrators.md /usr/share/doc/torvane-settings administrators.md)
+
 # The plug-ins and the texts of Qt are where its packages put them. A folder of plug-ins may appear later, with a package
 # that the user installs.
 foreach(folder IN LISTS ZEL_PLUGIN_FOLDERS)
@@ -135,6 +137,12 @@ zel_write_pkgconfig(debian/zelcontrolcenter.pc ${ZEL_PACKAGE_PREFIX})
 zel_debian_file(debian_development ${PROJECT_BINARY_DIR}/debian/zelcontrolcenter.pc
                 /usr/lib/${CMAKE_LIBRARY_ARCHITECTURE}/pkgconfig zelcontrolcenter.pc)
 zel_install_guide(/usr/share/doc/libzelcontrolcenter-dev COMPONENT debian_development EXCLUDE_FROM_ALL)
+
+# `package_source` takes neither what is built nor the history.
+string(REGEX REPLACE "([][+.*?^$()])" "\\\\\\1" source_dir ${PROJECT_SOURCE_DIR})
+set(CPACK_SOURCE_GENERATOR TXZ)
+set(CPACK_SOURCE_PACKAGE_FILE_NAME torvane-settings-${PROJECT_VERSION})
+set(CPACK_SOURCE_IGNORE_FILES "^${source_dir}/(build|install|obj-[^/]*|\\.git)(/|$)" "^${PROJECT_BINARY_DIR}/")
 
 include(CPack)
 cpack_add_component_group(editor)
