@@ -1,33 +1,56 @@
 # Run by cpack between the installation into its own folder and the making of the Debian packages: what only a package
-# for Debian wants otherwise than `install` makes it.
+# for Debian wants otherwise than `install` makes it. Stops where the packages would lack something.
 
 cmake_policy(VERSION 3.20)
 
-file(GLOB packages LIST_DIRECTORIES ON ${CPACK_TEMPORARY_DIRECTORY}/*)
-foreach(package IN LISTS packages)
-    # Manual pages and changes are compressed, without the time.
-    file(GLOB_RECURSE files ${package}/usr/share/man/* ${package}/usr/share/doc/*/changelog*)
-    foreach(file IN LISTS files)
-        execute_process(COMMAND gzip -9 -n ${file} COMMAND_ERROR_IS_FATAL ANY)
-    endforeach()
-
-    # A link into Qt is relative, and there only if a package that this one depends on has its target.
-    file(GLOB_RECURSE links LIST_DIRECTORIES ON ${package}/usr/lib/torvane-settings/*)
-    foreach(link IN LISTS links)
-        if(NOT IS_SYMLINK ${link})
-            continue()
-        endif()
-        file(READ_SYMLINK ${link} target)
-        if(NOT IS_ABSOLUTE ${target})
-            continue()
-        endif()
-        file(REMOVE ${link})
-        execute_process(COMMAND dpkg-query --search ${target} OUTPUT_VARIABLE owner ERROR_QUIET)
-        if(owner MATCHES "^(libqt5gui5|qttranslations5-l10n)")
-            string(REPLACE ${package} "" place ${link})
-            get_filename_component(folder ${place} DIRECTORY)
-            file(RELATIVE_PATH target ${folder} ${target})
-            file(CREATE_LINK ${target} ${link} SYMBOLIC)
-        endif()
-    endforeach()
+# Without the first two a package would depend on nothing.
+foreach(tool file=file dpkg-shlibdeps=dpkg-dev dpkg-gensymbols=dpkg-dev gzip=gzip strip=binutils)
+    string(REPLACE "=" ";" tool ${tool})
+    list(GET tool 0 name)
+    list(GET tool 1 package)
+    find_program(ZEL_${name} ${name})
+    if(NOT ZEL_${name})
+        message(FATAL_ERROR "The Debian packages need ${name}: install ${package}")
+    endif()
 endforeach()
+
+# The umask is for the files of who packs.
+file(GLOB_RECURSE folders LIST_DIRECTORIES ON ${CPACK_TEMPORARY_DIRECTORY}/*)
+foreach(folder IN LISTS folders)
+    if(IS_DIRECTORY ${folder} AND NOT IS_SYMLINK ${folder})
+        file(CHMOD ${folder} DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE
+                                                   WORLD_READ WORLD_EXECUTE)
+    endif()
+endforeach()
+
+file(GLOB programs ${CPACK_TEMPORARY_DIRECTORY}/*/usr/lib/torvane-settings/bin/torvane-*
+                   ${CPACK_TEMPORARY_DIRECTORY}/*/usr/lib/torvane-settings/lib/*.so.${CPACK_PACKAGE_VERSION})
+foreach(program IN LISTS programs)
+    execute_process(COMMAND strip --strip-unneeded --remove-section=.comment ${program} COMMAND_ERROR_IS_FATAL ANY)
+endforeach()
+
+# Manual pages and changes are compressed, without the time.
+file(GLOB_RECURSE files ${CPACK_TEMPORARY_DIRECTORY}/*/usr/share/man/*
+                        ${CPACK_TEMPORARY_DIRECTORY}/*/usr/share/doc/*/changelog
+                        ${CPACK_TEMPORARY_DIRECTORY}/*/usr/share/doc/*/CHANGELOG.md)
+foreach(file IN LISTS files)
+    execute_process(COMMAND gzip -9 -n ${file} COMMAND_ERROR_IS_FATAL ANY)
+endforeach()
+
+list(FILTER programs INCLUDE REGEX "\\.so\\.")
+list(TRANSFORM programs PREPEND -e)
+if(programs)
+    execute_process(COMMAND dpkg-gensymbols -q -c0 -ptorvane-settings ${programs} -v${CPACK_PACKAGE_VERSION}
+                            -I${CPACK_ZEL_SYMBOLS_TEMPLATE} -O${CPACK_ZEL_SYMBOLS} COMMAND_ERROR_IS_FATAL ANY)
+endif()
+
+# The editor starts only with the platform plug-in, from a package that the dependencies of its libraries bring with them.
+file(GLOB platforms ${CPACK_TEMPORARY_DIRECTORY}/*/usr/lib/torvane-settings/bin/platforms)
+if(platforms)
+    file(READ_SYMLINK ${platforms} target)
+    get_filename_component(target /usr/lib/torvane-settings/bin/${target}/libqxcb.so ABSOLUTE)
+    execute_process(COMMAND dpkg-query --search ${target} OUTPUT_VARIABLE owner ERROR_QUIET)
+endif()
+if(NOT owner MATCHES "libqt5gui5")
+    message(FATAL_ERROR "The package would have no platform plug-in: \"${target}\" is not a file of libqt5gui5")
+endif()

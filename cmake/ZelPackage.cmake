@@ -1,49 +1,72 @@
 # The Debian packages that `cpack` makes: torvane-settings, with the runnable tree in a folder of its own and what a desktop
-# needs to start it, and libzelcontrolcenter-dev, for those who build on the library.
+# needs to start it, and libzelcontrolcenter-dev, for those who build on the library. What they are called and what they
+# need is in debian/, from which dpkg-buildpackage makes the same two.
 
 if(NOT ZEL_QT EQUAL 5)
     message(STATUS "Debian packages: left out, they depend on Qt 5")
     return()
 endif()
 
+set(zel_debian ${PROJECT_SOURCE_DIR}/debian)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${zel_debian}/control ${zel_debian}/changelog)
 set(ZEL_PACKAGE_PREFIX /usr/lib/torvane-settings)
-set(ZEL_RELEASE_DATE 2024-01-31)
-set(ZEL_RELEASE_DATE_RFC "Wed, 31 Jan 2024 12:00:00 +0000")
+file(READ ${zel_debian}/changelog text)
+if(NOT text MATCHES "^torvane-settings \\(${PROJECT_VERSION}\\)")
+    message(FATAL_ERROR "debian/changelog does not begin with version ${PROJECT_VERSION}")
+endif()
+string(REGEX MATCH "\n -- [^\n]*>  ([^\n]*)" ZEL_RELEASE_DATE "${text}")
+execute_process(COMMAND date --utc --iso-8601 --date ${CMAKE_MATCH_1} OUTPUT_VARIABLE ZEL_RELEASE_DATE
+                OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME torvane-settings)
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_VENDOR Torvane)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # Each package has its own.
+set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
 set(CPACK_PACKAGE_CONTACT "Torvane <support@torvane.invalid>")
 set(CPACK_PACKAGING_INSTALL_PREFIX ${ZEL_PACKAGE_PREFIX})
-set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE
-                                                WORLD_READ WORLD_EXECUTE)
-set(CPACK_STRIP_FILES ON)
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/ZelDebianFiles.cmake)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_ALL runtime desktop development debian_development)
 set(CPACK_COMPONENTS_GROUPING ONE_PER_GROUP)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${ZEL_STAGE}/lib)
 
-set(CPACK_DEBIAN_EDITOR_PACKAGE_NAME torvane-settings)
-set(CPACK_DEBIAN_EDITOR_PACKAGE_SECTION graphics)
+# zel_describe_package(<group> <package>): as debian/control does.
+function(zel_describe_package group package)
+    file(READ ${zel_debian}/control text)
+    string(REGEX REPLACE ".*\nPackage: ${package}\n" "\n" text "${text}")
+    string(REGEX REPLACE "\n\n.*" "\n" text "${text}")
+    string(REPLACE "\${binary:Version}" ${PROJECT_VERSION} text "${text}")
+    string(REGEX REPLACE ", \\\${[a-z]+:[A-Za-z]+}" "" text "${text}")
+    foreach(field Section Depends Recommends)
+        if(text MATCHES "\n${field}: ([^\n]*)")
+            string(TOUPPER CPACK_DEBIAN_${group}_PACKAGE_${field} variable)
+            set(${variable} "${CMAKE_MATCH_1}" PARENT_SCOPE)
+        endif()
+    endforeach()
+    string(REGEX MATCH "\nDescription: (.*)\n" text "${text}")
+    string(REPLACE "\n " "\n" text "${CMAKE_MATCH_1}")
+    set(CPACK_DEBIAN_${group}_DESCRIPTION "${text}" PARENT_SCOPE)
+    set(CPACK_DEBIAN_${group}_PACKAGE_NAME ${package} PARENT_SCOPE)
+endfunction()
+zel_describe_package(EDITOR torvane-settings)
+zel_describe_package(DEVELOPMENT_GROUP libzelcontrolcenter-dev)
 set(CPACK_DEBIAN_EDITOR_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_EDITOR_PACKAGE_DEPENDS "fonts-open-sans, qttranslations5-l10n")
-set(CPACK_DEBIAN_EDITOR_PACKAGE_RECOMMENDS fonts-noto-cjk)
-set(CPACK_COMPONENT_EDITOR_DESCRIPTION "The editor changes what the viewer reads when it starts: how it draws,
-where it keeps its cache and its pictures, and how it simplifies and imports
-models. Brings a checker for the command line, which also repairs damaged
-settings.")
 
-set(CPACK_DEBIAN_DEVELOPMENT_GROUP_PACKAGE_NAME libzelcontrolcenter-dev)
-set(CPACK_DEBIAN_DEVELOPMENT_GROUP_PACKAGE_SECTION libdevel)
-set(CPACK_DEBIAN_DEVELOPMENT_GROUP_PACKAGE_DEPENDS
-    "torvane-settings (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}), qtbase5-dev")
-set(CPACK_COMPONENT_DEVELOPMENT_GROUP_DESCRIPTION "Headers and CMake package of the library that a viewer embeds to show the
-settings of Torvane at its side, together with pages of its own. With a guide
-and two examples.")
+# From these, dpkg-shlibdeps tells which version of the editor a package needs that links the libraries. The next minor
+# version does not have them.
+math(EXPR next_minor "${PROJECT_VERSION_MINOR} + 1")
+set(soversion ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+file(WRITE ${PROJECT_BINARY_DIR}/debian/shlibs "")
+foreach(library IN LISTS ZEL_LIBRARIES)
+    file(APPEND ${PROJECT_BINARY_DIR}/debian/shlibs "lib${library} ${soversion} torvane-settings (>= ${PROJECT_VERSION}),"
+         " torvane-settings (<< ${PROJECT_VERSION_MAJOR}.${next_minor}~)\n")
+endforeach()
+set(CPACK_ZEL_SYMBOLS ${PROJECT_BINARY_DIR}/debian/symbols)
+set(CPACK_ZEL_SYMBOLS_TEMPLATE ${zel_debian}/torvane-settings.symbols)
+set(CPACK_DEBIAN_EDITOR_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/debian/shlibs ${CPACK_ZEL_SYMBOLS})
 
 # zel_debian_file(<component> <file> <folder> <name>): one that `install` does not make elsewhere.
 function(zel_debian_file component file folder name)
@@ -51,18 +74,35 @@ function(zel_debian_file component file folder name)
 endfunction()
 
 # What both have.
-foreach(pair IN ITEMS desktop:torvane-settings debian_development:libzelcontrolcenter-dev)
-    string(REPLACE ":" ";" pair ${pair})
+foreach(pair IN ITEMS desktop=torvane-settings debian_development=libzelcontrolcenter-dev)
+    string(REPLACE "=" ";" pair ${pair})
     list(GET pair 0 component)
-    list(GET pair 1 PACKAGE)
-    set(folder /usr/share/doc/${PACKAGE})
-    configure_file(resources/debian/changelog.in ${PROJECT_BINARY_DIR}/debian/${PACKAGE}.changelog @ONLY)
-    zel_debian_file(${component} ${PROJECT_BINARY_DIR}/debian/${PACKAGE}.changelog ${folder} changelog.Debian)
-    zel_debian_file(${component} ${PROJECT_SOURCE_DIR}/CHANGELOG.md ${folder} changelog)
-    zel_debian_file(${component} ${PROJECT_SOURCE_DIR}/resources/debian/copyright ${folder} copyright)
+    list(GET pair 1 package)
+    set(folder /usr/share/doc/${package})
+    zel_debian_file(${component} ${zel_debian}/changelog ${folder} changelog)
+    zel_debian_file(${component} ${zel_debian}/copyright ${folder} copyright)
+    zel_debian_file(${component} ${PROJECT_SOURCE_DIR}/CHANGELOG.md ${folder} CHANGELOG.md)
     zel_debian_file(${component} ${PROJECT_SOURCE_DIR}/docs/third-party.md ${folder} third-party.md)
-    zel_debian_file(${component} ${PROJECT_SOURCE_DIR}/resources/debian/${PACKAGE}.lintian-overrides
-                    /usr/share/lintian/overrides ${PACKAGE})
+    zel_debian_file(${component} ${zel_debian}/${package}.lintian-overrides /usr/share/lintian/overrides ${package})
+endforeach()
+
+zel_debian_file(desktop ${PROJECT_SOURCE_DIR}/docs/administrators.md /usr/share/doc/torvane-settings administrators.md)
+
+# The plug-ins and the texts of Qt are where its packages put them. A folder of plug-ins may appear later, with a package
+# that the user installs.
+foreach(folder IN LISTS ZEL_PLUGIN_FOLDERS)
+    list(APPEND ZEL_QT_LINKS bin/${folder}=${ZEL_QT_PLUGINS}/${folder})
+endforeach()
+foreach(pair IN LISTS ZEL_QT_LINKS)
+    string(REPLACE "=" ";" pair ${pair})
+    list(GET pair 0 link)
+    list(GET pair 1 target)
+    get_filename_component(name ${link} NAME)
+    get_filename_component(folder ${ZEL_PACKAGE_PREFIX}/${link} DIRECTORY)
+    file(RELATIVE_PATH target ${folder} ${target})
+    file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/debian/links)
+    file(CREATE_LINK ${target} ${PROJECT_BINARY_DIR}/debian/links/${name} SYMBOLIC)
+    zel_debian_file(desktop ${PROJECT_BINARY_DIR}/debian/links/${name} ${folder} ${name})
 endforeach()
 
 # The editor on a desktop.
@@ -93,7 +133,16 @@ foreach(file IN ITEMS ZelControlCenterConfig.cmake ZelControlCenterConfigVersion
          "include(\${CMAKE_CURRENT_LIST_DIR}/../../torvane-settings/lib/cmake/ZelControlCenter/${file})\n")
     zel_debian_file(debian_development ${PROJECT_BINARY_DIR}/debian/cmake/${file} /usr/lib/cmake/ZelControlCenter ${file})
 endforeach()
+zel_write_pkgconfig(debian/zelcontrolcenter.pc ${ZEL_PACKAGE_PREFIX})
+zel_debian_file(debian_development ${PROJECT_BINARY_DIR}/debian/zelcontrolcenter.pc
+                /usr/lib/${CMAKE_LIBRARY_ARCHITECTURE}/pkgconfig zelcontrolcenter.pc)
 zel_install_guide(/usr/share/doc/libzelcontrolcenter-dev COMPONENT debian_development EXCLUDE_FROM_ALL)
+
+# `package_source` takes neither what is built nor the history.
+string(REGEX REPLACE "([][+.*?^$()])" "\\\\\\1" source_dir ${PROJECT_SOURCE_DIR})
+set(CPACK_SOURCE_GENERATOR TXZ)
+set(CPACK_SOURCE_PACKAGE_FILE_NAME torvane-settings-${PROJECT_VERSION})
+set(CPACK_SOURCE_IGNORE_FILES "^${source_dir}/(build|install|obj-[^/]*|\\.git)(/|$)" "^${PROJECT_BINARY_DIR}/")
 
 include(CPack)
 cpack_add_component_group(editor)

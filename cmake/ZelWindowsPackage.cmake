@@ -12,7 +12,8 @@ set(CPACK_STRIP_FILES ON)
 
 # Only what a user needs: headers and the CMake package stay with the developers.
 set(CPACK_MONOLITHIC_INSTALL ON)
-set(CPACK_INSTALL_CMAKE_PROJECTS "${PROJECT_BINARY_DIR};${PROJECT_NAME};runtime;/")
+set(CPACK_INSTALL_CMAKE_PROJECTS "${PROJECT_BINARY_DIR};${PROJECT_NAME};runtime;/"
+                                 "${PROJECT_BINARY_DIR};${PROJECT_NAME};qt;/")
 
 # They contain Qt and the compiler's libraries, so the licences of these go with them.
 install(FILES ${PROJECT_SOURCE_DIR}/docs/third-party.md DESTINATION licences)

@@ -21,7 +21,7 @@ namespace zel {
 enum ZelSettingEffect { EffectAtOnce, EffectWithNextImport, EffectAfterRestart };
 
 /// The help on one setting of a page, in the language of the interface. Every function is set.
-struct ZelSettingHelp
+struct ZEL_EXPORT ZelSettingHelp
 {
     QList<QWidget*> fields;                   ///< The widgets that edit it.
     QString name;                             ///< As the page names it.

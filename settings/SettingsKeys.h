@@ -31,11 +31,13 @@ const char* const SimplificationRatios = "Simplification/Ratios";
 const char* const MaxFaceAngle = "Tesselation/TesselationMaxFaceAngle";   ///< Between two facets, in degrees.
 const char* const MaxFaceLength = "Tesselation/TesselationMaxFaceLength"; ///< Of a facet.
 const char* const MaxFaceSag = "Tesselation/TesselationMaxFaceSag";       ///< From the surface.
-// Whether each limit, and the quality, is used.
+/// @{
+/// Whether each limit, and the quality, is used.
 const char* const MaxFaceAngleSet = "Tesselation/TesselationMaxFaceAngleSet";
 const char* const MaxFaceLengthSet = "Tesselation/TesselationMaxFaceLengthSet";
 const char* const MaxFaceSagSet = "Tesselation/TesselationMaxFaceSagSet";
 const char* const TessellationQualitySet = "Tesselation/TesselationQualitySet";
+/// @}
 /// The quality: "true" for high, "false" for low.
 const char* const TessellationHighQuality = "Tesselation/TesselationIsHighQuality";
 

@@ -4,6 +4,7 @@
 #include "SettingsMigration.h"
 #include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
+#include "ZelPageDefaults.h"
 #include "ZelRendererSelector.h"
 #include "ZelSettingsApplication.h"
 #include "ZelSettingsFile.h"
@@ -214,6 +215,14 @@ std::optional<int> runEditor(QtSingleApplication& singleApplication)
 }
 
 } // namespace
+
+void zelRegisterPageDefaults()
+{
+    useUtf8FileNames();
+    QSettings defaults("resources/Defaults.ini", QSettings::IniFormat);
+    ZelSettingsFile::UseFileEncoding(defaults);
+    ZelPageDefaults::Register(defaults);
+}
 
 int launch(int argc, char** argv)
 {

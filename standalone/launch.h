@@ -3,8 +3,22 @@
 
 #include "base/ZelExport.h"
 
+/* Also for hosts in C. */
+#if defined(__cplusplus)
+extern "C" {
+#endif
+
+/// Registers the keys of the settings pages with the defaults of the installed file "resources/Defaults.ini".
+/// Call it before launch(), in the same working directory, unless the host registers these keys with defaults
+/// of its own.
+ZEL_EXPORT void zelRegisterPageDefaults(void);
+
 /// Runs the stand-alone settings editor with the command line of the host. The working directory must be the
 /// root of the installed tree. Call it once in a process, without an application object: it creates its own.
+///
+/// The library's own keys are registered by launch(). Before it, the host registers those of the settings
+/// pages, by zelRegisterPageDefaults() or one by one: without them Reset has no defaults for the pages, and
+/// their values are not validated. The registry is empty when launch() returns.
 ///
 /// Returns the exit code of the process:
 /// - 0 when another instance runs, when the user cancels the choice of the renderer, or when the settings
@@ -13,6 +27,10 @@
 /// - 3 when the process already has an application object, or has called launch() before: it then prints the
 ///   reason with qWarning() and does nothing else;
 /// - otherwise the result of the event loop.
-extern "C" ZEL_EXPORT int launch(int argc, char** argv);
+ZEL_EXPORT int launch(int argc, char** argv);
+
+#if defined(__cplusplus)
+}
+#endif
 
 #endif

@@ -21,13 +21,18 @@ cleanup() {
 }
 trap cleanup EXIT
 
-(cd "$1" && cpack -G DEB -B "$work") >/dev/null
+(cd "$1" && umask 027 && cpack -G DEB -B "$work") >/dev/null
 lintian --allow-root --fail-on error,warning --tag-display-limit 0 "$work"/*.deb || fail "lintian objects"
 dpkg --install --force-depends "$work"/*.deb >/dev/null
 
-# What a link leads to is there without recommended packages.
+tree=/usr/lib/torvane-settings
+[ -z "$(find $tree ! -perm -o=r)" ] || fail "only root can read $(find $tree ! -perm -o=r)"
+[ -e $tree/bin/platforms/libqxcb.so ] || fail "there is no platform plug-in"
+
+# What a link leads to is there without recommended packages; but folders of plug-ins may come with others.
 depends=$(dpkg-query -W -f='${Depends}' torvane-settings)
 while read -r link; do
+    [[ $link != $tree/bin/* ]] || continue
     owner=$(dpkg-query --search "$(readlink -f "$link")") || fail "$link leads to nothing"
     owner=${owner%%:*}
     [[ $owner == torvane-settings || $depends == *"$owner"* ]] || fail "$link leads to $owner, which need not be there"
@@ -42,6 +47,12 @@ grep -q 'needs repair' "$work/report" || fail "the checker does not run: $(cat "
 
 cmake -S /usr/share/doc/libzelcontrolcenter-dev/examples/minimal -B "$work/minimal" >"$work/output" &&
     cmake --build "$work/minimal" >>"$work/output" 2>&1 || fail "the example does not build: $(cat "$work/output")"
+
+# A package of it gets its dependency.
+mkdir "$work/debian"
+printf 'Source: host\n\nPackage: host\nArchitecture: any\n' >"$work/debian/control"
+(cd "$work" && dpkg-shlibdeps -O minimal/torvane-minimal) >"$work/output" 2>&1 || fail "$(cat "$work/output")"
+grep -q 'torvane-settings (>= 1.1.*torvane-settings (<< 1.2~)' "$work/output" || fail "no dependency: $(cat "$work/output")"
 
 entry=/usr/share/applications/torvane-settings.desktop
 read -r -a command < <(sed -n 's/^Exec=//p' $entry)

@@ -49,7 +49,7 @@ endforeach()
 set(strict "-Werror -Wall -Wextra -Wpedantic -Wshadow -Wconversion -DQT_NO_CAST_FROM_ASCII -DQT_NO_CAST_TO_ASCII \
 -DQT_NO_KEYWORDS -DQT_STRICT_ITERATORS -DQT_NO_URL_CAST_FROM_STRING")
 file(GLOB_RECURSE headers RELATIVE ${SCRATCH}/moved/include ${SCRATCH}/moved/include/*.h)
-set(sources ${SOURCE}/examples/minimal/main.cpp)
+set(sources "\"${SOURCE}/examples/minimal/main.cpp\"")
 foreach(header IN LISTS headers)
     string(MAKE_C_IDENTIFIER ${header} name)
     file(WRITE ${SCRATCH}/strict/${name}.cpp "#include <${header}>\n")
@@ -57,13 +57,36 @@ foreach(header IN LISTS headers)
 endforeach()
 list(JOIN sources " " sources)
 file(WRITE ${SCRATCH}/strict/CMakeLists.txt
-     "cmake_minimum_required(VERSION 3.20)\nproject(Strict LANGUAGES CXX)\nset(CMAKE_CXX_STANDARD 17)\n"
+     "cmake_minimum_required(VERSION 3.20)\nproject(Strict LANGUAGES CXX)\n"
      "set(CMAKE_AUTOMOC ON)\nfind_package(Qt5 REQUIRED COMPONENTS Widgets)\nadd_library(strict OBJECT ${sources})\n"
-     "target_include_directories(strict PRIVATE ${SCRATCH}/moved/include)\n"
+     "target_include_directories(strict PRIVATE \"${SCRATCH}/moved/include\")\n"
      "target_link_libraries(strict PRIVATE Qt5::Widgets)\n")
-foreach(compiler IN ITEMS g++ clang++)
-    build(strict ${compiler} -DCMAKE_CXX_COMPILER=${compiler} -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS=${strict})
-endforeach()
+build(strict g++ -DCMAKE_CXX_COMPILER=g++ -DCMAKE_CXX_STANDARD=17 -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS=${strict})
+build(strict clang++ -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_CXX_STANDARD=17 -DCMAKE_BUILD_TYPE=Debug
+      -DCMAKE_CXX_FLAGS=${strict})
+
+# A program in C, built by pkg-config, links every public function that is not inline.
+set(ENV{PKG_CONFIG_PATH} ${SCRATCH}/moved/lib/pkgconfig)
+run("pkg-config" pkg-config --cflags --libs zelcontrolcenter)
+separate_arguments(flags UNIX_COMMAND "${output}")
+set(compile_flags ${flags})
+list(FILTER compile_flags INCLUDE REGEX "^-[ID]")
+run("Listing the public functions" /usr/bin/python3 ${SOURCE}/tests/package/interface.py ${SCRATCH}/moved/include
+    ${compile_flags})
+file(WRITE ${SCRATCH}/interface.c "${output}")
+run("Linking the public functions" gcc -fPIC -Werror -Wall -Wextra -std=c99 ${SCRATCH}/interface.c -o ${SCRATCH}/interface
+    ${flags} ${LIBRARY_FLAGS})
+run("The public functions" ${SCRATCH}/interface)
+
+# A project that the sources are a part of.
+file(WRITE ${SCRATCH}/part/CMakeLists.txt
+     "cmake_minimum_required(VERSION 3.20)\nproject(Part LANGUAGES CXX)\nset(CMAKE_AUTOMOC ON)\ninclude(FetchContent)\n"
+     "find_package(Qt5 REQUIRED COMPONENTS Widgets)\nFetchContent_Declare(center SOURCE_DIR \"${SOURCE}\")\n"
+     "FetchContent_MakeAvailable(center)\nadd_library(part OBJECT \"${SOURCE}/examples/minimal/main.cpp\")\n"
+     "target_link_libraries(part PRIVATE Zel::ControlCenter)\n"
+     "file(READ \${ZelControlCenter_DEFAULTS} defaults)\n")
+run("Configuring a part" ${CMAKE_COMMAND} -S ${SCRATCH}/part -B ${SCRATCH}/part-build ${OPTIONS})
+run("Building against a part" ${CMAKE_COMMAND} --build ${SCRATCH}/part-build --target part)
 
 # A component that does not exist is called by its name, and the version is one of those that the library keeps to.
 function(expect_find request expected)
