@@ -7,7 +7,6 @@
 #include <QList>
 
 #include <chrono>
-#include <cstdint>
 #include <cstdlib>
 #include <thread>
 
@@ -28,7 +27,7 @@ namespace zel {
 namespace {
 
 const int Pause = 10; // ms
-const qintptr None = -1;
+const std::intptr_t None = -1;
 
 } // namespace
 
@@ -94,7 +93,7 @@ FileLock::State FileLock::tryOnce()
     const QByteArray text = QByteArray::number(static_cast<uint>(GetCurrentProcessId())) + '\n';
     DWORD written = 0;
     WriteFile(file, text.constData(), static_cast<DWORD>(text.size()), &written, nullptr);
-    m_handle = reinterpret_cast<qintptr>(file);
+    m_handle = reinterpret_cast<std::intptr_t>(file);
     return Free;
 }
 
@@ -141,7 +140,7 @@ bool claim(int file)
 
 /// Creates a lock file that holds its text as soon as it has its name: an empty one, which a killed process
 /// would leave, counts as valid for half a minute. None, with the system's error, when that is not possible.
-qintptr create(const QByteArray& path)
+std::intptr_t create(const QByteArray& path)
 {
     const QByteArray folder = path.left(path.lastIndexOf('/') + 1) + '.';
     int file = ::open(folder.constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, Permissions);

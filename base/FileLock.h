@@ -4,6 +4,8 @@
 #include <QString>
 #include <QtGlobal>
 
+#include <cstdint>
+
 namespace zel {
 
 /// A lock file by the rules of Qt 5's QLockFile, which QSettings takes while it writes: it names its process,
@@ -37,7 +39,7 @@ private:
     State tryOnce();
 
     const QString m_path;
-    qintptr m_handle;
+    std::intptr_t m_handle;
 };
 
 } // namespace zel

@@ -41,16 +41,16 @@ public:
     {
     }
 
-    /// Waits for others, and ends what a killed writer has begun. False, with the reason, when they do not
-    /// end.
-    bool take(QString& reason)
+    /// Waits for others, and ends a write that is not finished. False, with the reason, when that fails.
+    /// @param givesRights  see WorkingCopy::finish()
+    bool take(QString& reason, bool givesRights = false)
     {
         QDir().mkpath(QFileInfo(m_path).path());
         const FileLock::State state = m_lock.take(LockTimeout);
         if (state != FileLock::Free)
             reason = lockReason(m_path + ".lock", state == FileLock::Held);
         return state == FileLock::Free &&
-               (!WorkingCopy::isUnfinished(m_path) || WorkingCopy::finish(m_path, false, reason));
+               (!WorkingCopy::isUnfinished(m_path) || WorkingCopy::finish(m_path, givesRights, reason));
     }
 
     void release() { m_lock.release(); }
@@ -110,9 +110,7 @@ bool readWritten(QSettings& shared, Locked& lock, bool isCarried, QString& reaso
     ZelSettingsFile::UseFileEncoding(shared); // Reading the UTF-8 mark brings Qt's own codec back.
     if (!isCarried)
         return true;
-    const QString path = shared.fileName();
-    const bool isFinished =
-        lock.take(reason) && (!WorkingCopy::isUnfinished(path) || WorkingCopy::finish(path, true, reason));
+    const bool isFinished = lock.take(reason, true);
     lock.release();
     shared.sync();
     return isFinished;
@@ -128,15 +126,20 @@ bool dropObjects(const QString& path, QString& reason)
 }
 
 /// Makes a file one that QSettings can read. False, with the reason, when that is not possible.
-bool makeUsable(const QString& path, QString& reason)
+/// @param shared  reads the file again if it has changed for that
+bool makeUsable(const QString& path, QString& reason, QSettings* shared = nullptr)
 {
     QByteArray content;
-    if (WorkingCopy::isUnfinished(path)) {
-        Locked lock(path);
-        if (!lock.take(reason))
-            return false;
-    }
-    return readFile(path, content, reason) && (!holdsObjects(content) || dropObjects(path, reason));
+    if (WorkingCopy::isUnfinished(path) && !Locked(path).take(reason))
+        return false;
+    if (!readFile(path, content, reason))
+        return false;
+    if (!holdsObjects(content))
+        return true;
+    const bool isDropped = dropObjects(path, reason);
+    if (isDropped && shared)
+        shared->sync();
+    return isDropped;
 }
 
 } // namespace
@@ -187,7 +190,7 @@ bool ZelSettingsFile::Write(QSettings& settings, const Change& change, QString& 
     if (WorkingCopy::Changing)
         return refuseWriting(path, SettingsFileText::tr("it is being written already"), error);
     Locked lock(path);
-    if (!makeUsable(path, reason) || !lock.take(reason))
+    if (!makeUsable(path, reason, &settings) || !lock.take(reason))
         return refuseWriting(path, reason, error);
     const QVariantMap held = valuesOf(settings);
     bool isCarried = false;
@@ -224,7 +227,7 @@ bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
     const QString path = settings.fileName();
     QByteArray content;
     QString reason;
-    if (!makeUsable(path, reason) || !readFile(path, content, reason))
+    if (!makeUsable(path, reason, &settings) || !readFile(path, content, reason))
         return refuseReading(path, reason, error);
     settings.sync();
     UseFileEncoding(settings);

@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QMutex>
 #include <QMutexLocker>
 #include <QStringList>
@@ -145,7 +146,7 @@ void MTLogger::RemoveFileHandler()
 void MTLogger::Log(const std::string& type, const std::string& textUtf8)
 {
     const QString name = fromUtf8(type).trimmed();
-    const QString time = QDateTime::currentDateTime().toString("yyyy-MM-ddTHH:mm:ss.zzz");
+    const QString time = QLocale::c().toString(QDateTime::currentDateTime(), "yyyy-MM-dd'T'HH:mm:ss.zzz");
     const QString line = time + " [" + onOneLine(name) + "] " + onOneLine(fromUtf8(textUtf8)) + '\n';
     eventLog().log({name, line.toUtf8()});
 }
