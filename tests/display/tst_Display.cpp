@@ -30,9 +30,9 @@ struct Viewer : FakeApplication
     }
 };
 
-struct Display : ShownPage<Page>
+struct DisplayPage : ShownPage<Page>
 {
-    explicit Display(FakeApplication& viewer)
+    explicit DisplayPage(FakeApplication& viewer)
         : ShownPage(&viewer, viewer.getSettings())
     {
         // Enough for all rows, whatever this machine has.
@@ -76,7 +76,7 @@ private Q_SLOTS:
                 const QStringList row = (key + ' ' + value).split(' ');
                 Viewer viewer({{"engine", row[0]}});
                 const QString saved = writtenUntouched<Page>(viewer, {{row[1], row[2]}}, row[1]);
-                QVERIFY2(saved == row.value(3), qPrintable(row.join(' ') + ": " + saved));
+                QVERIFY2(saved == row.value(3), qPrintable(row.join(" ") + ": " + saved));
                 QCOMPARE(viewer.renderer.triangles.isEmpty(), saved.isEmpty());
             }
     }
@@ -99,7 +99,7 @@ private Q_SLOTS:
             "software software c2!,c1,c3!,q2!,c2!,q1,c1,q0!", "software software deferred!,raytracer"};
         for (const QString& row : rows) {
             Viewer viewer({{"engine", row.section(' ', 0, 0)}});
-            Display display(viewer);
+            DisplayPage display(viewer);
             store(viewer.getSettings(), {{"engine", row.section(' ', 1, 1)}});
             display.page.initializeWidget();
             for (const QString& step : row.section(' ', 2).split(',')) {
@@ -123,7 +123,7 @@ private Q_SLOTS:
             auto* renderingMode = new zelAction("renderingMode", "Rendering mode", &actions);
             renderingMode->setEnabled(!started);
             viewer.actionManager = &actions;
-            Display display(viewer);
+            DisplayPage display(viewer);
             display.find<QComboBox>("sceneUnitComboBox")->setCurrentIndex(0);
             for (const bool used : {true, false}) { // The unit counts only while SSAO is used.
                 display.find<QCheckBox>("deferredSSAOCheckBox")->setChecked(used);
@@ -148,7 +148,7 @@ private Q_SLOTS:
             {{"engine", "software"}, {"raytracer/quality", "Ultra"}, {"Resources/LODTrianglesCap", "50000"}});
         registerDefaults(defaults);
         Viewer viewer({{"raytracer/coreNumber", "0"}});
-        Display display(viewer);
+        DisplayPage display(viewer);
         QCOMPARE(display.text("coreUsedLabel"), QString("0 core"));
         QCOMPARE(display.reset(), 1);
         QVERIFY(!display.canClickReset() && !QApplication::focusWidget());
@@ -159,11 +159,11 @@ private Q_SLOTS:
         QCOMPARE(display.text("coreUsedLabel"), QString("1 core"));
         display.slide("coreUsedSlider", 1);
         QCOMPARE(display.text("coreUsedLabel"), QString("2 cores"));
-        const QImage image = display.find("qualitySlider")->grab().toImage();
+        const QImage image = pictureOf(display.find("qualitySlider"));
         QSet<int> marks; // Where there are any, at the height that the style leaves them.
         for (int x = 1; x < image.width() - 1; ++x)
             for (int y = image.height() - 6; y < image.height(); ++y)
-                if (image.pixelColor(x, y) == Qt::white)
+                if (image.pixel(x, y) == QColor(Qt::white).rgb())
                     marks << x;
         QCOMPARE(marks.size(), 4);
     }
@@ -177,7 +177,7 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(&selector));
         const std::pair<const char*, bool> clicks[] = {
             {"label_2", true}, {"raytracerButton", false}, {"label_2", false}, {"deferredButton", true}};
-        const QImage window = selector.grab().toImage();
+        const QImage window = pictureOf(&selector);
         for (const auto& [name, gpu] : clicks) {
             const bool before = selector.useGPURenderer();
             QTest::mousePress(child(name), Qt::LeftButton);
@@ -186,15 +186,15 @@ private Q_SLOTS:
             QCOMPARE(selector.useGPURenderer(), gpu);
             QCOMPARE(child(name)->hasFocus(), name != std::string("label_2"));
             child("okButton")->setFocus();
-            QVERIFY2(selector.grab().toImage() == window, "a choice is not to be highlighted");
+            QVERIFY2(pictureOf(&selector) == window, "a choice is not to be highlighted");
         }
         for (const char* name : {"raytracerButton", "deferredButton", "raytracerButton"}) {
             QWidget* engine = child(name);
             const bool before = selector.useGPURenderer();
-            const QImage look = engine->grab().toImage();
+            const QImage look = pictureOf(engine);
             for (int stop = 0; stop < 4 && !engine->hasFocus(); ++stop)
                 QTest::keyClick(selector.focusWidget(), Qt::Key_Tab);
-            QVERIFY2(engine->grab().toImage() != look, "the focus is to be seen");
+            QVERIFY2(pictureOf(engine) != look, "the focus is to be seen");
             QCOMPARE(selector.useGPURenderer(), before);
             QTest::keyClick(engine, Qt::Key_Space);
             QCOMPARE(selector.useGPURenderer(), !before);

@@ -1,6 +1,6 @@
+#include "QtTestCompat.h"
+
 #include <QUiLoader>
-#include <QtTest>
-#include <QtWidgets>
 
 class tst_Forms : public QObject
 {

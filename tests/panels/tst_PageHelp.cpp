@@ -9,6 +9,7 @@ using namespace zel;
 
 namespace {
 
+#if !defined(ZEL_LEAVE_OUT_everyControlIsAnnounced)
 /// The controls below a widget that assistive technology cannot announce well, a line each.
 QString poorlyAnnounced(QAccessibleInterface* tree, int& controls)
 {
@@ -31,6 +32,7 @@ QString poorlyAnnounced(QAccessibleInterface* tree, int& controls)
         poor += poorlyAnnounced(tree->child(i), controls);
     return poor;
 }
+#endif
 
 } // namespace
 
@@ -90,6 +92,7 @@ private Q_SLOTS:
         QCOMPARE(said("nameLabel"), QString("Screenshot folder"));
         QVERIFY(find("screenshotFolderButton")->toolTip().isEmpty());
 
+        QCoreApplication::processEvents();
         const QPoint drawer = m_window->findChild<ZelControlCenter*>()->settingsWidget()->pos();
         for (const int width : {1200, 800}) { // A field shows its tool tip where the area does not.
             m_window->resize(width, 600);
@@ -118,7 +121,7 @@ private Q_SLOTS:
                  find("applicationSettings")->findChildren<QAbstractButton*>())
                 if (button->accessibleDescription().contains("not applied"))
                     pages << button->text();
-            return pages.join(' ');
+            return pages.join(" ");
         };
         QCOMPARE(marked(), QString());
         QCOMPARE(type("databaseSpinBox", "512"), QString("512 Mo"));
@@ -156,6 +159,7 @@ private Q_SLOTS:
         }
     }
 
+#if !defined(ZEL_LEAVE_OUT_everyControlIsAnnounced)
     void everyControlIsAnnounced()
     {
         int controls = 0;
@@ -179,6 +183,7 @@ private Q_SLOTS:
         low->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QVERIFY(low->state().checked && !selector.useGPURenderer());
     }
+#endif
 };
 
 QTEST_MAIN(tst_PageHelp)

@@ -1,4 +1,5 @@
 #include "../support/Files.h"
+#include "QtTestCompat.h"
 #include "SettingsKeys.h"
 #include "SettingsMigration.h"
 #include "UnfinishedWrite.h"
@@ -7,8 +8,6 @@
 #include "ZelSettingsValidators.h"
 
 #include "platform/MTLogger.h"
-
-#include <QtTest>
 
 #include <csignal>
 #include <fcntl.h>
@@ -66,7 +65,7 @@ bool succeeds(pid_t child)
 
 QString error; ///< Of the last operation that failed.
 
-bool write(QSettings& settings, const QVariantMap& values)
+bool write(QSettings& settings, const Table<QString, QVariant>& values)
 {
     const auto change = [&values](QSettings& changed, QString&) {
         for (const QString& key : values.keys())
@@ -76,7 +75,7 @@ bool write(QSettings& settings, const QVariantMap& values)
     return ZelSettingsFile::Write(settings, change, error);
 }
 
-bool change(const QString& path, const QVariantMap& values)
+bool change(const QString& path, const Table<QString, QVariant>& values)
 {
     const auto settings = ZelSettingsFile::Open(path);
     return write(*settings, values);

@@ -135,6 +135,7 @@ public:
     {
         window = &m_window;
         m_window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&m_window));
         for (const Field& field : Fields)
             m_stored[field.widget] = shownValue(find(field.widget));
         m_defaults = m_stored;
@@ -222,8 +223,10 @@ private:
         const bool radio = widget->inherits("QRadioButton"), last = below(2);
         QVariant value;
         if (widget->inherits("QAbstractButton")) {
-            const auto group =
-                widget->parent()->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
+            QList<QRadioButton*> group;
+            for (QObject* sibling : widget->parent()->children())
+                if (auto* button = qobject_cast<QRadioButton*>(sibling))
+                    group << button;
             QWidget* clicked = radio ? group[below(group.size())] : widget;
             click(clicked->objectName());
             value = radio ? clicked == widget : !before[field.widget].toBool();
@@ -233,6 +236,7 @@ private:
             else
                 value = field.key ? below(99990) / 1000. : 1. + below(100);
             if (before[field.widget] != value || !field.key) {
+                box->setFocus();
                 box->selectAll();
                 QTest::keyClicks(box, value.toString());
                 QTest::keyClick(box, Qt::Key_Return);
@@ -318,8 +322,8 @@ class tst_RandomWalk : public QObject
 private Q_SLOTS:
     void walk()
     {
-        const int seed = qEnvironmentVariableIntValue("WALK_SEED"), steps = 150, warmUp = 1;
-        const int rounds = qMax(8, qEnvironmentVariableIntValue("WALK_ROUNDS"));
+        const int seed = qgetenv("WALK_SEED").toInt(), steps = 150, warmUp = 1;
+        const int rounds = qMax(8, qgetenv("WALK_ROUNDS").toInt());
         qInfo("WALK_SEED=%d", seed);
         std::mt19937 random(static_cast<unsigned>(seed));
         FakeApplication application;

@@ -57,7 +57,7 @@ private:
     std::unique_ptr<QProcess> another(const QStringList& arguments) const
     {
         auto process = std::make_unique<QProcess>();
-        process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        process->setProcessChannelMode(ForwardedErrors);
         process->start(QCoreApplication::applicationFilePath(), arguments);
         return process;
     }
