@@ -82,22 +82,16 @@ inline void turnWheel(QWidget& window, const QPoint& place)
             QTest::qSkip(reason, QTest::SkipSingle, __FILE__, __LINE__);                                     \
             return;                                                                                          \
         } while (false)
-#    define QTRY_VERIFY_WITH_TIMEOUT(condition, timeout)                                                     \
+#    define ZEL_TRY(condition, timeout, check)                                                               \
         do {                                                                                                 \
             QElapsedTimer tried;                                                                             \
-            tried.start();                                                                                   \
-            while (!(condition) && tried.elapsed() < (timeout))                                              \
+            for (tried.start(); !(condition) && tried.elapsed() < (timeout);)                                \
                 QTest::qWait(10);                                                                            \
-            QVERIFY(condition);                                                                              \
+            check;                                                                                           \
         } while (false)
+#    define QTRY_VERIFY_WITH_TIMEOUT(condition, timeout) ZEL_TRY(condition, timeout, QVERIFY(condition))
 #    define QTRY_COMPARE_WITH_TIMEOUT(actual, expected, timeout)                                             \
-        do {                                                                                                 \
-            QElapsedTimer tried;                                                                             \
-            tried.start();                                                                                   \
-            while (!((actual) == (expected)) && tried.elapsed() < (timeout))                                 \
-                QTest::qWait(10);                                                                            \
-            QCOMPARE(actual, expected);                                                                      \
-        } while (false)
+        ZEL_TRY((actual) == (expected), timeout, QCOMPARE(actual, expected))
 #    define QTRY_VERIFY(condition) QTRY_VERIFY_WITH_TIMEOUT(condition, 5000)
 #    define QTRY_COMPARE(actual, expected) QTRY_COMPARE_WITH_TIMEOUT(actual, expected, 5000)
 #    define QTEST_GUILESS_MAIN(Test)                                                                         \
@@ -142,10 +136,12 @@ struct Table : QMap<Key, Value>
     Key lastKey() const { return this->keys().last(); }
 };
 
+#    if !defined(_WIN32)
 inline qint64 idOf(const QProcess& process)
 {
-    return static_cast<qint64>(process.pid());
+    return process.pid();
 }
+#    endif
 
 inline bool removeTree(const QString& folder)
 {
