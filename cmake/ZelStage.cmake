@@ -9,8 +9,9 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${ZEL_STAGE}/lib)
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../lib")
 
+# The first two are Qt 4's: with a screen reader and without its plug-in, Qt 4.8 crashes at the first list.
 # Without xcbglintegrations: nothing here draws with OpenGL, and finding its drivers takes as long as building all pages.
-set(ZEL_PLUGIN_FOLDERS iconengines imageformats platforminputcontexts platforms platformthemes styles
+set(ZEL_PLUGIN_FOLDERS accessible codecs iconengines imageformats platforminputcontexts platforms platformthemes styles
                        # Without these three, a Wayland session shows no window.
                        wayland-decoration-client wayland-graphics-integration-client wayland-shell-integration)
 if(WIN32)

@@ -4,23 +4,36 @@
 
 namespace {
 
+const int Utf8Mib = 106;
+
+/// Qt's own.
+const QTextCodec& utf8()
+{
+    return *QTextCodec::codecForMib(Utf8Mib);
+}
+
 class IniCodec : public QTextCodec
 {
 public:
-    QByteArray name() const override { return "UTF-8"; }
+    /// A name of its own, because Qt finds the codec by it for the whole process.
+    QByteArray name() const override { return "x-zel-settings-ini"; }
     int mibEnum() const override { return -1; } // Not registered.
 
 protected:
-    QString convertToUnicode(const char* text, int length, ConverterState*) const override
+    QString convertToUnicode(const char* text, int length, ConverterState* state) const override
     {
+        if (state)
+            return utf8().toUnicode(text, length, state);
         const QString decoded = QString::fromUtf8(text, length);
         // Qt drops a leading mark, but what is decoded here stands inside the file.
         const bool hasMark = length >= 3 && qstrncmp(text, zel::Utf8Mark, 3) == 0;
         return hasMark ? QChar(QChar::ByteOrderMark) + decoded : decoded;
     }
 
-    QByteArray convertFromUnicode(const QChar* text, int length, ConverterState*) const override
+    QByteArray convertFromUnicode(const QChar* text, int length, ConverterState* state) const override
     {
+        if (state)
+            return utf8().fromUnicode(text, length, state);
         QString whole(text, length);
         // A first half whose other half does not follow is dropped: this may already be another value.
         if (!m_firstHalf.isNull() && !whole.isEmpty() && whole.at(0).isLowSurrogate())
@@ -41,8 +54,6 @@ private:
 
 QTextCodec& zel::iniCodec()
 {
-    // Qt caches the codec that it finds for a name. Looked up now, "UTF-8" stays Qt's own.
-    QTextCodec::codecForName("UTF-8");
     static IniCodec codec;
     return codec;
 }

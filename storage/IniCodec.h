@@ -8,8 +8,8 @@ namespace zel {
 const char* const Utf8Mark = "\xEF\xBB\xBF"; ///< The byte order mark of UTF-8.
 
 /// UTF-8 as QSettings needs it. QSettings encodes a text one 16-bit unit at a time, and of a character that
-/// takes two (an emoji, a rarer Chinese character) Qt's own codec then writes nothing at all. GUI thread
-/// only.
+/// takes two (an emoji, a rarer Chinese character) Qt's own codec then writes nothing at all. With a
+/// converter's state, as for a stream, it is Qt's own codec. GUI thread only.
 QTextCodec& iniCodec();
 
 } // namespace zel

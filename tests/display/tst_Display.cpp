@@ -30,9 +30,9 @@ struct Viewer : FakeApplication
     }
 };
 
-struct Display : ShownPage<Page>
+struct DisplayPage : ShownPage<Page>
 {
-    explicit Display(FakeApplication& viewer)
+    explicit DisplayPage(FakeApplication& viewer)
         : ShownPage(&viewer, viewer.getSettings())
     {
         // Enough for all rows, whatever this machine has.
@@ -155,7 +155,7 @@ private Q_SLOTS:
             auto* renderingMode = new zelAction("renderingMode", "Rendering mode", &actions);
             renderingMode->setEnabled(!started);
             viewer.actionManager = &actions;
-            Display display(viewer);
+            DisplayPage display(viewer);
             display.find<QComboBox>("sceneUnitComboBox")->setCurrentIndex(0);
             for (const bool used : {true, false}) { // The unit counts only while SSAO is used.
                 display.find<QCheckBox>("deferredSSAOCheckBox")->setChecked(used);
@@ -180,7 +180,7 @@ private Q_SLOTS:
             {{"engine", "software"}, {"raytracer/quality", "Ultra"}, {"Resources/LODTrianglesCap", "50000"}});
         registerDefaults(defaults);
         Viewer viewer({{"raytracer/coreNumber", "0"}});
-        Display display(viewer);
+        DisplayPage display(viewer);
         QCOMPARE(display.text("coreUsedLabel"), QString("0 core"));
         QCOMPARE(display.reset(), 1);
         QVERIFY(!display.canClickReset() && !QApplication::focusWidget());
@@ -191,11 +191,11 @@ private Q_SLOTS:
         QCOMPARE(display.text("coreUsedLabel"), QString("1 core"));
         display.slide("coreUsedSlider", 1);
         QCOMPARE(display.text("coreUsedLabel"), QString("2 cores"));
-        const QImage image = display.find("qualitySlider")->grab().toImage();
+        const QImage image = pictureOf(display.find("qualitySlider"));
         QSet<int> marks; // Where there are any, at the height that the style leaves them.
         for (int x = 1; x < image.width() - 1; ++x)
             for (int y = image.height() - 6; y < image.height(); ++y)
-                if (image.pixelColor(x, y) == Qt::white)
+                if (image.pixel(x, y) == QColor(Qt::white).rgb())
                     marks << x;
         QCOMPARE(marks.size(), 4);
     }
@@ -209,7 +209,7 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(&selector));
         const std::pair<const char*, bool> clicks[] = {
             {"label_2", true}, {"raytracerButton", false}, {"label_2", false}, {"deferredButton", true}};
-        const QImage window = selector.grab().toImage();
+        const QImage window = pictureOf(&selector);
         for (const auto& [name, gpu] : clicks) {
             const bool before = selector.useGPURenderer();
             QTest::mousePress(child(name), Qt::LeftButton);
@@ -218,7 +218,7 @@ private Q_SLOTS:
             QCOMPARE(selector.useGPURenderer(), gpu);
             QCOMPARE(child(name)->hasFocus(), name != std::string("label_2"));
             child("okButton")->setFocus();
-            QVERIFY2(selector.grab().toImage() == window, "a choice is not to be highlighted");
+            QVERIFY2(pictureOf(&selector) == window, "a choice is not to be highlighted");
         }
         const std::pair<const char*, Qt::Key> keys[] = {{"raytracerButton", Qt::Key_Return},
                                                         {"deferredButton", Qt::Key_Space},
@@ -226,10 +226,10 @@ private Q_SLOTS:
         for (const auto& [name, key] : keys) {
             QWidget* engine = child(name);
             const bool before = selector.useGPURenderer();
-            const QImage look = engine->grab().toImage();
+            const QImage look = pictureOf(engine);
             for (int stop = 0; stop < 4 && !engine->hasFocus(); ++stop)
                 QTest::keyClick(selector.focusWidget(), Qt::Key_Tab);
-            QVERIFY2(engine->grab().toImage() != look, "the focus is to be seen");
+            QVERIFY2(pictureOf(engine) != look, "the focus is to be seen");
             QCOMPARE(selector.useGPURenderer(), before);
             QTest::keyClick(engine, key);
             QCOMPARE(selector.useGPURenderer(), !before);

@@ -1,8 +1,7 @@
 #ifndef ZEL_EDITOR_H
 #define ZEL_EDITOR_H
 
-#include <QtTest>
-#include <QtWidgets>
+#include "QtTestCompat.h"
 
 /// How long a test waits for what must happen, in milliseconds; for a machine that is busy with a build.
 const int Patience = 20000;
@@ -24,7 +23,7 @@ public:
     bool start()
     {
         for (QProcess* process : {&m_windowManager, &m_server})
-            process->setStandardErrorFile(QProcess::nullDevice());
+            process->setStandardErrorFile("/dev/null");
         // A server that resets itself when its only client has left throws out the one that is just coming.
         const QString server = "-screen 0 1000x800x24 -dpi 96 -displayfd 1 -noreset -nolisten tcp";
         m_server.start("Xvfb", server.split(' '));
@@ -56,7 +55,7 @@ public:
         const auto rests = [&] {
             const QImage before = now;
             QTest::qWait(stillTime);
-            now = QGuiApplication::primaryScreen()->grabWindow(window.toUInt()).toImage();
+            now = pictureOf(window.toUInt());
             return now == before;
         };
         return QTest::qWaitFor(rests, Patience) ? now : QImage();
@@ -81,13 +80,13 @@ public:
                                    "XDG_RUNTIME_DIR=" + home + "/runtime"};
         for (const char* variable :
              {"PATH", "DISPLAY", "LSAN_OPTIONS", "QT_XCB_GL_INTEGRATION", "DBUS_SESSION_BUS_ADDRESS"})
-            environment << variable + ('=' + qEnvironmentVariable(variable));
+            environment << variable + ('=' + QString::fromLocal8Bit(qgetenv(variable)));
         QDir().mkpath(home + "/runtime");
         // The single instance takes no folder that others can enter.
         QFile::setPermissions(home + "/runtime", QFile::ReadUser | QFile::WriteUser | QFile::ExeUser);
         m_process.setEnvironment(environment);
-        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.setStandardInputFile(QProcess::nullDevice());
+        m_process.setProcessChannelMode(ForwardedErrors);
+        m_process.setStandardInputFile("/dev/null");
     }
 
     /// @param redirection  what a shell is to do with the standard streams
@@ -113,8 +112,7 @@ public:
     /// Waits for a window whose title matches to have the keyboard; it is the one that what follows is about.
     bool shows(const QString& title)
     {
-        const QString visible =
-            QString("search --all --onlyvisible --pid %1 --name").arg(m_process.processId());
+        const QString visible = QString("search --all --onlyvisible --pid %1 --name").arg(idOf(m_process));
         const QStringList search = visible.split(' ') << '^' + title + '$';
         const auto appears = [&] {
             m_window = Desktop::ask("xdotool", {"getactivewindow"});

@@ -40,7 +40,7 @@ const QByteArray Binary = QByteArray("\0\xFF[\xFE]\n=\x01\0=[[%\\x\n\"", 18).rep
 const char* const FrenchSelector = "Torvane - Veuillez choisir .*";
 const char* const FrenchWindow = "Torvane - Centre de contr.*le";
 
-using Texts = QMap<QString, QString>;
+using Texts = Table<QString, QString>;
 
 const struct Start
 {
@@ -55,7 +55,12 @@ const struct Start
     {"Low", "", Selector, ChooseLowAndOk, Window, {{"engine", "software"}}},
     {"Escape", "", Selector, ChooseLowAndCancel, Selector, {}},
     {"close button", "", Selector, CloseSelector, Selector, {}},
-    {"version 1", Version1, "", "", Window, {{"language", "xx"}, {"Own/thing", "\303\274"}}},
+    {"version 1",
+     Version1,
+     "",
+     "",
+     Window,
+     {{"language", "xx"}, {"Own/thing", QString::fromUtf8("\303\274")}}},
     {"no version", NoVersion, FrenchSelector, "key Return", FrenchWindow, {{"language", "fr"}}},
     {"newer version", Newer, "", "", Window, {{"engine", "software"}, {"DBCache/cacheSize", "77"}}},
     {"unknown language", "[General]\nlanguage=xx\n", Selector, "key Return", Window, {{"language", "en"}}},
@@ -78,7 +83,8 @@ private Q_SLOTS:
     void init()
     {
         m_temporary = std::make_unique<QTemporaryDir>();
-        m_home = m_temporary->path() + "/Gr\303\274\303\237e, \350\250\255\345\256\232 & \360\237\231\202";
+        m_home = m_temporary->path() +
+                 QString::fromUtf8("/Gr\303\274\303\237e, \350\250\255\345\256\232 & \360\237\231\202");
     }
 
     void starts()

@@ -1,4 +1,4 @@
-#include <QtTest>
+#include "QtTestCompat.h"
 
 #include <dlfcn.h>
 
@@ -18,7 +18,7 @@ private Q_SLOTS:
             QVERIFY2(plugin.load(), qPrintable(plugin.errorString()));
             void* const used = dlopen(CONTROL_CENTER, RTLD_LAZY | RTLD_NOLOAD);
             QVERIFY(used && dlclose(used) == 0);
-            plugin.resolve("useControlCenter")();
+            reinterpret_cast<void (*)()>(plugin.resolve("useControlCenter"))();
             if (QTest::currentTestFailed())
                 return;
             QVERIFY2(plugin.unload(), qPrintable(plugin.errorString()));

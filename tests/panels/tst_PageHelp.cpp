@@ -11,6 +11,7 @@ using namespace zel;
 
 namespace {
 
+#if !defined(ZEL_LEAVE_OUT_everyControlIsAnnounced)
 /// The controls below a widget that assistive technology cannot announce well, a line each.
 QString poorlyAnnounced(QAccessibleInterface* tree, int& controls)
 {
@@ -33,6 +34,7 @@ QString poorlyAnnounced(QAccessibleInterface* tree, int& controls)
         poor += poorlyAnnounced(tree->child(i), controls);
     return poor;
 }
+#endif
 
 } // namespace
 
@@ -136,7 +138,7 @@ private Q_SLOTS:
                  find("applicationSettings")->findChildren<QAbstractButton*>())
                 if (button->accessibleDescription().contains("not applied"))
                     pages << button->text();
-            return pages.join(' ');
+            return pages.join(" ");
         };
         QCOMPARE(marked(), QString());
         QCOMPARE(type("databaseSpinBox", "512"), QString("512 Mo"));
@@ -234,6 +236,7 @@ private Q_SLOTS:
         }
     }
 
+#if !defined(ZEL_LEAVE_OUT_everyControlIsAnnounced)
     void everyControlIsAnnounced()
     {
         int controls = 0;
@@ -257,6 +260,7 @@ private Q_SLOTS:
         low->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QVERIFY(low->state().checked && !selector.useGPURenderer());
     }
+#endif
 };
 
 QTEST_MAIN(tst_PageHelp)

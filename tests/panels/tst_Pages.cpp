@@ -58,7 +58,7 @@ private:
     /// Answers the folder dialog of a button; an empty folder cancels it.
     static void choose(General& page, const char* button, const QString& folder)
     {
-        QTimer::singleShot(10, [folder] {
+        const Later answer(10, [folder] {
             QWidget* dialog = QApplication::activeModalWidget();
             dialog->findChild<QLineEdit*>("fileNameEdit")->setText(folder);
             QTest::keyClick(dialog, folder.isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
@@ -91,7 +91,7 @@ private Q_SLOTS:
         for (const auto& limit : Limits)
             defaults.insert({{limit.set, "false"}, {limit.key, "5"}});
         registerDefaults(defaults);
-        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // To find the fields in.
+        useOwnDialogs(); // To find the fields in.
         m_application.reset(new FakeApplication);
         store(settings(), defaults);
         store(settings(), {{keys::CacheDirectory, folder("cache")}, {keys::CacheSize, "500"}});
@@ -269,7 +269,7 @@ private Q_SLOTS:
             for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Return})
                 QTest::keyClick(components, key);
         QDesktopServices::unsetUrlHandler("https");
-        QCOMPARE(m_openedHosts.join(' '), QString("www.qt.io github.com fonts.google.com"));
+        QCOMPARE(m_openedHosts.join(" "), QString("www.qt.io github.com fonts.google.com"));
     }
 
     void defaultsAreWhatTheValidatorsAccept()

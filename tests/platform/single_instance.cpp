@@ -26,6 +26,20 @@ static bool becomeUser(uint user)
 #endif
 }
 
+static void tell(const QByteArray& line)
+{
+    puts(line.constData());
+    fflush(stdout);
+}
+
+class Listener : public QObject
+{
+    Q_OBJECT
+
+public Q_SLOTS:
+    void hear(const QString& message) { tell(message.toUtf8().toHex()); }
+};
+
 int main(int argc, char** argv)
 {
 #if defined(_WIN32)
@@ -35,20 +49,22 @@ int main(int argc, char** argv)
         return 2;
     QtSingleApplication application(argc, argv);
     QFile input;
-    QTextStream output(stdout);
-    output << "ready" << Qt::endl;
+    tell("ready");
     if (argc < 2 || !input.open(stdin, QIODevice::ReadOnly))
         return 2;
-    const QByteArray text = input.readAll();
+    const QByteArray bytes = input.readAll();
+    const QString text = QString::fromUtf8(bytes.constData(), bytes.size());
     if (application.isRunning()) {
-        output << "client" << Qt::endl;
+        tell("client");
         const bool sent = application.sendMessage(text, QByteArray(argv[1]).toInt());
-        output << (sent ? "sent" : "failed") << Qt::endl;
+        tell(sent ? "sent" : "failed");
         return sent ? 0 : 1;
     }
-    QObject::connect(&application, &QtSingleApplication::messageReceived,
-                     [&](const QString& message) { output << message.toUtf8().toHex() << Qt::endl; });
-    output << (application.sendMessage("", 1000) ? "client of itself" : "instance") << Qt::endl;
+    Listener listener;
+    QObject::connect(&application, SIGNAL(messageReceived(QString)), &listener, SLOT(hear(QString)));
+    tell(application.sendMessage("", 1000) ? "client of itself" : "instance");
     QTimer::singleShot(120000, &application, SLOT(quit())); // After a test that crashed.
     return application.exec();
 }
+
+#include "single_instance.moc"

@@ -20,12 +20,13 @@ private Q_SLOTS:
             const QString path = folder.filePath("log.txt");
             QFile::remove(path);
             MTLogger::Log("debug", ""); // Is kept until there is a file; the rules hold for it too.
-            MTLogger::InstallFileHandler(path.toStdString(), diagnostics, blackList);
+            MTLogger::InstallFileHandler(path.toUtf8().constData(), diagnostics, blackList);
             for (const char* type : {"info", "Load Time"})
                 MTLogger::Log(type, "");
             MTLogger::Log("error", "l\xc3\xb6st\r\ntwo\tC:\\new \x1b[31m\xe2\x80\xa8 cut:\xff");
             // The handler has the file open: events are written at once.
-            const QString events = QString(contentOf(path)).replace(QRegExp("(^|\n)\\S+ ?"), "").trimmed();
+            const QString events =
+                QString::fromUtf8(contentOf(path)).replace(QRegExp("(^|\n)\\S+ ?"), "").trimmed();
             const char error[] = "[error] l\xc3\xb6st\\r\\ntwo\tC:\\new \\u001b[31m\\u2028 cut:\xef\xbf\xbd";
             QCOMPARE(events, expected + QString::fromUtf8(error));
             MTLogger::RemoveFileHandler();

@@ -56,7 +56,7 @@ private Q_SLOTS:
         QVERIFY(!Registry::RegisterSetting("a", "second", &failing));
         QString error;
         QVERIFY(Registry::EnsureSettings(settings, error) && error.isEmpty());
-        QCOMPARE(calls.join(' '), QString("a:missing:missing b/known:default:old first:MISSING second"));
+        QCOMPARE(calls.join(" "), QString("a:missing:missing b/known:default:old first:MISSING second"));
         QCOMPARE(contentOf(settings.fileName()),
                  QByteArray("[General]\nVersion=2\na=MISSING\n\n[b]\nknown=OLD\n\n[foreign]\nkey=kept\n"));
 
@@ -67,7 +67,7 @@ private Q_SLOTS:
         calls.clear();
         Registry::RegisterSetting("b", "x", &failing);
         QVERIFY(!Registry::EnsureSettings(settings, error) && !settings.contains("b"));
-        QCOMPARE(error + ": " + calls.join(' '), QString("b failed: a:missing:MISSING"));
+        QCOMPARE(error + ": " + calls.join(" "), QString("b failed: a:missing:MISSING"));
     }
 };
 

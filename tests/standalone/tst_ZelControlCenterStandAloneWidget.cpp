@@ -35,7 +35,7 @@ private Q_SLOTS:
         QMap<int, QString> pages;
         for (const auto* page : m_window.findChildren<zel::ZelSettingsPanel*>())
             pages.insert(page->y(), page->getPanelName());
-        QCOMPARE(QStringList(pages.values()).join(' '),
+        QCOMPARE(QStringList(pages.values()).join(" "),
                  QString("Display Folders Simplification Tessellation About"));
     }
 
@@ -75,7 +75,7 @@ private Q_SLOTS:
         m_window.setMinimumSize(400, 250); // As on a screen that is too small.
         m_window.resize(400, 250);
         for (int i = 0; i < 100; ++i) {
-            QTest::keyClick(m_window.windowHandle(), Qt::Key_Tab);
+            QTest::keyClick(inputOf(&m_window), Qt::Key_Tab);
             const QWidget* focused = QApplication::focusWidget();
             QCoreApplication::processEvents();
             QVERIFY2(focused->visibleRegion().contains(focused->rect().center()),
@@ -100,16 +100,14 @@ private Q_SLOTS:
         auto* button = m_window.findChild<QPushButton*>("maximizeButton");
         button->setFocus();
         for (const char* tip : {"Restore", "Maximize"}) {
-            QTest::keyClick(m_window.windowHandle(), Qt::Key_Return);
+            QTest::keyClick(inputOf(&m_window), Qt::Key_Return);
             QTRY_COMPARE(button->toolTip() + button->accessibleName(), QString(tip) + tip);
         }
         QVERIFY(!m_window.isMaximized() && !m_window.windowIcon().isNull());
         QCOMPARE(QAccessible::queryAccessibleInterface(&m_window)->role(), QAccessible::Window);
         QString product; // Is read as one name, although one half of it is bold.
-        for (QLabel* label : m_window.findChild<QFrame*>("appFrame")->findChildren<QLabel*>()) {
-            const QAccessibleInterface* read = QAccessible::queryAccessibleInterface(label);
-            product += read->state().invisible ? QString() : read->text(QAccessible::Name);
-        }
+        for (QLabel* label : m_window.findChild<QFrame*>("appFrame")->findChildren<QLabel*>())
+            product += readOut(label);
         QCOMPARE(product, QString("Torvane"));
     }
 
@@ -119,7 +117,7 @@ private Q_SLOTS:
         auto* check = m_window.findChild<QCheckBox*>("deferredFXAACheckBox");
         const auto press = [this](Qt::Key key, Qt::KeyboardModifier modifier) {
             QApplication::setActiveWindow(&m_window); // After a box, too.
-            QTest::keyClick(m_window.windowHandle(), key, modifier);
+            QTest::keyClick(inputOf(&m_window), key, modifier);
         };
         check->setFocus();
         for (const bool alt : {false, true}) {
@@ -182,7 +180,7 @@ private Q_SLOTS:
         };
         for (const auto& [press, way, pointer, result] : rows) {
             m_window.setGeometry(start);
-            QTest::mouseMove(m_window.windowHandle(), press);
+            QTest::mouseMove(inputOf(&m_window), press);
             QCOMPARE(m_window.cursor().shape(), pointer);
             drag(press, way, start.topLeft() + press + way - result.topLeft());
             QCOMPARE(m_window.geometry(), result);
@@ -256,7 +254,7 @@ private Q_SLOTS:
 private:
     void drag(const QPoint& press, const QPoint& way, const QPoint& release)
     {
-        QWindow* window = m_window.windowHandle();
+        const auto window = inputOf(&m_window);
         QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, press);
         QTest::mouseMove(window, press + way);
         QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, release);
@@ -265,11 +263,7 @@ private:
     void turnWheelOver(const QWidget& field)
     {
         const QPoint place = field.mapTo(&m_window, field.rect().center());
-        QWheelEvent turn(place, m_window.mapToGlobal(place), QPoint(), QPoint(0, -120), Qt::NoButton,
-                         Qt::NoModifier, Qt::NoScrollPhase, false);
-        // Only a spontaneous event moves the focus, and is passed on to parents.
-        QSpontaneKeyEvent::setSpontaneous(&turn);
-        qApp->notify(m_window.windowHandle(), &turn); // To send it would mark it as one from inside.
+        turnWheel(m_window, place);
     }
 
     FakeApplication m_application;

@@ -1,7 +1,7 @@
+#include "QtTestCompat.h"
 #include "launch.h"
 
 #include <QtSingleApplication>
-#include <QtTest>
 
 namespace {
 
@@ -11,7 +11,7 @@ const int Refused = 3;
 /// Runs inside launch(), as soon as there is an application.
 void writeMessages()
 {
-    if (!qEnvironmentVariableIsSet(Role))
+    if (qgetenv(Role).isEmpty())
         return;
     for (const char* text : {"QGLShader", "QGLShader: cannot compile", "QGL", "qglshader", " QGLShader"})
         qWarning("%s", text);
@@ -35,7 +35,7 @@ private Q_SLOTS:
         const QString name = QString::fromUtf8("\303\274 \360\237\252\221");
         for (const QStringList& arguments :
              {QStringList(), QStringList({"a", "b"}), QStringList({"", "c?d", name})}) {
-            const QString message = (arguments + QStringList("")).join('?');
+            const QString message = (arguments + QStringList("")).join("?");
             QProcess second;
             second.setEnvironment(QProcess::systemEnvironment() << QString(Role) + "=second");
             second.setWorkingDirectory(QCoreApplication::applicationDirPath() + "/../stage");
@@ -63,7 +63,7 @@ private Q_SLOTS:
 
 int main(int argc, char** argv)
 {
-    if (qEnvironmentVariableIsSet(Role)) {
+    if (!qgetenv(Role).isEmpty()) {
         const int exitCode = launch(argc, argv);
         return exitCode ? exitCode : launch(argc, argv); // The second call is refused.
     }

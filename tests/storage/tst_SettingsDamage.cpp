@@ -1,6 +1,6 @@
+#include "IniCodec.h"
+#include "QtTestCompat.h"
 #include "SettingsDamage.h"
-
-#include <QtTest>
 
 class tst_SettingsDamage : public QObject
 {
@@ -35,6 +35,25 @@ private Q_SLOTS:
             {"other note", "# note\n", "line 1 cannot be read"}};
         for (const auto& [name, text, expected] : rows)
             QVERIFY2(zel::settingsDamage(text) == expected, name);
+    }
+
+    /// Streams of others, which ask for a codec by its name and split characters, do not get that of the
+    /// settings.
+    void codecIsForTheSettingsOnly()
+    {
+        QTextCodec& codec = zel::iniCodec();
+        for (const char* name : {"UTF-8", "utf-8", "utf8"})
+            QCOMPARE(QTextCodec::codecForName(name)->mibEnum(), 106);
+        QTextDecoder decoder(&codec);
+        QTextEncoder encoder(&codec, QTextCodec::IgnoreHeader);
+        QString text;
+        QByteArray bytes;
+        for (const char byte : {'\xF0', '\x9F', '\x99', '\x82'})
+            text += decoder.toUnicode(&byte, 1);
+        for (const QChar& half : text)
+            bytes += encoder.fromUnicode(&half, 1);
+        QCOMPARE(text, QString::fromUtf8("\xF0\x9F\x99\x82"));
+        QCOMPARE(bytes, text.toUtf8());
     }
 };
 

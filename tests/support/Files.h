@@ -1,7 +1,7 @@
 #ifndef ZEL_FILES_H
 #define ZEL_FILES_H
 
-#include <QtTest>
+#include "QtTestCompat.h"
 
 /// With line ends as in C. Empty when the file cannot be read.
 inline QByteArray contentOf(const QString& path)

@@ -5,12 +5,10 @@
 #include "ZelSettingsRegistry.h"
 #include "ZelSettingsValidators.h"
 
-#include <QtWidgets>
-
 #include <functional>
 
 /// Key and text, as a settings file or the registry holds them.
-using SettingsTexts = QMap<QString, QString>;
+using SettingsTexts = Table<QString, QString>;
 
 /// Replaces all registered defaults.
 inline void registerDefaults(const SettingsTexts& defaults)
@@ -57,21 +55,25 @@ struct User
 /// Answers the message boxes that open while it lives, by keys. Keeps their texts.
 struct BoxAnswer : QTimer
 {
-    explicit BoxAnswer(const QList<Qt::Key>& keys)
+    explicit BoxAnswer(const QList<Qt::Key>& answer)
+        : keys(answer)
     {
-        callOnTimeout([this, keys] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (!box || !box->isVisible())
-                return;
-            texts << box->text();
-            if (beforeAnswer)
-                beforeAnswer();
-            for (const Qt::Key key : keys)
-                QTest::keyClick(box->windowHandle(), key);
-        });
         start(20);
     }
 
+    void timerEvent(QTimerEvent*) override
+    {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box || !box->isVisible())
+            return;
+        texts << box->text();
+        if (beforeAnswer)
+            beforeAnswer();
+        for (const Qt::Key key : keys)
+            QTest::keyClick(inputOf(box), key);
+    }
+
+    const QList<Qt::Key> keys;
     QStringList texts;
     std::function<void()> beforeAnswer;
 };

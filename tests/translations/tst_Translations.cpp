@@ -4,8 +4,6 @@
 #include "ZelRendererSelector.h"
 #include "ZelSettingsPanel.h"
 
-#include <QtWidgets>
-
 using namespace zel;
 
 namespace {
@@ -14,9 +12,9 @@ namespace {
 QStringList marks(const QString& text)
 {
     QStringList found;
-    auto mark = QRegularExpression("%\\d|&lt;.*?&gt;|\\n|^ +| +$").globalMatch(text);
-    while (mark.hasNext())
-        found << mark.next().captured();
+    const QRegExp mark("%\\d|&lt;[^&]*&gt;|\\n|^ +| +$");
+    for (int at = -1; (at = mark.indexIn(text, at + 1)) >= 0;)
+        found << mark.cap();
     found.sort();
     return found;
 }
@@ -95,13 +93,12 @@ private Q_SLOTS:
     void hasEveryTextOfTheSources()
     {
         const QString name = "/Torvane_" + m_language + ".ts";
-        const QString all = contentOf(ZEL_SOURCES "/resources/languages" + name);
+        const QString all = QString::fromUtf8(contentOf(ZEL_SOURCES "/resources/languages" + name));
         QVERIFY2(all.toUtf8() == contentOf(m_updated.path() + name), "update-translations would change it");
-        const QRegularExpression pattern(
-            "<source>([^<]*)</source>\\s*<translation>([^<]*[^<\\s][^<]*)</translation>");
+        const QRegExp pattern("<source>([^<]*)</source>\\s*<translation>([^<]*[^<\\s][^<]*)</translation>");
         int complete = 0;
-        for (auto each = pattern.globalMatch(all); each.hasNext(); ++complete) {
-            const QStringList text = each.next().capturedTexts();
+        for (int at = -1; (at = pattern.indexIn(all, at + 1)) >= 0; ++complete) {
+            const QStringList text = pattern.capturedTexts();
             QCOMPARE(marks(text[2]), marks(text[1]));
             QVERIFY2(m_language != "en" || text[2] == text[1], qPrintable(text[1]));
         }
@@ -110,7 +107,7 @@ private Q_SLOTS:
 
     void windowsShowTheirTexts()
     {
-        const QMap<QString, QFontDatabase::WritingSystem> writings = {
+        const Table<QString, QFontDatabase::WritingSystem> writings = {
             {"ja", QFontDatabase::Japanese}, {"zh", QFontDatabase::SimplifiedChinese}};
         const auto writing = writings.value(m_language, QFontDatabase::Latin);
         QVERIFY2(!QFontDatabase().families(writing).isEmpty(), "no font with the characters is installed");

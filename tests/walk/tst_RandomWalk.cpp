@@ -89,6 +89,7 @@ public:
     {
         window = &m_window;
         m_window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&m_window));
         m_fields = fieldsOf(m_window);
         m_defaults = m_stored = values(m_fields);
         openMenu();
@@ -203,6 +204,7 @@ private:
             else
                 value = ratio ? 1. + below(100) : below(99990) / 1000.;
             if (before[name].first != value || ratio) {
+                box->setFocus();
                 box->selectAll();
                 QTest::keyClicks(box, value.toString());
                 QTest::keyClick(box, Qt::Key_Return);
@@ -291,8 +293,8 @@ class tst_RandomWalk : public QObject
 private Q_SLOTS:
     void walk()
     {
-        const int seed = qEnvironmentVariableIntValue("WALK_SEED"), steps = 150, warmUp = 1;
-        const int rounds = qMax(8, qEnvironmentVariableIntValue("WALK_ROUNDS"));
+        const int seed = qgetenv("WALK_SEED").toInt(), steps = 150, warmUp = 1;
+        const int rounds = qMax(8, qgetenv("WALK_ROUNDS").toInt());
         qInfo("WALK_SEED=%d", seed);
         std::mt19937 random(static_cast<unsigned>(seed));
         FakeApplication application;

@@ -42,7 +42,7 @@ int beAnother(const QStringList& arguments)
                                     arguments[2].toUInt(), nullptr, OPEN_EXISTING, 0, nullptr);
     puts(file == INVALID_HANDLE_VALUE ? "not held" : "held");
     fflush(stdout);
-    QThread::msleep(arguments[3].toUInt());
+    QTest::qSleep(arguments[3].toInt());
     return CloseHandle(file) ? 0 : 1;
 }
 
@@ -57,7 +57,7 @@ private:
     std::unique_ptr<QProcess> another(const QStringList& arguments) const
     {
         auto process = std::make_unique<QProcess>();
-        process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        process->setProcessChannelMode(ForwardedErrors);
         process->start(QCoreApplication::applicationFilePath(), arguments);
         return process;
     }
@@ -111,11 +111,10 @@ private Q_SLOTS:
     {
         const QString lock = m_path + ".lock";
         store(lock, "1\n");
-        QFile file(lock);
-        QVERIFY(file.open(QIODevice::ReadWrite));
-        QVERIFY(
-            file.setFileTime(QDateTime::currentDateTime().addSecs(-60), QFileDevice::FileModificationTime));
-        file.close();
+        const HANDLE file = CreateFileW(reinterpret_cast<const wchar_t*>(lock.utf16()), GENERIC_WRITE, 0,
+                                        nullptr, OPEN_EXISTING, 0, nullptr);
+        const FILETIME longAgo = {0, 1 << 24};
+        QVERIFY(SetFileTime(file, nullptr, nullptr, &longAgo) && CloseHandle(file));
         const auto holder = another({"hold", lock, QString::number(FILE_SHARE_READ), "8000"});
         QVERIFY(holder->waitForReadyRead(Patience));
         QElapsedTimer clock;
@@ -147,7 +146,7 @@ private Q_SLOTS:
             QVERIFY(writer->waitForStarted(Patience));
             const QDateTime before = writtenAt();
             QTRY_VERIFY_WITH_TIMEOUT(writtenAt() > before, Patience); // By now it writes.
-            QThread::usleep(std::uniform_int_distribution<unsigned long>(0, 20000)(random));
+            QTest::qSleep(std::uniform_int_distribution<int>(1, 20)(random));
             writer->kill();
             QVERIFY(writer->waitForFinished(Patience));
             const QByteArray content = contentOf(m_path);
