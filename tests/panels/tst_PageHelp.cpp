@@ -139,6 +139,11 @@ private Q_SLOTS:
         QCOMPARE(marked(), QString());
         QCOMPARE(type("databaseSpinBox", "512"), QString("512 Mo"));
         QCOMPARE(marked(), QString("Folders"));
+        QTRY_COMPARE(find("takeBack")->accessibleDescription(),
+                     QString::fromUtf8("Cache size: 1,024 Mo \342\206\222 512 Mo"));
+        find<QPushButton>("takeBack")->click();
+        QVERIFY(marked().isEmpty() && find("pendingList")->isHidden() && find("databaseSpinBox")->hasFocus());
+        type("databaseSpinBox", "512");
         find("databaseSpinBox")->setFocus();
         QVERIFY(!said("stateLabel").isEmpty());
         QTest::mouseClick(find("putBackButton"), Qt::LeftButton);

@@ -145,6 +145,10 @@ private Q_SLOTS:
         auto* size = m_window.findChild<QSpinBox*>("databaseSpinBox");
         size->setFocus();
         size->selectAll();
+        QTest::keyClicks(size, "1"); // Less than the minimum.
+        press(Qt::Key_C, Qt::ControlModifier);
+        QVERIFY(size->text().startsWith("1 "));
+        size->selectAll();
         QTest::keyClicks(size, "9999"); // What is being typed counts, and is brought into the range.
         press(Qt::Key_S, Qt::ControlModifier);
         QTRY_COMPARE(m_application.getSettings().value("DBCache/cacheSize").toInt(), size->maximum());
