@@ -115,16 +115,18 @@ public:
     std::vector<ZelPendingEdit> pendingEdits() override
     {
         std::vector<ZelPendingEdit> edits;
+        if (!hasModifications())
+            return edits;
         const Model stored = storedModel(), current = currentModel();
         for (const Row& row : m_rows) {
-            if (!hasModifications() || !row.differs(current, stored))
+            if (!row.differs(current, stored))
                 continue;
             const ZelSettingHelp* help = m_help->setting(row.fields.front().widgets.first());
             ZelPendingEdit edit = {help->name, row.text(stored), row.text(current), nullptr, help->putBack};
             if (edit.stored == edit.shown) // The field cannot show what is stored.
                 edit.stored = settings().value(row.fields.front().key).toString();
             for (QWidget* field : help->fields)
-                if (!edit.field && field->isEnabled() && !field->isHidden())
+                if (!edit.field && field->isEnabled() && field->isVisibleTo(this))
                     edit.field = field;
             edits.push_back(edit);
         }

@@ -146,9 +146,9 @@ struct ZelSettingsField
 {
     /// The place of the value is the member of a model that also has the widgets' value.
     template <class T>
-    ZelSettingsField(const char* settingsKey, T Model::*member, const ZelFieldWidgets<T>& widgets,
+    ZelSettingsField(const char* settingsKey, T Model::*member, const ZelFieldWidgets<T>& in,
                      const ZelFieldConversion<T>& conversion)
-        : ZelSettingsField(settingsKey, member, conversion, std::mem_fn(member), widgets)
+        : ZelSettingsField(settingsKey, member, conversion, std::mem_fn(member), in)
     {
     }
 
@@ -161,7 +161,7 @@ struct ZelSettingsField
         : key(QLatin1String(settingsKey))
         , widgets(in.widgets)
         , readStored([=](Model& to, const QVariant& value) { to.*member = conversion.fromStored(value); })
-        , readDefault([=](Model& to, const QString& text) { to.*member = conversion.fromDefault(text); })
+        , readDefault([=](Model& to, const QString& value) { to.*member = conversion.fromDefault(value); })
         , stored([=](const Model& model) { return conversion.toStored(model.*member); })
         , read([=](Model& to) { place(to) = in.read(); })
         , show([=](const Model& model) { in.show(place(model)); })

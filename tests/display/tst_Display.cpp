@@ -55,30 +55,44 @@ class tst_Display : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void storedValues_data()
+    {
+        QTest::addColumn<QString>("engine");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>(
+            "applied"); // Null where the page can show what is stored, and writes nothing.
+        const std::pair<const char*, SettingsTexts> keys[] = {
+            {"deferred Resources/LODTrianglesCap",
+             {{"50000", {}}, {"49999", "50000"}, {"500000000", {}}, {"4294967297", "500000000"}}},
+            {"software raytracer/coreNumber",
+             {{"1", {}}, {"0", "1"}, {"100000", QString::number(QThread::idealThreadCount())}}},
+            {"Software raytracer/coreNumber", {{"0", {}}, {"100000", {}}}},
+            {"software raytracer/quality", {{"Low", {}}, {"Ultra", {}}, {"unknown", {}}}},
+            {"deferred Resources/MaxCPUMemory3D",
+             {{"134217728", {}}, {"104857600", "134217728"}, {"1610612737", "1610612736"}}},
+            {"software Resources/MaxCPUMemory3D", {{"1", {}}}},
+            {"deferred Resources/MaxGPUMemory", {{"8489271296", {}}, {"18446744073709551615", "8489271296"}}},
+            {"software Resources/MaxCPUMemoryRaytracer", {{"8490319872", "8489271296"}}},
+            {"deferred Resources/MaxCPUMemoryRaytracer", {{"1", {}}}},
+            {"deferred deferred/sceneUnits", {{"0.0015", {}}, {"999.9995", {}}, {"nan", {}}, {"", {}}}},
+            {"deferred deferred/useED", {{"true", {}}, {"1", {}}, {"false", {}}, {"0", {}}, {"", {}}}}};
+        for (const auto& [key, texts] : keys)
+            for (const QString& stored : texts.keys())
+                QTest::newRow(qPrintable(QString(key) + ' ' + stored))
+                    << QString(key).section(' ', 0, 0) << QString(key).section(' ', 1) << stored
+                    << texts[stored];
+    }
+
     void storedValues()
     {
-        // Engine and key, and the values: each may be followed by what Apply makes of it; alone, it is shown
-        // as it is and nothing is written.
-        const std::pair<QString, QString> keys[] = {
-            {"deferred Resources/LODTrianglesCap", "50000|49999 50000|500000000|4294967297 500000000"},
-            {"software raytracer/coreNumber", QString("1|0 1|100000 %1").arg(QThread::idealThreadCount())},
-            {"Software raytracer/coreNumber", "0|100000"},
-            {"software raytracer/quality", "Low|Ultra|unknown"},
-            {"deferred Resources/MaxCPUMemory3D", "134217728|104857600 134217728|1610612737 1610612736"},
-            {"software Resources/MaxCPUMemory3D", "1"},
-            {"deferred Resources/MaxGPUMemory", "8489271296|18446744073709551615 8489271296"},
-            {"software Resources/MaxCPUMemoryRaytracer", "8490319872 8489271296"},
-            {"deferred Resources/MaxCPUMemoryRaytracer", "1"},
-            {"deferred deferred/sceneUnits", "0.0015|999.9995|nan|"},
-            {"deferred deferred/useED", "true|1|false|0|"}};
-        for (const auto& [key, values] : keys)
-            for (const QString& value : values.split('|')) {
-                const QStringList row = (key + ' ' + value).split(' ');
-                Viewer viewer({{"engine", row[0]}});
-                const QString saved = writtenUntouched<Page>(viewer, {{row[1], row[2]}}, row[1]);
-                QVERIFY2(saved == row.value(3), qPrintable(row.join(' ') + ": " + saved));
-                QCOMPARE(viewer.renderer.triangles.isEmpty(), saved.isEmpty());
-            }
+        QFETCH(QString, engine);
+        QFETCH(QString, key);
+        QFETCH(QString, stored);
+        QFETCH(QString, applied);
+        Viewer viewer({{"engine", engine}});
+        QCOMPARE(writtenUntouched<Page>(viewer, {{key, stored}}, key), applied);
+        QCOMPARE(viewer.renderer.triangles.isEmpty(), applied.isEmpty());
     }
 
     void worksWithoutAnApplication()
@@ -90,28 +104,46 @@ private Q_SLOTS:
         QCOMPARE(empty.getSettings().allKeys().size(), Plain.size());
     }
 
+    void restarts_data()
+    {
+        QTest::addColumn<QString>("started");
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QStringList>(
+            "steps"); // An engine, or a slider and its position; which need a restart.
+        QTest::newRow("from the deferred renderer")
+            << "deferred"
+            << "deferred"
+            << QStringList({"raytracer restart", "cores 1 restart", "quality 3 restart", "cores 0",
+                            "deferred", "raytracer restart"});
+        QTest::newRow("back to the running renderer") << "deferred"
+                                                      << "software" << QStringList("deferred");
+        QTest::newRow("in the raytracer")
+            << "software"
+            << "software"
+            << QStringList({"cores 1 restart", "cores 0", "cores 2 restart", "quality 2 restart",
+                            "cores 1 restart", "quality 1", "cores 0", "quality 0 restart"});
+        QTest::newRow("from the raytracer") << "software"
+                                            << "software" << QStringList({"deferred restart", "raytracer"});
+    }
+
     void restarts()
     {
-        // Started and stored engine, and steps: a button, "c" and a number of cores, or "q" and a quality;
-        // "!" says that it needs a restart.
-        const QString rows[] = {
-            "deferred deferred raytracer!,c2!,q3!,c1,deferred,raytracer!", "deferred software deferred",
-            "software software c2!,c1,c3!,q2!,c2!,q1,c1,q0!", "software software deferred!,raytracer"};
-        for (const QString& row : rows) {
-            Viewer viewer({{"engine", row.section(' ', 0, 0)}});
-            Display display(viewer);
-            store(viewer.getSettings(), {{"engine", row.section(' ', 1, 1)}});
-            display.page.initializeWidget();
-            for (const QString& step : row.section(' ', 2).split(',')) {
-                if (step.size() > 3)
-                    display.click(step[0] == 'r' ? "raytracerButton" : "deferredButton");
-                else
-                    display.slide(step[0] == 'c' ? "coreUsedSlider" : "qualitySlider",
-                                  step.mid(1, 1).toInt() - (step[0] == 'c'));
-                const bool modified = display.page.hasModifications();
-                QVERIFY2(modified && display.page.applyModifications() == step.endsWith('!'),
-                         qPrintable(row + " at " + step));
-            }
+        QFETCH(QString, started);
+        QFETCH(QString, stored);
+        QFETCH(QStringList, steps);
+        Viewer viewer({{"engine", started}});
+        Display display(viewer);
+        store(viewer.getSettings(), {{"engine", stored}});
+        display.page.initializeWidget();
+        for (const QString& step : steps) {
+            const QStringList words = step.split(' ');
+            if (words[0] == "cores" || words[0] == "quality")
+                display.slide(words[0] == "cores" ? "coreUsedSlider" : "qualitySlider", words[1].toInt());
+            else
+                display.click(words[0] + "Button");
+            const bool modified = display.page.hasModifications();
+            QVERIFY2(modified && display.page.applyModifications() == (words.last() == "restart"),
+                     qPrintable(step));
         }
     }
 

@@ -1,8 +1,10 @@
 #include "ShownPage.h"
 #include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
+#include "ZelGeneralSettingsPanel.h"
 #include "ZelHelpArea.h"
 #include "ZelPageDefaults.h"
+#include "ZelPageHelp.h"
 #include "ZelRendererSelector.h"
 
 using namespace zel;
@@ -147,6 +149,10 @@ private Q_SLOTS:
         QTest::mouseClick(find("putBackButton"), Qt::LeftButton);
         QCOMPARE(find<QSpinBox>("databaseSpinBox")->value(), 1024);
         QVERIFY(said("stateLabel").isEmpty() && marked().isEmpty() && !find("putBackButton")->isEnabled());
+        type("databaseSpinBox", "512");
+        find("databaseSpinBox")->setFocus();
+        QTest::mouseClick(find("frame_4")->findChild<QWidget*>("resetButton"), Qt::LeftButton);
+        QVERIFY(said("stateLabel").isEmpty());
 
         QCOMPARE(type("ratio3", "20"), QString("20"));
         QCOMPARE(type("ratio2", "30"), QString("30"));
@@ -157,6 +163,62 @@ private Q_SLOTS:
         QCOMPARE(find<QDoubleSpinBox>("ratio2")->value(), 75.0);
         QCOMPARE(find<QDoubleSpinBox>("ratio3")->value(), 20.0);
         QCOMPARE(marked(), QString("Simplification"));
+    }
+
+    void fieldsHaveCommandsOfTheirOwn()
+    {
+        auto* box = find<QSpinBox>("databaseSpinBox");
+        settings().setValue("DBCache/cacheSize", 300);
+        for (const bool byKeys : {true, false}) {
+            for (const auto& [command, key, value] : {std::make_tuple("Put back", Qt::Key_Backspace, 300),
+                                                      std::make_tuple("Default", Qt::Key_Delete, 1024)}) {
+                box->setValue(512);
+                QTimer::singleShot(0, [name = QString(command)] {
+                    if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget()))
+                        for (QAction* action : menu->actions())
+                            if (action->text().startsWith(name + '\t'))
+                                menu->setActiveAction(action), QTest::keyClick(menu, Qt::Key_Return);
+                });
+                QContextMenuEvent asked(QContextMenuEvent::Mouse, QPoint(5, 5), box->mapToGlobal({5, 5}));
+                if (byKeys)
+                    QTest::keyClick(box, key, Qt::AltModifier);
+                else
+                    QCoreApplication::sendEvent(box, &asked);
+                QCOMPARE(box->value(), value);
+            }
+        }
+        auto* help = box->window()->findChild<ZelGeneralSettingsPanel*>()->findChild<ZelPageHelp*>();
+        const QSignalSpy requests(help, SIGNAL(helpRequested(QWidget*)));
+        QTest::keyClick(box, Qt::Key_F1, Qt::ShiftModifier);
+        QCOMPARE(requests.value(0).value(0).value<QWidget*>(), box);
+    }
+
+    void formsHaveTheLimitsOfTheValidators_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<int>("hiddenBits");
+        const std::tuple<const char*, const char*, int> rows[] = {
+            {"Resources/MaxCPUMemory3D", "maxCPU3DSpinBox", 20},
+            {"Resources/MaxCPUMemoryRaytracer", "maxCPURaySpinBox", 20},
+            {"Resources/MaxGPUMemory", "maxGPUSPinBox", 20},
+            {"Resources/LODTrianglesCap", "maxTrianglesSpinBox", 0},
+            {"Tesselation/TesselationMaxFaceAngle", "faceAngleSpin", 0},
+            {"raytracer/coreNumber", "coreUsedSlider", 0}};
+        for (const auto& [key, field, hiddenBits] : rows)
+            QTest::newRow(key) << field << hiddenBits;
+    }
+
+    void formsHaveTheLimitsOfTheValidators()
+    {
+        QFETCH(QString, field);
+        QFETCH(int, hiddenBits);
+        const QString key = QTest::currentDataTag();
+        for (const auto& [limit, given] :
+             {std::make_pair("minimum", 0LL), std::make_pair("maximum", 1LL << 40)}) {
+            QString text = QString::number(hiddenBits ? given : qMin<qint64>(given, 2000000000)), error;
+            QVERIFY(ZelSettingsRegistry::GetDefaultSettingsValues().at(key).second(key, {}, text, error));
+            QCOMPARE(find(field)->property(limit).toLongLong(), text.toLongLong() >> hiddenBits);
+        }
     }
 
     void numbersFollowTheLanguage()

@@ -142,6 +142,52 @@ private Q_SLOTS:
         QCOMPARE(m_application->imageFolders, QList<QString>({shots, shots}));
     }
 
+    void editsAreMergedWithWhatOthersStore()
+    {
+        General page(m_application.get(), settings());
+        page.type("databaseSpinBox", "512");
+        store(settings(), {{keys::CacheSize, "700"}, {keys::ScreenshotFolder, "/others"}});
+        page.page.takeStored();
+        QCOMPARE(page.find("screenshotFolderButton")->toolTip(), QString("/others"));
+        const auto edits = page.page.pendingEdits();
+        QCOMPARE(edits.size(), std::size_t(1));
+        QCOMPARE(edits[0].name + ": " + edits[0].stored + ", " + edits[0].shown,
+                 QString("Cache size: 700 Mo, 512 Mo"));
+        QCOMPARE(edits[0].field, page.find("databaseSpinBox"));
+
+        const auto makeAgain = page.page.copyOfEdits();
+        page.page.initializeWidget();
+        QVERIFY(!page.page.hasModifications() && page.page.pendingEdits().empty() &&
+                !page.page.copyOfEdits());
+        makeAgain();
+        store(settings(), {{keys::ScreenshotFolder, "/newer"}});
+        page.page.applyModifications();
+        QCOMPARE(stored(keys::CacheSize) + stored(keys::ScreenshotFolder), QString("512/newer"));
+        store(settings(), {{keys::CacheSize, "700"}}); // As after a write that failed.
+        page.page.takeStored();
+        page.page.pushStored();
+        QCOMPARE(m_application->manager.cacheSizes, QList<unsigned int>({512, 700}));
+        QCOMPARE(page.page.pendingEdits().size(), std::size_t(1));
+        edits[0].putBack();
+        QVERIFY(page.find<QSpinBox>("databaseSpinBox")->value() == 700 && !page.page.hasModifications());
+
+        // After a write that succeeded the edit is no longer one.
+        page.type("databaseSpinBox", "512");
+        page.page.applyModifications();
+        page.page.takeStored();
+        store(settings(), {{keys::CacheSize, "800"}});
+        page.page.takeStored();
+        QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->value(), 800);
+
+        Import import(nullptr, settings());
+        import.click("sag"); // The choice is edited, but not the value.
+        store(settings(), {{keys::MaxFaceSag, "3"}, {keys::MaxFaceAngleSet, "true"}});
+        import.page.takeStored();
+        QVERIFY(import.find<QRadioButton>("sag")->isChecked() && import.find("faceAngleSpin")->isEnabled());
+        QCOMPARE(import.find<QDoubleSpinBox>("faceSagSpin")->value(), 3.0);
+        QCOMPARE(import.page.pendingEdits()[0].stored, QString("chosen by Torvane"));
+    }
+
     void limitsAndQualityWorkTheResetButton()
     {
         Import page(m_application.get(), settings());
@@ -152,6 +198,10 @@ private Q_SLOTS:
             page.click(limit.byDefault);
             QVERIFY(!page.find(limit.spinBox)->isEnabled() && !page.canClickReset());
         }
+        store(settings(), {{keys::TessellationHighQuality, "false"}}); // Is not set, so does not count.
+        page.page.initializeWidget();
+        for (const char* button : {"defaultQuality", "highQuality", "lowQuality"})
+            QCOMPARE(page.find<QRadioButton>(button)->isChecked(), button == QString("defaultQuality"));
         // A click on the low quality leaves the button as it is.
         const std::pair<const char*, bool> clicks[] = {
             {"lowQuality", false}, {"highQuality", true}, {"lowQuality", true}, {"defaultQuality", false}};
@@ -169,10 +219,16 @@ private Q_SLOTS:
             page.type("ratio2", "70");
             QVERIFY(page.changes.count() == 1 && page.canClickReset() &&
                     m_application->manager.ratios.isEmpty());
-            page.type("ratio4", "60"); // The level above keeps as much.
-            QVERIFY(!page.page.applyModifications());
-            QCOMPARE(stored(keys::SimplificationRatios), QString("1/0.7/0.6/0.6/0.1"));
-            QCOMPARE(m_application->manager.ratios, (QList<std::vector<float>>{{1.f, .7f, .6f, .6f, .1f}}));
+            // Only the levels beside it follow, the one above upwards and the one below downwards.
+            const char* const edits[][3] = {{"ratio4", "60", "1/0.7/0.6/0.6/0.1"},
+                                            {"ratio3", "80", "1/0.8/0.8/0.6/0.1"},
+                                            {"ratio2", "20", "1/0.2/0.2/0.6/0.1"}};
+            for (const auto& [level, percentage, ratios] : edits) {
+                page.type(level, percentage);
+                QVERIFY(!page.page.applyModifications());
+                QCOMPARE(stored(keys::SimplificationRatios), QString(ratios));
+            }
+            QCOMPARE(m_application->manager.ratios.first(), (std::vector<float>{1.f, .7f, .6f, .6f, .1f}));
         }
         registerDefaults({}); // Without them the page keeps what it shows.
         settings().remove(keys::SimplificationRatios);

@@ -2,8 +2,12 @@
 #include "ShownPage.h"
 #include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
+#include "ZelPageDefaults.h"
+#include "ZelPageHelp.h"
+#include "ZelSettingsPanel.h"
 
 #include <random>
+#include <utility>
 #if defined(_WIN32)
 #    include <windows.h>
 #else
@@ -43,84 +47,34 @@ struct Census
     QStringList withTimer; ///< Classes of the objects that have a timer running.
 };
 
-/// What widgets show, by their names.
-using Values = QMap<QString, QVariant>;
+/// What the fields show, by their names, and whether that counts: not in a field that is hidden or disabled.
+using Values = QMap<QString, std::pair<QVariant, bool>>;
 
-const QString Number, Flag = "false|true", Negated = "true|false", Units = "0.001|0.01|0.1|1|10|100|1000";
-
-/// A widget; the button that decides whether its value counts (while it is checked or, after a "!", while it
-/// is not); the key; its default; and the stored texts of the values, if those are not numbers.
-const struct Field
+/// A widget that edits a setting, and its page.
+struct Field
 {
-    QString page, widget, decider;
-    const char *key, *defaultText;
-    QString texts;
-} Fields[] = {
-    {"General", "databaseSpinBox", "", keys::CacheSize, "1024", Number},
-    {"Display", "raytracerButton", "", keys::Engine, "deferred", "deferred|software"},
-    {"Display", "deferredSSAOCheckBox", "!raytracerButton", keys::UseSsao, "true", Flag},
-    {"Display", "deferredFXAACheckBox", "!raytracerButton", keys::UseFxaa, "true", Flag},
-    {"Display", "deferredEDCheckBox", "!raytracerButton", keys::UseEdgeDetection, "false", Flag},
-    {"Display", "sceneUnitComboBox", "deferredSSAOCheckBox", keys::SceneUnits, "1", Units},
-    {"Display", "maxCPU3DSpinBox", "!raytracerButton", keys::MaxCpuMemory3D, "1073741824", Number},
-    {"Display", "maxGPUSPinBox", "!raytracerButton", keys::MaxGpuMemory, "536870912", Number},
-    {"Display", "maxCPURaySpinBox", "raytracerButton", keys::MaxCpuMemoryRaytracer, "2147483648", Number},
-    {"Display", "coreUsedSlider", "raytracerButton", keys::CoreNumber, "1", Number},
-    {"Display", "qualitySlider", "raytracerButton", keys::RaytracerQuality, "Medium",
-     "Low|Medium|High|Ultra"},
-    {"Display", "maxTrianglesSpinBox", "", keys::TrianglesCap, "20000000", Number},
-    {"Import", "defaultQuality", "", keys::TessellationQualitySet, "false", Negated},
-    {"Import", "lowQuality", "!defaultQuality", keys::TessellationHighQuality, "true", Negated},
-    {"Import", "sag", "", keys::MaxFaceSagSet, "true", Flag},
-    {"Import", "faceSagSpin", "sag", keys::MaxFaceSag, "0.2", Number},
-    {"Import", "length", "", keys::MaxFaceLengthSet, "false", Flag},
-    {"Import", "faceLengthSpin", "length", keys::MaxFaceLength, "10", Number},
-    {"Import", "angle", "", keys::MaxFaceAngleSet, "false", Flag},
-    {"Import", "faceAngleSpin", "angle", keys::MaxFaceAngle, "15", Number},
-    // Stored together.
-    {"Simplification", "ratio2", "", nullptr, nullptr, Number},
-    {"Simplification", "ratio3", "", nullptr, nullptr, Number},
-    {"Simplification", "ratio4", "", nullptr, nullptr, Number},
-    {"Simplification", "ratio5", "", nullptr, nullptr, Number},
+    ZelSettingsPanel* page;
+    QWidget* widget;
+
+    std::pair<QVariant, bool> value() const
+    {
+        for (const char* property : {"checked", "currentIndex", "value"})
+            if (widget->property(property).isValid())
+                return {widget->property(property), widget->isEnabled() && widget->isVisibleTo(page)};
+        return {};
+    }
 };
 
-QString storedText(const Field& field, const QVariant& value)
+/// All of them but the buttons that choose a folder.
+std::vector<Field> fieldsOf(const QWidget& window)
 {
-    if (!field.texts.isEmpty())
-        return field.texts.section('|', value.toInt(), value.toInt());
-    // Memory is shown in mebibytes and stored in bytes.
-    return QString(field.key).contains("Memory") ? QString::number(value.toULongLong() << 20)
-                                                 : value.toString();
-}
-
-QVariant shownValue(const QWidget* widget)
-{
-    for (const char* property : {"checked", "currentIndex", "value"}) {
-        if (widget->property(property).isValid())
-            return widget->property(property);
-    }
-    return QVariant();
-}
-
-/// Whether the value of a widget counts, given the others.
-bool counts(const Values& values, const QString& widget)
-{
-    const auto field = std::find_if(std::begin(Fields), std::end(Fields),
-                                    [&](const Field& candidate) { return candidate.widget == widget; });
-    const QString decider = QString(field->decider).remove('!');
-    return decider.isEmpty() ||
-           (values[decider].toBool() != field->decider.startsWith('!') && counts(values, decider));
-}
-
-/// Whether two states of a page, or of any page for an empty name, differ.
-bool differ(const Values& left, const Values& right, const QString& page = QString())
-{
-    return std::any_of(std::begin(Fields), std::end(Fields), [&](const Field& field) {
-        const bool counted = counts(left, field.widget);
-        return (page.isEmpty() || page == field.page) &&
-               (counted != counts(right, field.widget) ||
-                (counted && left[field.widget] != right[field.widget]));
-    });
+    std::vector<Field> fields;
+    for (auto* page : window.findChildren<ZelSettingsPanel*>())
+        for (auto* help : page->findChildren<ZelPageHelp*>())
+            for (auto* widget : page->findChildren<QWidget*>())
+                if (help->setting(widget) && !widget->inherits("QPushButton"))
+                    fields.push_back({page, widget});
+    return fields;
 }
 
 /// A user who does random things in the stand-alone window, and a small model of the expected results.
@@ -135,9 +89,8 @@ public:
     {
         window = &m_window;
         m_window.show();
-        for (const Field& field : Fields)
-            m_stored[field.widget] = shownValue(find(field.widget));
-        m_defaults = m_stored;
+        m_fields = fieldsOf(m_window);
+        m_defaults = m_stored = values(m_fields);
         openMenu();
     }
 
@@ -145,7 +98,7 @@ public:
     {
         const int choice = below(100);
         if (choice < 75)
-            edit(Fields[below(static_cast<int>(std::size(Fields)))]);
+            edit(m_fields[below(static_cast<int>(m_fields.size()))]);
         else if (choice < 81)
             take(find("applyButton"), m_shown, m_stored);
         else if (choice < 85)
@@ -176,31 +129,31 @@ public:
     /// What is wrong in the window or in the file; empty if nothing is.
     QString difference()
     {
-        for (const Field& field : Fields) {
-            if (shownValue(find(field.widget)) != m_shown[field.widget])
-                return QString("%1 does not show %2").arg(field.widget, m_shown[field.widget].toString());
-        }
+        const QByteArray before = std::exchange(m_content, contentOf(m_path));
+        const bool applied = std::exchange(m_applied, false);
+        if (before != m_content && !before.isEmpty() && !applied)
+            return "the file has changed without Apply";
+        const Values shown = values(m_fields);
+        for (const QString& name : shown.keys())
+            if (shown[name] != m_shown[name])
+                return QString("%1 does not show %2").arg(name, m_shown[name].first.toString());
         if (m_controlCenter.hasModifications() != differ(m_shown, m_stored))
             return "pending edits";
         if (m_announced && (find("applyButton")->isEnabled() != differ(m_shown, m_stored) ||
                             resetButton()->isEnabled() != differ(m_shown, m_defaults)))
             return "Apply or Reset";
-
-        QString ratios = "Ratios=1";
-        QStringList lines = {"own=kept"};
-        for (const Field& field : Fields) {
-            const QVariant value = m_stored[field.widget];
-            if (field.key)
-                lines << QString(field.key).section('/', -1) + '=' + storedText(field, value);
-            else
-                ratios += '/' + QString::number(value.toDouble() / 100);
-        }
-        const QByteArray content = contentOf(m_path);
-        for (const QString& line : lines << ratios) {
-            if (!content.contains(('\n' + line + '\n').toUtf8()))
-                return "the file does not hold " + line;
-        }
         return QString();
+    }
+
+    /// What another editor reads from the file, if that differs from what is applied.
+    static QString differenceOfFile(FakeApplication& application, const Walk& walk)
+    {
+        const ZelControlCenterStandAloneWidget other(&application, nullptr, Qt::WindowFlags());
+        const Values stored = values(fieldsOf(other));
+        for (const QString& name : stored.keys())
+            if (stored[name].first != walk.m_stored[name].first)
+                return QString("%1 is stored as %2").arg(name, stored[name].first.toString());
+        return walk.m_content.contains("\nown=kept\n") ? QString() : "own";
     }
 
 private:
@@ -213,26 +166,43 @@ private:
         m_announced = true;
     }
 
+    static Values values(const std::vector<Field>& fields)
+    {
+        Values found;
+        for (const Field& field : fields)
+            found[field.widget->objectName()] = field.value();
+        return found;
+    }
+
+    /// Whether two states of a page, or of any page for null, differ.
+    bool differ(const Values& left, const Values& right, const ZelSettingsPanel* page = nullptr) const
+    {
+        return std::any_of(m_fields.begin(), m_fields.end(), [&](const Field& field) {
+            const auto& [value, counts] = left[field.widget->objectName()];
+            const auto& [other, otherCounts] = right[field.widget->objectName()];
+            return (!page || page == field.page) && counts && otherCounts && value != other;
+        });
+    }
+
     void edit(const Field& field)
     {
-        QWidget* widget = find(field.widget);
+        QWidget* widget = field.widget;
         if (!widget->isEnabled() || !widget->isVisible())
             return;
+        const QString name = widget->objectName(), page = field.page->getPanelName();
         const Values before = m_shown;
-        const bool radio = widget->inherits("QRadioButton"), last = below(2);
+        const bool radio = widget->inherits("QRadioButton"), ratio = page == "Simplification",
+                   last = below(2);
         QVariant value;
         if (widget->inherits("QAbstractButton")) {
-            const auto group =
-                widget->parent()->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
-            QWidget* clicked = radio ? group[below(group.size())] : widget;
-            click(clicked->objectName());
-            value = radio ? clicked == widget : !before[field.widget].toBool();
+            click(name);
+            value = radio || !before[name].first.toBool();
         } else if (auto* box = qobject_cast<QAbstractSpinBox*>(widget)) {
             if (auto* integer = qobject_cast<QSpinBox*>(box))
                 value = integer->minimum() + below(integer->maximum() - integer->minimum() + 1);
             else
-                value = field.key ? below(99990) / 1000. : 1. + below(100);
-            if (before[field.widget] != value || !field.key) {
+                value = ratio ? 1. + below(100) : below(99990) / 1000.;
+            if (before[name].first != value || ratio) {
                 box->selectAll();
                 QTest::keyClicks(box, value.toString());
                 QTest::keyClick(box, Qt::Key_Return);
@@ -243,14 +213,14 @@ private:
                                                   : widget->property(last ? "maximum" : "minimum");
         }
         // Effects on the same page are for the page's own test; other pages must not change.
-        for (const Field& other : Fields) {
+        for (const Field& other : m_fields)
             if (other.page == field.page)
-                m_shown[other.widget] = shownValue(find(other.widget));
-        }
-        m_shown[field.widget] = value;
-        // Numbers of the Import page emit nothing, its buttons and ratios on each visit, all else on changes.
+                m_shown[other.widget->objectName()] = other.value();
+        m_shown[name].first = value;
+        // Numbers of the tessellation emit nothing, its buttons and ratios on each visit, all else on
+        // changes.
         const bool changed = m_shown != before;
-        m_announced = (field.page == "Import" ? radio : !field.key || changed) || (m_announced && !changed);
+        m_announced = (page == "Tessellation" ? radio : ratio || changed) || (m_announced && !changed);
     }
 
     /// Clicks on Apply or Reset, which lets the pages that differ take the values of another state.
@@ -259,12 +229,12 @@ private:
         const Values before = to;
         const bool enabled = button->isEnabled();
         QTest::mouseClick(button, Qt::LeftButton);
+        m_applied = &to == &m_stored;
         if (!enabled || !differ(from, before))
             return;
-        for (const Field& field : Fields) {
+        for (const Field& field : m_fields)
             if (differ(from, before, field.page))
-                to[field.widget] = from[field.widget];
-        }
+                to[field.widget->objectName()] = from[field.widget->objectName()];
         m_announced = true;
     }
 
@@ -303,7 +273,10 @@ private:
     const QString m_path;
     ZelControlCenterStandAloneWidget m_window;
     ZelControlCenter& m_controlCenter;
+    std::vector<Field> m_fields;
     Values m_defaults, m_stored, m_shown;
+    QByteArray m_content;    ///< Of the file, after the last step.
+    bool m_applied = false;  ///< The last step may have written it.
     bool m_announced = true; ///< Whether the window has been told of the last edit.
 };
 
@@ -323,11 +296,9 @@ private Q_SLOTS:
         qInfo("WALK_SEED=%d", seed);
         std::mt19937 random(static_cast<unsigned>(seed));
         FakeApplication application;
-        ZelControlCenter::RegisterSetting(keys::SimplificationRatios, "1/0.75/0.5/0.25/0.1",
-                                          &ZelControlCenter::noOp);
-        for (const Field& field : Fields)
-            if (field.key)
-                ZelControlCenter::RegisterSetting(field.key, field.defaultText, &ZelControlCenter::noOp);
+        ZelControlCenter::RegisterSetting(keys::CacheSize, "1024", &ZelControlCenter::noOp);
+        ZelControlCenter::RegisterSetting(keys::Engine, "deferred", &ZelControlCenter::noOp);
+        ZelPageDefaults::Register(QSettings(QString(), QSettings::IniFormat));
         QString closed;
         for (int window = 0; window < 2; ++window) {
             application.getSettings().clear();
@@ -355,6 +326,7 @@ private Q_SLOTS:
                 QCOMPARE(last.held, warm->held);
                 const qint64 growth = (last.heap - warm->heap) / (steps * (rounds - warmUp));
                 QVERIFY2(growth < 300, qPrintable(QString("%1 bytes more each step").arg(growth)));
+                QCOMPARE(Walk::differenceOfFile(application, walk), QString());
             }
             const QString left = Census().held;
             QCOMPARE(left, window == 0 ? left : closed);
