@@ -46,3 +46,16 @@ foreach(folder IN LISTS ZEL_PLUGIN_FOLDERS)
         file(CREATE_LINK ${ZEL_QT_PLUGINS}/${folder} ${ZEL_STAGE}/bin/${folder} SYMBOLIC)
     endif()
 endforeach()
+
+# On Linux the system has the font of the interface; on Windows the editor brings it.
+if(WIN32)
+    file(GLOB zel_fonts /usr/share/fonts/truetype/open-sans/OpenSans-Regular.ttf
+                        /usr/share/fonts/truetype/open-sans/OpenSans-Italic.ttf
+                        /usr/share/fonts/truetype/open-sans/OpenSans-Bold.ttf
+                        /usr/share/fonts/truetype/open-sans/OpenSans-Semibold.ttf)
+    if(zel_fonts)
+        file(COPY ${zel_fonts} DESTINATION ${ZEL_STAGE}/resources/fonts)
+    else()
+        message(STATUS "Fonts: left out, fonts-open-sans is not installed")
+    endif()
+endif()

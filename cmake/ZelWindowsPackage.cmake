@@ -18,7 +18,8 @@ set(CPACK_INSTALL_CMAKE_PROJECTS "${PROJECT_BINARY_DIR};${PROJECT_NAME};runtime;
 # They contain Qt and the compiler's libraries, so the licences of these go with them.
 install(FILES ${PROJECT_SOURCE_DIR}/docs/third-party.md DESTINATION licences)
 foreach(pair IN ITEMS common-licenses/LGPL-3:LGPL-3 common-licenses/GPL-3:GPL-3 doc/libqt5core5a/copyright:Qt
-                      doc/gcc-mingw-w64-base/copyright:GCC doc/mingw-w64-common/copyright:MinGW-w64)
+                      doc/gcc-mingw-w64-base/copyright:GCC doc/mingw-w64-common/copyright:MinGW-w64
+                      doc/fonts-open-sans/copyright:OpenSans)
     string(REPLACE ":" ";" pair ${pair})
     list(GET pair 0 text)
     list(GET pair 1 name)

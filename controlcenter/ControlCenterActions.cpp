@@ -8,6 +8,8 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include <algorithm>
+
 namespace zel {
 
 namespace {
@@ -105,10 +107,21 @@ bool ControlCenterActions::eventFilter(QObject* watched, QEvent* event)
     const auto* key = static_cast<QKeyEvent*>(event);
     if (event->type() == QEvent::KeyPress)
         return press(*key, watched == m_column);
-    // Reads a half-typed number before Qt looks up the shortcut: only an edit enables "Apply".
-    if (m_field && (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier)))
+    // Reads a half-typed number before Qt looks up the shortcut: only an edit enables "Apply". Other keys,
+    // such as those that copy and undo, leave what is being typed alone.
+    if (m_field && triggersCommand(QKeySequence(key->key() | static_cast<int>(key->modifiers()))))
         m_field->interpretText();
     return false;
+}
+
+bool ControlCenterActions::triggersCommand(const QKeySequence& keys) const
+{
+    const QList<QAction*> actions = m_column->actions() + m_column->window()->actions();
+    const QList<QPushButton*> buttons = m_column->findChildren<QPushButton*>();
+    return std::any_of(actions.begin(), actions.end(),
+                       [&](const QAction* action) { return action->shortcuts().contains(keys); }) ||
+           std::any_of(buttons.begin(), buttons.end(),
+                       [&](const QPushButton* button) { return button->shortcut() == keys; });
 }
 
 bool ControlCenterActions::press(const QKeyEvent& event, bool inColumn)

@@ -9,6 +9,7 @@
 class QAbstractSpinBox;
 class QAction;
 class QKeyEvent;
+class QKeySequence;
 class QPushButton;
 class QScrollArea;
 class QWidget;
@@ -46,6 +47,8 @@ private:
     /// Becomes the owner of the action.
     QAction* add(const char* name, QAction* action);
     bool press(const QKeyEvent& event, bool inColumn);
+    /// True for the keys of an action or a button of the control center, or of an action of its window.
+    bool triggersCommand(const QKeySequence& keys) const;
 
     QWidget* const m_column;
     const QPointer<QScrollArea> m_drawer;

@@ -22,7 +22,7 @@ const char* const Style =
     "              color: rgb(34,34,34); font: 14px \"Open Sans\"; text-align: left; outline: none; }"
     "QPushButton:hover { background: rgb(215,215,235); }"
     "QPushButton:focus { border-color: rgb(52,51,180); }"
-    "#takeBack { text-align: center; color: rgb(52,51,180); font: bold 14px \"Open Sans\"; }";
+    "#takeBack { padding: 0px; text-align: center; color: rgb(52,51,180); font: bold 14px \"Open Sans\"; }";
 
 /// A button that elides its text in the middle.
 class Line : public QPushButton

@@ -1,6 +1,6 @@
 #include "WindowGeometry.h"
 
-#include "base/ZelSmallFile.h"
+#include "base/SmallFile.h"
 
 #include <QApplication>
 #include <QDesktopWidget>

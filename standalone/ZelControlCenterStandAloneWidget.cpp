@@ -6,6 +6,7 @@
 #include "FrameResizer.h"
 #include "ReturnKey.h"
 #include "WindowGeometry.h"
+#include "WindowShortcuts.h"
 #include "ZelAboutSettingsPanel.h"
 #include "ZelControlCenter.h"
 #include "ZelGeneralSettingsPanel.h"
@@ -16,15 +17,15 @@
 #include "platform/kqDMIApplication.h"
 #include "platform/kqMovableObject.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QIcon>
-#include <QKeySequence>
+#include <QLabel>
 #include <QMessageBox>
 #include <QScrollArea>
 #include <QSettings>
+#include <QStringList>
 
 namespace zel {
 
@@ -45,18 +46,6 @@ QIcon createWindowIcon()
     for (const char* size : {"48", "128"})
         icon.addFile(QString(":/window/icons/torvane-settings-%1.png").arg(size));
     return icon;
-}
-
-/// Alt with the first free letter of a button's text, or of a name for texts without Latin letters.
-QKeySequence altKey(const QPushButton& button, const char* name, QString& taken)
-{
-    for (const QChar& character : (button.text() + name).toUpper()) {
-        if (character < 'A' || character > 'Z' || taken.contains(character))
-            continue;
-        taken += character;
-        return QKeySequence(QString("Alt+%1").arg(character));
-    }
-    return QKeySequence();
 }
 
 } // namespace
@@ -99,8 +88,12 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
     m_ui->helpArea->watchPages(m_controlCenter->settingsWidget());
     m_ui->helpArea->useColumn(m_controlCenter.get(), m_controlCenter->findChild<QWidget*>("preferenceFrame"));
     connect(m_controlCenter.get(), SIGNAL(pagesChanged()), m_ui->helpArea, SLOT(refresh()));
+    connect(m_controlCenter.get(), SIGNAL(helpRequested(QWidget*)), m_ui->helpArea,
+            SLOT(showHelpOfFocusedField()));
 
-    createActions();
+    if (QStringList({"ja", "zh"}).contains(application->getLanguageCode()))
+        straightenTexts();
+    addWindowShortcuts(*this, *m_controlCenter, m_ui->closeButton->accessibleName());
     orderFocus();
     const QString folder = QFileInfo(application->getSettings().fileName()).path();
     m_geometry = new WindowGeometry(
@@ -128,29 +121,11 @@ void ZelControlCenterStandAloneWidget::makeContentScrollable()
     connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
 }
 
-void ZelControlCenterStandAloneWidget::createActions()
+void ZelControlCenterStandAloneWidget::straightenTexts()
 {
-    // Nothing else in this window has shortcuts, so these work wherever the focus is.
-    for (QAction* action : m_controlCenter->actions()) {
-        action->setShortcutContext(Qt::WindowShortcut);
-        addAction(action);
-    }
-    m_controlCenter->findChild<QAction*>("apply")->setShortcut(QKeySequence("Ctrl+S"));
-    m_controlCenter->findChild<QAction*>("help")->setShortcut(QKeySequence("F1"));
-    connect(m_controlCenter.get(), SIGNAL(helpRequested(QWidget*)), m_ui->helpArea,
-            SLOT(showHelpOfFocusedField()));
-
-    QString taken;
-    for (const char* name : {"apply", "reset"}) {
-        auto* button = m_controlCenter->findChild<QPushButton*>(QString(name) + "Button");
-        button->setShortcut(altKey(*button, name, taken));
-    }
-
-    auto* close = new QAction(m_ui->closeButton->accessibleName(), this);
-    close->setObjectName("close");
-    close->setShortcuts(QList<QKeySequence>() << QKeySequence("Ctrl+Q") << QKeySequence("Ctrl+W"));
-    connect(close, SIGNAL(triggered()), this, SLOT(closeWidget()));
-    addAction(close);
+    for (const auto& panel : m_panels)
+        for (QLabel* summary : panel->findChildren<QLabel*>("summaryLabel"))
+            summary->setStyleSheet("font-style: normal;");
 }
 
 void ZelControlCenterStandAloneWidget::orderFocus()

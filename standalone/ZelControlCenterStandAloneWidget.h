@@ -67,7 +67,8 @@ private Q_SLOTS:
 
 private:
     void makeContentScrollable();
-    void createActions();
+    /// For writings that have no italics: a slanted character is hard to read.
+    void straightenTexts();
     void orderFocus();
     bool mayDiscardModifications();
 

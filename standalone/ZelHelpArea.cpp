@@ -193,7 +193,7 @@ int ZelHelpArea::freeHeightOfColumn() const
 {
     if (!m_columnHost || !m_above || !m_above->isVisible())
         return 0;
-    const QWidget* column = m_columnHost->parentWidget();
+    QWidget* column = m_columnHost->parentWidget();
     return column->height() - m_above->mapTo(column, QPoint(0, m_above->height())).y();
 }
 

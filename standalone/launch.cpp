@@ -19,6 +19,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFontDatabase>
 #include <QMessageBox>
 #include <QSettings>
 #include <QTranslator>
@@ -98,6 +99,14 @@ QString createSettingsFolder()
     folder.replace('\\', '/');
     QDir().mkpath(folder);
     return folder;
+}
+
+/// Makes the fonts known that the runnable tree brings, as it does on Windows.
+void installFonts()
+{
+    const QDir folder("resources/fonts");
+    for (const QString& name : folder.entryList(QStringList("*.ttf")))
+        QFontDatabase::addApplicationFont(folder.filePath(name));
 }
 
 QString translationFile(const char* origin, const QString& language)
@@ -250,6 +259,7 @@ int launch(int argc, char** argv)
     }
 
     startPlatformLibraries();
+    installFonts();
     const std::optional<int> exitCode = runEditor(singleApplication);
     // After a cancelled choice nothing has used the libraries, and the process ends.
     if (!exitCode)

@@ -1,14 +1,18 @@
-#ifndef ZEL_ZELSMALLFILE_H
-#define ZEL_ZELSMALLFILE_H
+#ifndef ZEL_SMALLFILE_H
+#define ZEL_SMALLFILE_H
 
 // Files that are a convenience: nothing waits for them, and nothing is said when they cannot be used.
 
-#include "ZelFileFunctions.h"
+#include "SystemFiles.h"
 
+#include <QByteArray>
+#include <QFileInfo>
 #include <QTemporaryFile>
 
 #if !defined(Q_OS_WIN)
+#    include <fcntl.h>
 #    include <sys/stat.h>
+#    include <unistd.h>
 #endif
 
 namespace zel {
@@ -42,9 +46,7 @@ inline bool replaceSmallFile(const QString& path, const QByteArray& content)
         return false;
     const QString written = file.fileName(); // Before it is closed, because it may have no name until then.
     file.close();
-    std::error_code error;
-    std::filesystem::rename(nativePath(written), nativePath(path), error);
-    return !error;
+    return replaceFile(written, path);
 }
 
 } // namespace zel

@@ -1,0 +1,47 @@
+#include "WindowShortcuts.h"
+
+#include <QAction>
+#include <QKeySequence>
+#include <QPushButton>
+
+namespace zel {
+
+namespace {
+
+/// Alt with the first free letter of a button's text, or of a name for texts without Latin letters.
+QKeySequence altKey(const QPushButton& button, const char* name, QString& taken)
+{
+    for (const QChar& character : (button.text() + name).toUpper()) {
+        if (character < 'A' || character > 'Z' || taken.contains(character))
+            continue;
+        taken += character;
+        return QKeySequence(QString("Alt+%1").arg(character));
+    }
+    return QKeySequence();
+}
+
+} // namespace
+
+void addWindowShortcuts(QWidget& window, const QWidget& controlCenter, const QString& closeText)
+{
+    for (QAction* action : controlCenter.actions()) {
+        action->setShortcutContext(Qt::WindowShortcut);
+        window.addAction(action);
+    }
+    controlCenter.findChild<QAction*>("apply")->setShortcut(QKeySequence("Ctrl+S"));
+    controlCenter.findChild<QAction*>("help")->setShortcut(QKeySequence("F1"));
+
+    QString taken;
+    for (const char* name : {"apply", "reset"}) {
+        auto* button = controlCenter.findChild<QPushButton*>(QString(name) + "Button");
+        button->setShortcut(altKey(*button, name, taken));
+    }
+
+    auto* close = new QAction(closeText, &window);
+    close->setObjectName("close");
+    close->setShortcuts(QList<QKeySequence>() << QKeySequence("Ctrl+Q") << QKeySequence("Ctrl+W"));
+    QObject::connect(close, SIGNAL(triggered()), &window, SLOT(closeWidget()));
+    window.addAction(close);
+}
+
+} // namespace zel
