@@ -5,7 +5,8 @@ namespace zel {
 
 /// Opens each standard stream that is closed on the null device: otherwise the next file or socket gets its
 /// descriptor, and output to the stream goes there. Also ignores SIGPIPE, so that a closed pipe is an error
-/// of the write instead of the end of the process. Call it first in main(). Does nothing on Windows.
+/// of the write instead of the end of the process. On Windows it only lets the console show UTF-8 until the
+/// process ends. Call it first in main().
 void protectStandardStreams();
 
 } // namespace zel

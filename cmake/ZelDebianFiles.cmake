@@ -2,6 +2,9 @@
 # for Debian wants otherwise than `install` makes it. Stops where the packages would lack something.
 
 cmake_policy(VERSION 3.20)
+if(NOT CPACK_GENERATOR STREQUAL "DEB")
+    return() # Such as the package of the sources.
+endif()
 
 # Without the first two a package would depend on nothing.
 foreach(tool file=file dpkg-shlibdeps=dpkg-dev dpkg-gensymbols=dpkg-dev gzip=gzip strip=binutils)

@@ -139,10 +139,11 @@ zel_debian_file(debian_development ${PROJECT_BINARY_DIR}/debian/zelcontrolcenter
 zel_install_guide(/usr/share/doc/libzelcontrolcenter-dev COMPONENT debian_development EXCLUDE_FROM_ALL)
 
 # `package_source` takes neither what is built nor the history.
-string(REGEX REPLACE "([][+.*?^$()])" "\\\\\\1" source_dir ${PROJECT_SOURCE_DIR})
+set(CPACK_VERBATIM_VARIABLES ON)
+string(REGEX REPLACE "([][+.*?^()])" "\\\\\\1" source_dir ${PROJECT_SOURCE_DIR})
 set(CPACK_SOURCE_GENERATOR TXZ)
 set(CPACK_SOURCE_PACKAGE_FILE_NAME torvane-settings-${PROJECT_VERSION})
-set(CPACK_SOURCE_IGNORE_FILES "^${source_dir}/(build|install|obj-[^/]*|\\.git)(/|$)" "^${PROJECT_BINARY_DIR}/")
+set(CPACK_SOURCE_IGNORE_FILES "^${source_dir}/(build|install|obj-[^/]*)/" "^${source_dir}/\\.git")
 
 include(CPack)
 cpack_add_component_group(editor)
