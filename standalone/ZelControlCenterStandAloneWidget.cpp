@@ -135,6 +135,8 @@ void ZelControlCenterStandAloneWidget::createActions()
     }
     m_controlCenter->findChild<QAction*>("apply")->setShortcut(QKeySequence("Ctrl+S"));
     m_controlCenter->findChild<QAction*>("help")->setShortcut(QKeySequence("F1"));
+    m_controlCenter->findChild<QAction*>("discard")->setShortcut(QKeySequence("Ctrl+Z"));
+    m_controlCenter->findChild<QAction*>("restore")->setShortcut(QKeySequence("Ctrl+Shift+Z"));
     connect(m_controlCenter.get(), SIGNAL(helpRequested(QWidget*)), m_ui->helpArea,
             SLOT(showHelpOfFocusedField()));
 

@@ -46,11 +46,6 @@ QString lockReason(const QString& lock)
 
 } // namespace
 
-void logWarning(const QString& text)
-{
-    MTLogger::Log("warning", text.toUtf8().constData());
-}
-
 bool failWith(const QString& text, const QString& path, const QString& reason, QString& error)
 {
     error = text.arg(path, reason);
