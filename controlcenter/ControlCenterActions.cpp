@@ -20,14 +20,18 @@ const struct Command
 {
     const char* name;
     const char* text;
-    const char* slot;
-    int columnKey; ///< The key that triggers it while the focus is in the column; 0 for none.
+    const char* receiver; ///< A slot or a signal.
+    int columnKey;        ///< The key that triggers it while the focus is in the column; 0 for none.
     QAbstractSlider::SliderAction scrolling;
 } Commands[] = {
     {"help", QT_TRANSLATE_NOOP("ZelControlCenter", "Help on this setting"), SLOT(requestHelp()), 0,
      QAbstractSlider::SliderNoAction},
     {"putBack", QT_TRANSLATE_NOOP("ZelControlCenter", "Put back what was typed"), SLOT(putBack()), 0,
      QAbstractSlider::SliderNoAction},
+    {"discard", QT_TRANSLATE_NOOP("ZelControlCenter", "Discard changes"), SIGNAL(discardRequested()), 0,
+     QAbstractSlider::SliderNoAction},
+    {"restore", QT_TRANSLATE_NOOP("ZelControlCenter", "Restore discarded changes"),
+     SIGNAL(restoreRequested()), 0, QAbstractSlider::SliderNoAction},
     {"pageUp", QT_TRANSLATE_NOOP("ZelControlCenter", "Scroll up"), SLOT(scroll()), Qt::Key_PageUp,
      QAbstractSlider::SliderPageStepSub},
     {"pageDown", QT_TRANSLATE_NOOP("ZelControlCenter", "Scroll down"), SLOT(scroll()), Qt::Key_PageDown,
@@ -84,7 +88,7 @@ ControlCenterActions::ControlCenterActions(QWidget* column, QScrollArea* drawer,
     for (const Command& command : Commands) {
         QAction* action = add(command.name, new QAction(translated(command.text), nullptr));
         action->setData(command.scrolling);
-        connect(action, SIGNAL(triggered()), this, command.slot);
+        connect(action, SIGNAL(triggered()), this, command.receiver);
     }
     m_putBack = findChild<QAction*>("putBack");
     m_putBack->setEnabled(false);

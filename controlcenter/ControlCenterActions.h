@@ -34,6 +34,8 @@ public:
 Q_SIGNALS:
     /// The user asks for help on a field; null when no field of the drawer has the focus.
     void helpRequested(QWidget* field);
+    void discardRequested();
+    void restoreRequested();
 
 private Q_SLOTS:
     void onFocusChanged(QWidget* previous, QWidget* current);

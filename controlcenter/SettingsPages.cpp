@@ -1,6 +1,7 @@
 #include "SettingsPages.h"
 
-#include "FileAccess.h"
+#include "Log.h"
+#include "ZelPageEdits.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsPanel.h"
 #include "ZelSettingsRegistry.h"
@@ -63,6 +64,7 @@ bool SettingsPages::add(ZelSettingsPanel* page)
 bool SettingsPages::remove(ZelSettingsPanel* page)
 {
     disconnect(page, nullptr, this, nullptr);
+    m_discarded.remove(page);
     return m_pages.removeOne(page);
 }
 
@@ -89,6 +91,7 @@ bool SettingsPages::canReset() const
 
 void SettingsPages::load()
 {
+    m_discarded.clear();
     forEach([](ZelSettingsPanel* page) { page->initializeWidget(); });
 }
 
@@ -103,8 +106,14 @@ bool SettingsPages::apply(QSettings& settings, bool& restart, QString& error)
         return true;
     };
     // One write for all pages, so that the file never has only some of the edits.
-    return edited.isEmpty() ? applyPages(settings, error)
-                            : ZelSettingsFile::Write(settings, applyPages, error);
+    if (edited.isEmpty())
+        return applyPages(settings, error);
+    const bool written = ZelSettingsFile::Write(settings, applyPages, error);
+    forEach([&](ZelSettingsPanel* page) {
+        if (auto* edits = dynamic_cast<ZelPageEdits*>(page))
+            written ? edits->takeStored() : edits->pushStored();
+    });
+    return written;
 }
 
 bool SettingsPages::applyEach(const QList<ZelSettingsPanel*>& edited) const
@@ -124,6 +133,30 @@ void SettingsPages::reset()
     forEach([](ZelSettingsPanel* page) { page->resetContent(); });
 }
 
+void SettingsPages::discard()
+{
+    m_discarded.clear();
+    forEach([&](ZelSettingsPanel* page) {
+        auto* edits = dynamic_cast<ZelPageEdits*>(page);
+        if (const auto again = edits ? edits->copyOfEdits() : nullptr)
+            m_discarded.insert(page, again);
+        if (page->hasModifications())
+            page->initializeWidget();
+    });
+    Q_EMIT stateChanged();
+}
+
+void SettingsPages::restore()
+{
+    const auto discarded = m_discarded;
+    m_discarded.clear();
+    forEach([&](ZelSettingsPanel* page) {
+        if (const auto again = discarded.value(page))
+            again();
+    });
+    Q_EMIT stateChanged();
+}
+
 bool SettingsPages::mark() const
 {
     bool any = false;
@@ -140,6 +173,7 @@ void SettingsPages::onPageDestroyed(QObject* page)
 {
     // A page that is being destroyed is only a QObject: compare its address.
     m_pages.erase(std::remove(m_pages.begin(), m_pages.end(), page), m_pages.end());
+    m_discarded.remove(page);
     Q_EMIT stateChanged();
 }
 

@@ -2,6 +2,7 @@
 #define ZEL_SETTINGSPAGES_H
 
 #include <QList>
+#include <QMap>
 #include <QObject>
 
 #include <functional>
@@ -37,14 +38,19 @@ public:
     /// True when any page differs from its defaults.
     bool canReset() const;
 
-    /// Loads the stored values, which discards the pending edits.
+    /// Loads the stored values, which discards the pending edits for good.
     void load();
     /// Writes the pending edits of all pages at once. False, with a translated text, when the file cannot be
-    /// written; the edits then stay pending.
+    /// written; the edits then stay pending, and the running application has got the stored values again.
     /// @param restart  becomes true when an edit needs a restart to take effect
     bool apply(QSettings& settings, bool& restart, QString& error);
     /// Puts the defaults into the pages, as pending edits.
     void reset();
+    /// Discards the pending edits, so that restore() can make them again.
+    void discard();
+    /// Makes the edits again that the last discard() has taken back, on the pages that can do so.
+    void restore();
+    bool canRestore() const { return !m_discarded.isEmpty(); }
 
     /// Marks the buttons of the pages that have pending edits. True when there is one.
     bool mark() const;
@@ -61,6 +67,7 @@ private:
     bool applyEach(const QList<ZelSettingsPanel*>& edited) const;
 
     QList<ZelSettingsPanel*> m_pages;
+    QMap<const QObject*, std::function<void()>> m_discarded; ///< What makes its edits again, by page.
 };
 
 } // namespace zel

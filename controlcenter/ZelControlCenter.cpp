@@ -21,12 +21,14 @@
 #include "platform/kqMessageBox.h"
 #include "platform/zelAction.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QColor>
 #include <QIcon>
 #include <QScrollBar>
 #include <QSettings>
 #include <QTextDocument>
+#include <QTimer>
 
 // Q_CLEANUP_RESOURCE declares a global function, so it must not be used in a namespace.
 static void cleanupResources()
@@ -90,10 +92,13 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
             Qt::QueuedConnection);
 
     new ReturnKey(this);
-    connect(new ControlCenterActions(this, drawer, m_ui->applyButton, m_ui->resetButton),
-            SIGNAL(helpRequested(QWidget*)), this, SIGNAL(helpRequested(QWidget*)));
+    auto* actions = new ControlCenterActions(this, drawer, m_ui->applyButton, m_ui->resetButton);
+    connect(actions, SIGNAL(helpRequested(QWidget*)), this, SIGNAL(helpRequested(QWidget*)));
+    connect(actions, SIGNAL(discardRequested()), this, SLOT(discardEdits()));
+    connect(actions, SIGNAL(restoreRequested()), this, SLOT(restoreEdits()));
 
     showWriteError(QString());
+    onStateChanged();
     openMenu(false);
     createSettingsAction();
 }
@@ -274,6 +279,23 @@ bool ZelControlCenter::eventFilter(QObject* watched, QEvent* event)
     return m_clickOutside->eventFilter(watched, event);
 }
 
+void ZelControlCenter::discardEdits()
+{
+    m_pages->discard();
+}
+
+void ZelControlCenter::restoreEdits()
+{
+    m_pages->restore();
+}
+
+void ZelControlCenter::bringNoticeIntoView()
+{
+    for (QWidget* around = m_ui->writeErrorLabel; around; around = around->parentWidget())
+        if (auto* area = qobject_cast<QScrollArea*>(around))
+            area->ensureWidgetVisible(m_ui->writeErrorLabel, 0, 0);
+}
+
 void ZelControlCenter::onClickOutside()
 {
     if (!discardModifications())
@@ -374,7 +396,10 @@ void ZelControlCenter::onPanelClicked(const QString& pPanelName)
 void ZelControlCenter::onStateChanged()
 {
     enableButton(*m_ui->resetButton, m_pages->canReset(), m_pageButtons->checkedButton());
-    enableButton(*m_ui->applyButton, m_pages->mark(), m_pageButtons->checkedButton());
+    const bool pending = m_pages->mark();
+    enableButton(*m_ui->applyButton, pending, m_pageButtons->checkedButton());
+    findChild<QAction*>("discard")->setEnabled(pending);
+    findChild<QAction*>("restore")->setEnabled(m_pages->canRestore());
     Q_EMIT pagesChanged();
 }
 
@@ -522,8 +547,11 @@ void ZelControlCenter::showWriteError(const QString& error)
     // The column may be too narrow for a long path, which may hold what looks like markup.
     m_ui->writeErrorLabel->setToolTip(error.isEmpty() ? QString() : Qt::convertFromPlainText(error));
     m_ui->writeErrorLabel->setVisible(!error.isEmpty());
-    if (!error.isEmpty())
-        announceNotice(*m_ui->writeErrorLabel);
+    m_ui->writeErrorLabel->setAccessibleDescription(error);
+    if (error.isEmpty())
+        return;
+    announceNotice(*m_ui->writeErrorLabel);
+    QTimer::singleShot(0, this, SLOT(bringNoticeIntoView())); // When it is laid out.
 }
 
 void ZelControlCenter::initializePanels()

@@ -40,7 +40,8 @@ class ZelSettingsPanel;
 /// and need no instance.
 ///
 /// Its actions() carry out its commands. Their object names are "apply" and "reset", which click these
-/// buttons; "help", which emits helpRequested(); "putBack", which undoes typing in a field; "pageUp",
+/// buttons; "discard", which takes all pending edits back without a question, and "restore", which makes them
+/// again; "help", which emits helpRequested(); "putBack", which undoes typing in a field; "pageUp",
 /// "pageDown", "top" and "bottom", which scroll the drawer. They have no shortcuts; the application may set
 /// some. A shortcut works while the focus is in the column or the drawer; for a wider range, change the
 /// action's shortcut context.
@@ -159,6 +160,10 @@ protected Q_SLOTS:
     void closeMenu();
     /// Fits the width of the pages to the scroll bar, which may have appeared or gone.
     void onScrollBarRangeChanged();
+    void discardEdits();
+    void restoreEdits();
+    /// Scrolls to the notice why the settings file cannot be written.
+    void bringNoticeIntoView();
     /// The user has clicked outside the menu, which closes it.
     void onClickOutside();
 

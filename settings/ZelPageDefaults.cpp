@@ -1,10 +1,9 @@
 #include "ZelPageDefaults.h"
 
+#include "Log.h"
 #include "SettingsKeys.h"
 #include "SettingsValidation.h"
 #include "ZelSettingsValidators.h"
-
-#include "platform/MTLogger.h"
 
 #include <QSettings>
 #include <QString>
@@ -50,7 +49,7 @@ const char* const Refused = "\n";
 
 void warn(const QSettings& file, const QString& text)
 {
-    MTLogger::Log("warning", QString("%1: %2").arg(file.fileName(), text).toUtf8().constData());
+    logWarning(QString("%1: %2").arg(file.fileName(), text));
 }
 
 } // namespace

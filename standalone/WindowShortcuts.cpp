@@ -4,6 +4,8 @@
 #include <QKeySequence>
 #include <QPushButton>
 
+#include <utility>
+
 namespace zel {
 
 namespace {
@@ -28,8 +30,10 @@ void addWindowShortcuts(QWidget& window, const QWidget& controlCenter, const QSt
         action->setShortcutContext(Qt::WindowShortcut);
         window.addAction(action);
     }
-    controlCenter.findChild<QAction*>("apply")->setShortcut(QKeySequence("Ctrl+S"));
-    controlCenter.findChild<QAction*>("help")->setShortcut(QKeySequence("F1"));
+    const std::pair<const char*, const char*> keys[] = {
+        {"apply", "Ctrl+S"}, {"help", "F1"}, {"discard", "Ctrl+Z"}, {"restore", "Ctrl+Shift+Z"}};
+    for (const auto& [action, key] : keys)
+        controlCenter.findChild<QAction*>(action)->setShortcut(QKeySequence(key));
 
     QString taken;
     for (const char* name : {"apply", "reset"}) {

@@ -73,11 +73,6 @@ bool canCreateFolder(const QString& path)
     return isWritableFolder(existingFolder(path));
 }
 
-void logWarning(const QString& text)
-{
-    MTLogger::Log("warning", text.toUtf8().constData());
-}
-
 bool refuseReading(const QString& path, const QString& reason, QString& error)
 {
     return fail(SettingsFileText::tr("Could not read the Torvane settings file \"%1\": %2"), path, reason,

@@ -16,9 +16,6 @@ struct SettingsFileText
     Q_DECLARE_TR_FUNCTIONS(ZelControlCenter)
 };
 
-/// Writes a warning to the log.
-void logWarning(const QString& text);
-
 /// @{
 /// Make the error of a file that cannot be read or written, and log it. Always false, for the caller to
 /// return.

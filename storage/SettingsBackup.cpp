@@ -1,6 +1,7 @@
 #include "SettingsBackup.h"
 
 #include "FileAccess.h"
+#include "Log.h"
 #include "base/SystemFiles.h"
 
 #include <QDateTime>

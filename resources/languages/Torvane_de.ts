@@ -340,6 +340,14 @@ Fortfahren und die Anwendung schließen?</translation>
         <translation>Eingabe zurücknehmen</translation>
     </message>
     <message>
+        <source>Discard changes</source>
+        <translation>Änderungen verwerfen</translation>
+    </message>
+    <message>
+        <source>Restore discarded changes</source>
+        <translation>Verworfene Änderungen wiederherstellen</translation>
+    </message>
+    <message>
         <source>Scroll up</source>
         <translation>Nach oben blättern</translation>
     </message>

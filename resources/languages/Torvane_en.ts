@@ -340,6 +340,14 @@ Continue and close the application ?</translation>
         <translation>Put back what was typed</translation>
     </message>
     <message>
+        <source>Discard changes</source>
+        <translation>Discard changes</translation>
+    </message>
+    <message>
+        <source>Restore discarded changes</source>
+        <translation>Restore discarded changes</translation>
+    </message>
+    <message>
         <source>Scroll up</source>
         <translation>Scroll up</translation>
     </message>

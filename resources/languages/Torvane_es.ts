@@ -340,6 +340,14 @@ Continue and close the application ?</source>
         <translation>Deshacer lo escrito</translation>
     </message>
     <message>
+        <source>Discard changes</source>
+        <translation>Descartar los cambios</translation>
+    </message>
+    <message>
+        <source>Restore discarded changes</source>
+        <translation>Recuperar los cambios descartados</translation>
+    </message>
+    <message>
         <source>Scroll up</source>
         <translation>Desplazar hacia arriba</translation>
     </message>

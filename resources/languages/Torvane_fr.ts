@@ -340,6 +340,14 @@ Continuer et fermer l’application&#xa0;?</translation>
         <translation>Annuler la saisie</translation>
     </message>
     <message>
+        <source>Discard changes</source>
+        <translation>Abandonner les modifications</translation>
+    </message>
+    <message>
+        <source>Restore discarded changes</source>
+        <translation>Rétablir les modifications abandonnées</translation>
+    </message>
+    <message>
         <source>Scroll up</source>
         <translation>Faire défiler vers le haut</translation>
     </message>

@@ -340,6 +340,14 @@ Continuare e chiudere l’applicazione?</translation>
         <translation>Annulla ciò che è stato digitato</translation>
     </message>
     <message>
+        <source>Discard changes</source>
+        <translation>Annulla le modifiche</translation>
+    </message>
+    <message>
+        <source>Restore discarded changes</source>
+        <translation>Ripristina le modifiche annullate</translation>
+    </message>
+    <message>
         <source>Scroll up</source>
         <translation>Scorri verso l’alto</translation>
     </message>

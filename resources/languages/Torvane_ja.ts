@@ -340,6 +340,14 @@ Continue and close the application ?</source>
         <translation>入力を元に戻す</translation>
     </message>
     <message>
+        <source>Discard changes</source>
+        <translation>変更を破棄</translation>
+    </message>
+    <message>
+        <source>Restore discarded changes</source>
+        <translation>破棄した変更を元に戻す</translation>
+    </message>
+    <message>
         <source>Scroll up</source>
         <translation>上へスクロール</translation>
     </message>

@@ -340,6 +340,14 @@ Continue and close the application ?</source>
         <translation>撤销输入</translation>
     </message>
     <message>
+        <source>Discard changes</source>
+        <translation>放弃更改</translation>
+    </message>
+    <message>
+        <source>Restore discarded changes</source>
+        <translation>恢复已放弃的更改</translation>
+    </message>
+    <message>
         <source>Scroll up</source>
         <translation>向上滚动</translation>
     </message>

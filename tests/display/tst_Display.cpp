@@ -132,7 +132,7 @@ private Q_SLOTS:
         QFETCH(QString, stored);
         QFETCH(QStringList, steps);
         Viewer viewer({{"engine", started}});
-        Display display(viewer);
+        DisplayPage display(viewer);
         store(viewer.getSettings(), {{"engine", stored}});
         display.page.initializeWidget();
         for (const QString& step : steps) {
