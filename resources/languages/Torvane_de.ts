@@ -308,10 +308,6 @@ Continue and close the application ?</source>
 Fortfahren und die Anwendung schließen?</translation>
     </message>
     <message>
-        <source>Could not keep a copy of the Torvane settings file &quot;%1&quot;: %2</source>
-        <translation>Eine Kopie der Torvane-Einstellungsdatei „%1“ konnte nicht aufbewahrt werden: %2</translation>
-    </message>
-    <message>
         <source>it cannot be replaced by a new one</source>
         <translation>sie lässt sich nicht durch eine neue ersetzen</translation>
     </message>
@@ -366,6 +362,22 @@ Fortfahren und die Anwendung schließen?</translation>
     <message>
         <source>another program has locked it</source>
         <translation>ein anderes Programm hat sie gesperrt</translation>
+    </message>
+    <message>
+        <source>a copy of it cannot be kept: %1</source>
+        <translation>eine Kopie davon kann nicht aufbewahrt werden: %1</translation>
+    </message>
+    <message>
+        <source>it cannot be read to its end</source>
+        <translation>sie kann nicht bis zum Ende gelesen werden</translation>
+    </message>
+    <message>
+        <source>not all values can be kept in it</source>
+        <translation>nicht alle Werte können darin aufbewahrt werden</translation>
+    </message>
+    <message>
+        <source>it is being written already</source>
+        <translation>sie wird bereits geschrieben</translation>
     </message>
 </context>
 <context>

@@ -308,10 +308,6 @@ Continue and close the application ?</source>
 Continue and close the application ?</translation>
     </message>
     <message>
-        <source>Could not keep a copy of the Torvane settings file &quot;%1&quot;: %2</source>
-        <translation>Could not keep a copy of the Torvane settings file &quot;%1&quot;: %2</translation>
-    </message>
-    <message>
         <source>it cannot be replaced by a new one</source>
         <translation>it cannot be replaced by a new one</translation>
     </message>
@@ -366,6 +362,22 @@ Continue and close the application ?</translation>
     <message>
         <source>another program has locked it</source>
         <translation>another program has locked it</translation>
+    </message>
+    <message>
+        <source>a copy of it cannot be kept: %1</source>
+        <translation>a copy of it cannot be kept: %1</translation>
+    </message>
+    <message>
+        <source>it cannot be read to its end</source>
+        <translation>it cannot be read to its end</translation>
+    </message>
+    <message>
+        <source>not all values can be kept in it</source>
+        <translation>not all values can be kept in it</translation>
+    </message>
+    <message>
+        <source>it is being written already</source>
+        <translation>it is being written already</translation>
     </message>
 </context>
 <context>

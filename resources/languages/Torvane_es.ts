@@ -308,10 +308,6 @@ Continue and close the application ?</source>
 ¿Continuar y cerrar la aplicación?</translation>
     </message>
     <message>
-        <source>Could not keep a copy of the Torvane settings file &quot;%1&quot;: %2</source>
-        <translation>No se pudo conservar una copia del archivo de ajustes de Torvane «%1»: %2</translation>
-    </message>
-    <message>
         <source>it cannot be replaced by a new one</source>
         <translation>no se puede sustituir por uno nuevo</translation>
     </message>
@@ -366,6 +362,22 @@ Continue and close the application ?</source>
     <message>
         <source>another program has locked it</source>
         <translation>otro programa lo ha bloqueado</translation>
+    </message>
+    <message>
+        <source>a copy of it cannot be kept: %1</source>
+        <translation>no se puede conservar una copia de él: %1</translation>
+    </message>
+    <message>
+        <source>it cannot be read to its end</source>
+        <translation>no se puede leer hasta el final</translation>
+    </message>
+    <message>
+        <source>not all values can be kept in it</source>
+        <translation>no se pueden conservar todos los valores en él</translation>
+    </message>
+    <message>
+        <source>it is being written already</source>
+        <translation>ya se está escribiendo</translation>
     </message>
 </context>
 <context>

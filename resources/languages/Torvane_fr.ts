@@ -308,10 +308,6 @@ Continue and close the application ?</source>
 Continuer et fermer l’application&#xa0;?</translation>
     </message>
     <message>
-        <source>Could not keep a copy of the Torvane settings file &quot;%1&quot;: %2</source>
-        <translation>Impossible de conserver une copie du fichier de paramètres de Torvane «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
-    </message>
-    <message>
         <source>it cannot be replaced by a new one</source>
         <translation>il ne peut pas être remplacé par un nouveau</translation>
     </message>
@@ -366,6 +362,22 @@ Continuer et fermer l’application&#xa0;?</translation>
     <message>
         <source>another program has locked it</source>
         <translation>un autre programme l’a verrouillé</translation>
+    </message>
+    <message>
+        <source>a copy of it cannot be kept: %1</source>
+        <translation>une copie ne peut pas en être conservée : %1</translation>
+    </message>
+    <message>
+        <source>it cannot be read to its end</source>
+        <translation>il ne peut pas être lu jusqu&apos;à la fin</translation>
+    </message>
+    <message>
+        <source>not all values can be kept in it</source>
+        <translation>toutes les valeurs ne peuvent pas y être conservées</translation>
+    </message>
+    <message>
+        <source>it is being written already</source>
+        <translation>il est déjà en cours d&apos;écriture</translation>
     </message>
 </context>
 <context>

@@ -308,10 +308,6 @@ Continue and close the application ?</source>
 Continuare e chiudere l’applicazione?</translation>
     </message>
     <message>
-        <source>Could not keep a copy of the Torvane settings file &quot;%1&quot;: %2</source>
-        <translation>Impossibile conservare una copia del file delle impostazioni di Torvane &quot;%1&quot;: %2</translation>
-    </message>
-    <message>
         <source>it cannot be replaced by a new one</source>
         <translation>non può essere sostituito da uno nuovo</translation>
     </message>
@@ -366,6 +362,22 @@ Continuare e chiudere l’applicazione?</translation>
     <message>
         <source>another program has locked it</source>
         <translation>un altro programma l’ha bloccato</translation>
+    </message>
+    <message>
+        <source>a copy of it cannot be kept: %1</source>
+        <translation>non è possibile conservarne una copia: %1</translation>
+    </message>
+    <message>
+        <source>it cannot be read to its end</source>
+        <translation>non può essere letto fino alla fine</translation>
+    </message>
+    <message>
+        <source>not all values can be kept in it</source>
+        <translation>non tutti i valori possono esservi conservati</translation>
+    </message>
+    <message>
+        <source>it is being written already</source>
+        <translation>è già in fase di scrittura</translation>
     </message>
 </context>
 <context>

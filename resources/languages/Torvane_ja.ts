@@ -308,10 +308,6 @@ Continue and close the application ?</source>
 続行してアプリケーションを閉じますか？</translation>
     </message>
     <message>
-        <source>Could not keep a copy of the Torvane settings file &quot;%1&quot;: %2</source>
-        <translation>Torvane の設定ファイル「%1」のコピーを保存できませんでした：%2</translation>
-    </message>
-    <message>
         <source>it cannot be replaced by a new one</source>
         <translation>新しいファイルに置き換えられません</translation>
     </message>
@@ -366,6 +362,22 @@ Continue and close the application ?</source>
     <message>
         <source>another program has locked it</source>
         <translation>別のプログラムがロックしています</translation>
+    </message>
+    <message>
+        <source>a copy of it cannot be kept: %1</source>
+        <translation>コピーを保存できません: %1</translation>
+    </message>
+    <message>
+        <source>it cannot be read to its end</source>
+        <translation>最後まで読み取れません</translation>
+    </message>
+    <message>
+        <source>not all values can be kept in it</source>
+        <translation>すべての値を保存できません</translation>
+    </message>
+    <message>
+        <source>it is being written already</source>
+        <translation>すでに書き込み中です</translation>
     </message>
 </context>
 <context>

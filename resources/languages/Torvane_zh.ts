@@ -308,10 +308,6 @@ Continue and close the application ?</source>
 是否继续并关闭应用程序？</translation>
     </message>
     <message>
-        <source>Could not keep a copy of the Torvane settings file &quot;%1&quot;: %2</source>
-        <translation>无法保留 Torvane 设置文件“%1”的副本：%2</translation>
-    </message>
-    <message>
         <source>it cannot be replaced by a new one</source>
         <translation>无法用新文件替换它</translation>
     </message>
@@ -366,6 +362,22 @@ Continue and close the application ?</source>
     <message>
         <source>another program has locked it</source>
         <translation>其他程序已将其锁定</translation>
+    </message>
+    <message>
+        <source>a copy of it cannot be kept: %1</source>
+        <translation>无法保留其副本:%1</translation>
+    </message>
+    <message>
+        <source>it cannot be read to its end</source>
+        <translation>无法读取到末尾</translation>
+    </message>
+    <message>
+        <source>not all values can be kept in it</source>
+        <translation>无法在其中保存所有值</translation>
+    </message>
+    <message>
+        <source>it is being written already</source>
+        <translation>正在写入中</translation>
     </message>
 </context>
 <context>
