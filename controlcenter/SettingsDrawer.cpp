@@ -33,10 +33,10 @@ bool polishPartly(const QWidget& tree)
     const QList<QWidget*> descendants = tree.findChildren<QWidget*>();
     QElapsedTimer clock;
     clock.start();
-    for (auto widget = descendants.rbegin(); widget != descendants.rend(); ++widget) {
+    for (int index = descendants.size() - 1; index >= 0; --index) {
         if (clock.elapsed() >= PolishingTime)
             return false;
-        (*widget)->ensurePolished();
+        descendants[index]->ensurePolished();
     }
     return true;
 }

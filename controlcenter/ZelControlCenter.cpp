@@ -76,7 +76,8 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     m_ui->controlCenterButton->setChecked(false);
     drawer->hide();
     m_drawer = new SettingsDrawer(drawer, m_ui->verticalLayout_4, m_ui->verticalLayout_8, this);
-    m_pageButtons = new PageButtons(m_ui->verticalLayout_6, {m_ui->resetButton, m_ui->applyButton}, this);
+    m_pageButtons = new PageButtons(m_ui->verticalLayout_6,
+                                    QList<QWidget*>() << m_ui->resetButton << m_ui->applyButton, this);
 
     connect(m_pages, SIGNAL(stateChanged()), this, SLOT(onStateChanged()));
     connect(m_clickOutside, SIGNAL(clicked()), this, SLOT(onClickOutside()));
