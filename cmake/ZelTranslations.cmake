@@ -2,12 +2,12 @@
 # boxes, under a name that is the same for every version of Qt.
 #   ZEL_QT_LINKS   each such name, with "=" and Qt's file
 
+set(ZEL_LANGUAGE_DIR resources/languages)
 if(ZEL_QT EQUAL 4 AND NOT TARGET Qt4::lrelease)
     message(STATUS "Translations: left out, there is no lrelease")
     return()
 endif()
 
-set(ZEL_LANGUAGE_DIR resources/languages)
 set(zel_languages ${ZEL_STAGE}/${ZEL_LANGUAGE_DIR})
 file(GLOB zel_translations CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/languages/Torvane_*.ts)
 set_source_files_properties(${zel_translations} PROPERTIES OUTPUT_LOCATION ${zel_languages})
