@@ -68,9 +68,9 @@ bool SettingsPages::remove(ZelSettingsPanel* page)
     return m_pages.removeOne(page);
 }
 
-void SettingsPages::forEach(const std::function<void(ZelSettingsPanel*)>& action) const
+void SettingsPages::forEach(const std::function<void(ZelSettingsPanel*)>& action)
 {
-    const QPointer<const SettingsPages> self(this);
+    const QPointer<SettingsPages> self(this);
     const QList<ZelSettingsPanel*> pages = m_pages;
     for (ZelSettingsPanel* page : pages)
         if (self && m_pages.contains(page))
@@ -116,7 +116,7 @@ bool SettingsPages::apply(QSettings& settings, bool& restart, QString& error)
     return written;
 }
 
-bool SettingsPages::applyEach(const QList<ZelSettingsPanel*>& edited) const
+bool SettingsPages::applyEach(const QList<ZelSettingsPanel*>& edited)
 {
     bool restart = false;
     forEach([&](ZelSettingsPanel* page) {

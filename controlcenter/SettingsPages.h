@@ -31,7 +31,7 @@ public:
     /// False when the page is not there.
     bool remove(ZelSettingsPanel* page);
     /// Calls a function for each page, in order.
-    void forEach(const std::function<void(ZelSettingsPanel*)>& action) const;
+    void forEach(const std::function<void(ZelSettingsPanel*)>& action);
 
     /// True when any page has pending edits.
     bool hasModifications() const;
@@ -64,7 +64,7 @@ private Q_SLOTS:
 
 private:
     /// Applies every page, in order. One that is not in the list has no edits of the user.
-    bool applyEach(const QList<ZelSettingsPanel*>& edited) const;
+    bool applyEach(const QList<ZelSettingsPanel*>& edited);
 
     QList<ZelSettingsPanel*> m_pages;
     QMap<const QObject*, std::function<void()>> m_discarded; ///< What makes its edits again, by page.

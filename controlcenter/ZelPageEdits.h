@@ -30,7 +30,7 @@ struct ZelPendingEdit
 class ZEL_EXPORT ZelPageEdits
 {
 public:
-    virtual ~ZelPageEdits() = default;
+    virtual ~ZelPageEdits();
 
     /// Takes the stored values into every field without an edit, as when another program has written the
     /// file. Keeps the edits, except for those that equal the stored value: they are applied. Emits nothing,

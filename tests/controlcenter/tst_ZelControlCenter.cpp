@@ -237,13 +237,14 @@ private Q_SLOTS:
         QTest::addColumn<bool>("agree");
         for (const char* when : {"closing the menu", "clicking outside", "telling of a restart", "sliding"})
             for (const bool agree : {true, false})
-                QTest::addRow("while %s, %s", when, agree ? "then Ok" : "then Escape") << when << agree;
+                QTest::newRow(qPrintable(QString("while %1, then %2").arg(when, agree ? "Ok" : "Escape")))
+                    << when << agree;
     }
 
     void mayBeDeletedAtAnyTime()
     {
-        QFETCH(const QString, when);
-        QFETCH(const bool, agree);
+        QFETCH(QString, when);
+        QFETCH(bool, agree);
         addPages(1);
         m_application->guiPlugin = &m_guiPlugin;
         openEverything();
@@ -256,7 +257,7 @@ private Q_SLOTS:
             m_controlCenter->openMenu(false);
         } else if (when == "clicking outside") {
             QTest::qWait(GuardTime);
-            QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, {}, m_view->pos() + QPoint(10, 10));
+            QTest::mouseClick(inputOf(m_window.get()), Qt::LeftButton, {}, m_view->pos() + QPoint(10, 10));
         } else if (when == "telling of a restart") {
             QTest::mouseClick(button("applyButton"), Qt::LeftButton);
         } else {
@@ -268,6 +269,7 @@ private Q_SLOTS:
         QVERIFY(m_application->engineUpdates.isEmpty() || m_application->engineUpdates.last());
     }
 
+#if !defined(ZEL_LEAVE_OUT_nothingSlidesWhereTheStyleAnimatesNothing)
     void nothingSlidesWhereTheStyleAnimatesNothing()
     {
         struct : QProxyStyle
@@ -289,6 +291,7 @@ private Q_SLOTS:
         QVERIFY(!m_application->engineUpdates.contains(false));
         m_controlCenter.reset();
     }
+#endif
 
     void discardedEditsCanBeMadeAgain()
     {
@@ -606,9 +609,18 @@ private Q_SLOTS:
     }
 
 private:
-    QPushButton* button(const char* name) const { return m_window->findChild<QPushButton*>(name); }
-    bool canApply() const { return button("applyButton")->isEnabled(); }
-    QScrollBar* scrollBar() const { return m_controlCenter->settingsWidget()->verticalScrollBar(); }
+    QPushButton* button(const char* name) const
+    {
+        return m_window->findChild<QPushButton*>(name);
+    }
+    bool canApply() const
+    {
+        return button("applyButton")->isEnabled();
+    }
+    QScrollBar* scrollBar() const
+    {
+        return m_controlCenter->settingsWidget()->verticalScrollBar();
+    }
 
     /// Whether the column shows its actions, or else the buttons of the pages.
     bool showsActions(bool actions) const
@@ -658,7 +670,10 @@ private:
         return m_actions.try_emplace(name, name, "Action", nullptr).first->second;
     }
 
-    QLayout* column() const { return m_controlCenter->findChild<QFrame*>("actionFrame")->layout(); }
+    QLayout* column() const
+    {
+        return m_controlCenter->findChild<QFrame*>("actionFrame")->layout();
+    }
 
     /// The menu column from top to bottom: names of actions, "-" for separators.
     QString columnText() const

@@ -175,7 +175,7 @@ private Q_SLOTS:
             for (const auto& [command, key, value] : {std::make_tuple("Put back", Qt::Key_Backspace, 300),
                                                       std::make_tuple("Default", Qt::Key_Delete, 1024)}) {
                 box->setValue(512);
-                QTimer::singleShot(0, [name = QString(command)] {
+                const Later choose(0, [name = QString(command)] {
                     if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget()))
                         for (QAction* action : menu->actions())
                             if (action->text().startsWith(name + '\t'))

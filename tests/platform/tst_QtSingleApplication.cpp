@@ -206,7 +206,7 @@ private Q_SLOTS:
         QCOMPARE(patient->line(), QByteArray("sent"));
         QCOMPARE(instance->line(), QByteArray("patient").toHex());
         // Of a stopped instance the system still takes what is sent.
-        QCOMPARE(QProcess::execute("kill", {"-STOP", QString::number(instance->processId())}), 0);
+        QCOMPARE(QProcess::execute("kill", QStringList() << "-STOP" << QString::number(idOf(*instance))), 0);
         QCOMPARE(send("unheard", {"300"}), QByteArray("failed"));
     }
 

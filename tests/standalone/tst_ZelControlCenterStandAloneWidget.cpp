@@ -104,7 +104,7 @@ private Q_SLOTS:
             QTRY_COMPARE(button->toolTip() + button->accessibleName(), QString(tip) + tip);
         }
         QVERIFY(!m_window.isMaximized() && !m_window.windowIcon().isNull());
-        QCOMPARE(QAccessible::queryAccessibleInterface(&m_window)->role(), QAccessible::Window);
+        QCOMPARE(roleOf(&m_window), QAccessible::Window);
         QString product; // Is read as one name, although one half of it is bold.
         for (QLabel* label : m_window.findChild<QFrame*>("appFrame")->findChildren<QLabel*>())
             product += readOut(label);
@@ -235,7 +235,7 @@ private Q_SLOTS:
         window.setGeometry(3000, 40, 720, 400);
         window.showMaximized();
         window.showNormal();
-        QTRY_VERIFY(window.screen()->availableGeometry().contains(window.geometry()));
+        QTRY_VERIFY(QApplication::desktop()->availableGeometry(&window).contains(window.geometry()));
     }
 
     void headerMovesAndMaximizes()

@@ -341,7 +341,7 @@ private Q_SLOTS:
             // What needs no repair is usable all the same.
             QCOMPARE(validate(m_path), reason.isEmpty() || size == "77");
             QVERIFY(apply(m_path) == reason.isEmpty() && error.contains(reason));
-            QCOMPARE(contentOf(m_path).contains("cacheSize=512"), reason.isEmpty());
+            QVERIFY(contentOf(m_path).contains("cacheSize=512") == reason.isEmpty());
             QVERIFY(clock.elapsed() < 8000);
             error.clear();
         }
@@ -401,7 +401,13 @@ private Q_SLOTS:
             changed.setValue("new/key", 1);
             throw std::runtime_error("");
         };
-        QVERIFY_EXCEPTION_THROWN(ZelSettingsFile::Write(*settings, throws, error), std::runtime_error);
+        bool isThrown = false;
+        try {
+            ZelSettingsFile::Write(*settings, throws, error);
+        } catch (const std::runtime_error&) {
+            isThrown = true;
+        }
+        QVERIFY(isThrown && contentOf(m_path) == Foreign && files("*").size() == 1);
         const auto nested = [&](QSettings& changed, QString& text) {
             changed.setValue("new/key", 1);
             return write(*settings, {{"inner/key", 2}}) || (text = error).isNull();

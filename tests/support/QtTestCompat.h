@@ -60,6 +60,11 @@ inline QString readOut(QWidget* widget)
     return read->state().invisible ? QString() : read->text(QAccessible::Name);
 }
 
+inline QAccessible::Role roleOf(QWidget* widget)
+{
+    return QAccessible::queryAccessibleInterface(widget)->role();
+}
+
 /// Turns the wheel towards the user.
 inline void turnWheel(QWidget& window, const QPoint& place)
 {
@@ -336,6 +341,12 @@ inline QString readOut(QWidget* widget)
 {
     const std::unique_ptr<QAccessibleInterface> read(QAccessible::queryAccessibleInterface(widget));
     return read->state(0) & QAccessible::Invisible ? QString() : read->text(QAccessible::Name, 0);
+}
+
+inline QAccessible::Role roleOf(QWidget* widget)
+{
+    const std::unique_ptr<QAccessibleInterface> read(QAccessible::queryAccessibleInterface(widget));
+    return read->role(0);
 }
 
 /// Turns the wheel towards the user.

@@ -24,6 +24,7 @@ struct Census
     Census()
     {
         QPixmapCache::clear();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QObjectList all = qApp->findChildren<QObject*>();
         for (QWidget* window : QApplication::topLevelWidgets())
             all << window << window->findChildren<QObject*>();
