@@ -80,18 +80,26 @@ bool openWhenFree(QFile& file, QIODevice::OpenMode mode)
            file.isOpen();
 }
 
-void makeLater(const QString& file, const QString& other)
+FileStamp stampOf(const QString& path)
 {
-    namespace fs = std::filesystem;
-    const fs::path later = fs::u8path(file.toUtf8().constData()),
-                   earlier = fs::u8path(other.toUtf8().constData());
-    std::error_code noFile, error;
-    const auto size = fs::file_size(earlier, noFile);
-    if (noFile || size != fs::file_size(later, error))
+    std::error_code error;
+    const auto file = std::filesystem::u8path(path.toUtf8().constData());
+    const auto size = std::filesystem::file_size(file, error);
+    if (error)
+        return {-1, 0};
+    const auto time = std::filesystem::last_write_time(file, error).time_since_epoch();
+    return {static_cast<qint64>(size), std::chrono::duration_cast<std::chrono::seconds>(time).count()};
+}
+
+void makeLater(const QString& path, const FileStamp& replaced)
+{
+    const FileStamp present = stampOf(path);
+    if (present.size != replaced.size || present.time > replaced.time)
         return;
-    const auto time = fs::last_write_time(earlier, error) + std::chrono::seconds(1);
-    if (fs::last_write_time(later, error) < time)
-        fs::last_write_time(later, time, error);
+    std::error_code error;
+    std::filesystem::last_write_time(std::filesystem::u8path(path.toUtf8().constData()),
+                                     std::filesystem::file_time_type(std::chrono::seconds(replaced.time + 1)),
+                                     error);
 }
 
 #if defined(Q_OS_WIN)

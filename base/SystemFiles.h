@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QString>
 
+#include <cstdint>
 #include <memory>
 
 namespace zel {
@@ -43,9 +44,16 @@ bool copyRights(const QString& from, const QString& to);
 /// open. On failure systemError() tells why.
 bool replaceFile(const QString& file, const QString& replaced);
 
-/// Makes a file at least a second later than another of the same size, so that QSettings, which remembers
-/// size and time of what it has read, can tell them apart.
-void makeLater(const QString& file, const QString& other);
+/// What QSettings remembers of a file, to tell whether it has changed since it was read.
+struct FileStamp
+{
+    qint64 size;       ///< -1 for a file that does not exist.
+    std::int64_t time; ///< In seconds of the file system's clock.
+};
+FileStamp stampOf(const QString& path);
+
+/// Makes a file that has replaced another of the same size at least a second later than that one.
+void makeLater(const QString& path, const FileStamp& replaced);
 
 /// Opens a file; on Windows it waits up to a second while another program has it open for itself.
 bool openWhenFree(QFile& file, QIODevice::OpenMode mode);

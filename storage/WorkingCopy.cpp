@@ -75,8 +75,10 @@ WorkingCopy::Outcome overwrite(const QString& path, const QByteArray& expected, 
     }
     if (present != expected)
         return WorkingCopy::Outdated;
+    const FileStamp former = stampOf(path);
     const bool isWritten =
         file.resize(0) && file.seek(0) && file.write(content) == content.size() && syncToDisk(file);
+    makeLater(path, former);
     // Where there is no room, the spare copy still has its own.
     if (isWritten || replaceFile(spareOf(path), path))
         return WorkingCopy::InPlace;
@@ -212,8 +214,7 @@ WorkingCopy::Outcome WorkingCopy::put(bool keepsSpare, QString& reason)
 {
     m_settings.reset();
     const bool replaces = !m_exists || (SettingsFilesAreReplaced && copyRights(m_target, m_copy));
-    if (m_exists)
-        makeLater(m_copy, m_target);
+    makeLater(m_copy, stampOf(m_target));
     if (!replaces || keepsSpare) {
         const QString spare = replaces ? nextName() : m_copy;
         if (replaces && !writeFile(spare, m_result, reason))
