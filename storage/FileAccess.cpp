@@ -53,10 +53,10 @@ QString existingFolder(const QString& path)
 bool readOpenFile(QFile& file, QByteArray& content, QString& reason)
 {
     QtSettingsLock lock(file, QtSettingsLock::Read);
-    if (file.size() > MaximumFileSize) {
-        reason = SettingsFileText::tr("it is too large");
-    } else if (!lock.take(LockTimeout)) {
+    if (!lock.take(LockTimeout)) { // Before the size is known, which QFile remembers.
         reason = SettingsFileText::tr("another program has locked it");
+    } else if (file.size() > MaximumFileSize) {
+        reason = SettingsFileText::tr("it is too large");
     } else {
         content = file.readAll();
         if (file.error() == QFile::NoError)

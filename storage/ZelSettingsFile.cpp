@@ -197,20 +197,22 @@ bool ZelSettingsFile::Write(QSettings& settings, const Change& change, QString& 
     QElapsedTimer clock;
     clock.start();
     do {
-        WorkingCopy copy(path);
-        if (!copy.make(reason))
+        auto copy = std::make_unique<WorkingCopy>(path);
+        if (!copy->make(reason))
             return refuseWriting(path, reason, error);
-        const QVariantMap before = valuesOf(copy.settings());
-        restore(copy, held);
-        if (!make(change, copy, settings, held, isCarried, error))
+        const QVariantMap before = valuesOf(copy->settings());
+        restore(*copy, held);
+        if (!make(change, *copy, settings, held, isCarried, error))
             return false;
-        if (valuesOf(copy.settings()) == before && !copy.isDamaged() && !isCarried) {
+        if (valuesOf(copy->settings()) == before && !copy->isDamaged() && !isCarried) {
+            copy.reset(); // Before the next writer makes one of its own in the same place.
             lock.release();
             settings.sync();
             return true;
         }
         const WorkingCopy::Outcome outcome =
-            copy.write(reason) ? copy.put(isCarried, reason) : WorkingCopy::Failed;
+            copy->write(reason) ? copy->put(isCarried, reason) : WorkingCopy::Failed;
+        copy.reset();
         if (outcome == WorkingCopy::InPlace)
             return readWritten(settings, lock, isCarried, reason) || refuseWriting(path, reason, error);
         if (outcome == WorkingCopy::Failed) {

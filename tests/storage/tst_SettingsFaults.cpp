@@ -63,7 +63,8 @@ pid_t startChild(const std::function<bool()>& work)
 bool succeeds(pid_t child)
 {
     int status = 0;
-    return ::waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    return TEMP_FAILURE_RETRY(::waitpid(child, &status, 0)) == child && WIFEXITED(status) &&
+           WEXITSTATUS(status) == 0;
 }
 
 QString error; ///< Of the last operation that failed.
@@ -227,7 +228,7 @@ private:
                 return isDone;
             });
             int status = 0;
-            ::waitpid(child, &status, 0);
+            TEMP_FAILURE_RETRY(::waitpid(child, &status, 0));
             const bool succeeded = WIFEXITED(status) && WEXITSTATUS(status) == 0;
             const QByteArray left = contentOf(m_path);
             const QByteArray which = "call " + QByteArray::number(calls) + " leaves:\n" + left;
@@ -479,7 +480,7 @@ private Q_SLOTS:
             return true;
         });
         int status = 0;
-        while (::waitpid(child, &status, WNOHANG) == 0)
+        while (TEMP_FAILURE_RETRY(::waitpid(child, &status, WNOHANG)) == 0)
             QVERIFY2(validate(m_path), qPrintable(error));
         QVERIFY(WIFEXITED(status) && WEXITSTATUS(status) == 0);
         QCOMPARE(QSettings(m_path, QSettings::IniFormat).value("other/key").toInt(), end - 1);
