@@ -9,12 +9,15 @@
 #include <QCoreApplication>
 #include <QIcon>
 #include <QPointer>
+#include <QSettings>
 
 #include <algorithm>
 
 namespace zel {
 
 namespace {
+
+const int FollowInterval = 1000; // ms
 
 void logUnregisteredKeys(const ZelSettingsPanel& page)
 {
@@ -47,6 +50,8 @@ void markButton(QPushButton& button, bool pending)
 
 SettingsPages::SettingsPages(QObject* parent)
     : QObject(parent)
+    , m_followed(nullptr)
+    , m_stamp()
 {
 }
 
@@ -93,6 +98,32 @@ void SettingsPages::load()
 {
     m_discarded.clear();
     forEach([](ZelSettingsPanel* page) { page->initializeWidget(); });
+}
+
+void SettingsPages::follow(QSettings* settings)
+{
+    m_followed = settings;
+    m_timer.stop();
+    if (!settings)
+        return;
+    m_stamp = stampOf(settings->fileName());
+    m_timer.start(FollowInterval, this);
+}
+
+void SettingsPages::timerEvent(QTimerEvent*)
+{
+    const FileStamp present = stampOf(m_followed->fileName());
+    if (present.size == m_stamp.size && present.time == m_stamp.time)
+        return;
+    m_stamp = present;
+    QString error;
+    if (!ZelSettingsFile::ReadAgain(*m_followed, error))
+        return;
+    forEach([](ZelSettingsPanel* page) {
+        if (auto* edits = dynamic_cast<ZelPageEdits*>(page))
+            edits->takeStored();
+    });
+    Q_EMIT stateChanged();
 }
 
 bool SettingsPages::apply(QSettings& settings, bool& restart, QString& error)

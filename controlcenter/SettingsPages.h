@@ -1,6 +1,9 @@
 #ifndef ZEL_SETTINGSPAGES_H
 #define ZEL_SETTINGSPAGES_H
 
+#include "base/SystemFiles.h"
+
+#include <QBasicTimer>
 #include <QList>
 #include <QMap>
 #include <QObject>
@@ -40,6 +43,9 @@ public:
 
     /// Loads the stored values, which discards the pending edits for good.
     void load();
+    /// Lets the fields without an edit take what other programs write to the file of these settings; null
+    /// ends it.
+    void follow(QSettings* settings);
     /// Writes the pending edits of all pages at once. False, with a translated text, when the file cannot be
     /// written; the edits then stay pending, and the running application has got the stored values again.
     /// @param restart  becomes true when an edit needs a restart to take effect
@@ -59,6 +65,10 @@ Q_SIGNALS:
     /// The answers of a page may have changed, or a registered page was deleted.
     void stateChanged();
 
+protected:
+    /// Looks whether the file has changed.
+    void timerEvent(QTimerEvent* event) override;
+
 private Q_SLOTS:
     void onPageDestroyed(QObject* page);
 
@@ -67,6 +77,9 @@ private:
     bool applyEach(const QList<ZelSettingsPanel*>& edited);
 
     QList<ZelSettingsPanel*> m_pages;
+    QSettings* m_followed; ///< Not owned.
+    FileStamp m_stamp;     ///< Of their file, when it was read.
+    QBasicTimer m_timer;
     QMap<const QObject*, std::function<void()>> m_discarded; ///< What makes its edits again, by page.
 };
 

@@ -416,6 +416,7 @@ void ZelControlCenter::onSettingsWidthFinished()
 {
     resumeEngine();
     m_settingsOpen = m_settingsAnimation->direction() == QAbstractAnimation::Forward;
+    m_pages->follow(m_settingsOpen ? &m_application->getSettings() : nullptr);
     if (m_settingsOpen)
         m_drawer->showAllPages();
     else
@@ -558,7 +559,9 @@ void ZelControlCenter::showWriteError(const QString& error)
 void ZelControlCenter::initializePanels()
 {
     QString error;
-    ZelSettingsFile::IsWritable(m_application->getSettings().fileName(), error);
+    QSettings& settings = m_application->getSettings();
+    if (ZelSettingsFile::ReadAgain(settings, error)) // Others may have written it.
+        ZelSettingsFile::IsWritable(settings.fileName(), error);
     showWriteError(error);
     m_pages->load();
     onStateChanged();

@@ -2,6 +2,7 @@
 #include "ZelCCActionItem.h"
 #include "ZelControlCenter.h"
 #include "ZelGeneralSettingsPanel.h"
+#include "ZelSettingsFile.h"
 #include "ZelSettingsPanel.h"
 #include "zelSpinBox.h"
 
@@ -313,6 +314,28 @@ private Q_SLOTS:
         QVERIFY(!canApply() && !discard->isEnabled());
         restore->trigger();
         QVERIFY(size->value() == stored + 1 && canApply() && !restore->isEnabled());
+        m_controlCenter->unregisterSettingsPanel(&page, true);
+    }
+
+    void openPagesFollowTheFile()
+    {
+        zel::ZelGeneralSettingsPanel page(m_application.get(), m_application->getSettings(), nullptr, {});
+        m_controlCenter->registerSettingsPanel(&page);
+        openEverything();
+        auto* size = page.findChild<QSpinBox*>("databaseSpinBox");
+        for (const int written : {1234, 2345}) {
+            const auto other = zel::ZelSettingsFile::Open(m_application->getSettings().fileName());
+            other->setValue("DBCache/cacheSize", written);
+            other->setValue("other/key", QString(written, 'x'));
+            other->sync();
+            if (written == 1234)
+                QTRY_COMPARE(size->value(), written);
+            else
+                QTRY_VERIFY(m_application->getSettings().value("other/key").toString().size() == written);
+            if (written == 1234)
+                size->setValue(77); // An edit stays.
+        }
+        QCOMPARE(size->value(), 77);
         m_controlCenter->unregisterSettingsPanel(&page, true);
     }
 
