@@ -138,25 +138,37 @@ bool claim(int file)
            ::write(file, text.constData(), static_cast<std::size_t>(text.size())) == text.size();
 }
 
+/// Closes a lock file that was not created after all. None, with the error of the call before.
+std::intptr_t giveUp(int file)
+{
+    const int reason = errno;
+    ::close(file);
+    errno = reason;
+    return None;
+}
+
 /// Creates a lock file that holds its text as soon as it has its name: an empty one, which a killed process
 /// would leave, counts as valid for half a minute. None, with the system's error, when that is not possible.
 std::intptr_t create(const QByteArray& path)
 {
     const QByteArray folder = path.left(path.lastIndexOf('/') + 1) + '.';
-    int file = ::open(folder.constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, Permissions);
-    const bool isUnnamed = file >= 0;
-    if (!isUnnamed) // Not all file systems have files without a name.
-        file = ::open(path.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, Permissions);
-    const QByteArray opened = "/proc/self/fd/" + QByteArray::number(file);
-    if (file < 0 || (claim(file) && (!isUnnamed || ::linkat(AT_FDCWD, opened.constData(), AT_FDCWD,
-                                                            path.constData(), AT_SYMLINK_FOLLOW) == 0)))
+    const int unnamed = ::open(folder.constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, Permissions);
+    if (unnamed >= 0) {
+        const QByteArray opened = "/proc/self/fd/" + QByteArray::number(unnamed);
+        if (claim(unnamed) &&
+            ::linkat(AT_FDCWD, opened.constData(), AT_FDCWD, path.constData(), AT_SYMLINK_FOLLOW) == 0)
+            return unnamed;
+        if (giveUp(unnamed) == None && errno != ENOENT)
+            return None;
+    }
+    // Not all systems have files without a name, or /proc.
+    const int file = ::open(path.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, Permissions);
+    if (file < 0 || claim(file))
         return file;
     const int reason = errno;
-    if (!isUnnamed)
-        ::unlink(path.constData());
-    ::close(file);
+    ::unlink(path.constData());
     errno = reason;
-    return None;
+    return giveUp(file);
 }
 
 /// An existing lock file, opened to be judged.

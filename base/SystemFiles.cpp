@@ -17,6 +17,7 @@
 #    include <acl/libacl.h>
 #    include <attr/libattr.h>
 #    include <cerrno>
+#    include <csignal>
 #    include <fcntl.h>
 #    include <sys/acl.h>
 #    include <sys/stat.h>
@@ -88,18 +89,18 @@ FileStamp stampOf(const QString& path)
     if (error)
         return {-1, 0};
     const auto time = std::filesystem::last_write_time(file, error).time_since_epoch();
-    return {static_cast<qint64>(size), std::chrono::duration_cast<std::chrono::seconds>(time).count()};
+    return {static_cast<qint64>(size), std::chrono::duration_cast<std::chrono::milliseconds>(time).count()};
 }
 
 void makeLater(const QString& path, const FileStamp& replaced)
 {
     const FileStamp present = stampOf(path);
-    if (present.size != replaced.size || present.time > replaced.time)
+    if (present.size != replaced.size || present.time / 1000 > replaced.time / 1000)
         return;
     std::error_code error;
-    std::filesystem::last_write_time(std::filesystem::u8path(path.toUtf8().constData()),
-                                     std::filesystem::file_time_type(std::chrono::seconds(replaced.time + 1)),
-                                     error);
+    std::filesystem::last_write_time(
+        std::filesystem::u8path(path.toUtf8().constData()),
+        std::filesystem::file_time_type(std::chrono::milliseconds(replaced.time + 1000)), error);
 }
 
 #if defined(Q_OS_WIN)
@@ -117,6 +118,15 @@ bool mayReplace(const QString&)
 bool isWritableFolder(const QString& path)
 {
     return QFileInfo(path).isDir();
+}
+
+bool isProcessRunning(qint64 process)
+{
+    const HANDLE handle = OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(process));
+    const bool isRunning = handle && WaitForSingleObject(handle, 0) == WAIT_TIMEOUT;
+    if (handle)
+        CloseHandle(handle);
+    return isRunning || (!handle && GetLastError() == ERROR_ACCESS_DENIED);
 }
 
 bool createPrivateFolder(const QString& path)
@@ -158,6 +168,11 @@ bool isWritableFolder(const QString& path)
 {
     const QFileInfo folder(path);
     return folder.isDir() && folder.isWritable();
+}
+
+bool isProcessRunning(qint64 process)
+{
+    return ::kill(static_cast<pid_t>(process), 0) == 0 || errno != ESRCH;
 }
 
 bool createPrivateFolder(const QString& path)

@@ -30,6 +30,9 @@ bool mayReplace(const QString& path);
 /// attribute does not mean that, and access rights show only when a file is created.
 bool isWritableFolder(const QString& path);
 
+/// True for the number of a process that runs, or may do so.
+bool isProcessRunning(qint64 process);
+
 /// Creates a folder that only its user can enter. On failure systemError() tells why.
 bool createPrivateFolder(const QString& path);
 
@@ -48,7 +51,7 @@ bool replaceFile(const QString& file, const QString& replaced);
 struct FileStamp
 {
     qint64 size;       ///< -1 for a file that does not exist.
-    std::int64_t time; ///< In seconds of the file system's clock.
+    std::int64_t time; ///< In milliseconds of the file system's clock.
 };
 FileStamp stampOf(const QString& path);
 

@@ -106,24 +106,26 @@ void SettingsPages::follow(QSettings* settings)
     m_timer.stop();
     if (!settings)
         return;
-    m_stamp = stampOf(settings->fileName());
+    m_stamp = {-1, -1}; // Others may have written since the pages were loaded.
     m_timer.start(FollowInterval, this);
 }
 
 void SettingsPages::timerEvent(QTimerEvent*)
 {
     const FileStamp present = stampOf(m_followed->fileName());
-    if (present.size == m_stamp.size && present.time == m_stamp.time)
+    const bool isWriting = &ZelSettingsFile::Current(*m_followed) != m_followed;
+    QString error;
+    if (isWriting || (present.size == m_stamp.size && present.time == m_stamp.time) ||
+        !ZelSettingsFile::ReadAgain(*m_followed, error))
         return;
     m_stamp = present;
-    QString error;
-    if (!ZelSettingsFile::ReadAgain(*m_followed, error))
-        return;
+    const QPointer<SettingsPages> self(this);
     forEach([](ZelSettingsPanel* page) {
         if (auto* edits = dynamic_cast<ZelPageEdits*>(page))
             edits->takeStored();
     });
-    Q_EMIT stateChanged();
+    if (self)
+        Q_EMIT stateChanged();
 }
 
 bool SettingsPages::apply(QSettings& settings, bool& restart, QString& error)
@@ -133,13 +135,16 @@ bool SettingsPages::apply(QSettings& settings, bool& restart, QString& error)
         if (page->hasModifications())
             edited << page;
     const auto applyPages = [&](QSettings&, QString&) {
-        restart = applyEach(edited);
+        restart = applyEach(edited) || restart; // It may be called again.
         return true;
     };
     // One write for all pages, so that the file never has only some of the edits.
     if (edited.isEmpty())
         return applyPages(settings, error);
+    const QPointer<SettingsPages> self(this);
     const bool written = ZelSettingsFile::Write(settings, applyPages, error);
+    if (!self)
+        return written;
     forEach([&](ZelSettingsPanel* page) {
         if (auto* edits = dynamic_cast<ZelPageEdits*>(page))
             written ? edits->takeStored() : edits->pushStored();

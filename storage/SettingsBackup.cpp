@@ -68,11 +68,12 @@ bool keepBackup(const QString& path, const QByteArray& content, const QString& l
         return true;
     const QString copy = newName(path);
     const bool isComplete = writeFile(incomplete, content, reason);
-    if (isComplete)
-        copyRights(path, incomplete); // If that is refused, the copy is still good.
+    if (isComplete && !copyRights(path, incomplete)) // The copy is good, but for no other user.
+        QFile::setPermissions(incomplete, QFile::ReadOwner | QFile::WriteOwner);
     if (!isComplete || !replaceFile(incomplete, copy)) {
         if (isComplete)
             reason = systemError();
+        QFile::remove(incomplete);
         reason = SettingsFileText::tr("a copy of it cannot be kept: %1").arg(reason);
         return false;
     }

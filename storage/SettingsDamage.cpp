@@ -99,6 +99,8 @@ Line firstLine(const QByteArray& text, const std::function<bool(const Line& line
         // A readable line that ends with a backslash ends with a comment, which does not go on.
         const bool isJoined = isContinued(line()) && isUnreadable(line());
         while (isJoined && end < text.size() && isContinued(line())) {
+            if (text.mid(end, 2) == "\r\n")
+                ++end;
             if (text.at(end) == '\n')
                 ++last;
             end = lineEnd(text, end + 1);
@@ -171,50 +173,44 @@ private:
     QSet<QString> m_keys;
 };
 
-/// The elements of a value, with their escapes replaced.
-QStringList decodedElements(const QByteArray& value)
+/// The elements of a value as QSettings decodes them, which drops an escape that it does not know.
+/// @param hasComment  a ';' outside quotation marks begins a comment
+QStringList decodedElements(const QByteArray& value, bool hasComment)
 {
-    const QByteArray simple = "abfnrtv", meant = "\a\b\f\n\r\t\v";
+    const QByteArray simple = "abfnrtv\"?'\\", meant = "\a\b\f\n\r\t\v\"?'\\";
     QStringList elements("");
     bool isQuoted = false, isBegun = false;
     for (int i = 0; i < value.size(); ++i) {
         const char character = value.at(i);
-        QChar decoded(static_cast<uchar>(character));
         if (character == '"') {
             isQuoted = !isQuoted;
             isBegun = true;
-            continue;
-        }
-        if (character == ',' && !isQuoted) {
+        } else if (character == ',' && !isQuoted) {
             elements += "";
             isBegun = false;
-            continue;
-        }
-        if (character == ';' && !isQuoted)
+        } else if (character == ';' && !isQuoted && hasComment) {
             break;
-        if (!isBegun && (character == ' ' || character == '\t'))
-            continue;
-        if (character == '\\' && i + 1 < value.size()) {
+        } else if (character == '\\' && i + 1 < value.size()) {
             const char kind = value.at(++i);
-            const int base = kind == 'x' ? 16 : 8;
-            int digits = i + (kind == 'x' ? 1 : 0), code = 0, digit = 0;
-            const auto next = [&](int at) {
-                bool isDigit = false;
-                digit = value.mid(at, 1).toInt(&isDigit, base);
-                return isDigit;
-            };
-            int end = digits;
-            for (; end < value.size() && next(end); ++end)
-                code = (code * base + digit) & 0xFFFF;
-            if (kind == '\n' || kind == '\r')
-                continue;
-            decoded = simple.contains(kind) ? QChar(meant.at(simple.indexOf(kind)))
-                      : end > digits        ? QChar(static_cast<ushort>(code))
-                                            : QChar(static_cast<uchar>(kind));
+            const int base = kind == 'x' ? 16 : 8, begin = kind == 'x' ? i + 1 : i;
+            int end = begin, code = 0;
+            for (bool isDigit = true; isDigit && end < value.size();) {
+                const int digit = value.mid(end, 1).toInt(&isDigit, base);
+                code = isDigit ? (code * base + digit) & 0xFFFF : code;
+                end += isDigit;
+            }
+            if (simple.contains(kind))
+                elements.last() += QChar(meant.at(simple.indexOf(kind)));
+            else if (end > begin)
+                elements.last() += QChar(static_cast<ushort>(code));
+            isBegun = true;
+            if (value.mid(i, 2) == "\r\n")
+                ++i;
             i = std::max(i, end - 1);
+        } else if (isBegun || (character != ' ' && character != '\t')) {
+            elements.last() += QChar(static_cast<uchar>(character));
+            isBegun = true;
         }
-        isBegun = true;
-        elements.last() += decoded;
     }
     return elements;
 }
@@ -225,14 +221,21 @@ QByteArray valueOf(const QByteArray& line)
     return first == '[' || first == ';' ? QByteArray() : line.mid(line.indexOf('=') + 1);
 }
 
+/// False for most texts, without a closer look: an escape may stand for the '@'.
+bool mayHoldObjects(const QByteArray& text)
+{
+    return text.contains('@') || text.contains('\\');
+}
+
 /// True when QSettings would decode an object of the line. What it makes of lines that cannot be read depends
 /// on what stands before them, so in a text with such lines the name of an object alone counts.
 bool holdsObject(const QByteArray& line, bool isTextReadable)
 {
-    if (!line.contains('@') && !line.contains('\\'))
+    if (!mayHoldObjects(line))
         return false;
-    for (const QString& element :
-         decodedElements(isTextReadable ? valueOf(line) : QByteArray(line).replace('"', "")))
+    QByteArray value = isTextReadable ? valueOf(line) : line;
+    value.replace(Utf8Mark, ""); // Qt's own codec drops it.
+    for (const QString& element : decodedElements(value, isTextReadable))
         for (const char* const object : Objects)
             if (isTextReadable ? element.startsWith(object) : element.contains(object))
                 return true;
@@ -244,7 +247,7 @@ bool hasHalfCharacter(const QByteArray& line)
 {
     if (!line.contains("\\x"))
         return false;
-    for (const QString& element : decodedElements(valueOf(line))) {
+    for (const QString& element : decodedElements(valueOf(line), true)) {
         bool isOpen = false;
         for (const QChar character : element) {
             if (character.isLowSurrogate() != isOpen)
@@ -261,11 +264,6 @@ bool isReadable(const QByteArray& text)
 {
     return isUtf8(text) &&
            firstLine(text, [](const Line& line) { return isUnreadable(line.text); }).number == 0;
-}
-
-bool mayHoldObjects(const QByteArray& text)
-{
-    return text.contains('@') || text.contains("\\x") || text.contains("\\1");
 }
 
 } // namespace

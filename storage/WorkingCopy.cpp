@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 
 namespace zel {
@@ -20,6 +21,8 @@ const int ProbeSize = 16384; // Bytes; more than what a file system gives away u
 // The last setting of a new copy. If QSettings finds it, it has read the copy to its end.
 const char* const EndKey = "end of the working copy/isRead";
 const char* const EndText = "\n[end%20of%20the%20working%20copy]\nisRead=true\n";
+
+const char* const FolderMark = ".new-"; // Before the number of the process.
 
 QString spareOf(const QString& target)
 {
@@ -44,14 +47,25 @@ bool isSame(const QVariantMap& left, const QVariantMap& right)
     return true;
 }
 
+/// Removes the folder of a copy, and nothing that is not ours.
 void removeFolder(const QString& path)
 {
-    if (QDir().rmdir(path))
+    if (QDir().rmdir(path) || QFileInfo(path).isSymLink())
         return;
     QDir folder(path);
-    for (const QString& name : folder.entryList(QDir::Files | QDir::Hidden | QDir::System))
+    for (const QString& name : folder.entryList(QStringList("[0-9]*.ini*"), QDir::Files | QDir::System))
         folder.remove(name);
     QDir().rmdir(path);
+}
+
+/// Removes the folders that killed writers have left.
+void removeOrphans(const QString& target)
+{
+    const QFileInfo file(target);
+    const QString stem = file.fileName() + FolderMark;
+    for (const QString& name : file.dir().entryList(QStringList(stem + "*"), QDir::Dirs | QDir::Hidden))
+        if (!isProcessRunning(name.mid(stem.size()).toLongLong()))
+            removeFolder(file.dir().filePath(name));
 }
 
 /// Writes over the file that another program may have opened already, and waits to write to it.
@@ -103,7 +117,7 @@ WorkingCopy* WorkingCopy::Changing = nullptr;
 WorkingCopy::WorkingCopy(const QString& path)
     : m_path(path)
     , m_target(fileBehind(path))
-    , m_folder(m_target + ".new")
+    , m_folder(m_target + FolderMark + QString::number(QCoreApplication::applicationPid()))
     , m_exists(false)
     , m_damaged(false)
 {
@@ -138,7 +152,8 @@ bool WorkingCopy::make(QString& reason)
     file.close();
     if (!readFile(m_target, m_content, reason))
         return false;
-    removeFolder(m_folder); // A killed writer may have left it.
+    removeOrphans(m_target);
+    removeFolder(m_folder); // Of an earlier process with the same number.
     if (!createPrivateFolder(m_folder)) {
         reason = systemError();
         return false;
@@ -174,7 +189,8 @@ bool WorkingCopy::make(QString& reason)
 
 bool WorkingCopy::keepContent(const QString& loss, QString& reason) const
 {
-    return keepBackup(m_path, m_content, loss, nextName(), reason);
+    // A link may lead to another file system, from which the copy could not be renamed.
+    return keepBackup(m_path, m_content, loss, m_path == m_target ? nextName() : m_path + ".bak.new", reason);
 }
 
 bool WorkingCopy::write(QString& reason)
@@ -190,16 +206,16 @@ bool WorkingCopy::write(QString& reason)
         isComplete = isSame(valuesOf(*m_settings), wanted);
     }
     QFile copy(m_copy);
-    if (isComplete && readFile(m_copy, m_result, reason) && copy.open(QIODevice::ReadWrite) &&
-        syncToDisk(copy)) {
-        if (!holdsObjects(m_result))
-            return true;
+    if (isComplete && !readFile(m_copy, m_result, reason))
+        return false;
+    if (isComplete && holdsObjects(m_result)) {
         reason = SettingsFileText::tr("not all values can be kept in it");
         return false;
     }
     if (isComplete) {
-        reason = systemError();
-        return false;
+        const bool isOnDisk = copy.open(QIODevice::ReadWrite) && syncToDisk(copy);
+        reason = isOnDisk ? QString() : systemError();
+        return isOnDisk;
     }
     // QSettings does not tell why.
     int size = ProbeSize;
@@ -213,7 +229,10 @@ bool WorkingCopy::write(QString& reason)
 WorkingCopy::Outcome WorkingCopy::put(bool keepsSpare, QString& reason)
 {
     m_settings.reset();
-    const bool replaces = !m_exists || (SettingsFilesAreReplaced && copyRights(m_target, m_copy));
+    const bool hasRights = !m_exists || copyRights(m_target, m_copy);
+    if (!hasRights)
+        QFile::setPermissions(m_copy, QFile::ReadOwner | QFile::WriteOwner);
+    const bool replaces = !m_exists || (hasRights && SettingsFilesAreReplaced);
     makeLater(m_copy, stampOf(m_target));
     if (!replaces || keepsSpare) {
         const QString spare = replaces ? nextName() : m_copy;
@@ -257,7 +276,8 @@ WorkingCopy::Outcome WorkingCopy::replace(QString& reason) const
 
 bool WorkingCopy::isUnfinished(const QString& path)
 {
-    return QFile::exists(spareOf(fileBehind(path)));
+    const QFileInfo spare(spareOf(fileBehind(path)));
+    return spare.isFile() && !spare.isSymLink();
 }
 
 bool WorkingCopy::finish(const QString& path, bool givesRights, QString& reason)
@@ -274,7 +294,7 @@ bool WorkingCopy::finish(const QString& path, bool givesRights, QString& reason)
             overwrite(target, present, wanted, reason) != InPlace)
             return false;
     } else if (!keepBackup(path, wanted, "its writing was cut short, and another program has written it",
-                           spare, reason)) {
+                           spare + ".new", reason)) {
         return false;
     }
     QFile::remove(spare);

@@ -2,6 +2,7 @@
 
 #include "FileAccess.h"
 #include "IniCodec.h"
+#include "Log.h"
 #include "SettingsBackup.h"
 #include "SettingsDamage.h"
 #include "SettingsValidation.h"
@@ -85,19 +86,36 @@ void restore(const WorkingCopy& copy, const QVariantMap& held)
             settings.setValue(value.key(), *value);
 }
 
+/// Puts back what the shared settings held, and lets them write it at once, so that nothing is pending. Not
+/// under the lock, which they take themselves.
+void rollBack(QSettings& shared, const QVariantMap& held)
+{
+    const QVariantMap shown = valuesOf(shared);
+    if (shown == held)
+        return;
+    set(shared, shown, held);
+    shared.sync();
+}
+
 /// Calls the change for the copy, and carries over what it has set in the shared settings. False when the
-/// change gave up.
+/// change gave up; the shared settings then hold what they held.
 bool make(const ZelSettingsFile::Change& change, WorkingCopy& copy, QSettings& shared,
           const QVariantMap& held, bool& isCarried, QString& error)
 {
     const Visible visible(copy);
-    const bool isMade = change(copy.settings(), error);
+    bool isMade = false;
+    try {
+        isMade = change(copy.settings(), error);
+    } catch (...) {
+        rollBack(shared, held);
+        throw;
+    }
     const QVariantMap shown = valuesOf(shared);
     isCarried = isCarried || shown != held;
     if (isMade)
         set(copy.settings(), held, shown);
     else
-        set(shared, shown, held);
+        rollBack(shared, held);
     return isMade;
 }
 
@@ -131,7 +149,7 @@ bool makeUsable(const QString& path, QString& reason, QSettings* shared = nullpt
 {
     QByteArray content;
     if (WorkingCopy::isUnfinished(path) && !Locked(path).take(reason))
-        return false;
+        logWarning(QString("The write of \"%1\" that was cut short is not finished: %2").arg(path, reason));
     if (!readFile(path, content, reason))
         return false;
     if (!holdsObjects(content))
@@ -189,39 +207,46 @@ bool ZelSettingsFile::Write(QSettings& settings, const Change& change, QString& 
     QString reason;
     if (WorkingCopy::Changing)
         return refuseWriting(path, SettingsFileText::tr("it is being written already"), error);
+    UseFileEncoding(settings);
     Locked lock(path);
-    if (!makeUsable(path, reason, &settings) || !lock.take(reason))
+    if (!makeUsable(path, reason, &settings))
         return refuseWriting(path, reason, error);
     const QVariantMap held = valuesOf(settings);
+    const auto refuse = [&](const QString& why) {
+        lock.release();
+        rollBack(settings, held);
+        return refuseWriting(path, why, error);
+    };
     bool isCarried = false;
     QElapsedTimer clock;
     clock.start();
     do {
-        auto copy = std::make_unique<WorkingCopy>(path);
-        if (!copy->make(reason))
-            return refuseWriting(path, reason, error);
+        // Gone before the lock is released for good.
+        auto copy = lock.take(reason) ? std::make_unique<WorkingCopy>(path) : nullptr;
+        if (!copy || !copy->make(reason))
+            return refuse(reason);
         const QVariantMap before = valuesOf(copy->settings());
         restore(*copy, held);
+        // The change may take long, or let the shared settings write, which then wait for the lock.
+        lock.release();
         if (!make(change, *copy, settings, held, isCarried, error))
             return false;
         if (valuesOf(copy->settings()) == before && !copy->isDamaged() && !isCarried) {
-            copy.reset(); // Before the next writer makes one of its own in the same place.
-            lock.release();
             settings.sync();
             return true;
         }
+        if (!lock.take(reason))
+            return refuse(reason);
         const WorkingCopy::Outcome outcome =
             copy->write(reason) ? copy->put(isCarried, reason) : WorkingCopy::Failed;
         copy.reset();
         if (outcome == WorkingCopy::InPlace)
             return readWritten(settings, lock, isCarried, reason) || refuseWriting(path, reason, error);
-        if (outcome == WorkingCopy::Failed) {
-            set(settings, valuesOf(settings), held);
-            return refuseWriting(path, reason, error);
-        }
+        if (outcome == WorkingCopy::Failed)
+            return refuse(reason);
+        lock.release();
     } while (clock.elapsed() < LockTimeout);
-    set(settings, valuesOf(settings), held);
-    return refuseWriting(path, SettingsFileText::tr("another program has locked it"), error);
+    return refuse(SettingsFileText::tr("another program has locked it"));
 }
 
 bool ZelSettingsFile::Repair(QSettings& settings, QString& error)

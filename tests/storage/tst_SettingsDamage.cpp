@@ -55,6 +55,36 @@ private Q_SLOTS:
         QCOMPARE(text, QString::fromUtf8("\xF0\x9F\x99\x82"));
         QCOMPARE(bytes, text.toUtf8());
     }
+
+    void objects_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QByteArray>("kept");
+        const QByteArray end = "Variant(\\x0)\"\n";
+        const std::pair<const char*, QByteArray> rows[] = {{"plain", "x=\"@" + end},
+                                                           {"in a list", "x=a, \"@" + end},
+                                                           {"escaped", "x=\"\\x40" + end},
+                                                           {"octal", "x=\"\\0100" + end},
+                                                           {"unknown escape", "x=\"@\\q" + end},
+                                                           {"after a mark", "x=\"@\xEF\xBB\xBF" + end},
+                                                           {"joined lines", "x=\"@Vari\\\r\nant(\\x0)\"\n"},
+                                                           {"time", "x=@DateTime(\\x0)\n"}};
+        for (const auto& [name, line] : rows)
+            QTest::newRow(name) << "a=1\n" + line + "b=@\n" << QByteArray("a=1\nb=@\n");
+        QTest::newRow("among junk") << QByteArray("junk\nx=\"a;b\", \"@" + end) << QByteArray("junk\n");
+        QTest::newRow("quotes among junk")
+            << QByteArray("junk\nx=\"@\\x56\"\"ariant(\"\n") << QByteArray("junk\n");
+        for (const QByteArray text : {"a=@@Variant(\n", "a=the @Variant(\n", "a=@ByteArray(x)\n"})
+            QTest::newRow(text) << text << text;
+    }
+
+    void objects()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QByteArray, kept);
+        QVERIFY(zel::holdsObjects(text) == (text != kept));
+        QCOMPARE(zel::withoutObjects(text), kept);
+    }
 };
 
 QTEST_APPLESS_MAIN(tst_SettingsDamage)

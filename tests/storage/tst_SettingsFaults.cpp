@@ -435,6 +435,7 @@ private Q_SLOTS:
         const auto mixed = [&](QSettings& changed, QString&) {
             changed.setValue("own/key", 1);
             settings->setValue("page/key", 2);
+            settings->sync(); // As many a page does.
             return &ZelSettingsFile::Current(*settings) == &changed;
         };
         QVERIFY(ZelSettingsFile::Write(*settings, mixed, error));
@@ -576,6 +577,15 @@ private Q_SLOTS:
         ::umount(path);
         filler.close(); // An open file keeps the disk mounted, and its folder in place.
         ::umount(qPrintable(m_folder.path()));
+    }
+
+    void foldersOfOthersStay()
+    {
+        store(m_path, Foreign);
+        const QString own = QString("%1.new-%2").arg(m_path).arg(QCoreApplication::applicationPid());
+        store(m_folder.filePath("mine/1.ini"), "mine");
+        QVERIFY(QFile::link("mine", own) && !apply(m_path));
+        QCOMPARE(contentOf(m_folder.filePath("mine/1.ini")), QByteArray("mine"));
     }
 
     void obstacles()
