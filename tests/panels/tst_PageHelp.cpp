@@ -58,7 +58,7 @@ private:
         m_window = std::make_unique<ZelControlCenterStandAloneWidget>(m_application.get(), nullptr,
                                                                       Qt::FramelessWindowHint);
         window = m_window.get();
-        m_window->resize(1200, 800);
+        m_window->resize(1200, 600);
         m_window->show();
         QApplication::setActiveWindow(m_window.get());
         m_window->openMenu();
