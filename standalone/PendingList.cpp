@@ -9,6 +9,7 @@
 #include <QSignalMapper>
 #include <QVBoxLayout>
 
+#include <memory>
 #include <vector>
 
 namespace zel {
@@ -28,26 +29,36 @@ const char* const Style =
 class Line : public QPushButton
 {
 public:
-    Line(const QString& text, QWidget* parent)
+    explicit Line(QWidget* parent)
         : QPushButton(parent)
-        , m_text(text)
     {
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    }
+
+    void show(const QString& text)
+    {
+        m_text = text;
         setAccessibleName(text);
+        elide();
     }
 
 protected:
     void resizeEvent(QResizeEvent* event) override
     {
         QPushButton::resizeEvent(event);
+        elide();
+    }
+
+private:
+    void elide()
+    {
         const int margins = 8; // Padding and borders.
         const QString shown = fontMetrics().elidedText(m_text, Qt::ElideMiddle, width() - margins);
         setToolTip(shown == m_text ? QString() : m_text);
         setText(QString(shown).replace('&', "&&"));
     }
 
-private:
-    const QString m_text;
+    QString m_text;
 };
 
 std::vector<ZelPendingEdit> editsOf(const QList<QPointer<ZelSettingsPanel>>& pages)
@@ -107,33 +118,41 @@ void PendingList::refresh()
         return;
     m_shown = texts;
     setVisible(!texts.isEmpty());
-    while (QLayoutItem* item = m_lines->takeAt(0)) {
+    while (m_lines->count() > texts.size()) {
         // Later, because the line may be sending the click that has led here.
+        const std::unique_ptr<QLayoutItem> item(m_lines->takeAt(m_lines->count() - 1));
         item->widget()->hide();
         item->widget()->deleteLater();
-        delete item;
     }
+    while (m_lines->count() < texts.size())
+        addRow();
     for (int i = 0; i < texts.size(); ++i) {
-        auto* row = new QWidget(this);
-        auto* layout = new QHBoxLayout(row);
-        layout->setContentsMargins(0, 0, 0, 0);
-        auto* line = new Line(texts[i], row);
-        line->setAccessibleDescription(QCoreApplication::translate("PendingList", "Goes to the setting."));
-        auto* takeBack = new QPushButton(QString(QChar(0x00D7)), row); // A cross.
-        takeBack->setObjectName("takeBack");
-        takeBack->setFixedSize(26, 26);
-        takeBack->setToolTip(QCoreApplication::translate("ZelHelpCard", "Puts back what is stored"));
-        takeBack->setAccessibleName(takeBack->toolTip());
-        takeBack->setAccessibleDescription(texts[i]);
-        layout->addWidget(line);
-        layout->addWidget(takeBack);
-        m_lines->addWidget(row);
-        row->show();
-        m_goTo->setMapping(line, i);
-        connect(line, SIGNAL(clicked()), m_goTo, SLOT(map()));
-        m_putBack->setMapping(takeBack, i);
-        connect(takeBack, SIGNAL(clicked()), m_putBack, SLOT(map()));
+        const auto* row = m_lines->itemAt(i)->widget()->layout();
+        static_cast<Line*>(row->itemAt(0)->widget())->show(texts[i]);
+        row->itemAt(1)->widget()->setAccessibleDescription(texts[i]);
     }
+}
+
+void PendingList::addRow()
+{
+    auto* row = new QWidget(this);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* line = new Line(row);
+    line->setAccessibleDescription(QCoreApplication::translate("PendingList", "Goes to the setting."));
+    auto* takeBack = new QPushButton(QString(QChar(0x00D7)), row); // A cross.
+    takeBack->setObjectName("takeBack");
+    takeBack->setFixedSize(26, 26);
+    takeBack->setToolTip(QCoreApplication::translate("ZelHelpCard", "Puts back what is stored"));
+    takeBack->setAccessibleName(takeBack->toolTip());
+    layout->addWidget(line);
+    layout->addWidget(takeBack);
+    m_goTo->setMapping(line, m_lines->count());
+    connect(line, SIGNAL(clicked()), m_goTo, SLOT(map()));
+    m_putBack->setMapping(takeBack, m_lines->count());
+    connect(takeBack, SIGNAL(clicked()), m_putBack, SLOT(map()));
+    m_lines->addWidget(row);
+    row->show();
 }
 
 void PendingList::goToField(int line)

@@ -35,6 +35,8 @@ private Q_SLOTS:
     void putBack(int line);
 
 private:
+    void addRow();
+
     QList<QPointer<ZelSettingsPanel>> m_pages;
     QVBoxLayout* m_lines;
     QSignalMapper* m_goTo;

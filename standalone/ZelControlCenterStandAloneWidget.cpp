@@ -33,6 +33,7 @@ namespace {
 
 const int FrameWidth = 1;      // pixels, left and right of the content
 const int MinimumHeight = 300; // pixels, for the header and the menu column
+const int InnerMargin = 50;    // pixels, above and below the focused widget: as QScrollArea keeps it
 
 template <class Panel>
 std::unique_ptr<ZelSettingsPanel> createPanel(kqDMIApplication* application)
@@ -198,9 +199,12 @@ void ZelControlCenterStandAloneWidget::changeEvent(QEvent* event)
 
 void ZelControlCenterStandAloneWidget::onFocusChanged(QWidget*, QWidget* current)
 {
-    // Do not scroll while a mouse button is down.
-    if (m_scrollArea->isAncestorOf(current) && QApplication::mouseButtons() == Qt::NoButton)
-        m_scrollArea->ensureWidgetVisible(current, 0, 0);
+    if (!m_scrollArea->isAncestorOf(current) || QApplication::mouseButtons() != Qt::NoButton)
+        return; // Do not scroll while a mouse button is down.
+    // From the inside out, because each area moves what is in it.
+    for (QWidget* around = current->parentWidget(); around != this; around = around->parentWidget())
+        if (auto* area = qobject_cast<QScrollArea*>(around))
+            area->ensureWidgetVisible(current, 0, area == m_scrollArea ? 0 : InnerMargin);
 }
 
 bool ZelControlCenterStandAloneWidget::mayDiscardModifications()

@@ -74,6 +74,7 @@ private Q_SLOTS:
         QSet<const QWidget*> reached;
         m_window.setMinimumSize(400, 250); // As on a screen that is too small.
         m_window.resize(400, 250);
+        QTRY_VERIFY(!m_window.findChild<QWidget*>("helpFrame")->isVisible()); // No room is left for it.
         for (int i = 0; i < 100; ++i) {
             QTest::keyClick(inputOf(&m_window), Qt::Key_Tab);
             const QWidget* focused = QApplication::focusWidget();
@@ -263,8 +264,7 @@ private:
 
     void turnWheelOver(const QWidget& field)
     {
-        const QPoint place = field.mapTo(&m_window, field.rect().center());
-        turnWheel(m_window, place);
+        turnWheel(m_window, field.mapTo(&m_window, field.rect().center()));
     }
 
     FakeApplication m_application;
