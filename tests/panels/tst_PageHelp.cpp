@@ -90,7 +90,7 @@ private Q_SLOTS:
         QVERIFY(tip.contains(said("descriptionLabel")) && tip.contains(said("effectLabel")));
         QCOMPARE(find("databaseSpinBox")->accessibleDescription(), tip);
         m_window->move(0, -120); // So that the pointer finds the field on a screen of 600 pixels.
-        point("label_29"); // A label stands for its field, once the pointer rests on it.
+        point("label_29");       // A label stands for its field, once the pointer rests on it.
         QCOMPARE(said("nameLabel"), QString("Cache size"));
         QTRY_COMPARE(said("nameLabel"), QString("Screenshot folder"));
         QVERIFY(find("screenshotFolderButton")->toolTip().isEmpty());

@@ -39,6 +39,9 @@ private Q_SLOTS:
                  QString("Display Folders Simplification Tessellation About"));
     }
 
+    // Windows may take the keyboard away again when a window before this one has closed.
+    void init() { QApplication::setActiveWindow(&m_window); }
+
     void wheelScrollsTheDrawerUntilAFieldHasTheFocus()
     {
         QScrollArea* drawer = m_window.findChild<zel::ZelControlCenter*>()->settingsWidget();
