@@ -41,12 +41,18 @@ inline QByteArray contentOfSmallFile(const QString& path, qint64 limit)
 /// Replaces a file in one step; a link itself, not what it leads to. False when that fails.
 inline bool replaceSmallFile(const QString& path, const QByteArray& content)
 {
-    QTemporaryFile file(path + ".XXXXXX"); // Removed at the end, unless it has got its name.
-    if (!file.open() || file.write(content) != content.size() || !file.flush())
-        return false;
-    const QString written = file.fileName(); // Before it is closed, because it may have no name until then.
-    file.close();
-    return replaceFile(written, path);
+    QString written;
+    bool isWritten;
+    {
+        QTemporaryFile file(path + ".XXXXXX");
+        file.setAutoRemove(false);
+        isWritten = file.open() && file.write(content) == content.size() && file.flush();
+        written = file.fileName(); // Before it is closed, because it may have no name until then.
+    } // It stays open as long as the object lives, and Windows replaces no open file.
+    if (isWritten && replaceFile(written, path))
+        return true;
+    QFile::remove(written);
+    return false;
 }
 
 } // namespace zel

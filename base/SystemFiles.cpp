@@ -51,6 +51,12 @@ const wchar_t* native(const QString& path)
 {
     return reinterpret_cast<const wchar_t*>(path.utf16());
 }
+
+bool isReadOnly(const QString& path)
+{
+    const DWORD attributes = GetFileAttributesW(native(path));
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY);
+}
 #else
 const int BusyFileTimeout = 0;
 
@@ -139,16 +145,31 @@ bool syncToDisk(const QFile& file)
     return FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(file.handle()))) != 0;
 }
 
-bool copyRights(const QString&, const QString&)
+bool copyRights(const QString& from, const QString& to)
 {
-    return true;
+    if (isReadOnly(from))
+        return true; // It is not replaced.
+    const DWORD attributes = GetFileAttributesW(native(from));
+    if (attributes == INVALID_FILE_ATTRIBUTES || !SetFileAttributesW(native(to), attributes))
+        return false;
+    DWORD size = 0;
+    GetFileSecurityW(native(from), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+    std::vector<char> rights(size);
+    // Not all file systems have rights.
+    return !GetFileSecurityW(native(from), DACL_SECURITY_INFORMATION, rights.data(), size, &size) ||
+           SetFileSecurityW(native(to), DACL_SECURITY_INFORMATION, rights.data());
 }
 
+// ReplaceFileW() would leave no file at all if the process is killed between its two steps.
 bool replaceFile(const QString& file, const QString& replaced)
 {
+    if (isReadOnly(replaced)) { // Wine would replace it for an administrator.
+        SetLastError(ERROR_ACCESS_DENIED);
+        return false;
+    }
     return succeedsWithin(BusyFileTimeout, [&] {
-        return ReplaceFileW(native(replaced), native(file), nullptr, 0, nullptr, nullptr) ||
-               (GetLastError() == ERROR_FILE_NOT_FOUND && MoveFileExW(native(file), native(replaced), 0));
+        return MoveFileExW(native(file), native(replaced),
+                           MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
     });
 }
 

@@ -39,8 +39,8 @@ bool createPrivateFolder(const QString& path);
 /// Forces what was written to a file onto the disk. On failure systemError() tells why.
 bool syncToDisk(const QFile& file);
 
-/// Gives a file the owner, group, permissions, access list and extended attributes of another. False when
-/// that is not possible in full. On Windows replaceFile() does it.
+/// Gives a file the owner, group, permissions, access list and extended attributes of another; on Windows its
+/// access list and attributes. False when that is not possible in full.
 bool copyRights(const QString& from, const QString& to);
 
 /// Puts a file in the place of another in one step; on Windows it waits a second while a program has that one

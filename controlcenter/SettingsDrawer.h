@@ -48,7 +48,7 @@ public:
     void showAllPages();
 
     /// Scrolls to a page, or until the drawer cannot scroll further.
-    void scrollTo(const QWidget& page);
+    void scrollTo(const QWidget& widget);
     /// The page at this position of the scroll bar; null while the drawer scrolls to a page, and without
     /// pages.
     ZelSettingsPanel* pageAt(int position) const;

@@ -123,11 +123,11 @@ struct ZelPageHelp::Command
 };
 
 const ZelPageHelp::Command ZelPageHelp::Commands[] = {
-    {QT_TRANSLATE_NOOP("ZelPageHelp", "Put back"), Qt::ALT | Qt::Key_Backspace,
+    {QT_TRANSLATE_NOOP("ZelPageHelp", "Put back"), Qt::ALT + Qt::Key_Backspace,
      &ZelSettingHelp::differsFromStored, &ZelSettingHelp::putBack},
-    {QT_TRANSLATE_NOOP("ZelPageHelp", "Default"), Qt::ALT | Qt::Key_Delete,
+    {QT_TRANSLATE_NOOP("ZelPageHelp", "Default"), Qt::ALT + Qt::Key_Delete,
      &ZelSettingHelp::differsFromDefault, &ZelSettingHelp::useDefault},
-    {QT_TRANSLATE_NOOP("ZelPageHelp", "What is this?"), Qt::SHIFT | Qt::Key_F1, nullptr, nullptr},
+    {QT_TRANSLATE_NOOP("ZelPageHelp", "What is this?"), Qt::SHIFT + Qt::Key_F1, nullptr, nullptr},
 };
 
 void ZelPageHelp::run(const Command& command, QWidget* field)

@@ -50,10 +50,10 @@ QString existingFolder(const QString& path)
     return folder;
 }
 
-bool readOpenFile(QFile& file, QByteArray& content, QString& reason)
+bool readOpenFile(QFile& file, QByteArray& content, QString& reason, bool isLocked)
 {
     QtSettingsLock lock(file, QtSettingsLock::Read);
-    if (!lock.take(LockTimeout)) { // Before the size is known, which QFile remembers.
+    if (!isLocked && !lock.take(LockTimeout)) { // Before the size is known, which QFile remembers.
         reason = SettingsFileText::tr("another program has locked it");
     } else if (file.size() > MaximumFileSize) {
         reason = SettingsFileText::tr("it is too large");
@@ -99,7 +99,7 @@ bool exists(const QString& path)
     return typeOf(path, error) != std::filesystem::file_type::not_found;
 }
 
-bool readFile(const QString& path, QByteArray& content, QString& reason)
+bool readFile(const QString& path, QByteArray& content, QString& reason, bool isLocked)
 {
     content.clear();
     std::error_code error;
@@ -114,7 +114,7 @@ bool readFile(const QString& path, QByteArray& content, QString& reason)
     else if (!openWhenFree(file, QIODevice::ReadOnly | QIODevice::Unbuffered))
         reason = file.errorString();
     else
-        return readOpenFile(file, content, reason);
+        return readOpenFile(file, content, reason, isLocked);
     return false;
 }
 

@@ -31,7 +31,8 @@ bool exists(const QString& path);
 
 /// Reads a whole settings file; a missing one is empty. False, with the reason, when it is no regular file,
 /// is too large, or cannot be read to its end.
-bool readFile(const QString& path, QByteArray& content, QString& reason);
+/// @param isLocked  this process has locked it as QSettings does
+bool readFile(const QString& path, QByteArray& content, QString& reason, bool isLocked = false);
 
 /// Writes a file and forces it onto the disk. False, with the reason, when not all of it is there.
 bool writeFile(const QString& path, const QByteArray& content, QString& reason);

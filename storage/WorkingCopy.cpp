@@ -264,7 +264,7 @@ WorkingCopy::Outcome WorkingCopy::replace(QString& reason) const
         reason = SettingsFileText::tr("another program has locked it");
         return Failed;
     }
-    if (!readFile(m_target, present, reason))
+    if (!readFile(m_target, present, reason, true))
         return Failed;
     if (exists(m_target) != m_exists || present != m_content)
         return Outdated;

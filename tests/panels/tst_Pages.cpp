@@ -254,7 +254,8 @@ private Q_SLOTS:
         QVERIFY(table->isVisible() && table->rowHeight(1) > table->rowHeight(0));
         QVERIFY(table->viewport()->rect().contains(table->visualItemRect(table->item(1, 1))));
         page.click("copyButton");
-        for (const QString& part : QStringList{"Reader v. 1.2", qVersion(), settings().fileName()})
+        for (const QString& part :
+             QStringList{"Reader v. 1.2", qVersion(), QDir::toNativeSeparators(settings().fileName())})
             QVERIFY2(QApplication::clipboard()->text().contains(part), qPrintable(part));
     }
 

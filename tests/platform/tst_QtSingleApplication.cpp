@@ -121,6 +121,7 @@ private Q_SLOTS:
         m_environment.insert("TMPDIR", m_folder->path());
     }
 
+#if !defined(ZEL_LEAVE_OUT_oneOfManyBecomesTheInstance)
     void oneOfManyBecomesTheInstance()
     {
         std::vector<ProcessPointer> processes;
@@ -147,6 +148,7 @@ private Q_SLOTS:
         std::sort(received.begin(), received.end());
         QCOMPARE(received, sent);
     }
+#endif
 
     void messagesArriveUnchanged()
     {
@@ -160,13 +162,15 @@ private Q_SLOTS:
         }
     }
 
+#if !defined(ZEL_LEAVE_OUT_badPeersDoNoHarm)
     void badPeersDoNoHarm()
     {
         const std::pair<int, QByteArray> crowds[] = {
             {100, {}}, // They are silent.
             {4, QByteArray(100, '\xff')},
             {4, QByteArray("msg1\xff\xff\xff\xff", 8)},
-            {4, QByteArray("msg1\0\0\0\1", 8) + QByteArray(64 * 1024 * 1024, 'x')}};
+            { 4,
+              QByteArray("msg1\0\0\0\1", 8) + QByteArray(64 * 1024 * 1024, 'x') }};
         for (const auto& [peers, bytes] : crowds) {
             const auto instance = start(); // The one before, which was killed, leaves nothing behind.
             QCOMPARE(instance->part(), QByteArray("instance"));
@@ -189,6 +193,7 @@ private Q_SLOTS:
                 QTRY_COMPARE_WITH_TIMEOUT(socket->state(), QLocalSocket::UnconnectedState, Patience);
         }
     }
+#endif
 
 #if !defined(_WIN32)
     void clientWaitsUntilTheInstanceListens()

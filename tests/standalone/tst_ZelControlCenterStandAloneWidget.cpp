@@ -39,6 +39,9 @@ private Q_SLOTS:
                  QString("Display Folders Simplification Tessellation About"));
     }
 
+    // Windows may take the keyboard away again when a window before this one has closed.
+    void init() { QApplication::setActiveWindow(&m_window); }
+
     void wheelScrollsTheDrawerUntilAFieldHasTheFocus()
     {
         QScrollArea* drawer = m_window.findChild<zel::ZelControlCenter*>()->settingsWidget();
@@ -219,15 +222,23 @@ private Q_SLOTS:
             store(file, text);
             QCOMPARE(NextWindow(application).geometry(), opened);
         }
+    }
+
+#if !defined(ZEL_LEAVE_OUT_opensNoPipeOrDevice)
+    void opensNoPipeOrDevice()
+    {
+        FakeApplication application;
+        const QString file = QFileInfo(application.getSettings().fileName()).path() + "/Window.ini";
         for (const char* make : {"mkfifo", "ln -s /dev/zero"}) { // Neither read from nor written to.
             QFile::remove(file);
             QCOMPARE(std::system(qPrintable(QString("%1 '%2'").arg(make, file))), 0);
             NextWindow window(application);
-            QCOMPARE(window.geometry(), usual);
+            QCOMPARE(window.geometry(), QRect(0, 0, 800, 600));
             window.close();
             QVERIFY(QFileInfo(file).isFile() && !QFileInfo(file).isSymLink());
         }
     }
+#endif
 
     void comesBackFromALostScreen()
     {

@@ -87,8 +87,8 @@ inline void turnWheel(QWidget& window, const QPoint& place)
 #    define ZEL_TRY(condition, timeout, check)                                                               \
         do {                                                                                                 \
             QElapsedTimer tried;                                                                             \
-            for (tried.start(); !(condition) && tried.elapsed() < (timeout);)                                \
-                QTest::qWait(10);                                                                            \
+            for (tried.start(); !(condition) && tried.elapsed() < (timeout); QTest::qWait(10))               \
+                QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);                         \
             check;                                                                                           \
         } while (false)
 #    define QTRY_VERIFY_WITH_TIMEOUT(condition, timeout) ZEL_TRY(condition, timeout, QVERIFY(condition))
