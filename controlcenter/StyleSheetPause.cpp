@@ -88,7 +88,7 @@ StyleSheetPause::~StyleSheetPause()
     if (m_tree.testAttribute(Qt::WA_WState_Polished))
         tellOfStyle(m_tree);
     else if (!LateStyleChange::isDue(m_tree))
-        new LateStyleChange(m_tree); // NOLINT(bugprone-unhandled-exception-at-new): nothing can go on without memory.
+        new LateStyleChange(m_tree); // NOLINT(bugprone-unhandled-exception-at-new): fatal in any case
 }
 
 bool StyleSheetPause::eventFilter(QObject* watched, QEvent* event)

@@ -90,17 +90,18 @@ void ZelHelpArea::watchPages(QWidget* tree)
 void ZelHelpArea::useColumn(QWidget* column, QWidget* above)
 {
     m_above = above;
-    m_columnHost = new QScrollArea(column);
-    m_columnHost->setObjectName("helpColumn");
-    m_columnHost->setFrameShape(QFrame::NoFrame);
-    m_columnHost->setFocusPolicy(Qt::NoFocus);
-    m_columnHost->setWidgetResizable(true);
-    m_columnHost->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* host = new QScrollArea(column);
+    m_columnHost = host;
+    host->setObjectName("helpColumn");
+    host->setFrameShape(QFrame::NoFrame);
+    host->setFocusPolicy(Qt::NoFocus);
+    host->setWidgetResizable(true);
+    host->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* content = new QWidget;
     content->setObjectName("helpColumnContent");
     m_columnLayout = newLayout(content, ColumnMargin);
-    m_columnHost->setWidget(content);
-    for (QWidget* clear : {content, m_columnHost->viewport()})
+    host->setWidget(content);
+    for (QWidget* clear : {content, host->viewport()})
         clear->setAutoFillBackground(false);
     m_columnHost->hide();
     column->installEventFilter(this);

@@ -72,7 +72,7 @@ private:
     PendingList* const m_pending;
     QBoxLayout* m_areaLayout;
     QBoxLayout* m_columnLayout = nullptr;
-    QPointer<QScrollArea> m_columnHost; ///< A child of the column, over its empty space.
+    QPointer<QWidget> m_columnHost; ///< A child of the column, over its empty space.
     QPointer<QWidget> m_above;
     QList<QPointer<ZelPageHelp>> m_pages;
     QPointer<QWidget> m_hovered;
