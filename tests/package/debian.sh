@@ -39,7 +39,7 @@ while read -r link; do
 done < <(dpkg-query -L torvane-settings | xargs -I{} find {} -maxdepth 0 -type l)
 
 for program in /usr/lib/torvane-settings/bin/torvane-settings{,-check}; do
-    readelf -dlW $program | grep -q BIND_NOW && readelf -hW $program | grep -q 'DYN (Pos' || fail "$program is not hardened"
+    readelf -dlW $program | grep BIND_NOW >/dev/null && readelf -hW $program | grep "DYN (Pos" >/dev/null || fail "$program is not hardened"
 done
 printf 'settingsVersion=1\n' >"$work/old.ini"
 torvane-settings-check "$work/old.ini" >"$work/report" && fail "the checker finds nothing"

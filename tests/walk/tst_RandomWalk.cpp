@@ -328,7 +328,7 @@ private Q_SLOTS:
                 const Census last;
                 QCOMPARE(last.held, warm->held);
                 const qint64 growth = (last.heap - warm->heap) / (steps * (rounds - warmUp));
-                QVERIFY2(growth < 300, qPrintable(QString("%1 bytes more each step").arg(growth)));
+                QVERIFY2(growth < 600, qPrintable(QString("%1 bytes more each step").arg(growth)));
                 QCOMPARE(Walk::differenceOfFile(application, walk), QString());
             }
             const QString left = Census().held;
