@@ -181,8 +181,9 @@ void ControlCenterActions::requestHelp()
 void ControlCenterActions::scroll()
 {
     const auto* action = qobject_cast<QAction*>(sender());
-    if (action && m_drawer)
-        m_drawer->verticalScrollBar()->triggerAction(
+    auto* area = qobject_cast<QScrollArea*>(m_drawer.data());
+    if (action && area)
+        area->verticalScrollBar()->triggerAction(
             static_cast<QAbstractSlider::SliderAction>(action->data().toInt()));
 }
 

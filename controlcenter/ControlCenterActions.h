@@ -53,7 +53,7 @@ private:
     bool triggersCommand(const QKeySequence& keys) const;
 
     QWidget* const m_column;
-    const QPointer<QScrollArea> m_drawer;
+    const QPointer<QWidget> m_drawer;
     QAction* m_putBack;
     QPointer<QAbstractSpinBox> m_field; ///< The spin box with the focus, if any.
     QVariant m_value;                   ///< Its value before the user typed.

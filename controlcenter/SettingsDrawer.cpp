@@ -75,20 +75,20 @@ void SettingsDrawer::addPage(ZelSettingsPanel* page)
 
 int SettingsDrawer::width() const
 {
-    return isVisible() ? m_area->minimumWidth() : 0;
+    return isVisible() ? area()->minimumWidth() : 0;
 }
 
 void SettingsDrawer::setWidth(int width)
 {
-    if (!m_area)
+    if (!area())
         return;
-    m_area->setVisible(width >= 1);
-    m_area->setFixedWidth(width);
-    const QScrollBar* bar = m_area->verticalScrollBar();
+    area()->setVisible(width >= 1);
+    area()->setFixedWidth(width);
+    const QScrollBar* bar = area()->verticalScrollBar();
     // All pages together are higher than the drawer, so the first ones get their final width at once.
     const int barWidth = bar->isVisible() || !m_newPages.isEmpty() ? bar->sizeHint().width() : 0;
     m_contentLayout->setMinimumWidth(OpenWidth - barWidth);
-    m_area->widget()->setFixedWidth(std::max(width - barWidth, 0));
+    area()->widget()->setFixedWidth(std::max(width - barWidth, 0));
 }
 
 void SettingsDrawer::showWithoutNewPages()
@@ -100,7 +100,7 @@ void SettingsDrawer::showWithoutNewPages()
         page->hide();
         m_newPages << page;
     }
-    m_area->show();
+    area()->show();
 }
 
 void SettingsDrawer::showNextPage()
@@ -120,22 +120,22 @@ void SettingsDrawer::showAllPages()
 
 void SettingsDrawer::scrollTo(const QWidget& widget)
 {
-    if (!m_area)
+    if (!area())
         return;
     showAllPages();
-    QScrollBar* bar = m_area->verticalScrollBar();
+    QScrollBar* bar = area()->verticalScrollBar();
     m_scrolling->stop();
     m_scrolling->setStartValue(bar->value());
     m_scrolling->setEndValue(std::min(widget.y() + widget.parentWidget()->y(), bar->maximum()));
-    startSlide(*m_scrolling, *m_area);
+    startSlide(*m_scrolling, *area());
 }
 
 ZelSettingsPanel* SettingsDrawer::pageAt(int position) const
 {
-    if (!m_area || m_scrolling->state() == QAbstractAnimation::Running)
+    if (!area() || m_scrolling->state() == QAbstractAnimation::Running)
         return nullptr;
     const QPoint belowTop(10, position + 10);
-    QWidget* widget = m_area->widget()->childAt(belowTop);
+    QWidget* widget = area()->widget()->childAt(belowTop);
     while (widget && !qobject_cast<ZelSettingsPanel*>(widget))
         widget = widget->parentWidget();
     return qobject_cast<ZelSettingsPanel*>(widget);
@@ -143,11 +143,11 @@ ZelSettingsPanel* SettingsDrawer::pageAt(int position) const
 
 void SettingsDrawer::onFocusChanged(QWidget* previous, QWidget* current)
 {
-    if (!m_area || !m_area->isAncestorOf(current) || m_area->isAncestorOf(previous))
+    if (!area() || !area()->isAncestorOf(current) || area()->isAncestorOf(previous))
         return;
     // Do not scroll the pages while a mouse button is down.
     if (QApplication::mouseButtons() == Qt::NoButton)
-        m_area->ensureWidgetVisible(current, 0);
+        area()->ensureWidgetVisible(current, 0);
 }
 
 } // namespace zel

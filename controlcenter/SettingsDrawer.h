@@ -33,7 +33,8 @@ public:
     SettingsDrawer(QScrollArea* area, QVBoxLayout*& contentLayout, QBoxLayout* pageLayout, QObject* parent);
 
     /// Null when it has been deleted.
-    QScrollArea* area() const { return m_area; }
+    /// Null as soon as its destruction has begun.
+    QScrollArea* area() const { return qobject_cast<QScrollArea*>(m_area.data()); }
     bool isVisible() const { return m_area && m_area->isVisible(); }
 
     void addPage(ZelSettingsPanel* page);
@@ -58,7 +59,7 @@ private Q_SLOTS:
     void onFocusChanged(QWidget* previous, QWidget* current);
 
 private:
-    QPointer<QScrollArea> m_area;
+    const QPointer<QWidget> m_area;
     QBoxLayout* const m_pageLayout;
     DrawerLayout* const m_contentLayout;
     QPropertyAnimation* const m_scrolling;

@@ -160,7 +160,9 @@ protected Q_SLOTS:
     void closeMenu();
     /// Fits the width of the pages to the scroll bar, which may have appeared or gone.
     void onScrollBarRangeChanged();
+    /// Takes back the pending edits of all pages.
     void discardEdits();
+    /// Makes the edits again that were taken back last.
     void restoreEdits();
     /// Scrolls to the notice why the settings file cannot be written.
     void bringNoticeIntoView();

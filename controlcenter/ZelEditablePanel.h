@@ -77,6 +77,7 @@ public:
     /// Does nothing: applyModifications() saves.
     virtual void saveSettings() {}
 
+    /// See ZelPageEdits.
     void takeStored() override
     {
         if (!m_isLoaded)
@@ -106,12 +107,14 @@ public:
         checkContent();
     }
 
+    /// See ZelPageEdits.
     void pushStored() override
     {
         if (hasModifications())
             pushToApplication(storedModel());
     }
 
+    /// See ZelPageEdits.
     std::vector<ZelPendingEdit> pendingEdits() override
     {
         std::vector<ZelPendingEdit> edits;
@@ -133,6 +136,7 @@ public:
         return edits;
     }
 
+    /// See ZelPageEdits.
     std::function<void()> copyOfEdits() override
     {
         std::vector<const Field*> edited;
@@ -222,12 +226,12 @@ protected:
         forEachField([&](const Field& field) { field.read(model); });
     }
 
-    /// @{
-    /// The values of one of the three sources.
+    /// The stored values.
     Model storedModel() const { return read(&ZelEditablePanel::readSettings); }
+    /// The registered defaults.
     Model defaultModel() const { return read(&ZelEditablePanel::getDefaultSettings); }
+    /// The values of the widgets.
     Model currentModel() const { return read(&ZelEditablePanel::getCurrentModel); }
-    /// @}
 
     /// Fills the widgets, with their signals blocked, so that it does not count as an edit.
     void applyModel(const Model& model)

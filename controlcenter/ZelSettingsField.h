@@ -180,13 +180,17 @@ struct ZelSettingsField
 
     QString key;             ///< As in Settings.ini.
     QList<QWidget*> widgets; ///< That show it.
+    /// Sets the member of a model from a stored value.
     std::function<void(Model& to, const QVariant& stored)> readStored;
+    /// Sets the member of a model from a default.
     std::function<void(Model& to, const QString& defaultText)> readDefault;
     std::function<QVariant(const Model&)> stored; ///< The variant to write.
     std::function<void(Model& to)> read;          ///< Reads the widgets.
     std::function<void(const Model&)> show;       ///< Fills the widgets.
     std::function<QString(const Model&)> text;    ///< As the widgets show it.
+    /// True when two models have the same value.
     std::function<bool(const Model& left, const Model& right)> isSame;
+    /// Copies the value from one model to another.
     std::function<void(Model& to, const Model& from)> copy;
     std::vector<std::pair<bool Model::*, bool>> conditions; ///< Flags of the model, and what they must be.
 };
@@ -235,12 +239,12 @@ struct ZelSettingsRow
         });
     }
 
-    std::vector<ZelSettingsField<Model>> fields;
-    QString name; ///< Empty for the name or the label of the first widget.
-    QString description;
-    ZelSettingEffect effect;
-    QString range;                             ///< Empty without one.
-    std::function<QString(const Model&)> text; ///< As the widgets show the setting.
+    std::vector<ZelSettingsField<Model>> fields; ///< One for each key.
+    QString name;                                ///< Empty for the name or the label of the first widget.
+    QString description;                         ///< What the setting does, in a few sentences.
+    ZelSettingEffect effect;                     ///< When an applied edit takes effect.
+    QString range;                               ///< Empty without one.
+    std::function<QString(const Model&)> text;   ///< As the widgets show the setting.
     bool tipIsValue = false; ///< The tool tips of the widgets are their values, so help must not use them.
     bool fixed = false;      ///< It never changes, so the help offers neither default nor stored value.
 };
