@@ -121,7 +121,7 @@ void ZelAboutSettingsPanel::onLinkActivated(const QString& link)
 
 void ZelAboutSettingsPanel::on_copyButton_clicked()
 {
-    // In English, for whoever reads the report.
+    // In English, for those who read the report.
     QStringList lines;
     lines << QString("%1 %2 (%3)")
                  .arg(m_ui->applicationLabel->text(), m_ui->applicationVersion->text(),
