@@ -37,14 +37,17 @@ QStringList textOf(const QVariant& value)
                : QStringList(value.toString());
 }
 
-bool isSame(const QVariantMap& left, const QVariantMap& right)
+/// The values as texts, by the names that QSettings writes: the group "[%general]" becomes "[%General]".
+QMap<QString, QString> written(const QVariantMap& values)
 {
-    if (left.keys() != right.keys())
-        return false;
-    for (auto value = left.constBegin(); value != left.constEnd(); ++value)
-        if (textOf(*value).join("\n") != textOf(right.value(value.key())).join("\n"))
-            return false;
-    return true;
+    const QString general = "General/";
+    QMap<QString, QString> texts;
+    for (auto value = values.constBegin(); value != values.constEnd(); ++value) {
+        const QString& key = value.key();
+        const bool isGeneral = key.startsWith(general, Qt::CaseInsensitive);
+        texts.insert(isGeneral ? general + key.mid(general.size()) : key, textOf(*value).join("\n"));
+    }
+    return texts;
 }
 
 /// Removes the folder of a copy, and nothing that is not ours.
@@ -198,12 +201,18 @@ bool WorkingCopy::write(QString& reason)
     const QVariantMap wanted = valuesOf(*m_settings);
     m_settings->sync();
     // Under another name, because QSettings answers from what it remembers.
-    const QString written = m_copy;
+    const QString former = m_copy;
     m_copy = nextName();
-    bool isComplete = replaceFile(written, m_copy);
+    bool isComplete = replaceFile(former, m_copy);
     if (isComplete) {
         m_settings = ZelSettingsFile::Open(m_copy);
-        isComplete = isSame(valuesOf(*m_settings), wanted);
+        // More may be there: a name that cannot be looked up, such as "/key", is written as another.
+        const auto present = written(valuesOf(*m_settings)), expected = written(wanted);
+        isComplete = !m_settings->contains(EndKey);
+        for (auto text = expected.constBegin(); text != expected.constEnd(); ++text)
+            // Of a damaged file QSettings may have read what it cannot write, such as half of a character.
+            isComplete = isComplete && present.contains(text.key()) &&
+                         (m_damaged || present.value(text.key()) == *text);
     }
     QFile copy(m_copy);
     if (isComplete && !readFile(m_copy, m_result, reason))
