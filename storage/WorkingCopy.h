@@ -33,7 +33,7 @@ public:
     enum Outcome {
         InPlace,
         Outdated, ///< Another program has changed the file since it was copied. Nothing is changed.
-        Failed    ///< The reason is set. Nothing is changed.
+        Failed    ///< The reason is set. Nothing is changed, or a spare copy is left for finish().
     };
 
     /// Copies the settings file, after a dated copy of it where a write loses something. Lines with
