@@ -684,6 +684,8 @@ private:
         m_controlCenter->openMenu(true);
         m_controlCenter->setControlCenterVisible(true);
         QTRY_VERIFY(m_controlCenter->isMenuOpen() && m_controlCenter->isSettingsOpen());
+        const QWidget* pages = m_controlCenter->settingsWidget()->widget(); // Laid out after the slide.
+        QTRY_VERIFY(pages->height() >= pages->sizeHint().height());
         m_calls.clear();
         m_application->engineUpdates.clear();
     }
