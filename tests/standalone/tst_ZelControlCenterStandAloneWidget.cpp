@@ -31,7 +31,10 @@ private Q_SLOTS:
         m_window.show();
         m_window.openMenu();
         QVERIFY(QTest::qWaitForWindowActive(&m_window));
-        QTRY_VERIFY(m_window.findChild<zel::ZelControlCenter*>()->isSettingsOpen());
+        const auto* controlCenter = m_window.findChild<zel::ZelControlCenter*>();
+        QTRY_VERIFY(controlCenter->isSettingsOpen());
+        const QWidget* drawn = controlCenter->settingsWidget()->widget(); // Laid out after the slide.
+        QTRY_VERIFY(drawn->height() >= drawn->sizeHint().height());
         QMap<int, QString> pages;
         for (const auto* page : m_window.findChildren<zel::ZelSettingsPanel*>())
             pages.insert(page->y(), page->getPanelName());

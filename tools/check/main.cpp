@@ -97,14 +97,16 @@ Name decoded(const QByteArray& name)
 /// Adds the names on standard input.
 void readNames(Options& options)
 {
-    QFile input;
-    input.open(stdin, QIODevice::ReadOnly);
-    const QByteArray list = input.readAll();
+    // Not by QFile, which reads without waiting at first, and leaves the stream with that error.
+    QByteArray list;
+    char part[4096];
+    while (const size_t length = std::fread(part, 1, sizeof part, stdin))
+        list.append(part, static_cast<int>(length));
     for (const QByteArray& name : list.split(list.contains('\0') ? '\0' : '\n')) {
         if (!name.isEmpty())
             options.files.push_back(decoded(name));
     }
-    if (std::ferror(stdin)) { // QFile does not tell.
+    if (std::ferror(stdin)) {
         std::fputs("torvane-settings-check: the list of files cannot be read\n", stderr);
         options.isComplete = false;
     }
