@@ -15,13 +15,17 @@ const char* const Objects[] = {"@Variant(", "@DateTime("};
 
 const QChar ElementMark(1); ///< Before each element of a decoded value, which may be a list.
 
+bool isLineEnd(const QByteArray& text, int at)
+{
+    const char character = at < text.size() ? text.at(at) : '\0';
+    return character == '\n' || character == '\r';
+}
+
 /// 1 or 2; 0 when no line ends here, or only the text.
 int lineEndLength(const QByteArray& text, int at)
 {
-    const auto isEnd = [&text](int i) {
-        return i < text.size() && (text.at(i) == '\n' || text.at(i) == '\r');
-    };
-    return !isEnd(at) ? 0 : isEnd(at + 1) && text.at(at) != text.at(at + 1) ? 2 : 1;
+    const bool isPair = isLineEnd(text, at) && isLineEnd(text, at + 1) && text.at(at) != text.at(at + 1);
+    return isPair ? 2 : isLineEnd(text, at) ? 1 : 0;
 }
 
 bool isBlank(char character)
@@ -100,7 +104,7 @@ public:
     }
 
 private:
-    bool atLineEnd() const { return m_at == m_text.size() || lineEndLength(m_text, m_at) > 0; }
+    bool atLineEnd() const { return m_at == m_text.size() || isLineEnd(m_text, m_at); }
 
     void skip(int length)
     {
@@ -146,7 +150,7 @@ private:
             if (character == ';' && !isQuoted) // QSettings takes that of "path=/a;/b" for a comment as well.
                 return isBlank(m_text.at(m_at - 1)) && readComment(line);
             const Token token = tokenAt(m_text, m_at);
-            if (!token.isKept && !(isQuoted && lineEndLength(m_text, m_at + 1) > 0))
+            if (!token.isKept && !(isQuoted && isLineEnd(m_text, m_at + 1)))
                 return false;
             if (character == '"')
                 isQuoted = !isQuoted;
@@ -224,7 +228,7 @@ void forEachObject(const QByteArray& text, Take take)
     // anywhere.
     for (int begin = 0, end = 0; begin < text.size(); begin = end) {
         QString decoded;
-        while (end < text.size() && lineEndLength(text, end) == 0) {
+        while (end < text.size() && !isLineEnd(text, end)) {
             const Token token = tokenAt(text, end);
             if (token.meaning >= 0 && text.at(end) != '"')
                 decoded += QChar(token.meaning);

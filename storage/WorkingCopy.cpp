@@ -63,10 +63,12 @@ void removeOrphans(const QString& target)
 
 QVariantMap valuesOf(const QSettings& settings)
 {
+    const QString general = "General/";
     QVariantMap values;
     for (const QString& key : settings.allKeys()) {
+        const bool isGeneral = key.startsWith(general, Qt::CaseInsensitive);
         if (!key.isEmpty() && !key.startsWith('/') && !key.endsWith('/') && !key.contains("//"))
-            values.insert(key, settings.value(key));
+            values.insert(isGeneral ? general + key.mid(general.size()) : key, settings.value(key));
     }
     return values;
 }
@@ -123,17 +125,20 @@ bool WorkingCopy::make(QString& reason)
     if (!writeFile(m_copy, text, reason))
         return false;
     m_settings = ZelSettingsFile::Open(m_copy);
-    if (m_damaged) { // The change gets what QSettings makes of it, and writes again.
-        m_settings->setValue(EndKey, true);
-        if (!readAgain(reason))
-            return false;
-    }
-    if (!m_settings->contains(EndKey)) {
+    if (!m_damaged && !m_settings->contains(EndKey)) {
         reason = SettingsFileText::tr("it cannot be read to its end");
         return false;
     }
     m_settings->remove(EndKey);
-    return true;
+    if (!m_damaged)
+        return true;
+    // The change begins with what QSettings writes of it.
+    const QVariantMap values = valuesOf(*m_settings);
+    m_copy = nextName();
+    m_settings = ZelSettingsFile::Open(m_copy);
+    for (auto value = values.constBegin(); value != values.constEnd(); ++value)
+        m_settings->setValue(value.key(), *value);
+    return writeFile(m_copy, QByteArray(), reason) && readAgain(false, reason);
 }
 
 bool WorkingCopy::keepContent(const QString& loss, QString& reason) const
@@ -142,30 +147,28 @@ bool WorkingCopy::keepContent(const QString& loss, QString& reason) const
     return keepBackup(m_path, m_content, loss, m_path == m_target ? nextName() : m_path + ".bak.new", reason);
 }
 
-/// Writes the values, and reads them under another name, because QSettings answers from what it remembers.
-bool WorkingCopy::readAgain(QString& reason)
+bool WorkingCopy::readAgain(bool isExact, QString& reason)
 {
+    const QMap<QString, QString> wanted = textsOf(*m_settings);
     m_settings->sync();
     const QString former = m_copy;
-    m_copy = nextName();
+    m_copy = nextName(); // QSettings answers from what it remembers of a name.
     const bool isThere = replaceFile(former, m_copy);
-    if (!isThere)
-        reason = systemError();
     m_settings = ZelSettingsFile::Open(m_copy);
-    return isThere;
+    const QMap<QString, QString> present = textsOf(*m_settings);
+    if (isThere && (isExact ? present == wanted : present.keys() == wanted.keys()))
+        return true;
+    // QSettings does not tell why.
+    const QString all = QStringList(wanted.keys() + wanted.values()).join(QString());
+    if (writeFile(nextName(), QByteArray(all.size() + ProbeSize, '\n'), reason))
+        reason = SettingsFileText::tr("not all values can be kept in it");
+    return false;
 }
 
 bool WorkingCopy::write(QString& reason)
 {
-    const QMap<QString, QString> wanted = textsOf(*m_settings);
-    if (!readAgain(reason))
+    if (!readAgain(true, reason))
         return false;
-    if (textsOf(*m_settings) != wanted) { // QSettings does not tell why.
-        const QString all = QStringList(wanted.keys() + wanted.values()).join(QString());
-        if (writeFile(nextName(), QByteArray(all.size() + ProbeSize, '\n'), reason))
-            reason = SettingsFileText::tr("not all values can be kept in it");
-        return false;
-    }
     QFile copy(m_copy);
     if (!copy.open(QIODevice::ReadWrite | QIODevice::Unbuffered) || !syncToDisk(copy)) {
         reason = systemError();
@@ -173,10 +176,10 @@ bool WorkingCopy::write(QString& reason)
     }
     if (!readOpenFile(copy, m_result, reason))
         return false;
-    const bool isPlain = !holdsObjects(m_result);
-    if (!isPlain)
+    const bool isGood = settingsDamage(m_result).isEmpty();
+    if (!isGood) // As with an object, or with what was left of a longer text.
         reason = SettingsFileText::tr("not all values can be kept in it");
-    return isPlain;
+    return isGood;
 }
 
 Outcome WorkingCopy::put(QString& reason)

@@ -13,7 +13,8 @@ class QSettings;
 
 namespace zel {
 
-/// All values, except those with names that QSettings reads from a file but cannot look up.
+/// All values, by the names that QSettings writes: the group "[%general]" becomes "[%General]". Not those
+/// with names that it reads from a file but cannot look up.
 QVariantMap valuesOf(const QSettings& settings);
 
 /// A complete file beside the settings file, in a folder that only its user can enter. It is changed in place
@@ -59,7 +60,9 @@ private:
     Q_DISABLE_COPY(WorkingCopy)
 
     QString nextName() const;
-    bool readAgain(QString& reason);
+    /// Writes the values and reads them. False, with the reason, when they are not the same.
+    /// @param isExact  compares more than the names
+    bool readAgain(bool isExact, QString& reason);
     Outcome replace(QString& reason) const;
 
     const QString m_path;
