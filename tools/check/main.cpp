@@ -3,7 +3,6 @@
 #include "SettingsBackup.h"
 #include "SettingsKeys.h"
 #include "SettingsValidation.h"
-#include "WorkingCopy.h"
 #include "ZelSettingsCatalogue.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsRegistry.h"
@@ -150,17 +149,12 @@ bool parse(const std::vector<Name>& arguments, Options& options)
 /// Stores the new values, with that a migration sets, and runs the pass.
 bool runPass(const QString& path, const std::vector<SettingsChange>& changes, QString& error)
 {
-    const bool losesList =
-        std::any_of(changes.begin(), changes.end(), [](const auto& change) { return isList(change.old); });
-    const auto store = [&](QSettings& settings, QString& failure) {
+    const auto store = [&](QSettings& settings, QString&) {
         for (const SettingsChange& change : changes) {
             if (settings.value(change.key) == change.old) // Else another program has just written it.
                 settings.setValue(change.key, change.newText);
         }
-        QString reason;
-        return !losesList ||
-               WorkingCopy::Changing->keepContent("it holds a list in place of a text", reason) ||
-               refuseWriting(path, reason, failure);
+        return true;
     };
     return (changes.empty() || ZelSettingsFile::Write(*ZelSettingsFile::Open(path), store, error)) &&
            ZelSettingsFile::Repair(*ZelSettingsFile::Open(path), error);
