@@ -52,9 +52,14 @@ SettingsDrawer::SettingsDrawer(QScrollArea* area, QVBoxLayout*& contentLayout, Q
     , m_scrolling(new QPropertyAnimation(area->verticalScrollBar(), "value", this))
 {
     contentLayout = m_contentLayout;
+    area->parentWidget()->layout()->removeWidget(area);
+    area->hide();
     m_scrolling->setDuration(SlideTime);
     m_scrolling->setEasingCurve(QEasingCurve::InOutQuad);
     new ReturnKey(area);
+    // Queued: QScrollArea shows or hides the bar only after the range has changed.
+    connect(area->verticalScrollBar(), SIGNAL(rangeChanged(int, int)), this, SLOT(onRangeChanged()),
+            Qt::QueuedConnection);
     // QScrollArea follows only a focus that moves within it.
     connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
 }
@@ -148,6 +153,12 @@ void SettingsDrawer::onFocusChanged(QWidget* previous, QWidget* current)
     // Do not scroll the pages while a mouse button is down.
     if (QApplication::mouseButtons() == Qt::NoButton)
         area()->ensureWidgetVisible(current, 0);
+}
+
+void SettingsDrawer::onRangeChanged()
+{
+    if (isVisible())
+        setWidth(width());
 }
 
 } // namespace zel
