@@ -14,6 +14,7 @@
 #include "ZelSettingsApplication.h"
 #include "ZelSettingsFile.h"
 #include "ZelSimplificationSettingsPanel.h"
+#include "launch.h"
 
 #include "platform/kqLibraries.h"
 
@@ -140,6 +141,7 @@ int main(int argc, char** argv)
     stages.end("translation");
 
     ZelSettingsApplication application(qEnvironmentVariable("XDG_CONFIG_HOME") + "/TorvaneBoundlessX64");
+    zelRegisterPageDefaults();
     ZelControlCenter::InitDefaultSettingsValues("TorvaneBoundlessX64");
     QSettings& settings = application.getSettings();
     QString error;

@@ -48,7 +48,8 @@ Ui::ControlCenter setUp(QWidget* controlCenter)
     form.setupUi(controlCenter);
     controlCenter->setStyleSheet(kqDMIApplication::GetStylesheet("ZelControlCenter"));
     controlCenter->setObjectName("ZelControlCenter");
-    // Keeps its width while the column slides, which clips it.
+    // Keeps its width while the column slides, which clips it and uncovers what has been painted.
+    controlCenter->setAttribute(Qt::WA_StaticContents);
     form.mainPanel->setMinimumWidth(MenuColumn::OpenWidth);
     form.controlCenterButton->setChecked(false);
     return form;
