@@ -1,9 +1,7 @@
 // Measures the stages of a start: takes the steps of launch() and prints "stage <tab> milliseconds" for each.
 // first_frame starts this program and passes the time at which the first stage begins.
 //   startup_stages [--pages]        measures the control center and each page instead of the window
-//   startup_stages --first-frame    ends after the first frame, for a count of instructions:
-//                                   QT_QPA_PLATFORM=offscreen valgrind --tool=callgrind startup_stages
-//                                   --first-frame
+//   startup_stages --first-frame    ends after the first frame, for scripts/instructions
 
 #include "ZelAboutSettingsPanel.h"
 #include "ZelControlCenter.h"
