@@ -104,6 +104,12 @@ QAction* ControlCenterActions::add(const char* name, QAction* action)
     return action;
 }
 
+void ControlCenterActions::enable(bool discard, bool restore)
+{
+    findChild<QAction*>("discard")->setEnabled(discard);
+    findChild<QAction*>("restore")->setEnabled(restore);
+}
+
 bool ControlCenterActions::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
