@@ -6,6 +6,7 @@
 #include "ClickOutside.h"
 #include "ControlCenterActions.h"
 #include "EnableButton.h"
+#include "LanguageFollower.h"
 #include "MenuColumn.h"
 #include "PageButtons.h"
 #include "ReturnKey.h"
@@ -99,9 +100,13 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     connect(actions, SIGNAL(restoreRequested()), this, SLOT(restoreEdits()));
 
     showWriteError(QString());
-    onStateChanged();
     openMenu(false);
     createSettingsAction();
+    setTexts();
+    new LanguageFollower(this, [this] {
+        m_ui->retranslateUi(this);
+        setTexts();
+    });
 }
 
 ZelControlCenter::~ZelControlCenter()
@@ -132,13 +137,18 @@ QPropertyAnimation* ZelControlCenter::createSlide(const char* property, int open
 
 void ZelControlCenter::createSettingsAction()
 {
-    m_settingsAction = std::make_unique<zelAction>(
-        "Settings", QCoreApplication::translate("ZelControlCenter", "Settings"), nullptr);
-    m_settingsAction->setStatusTip(
-        QCoreApplication::translate("ZelControlCenter", "Changes the settings of the application"));
+    m_settingsAction = std::make_unique<zelAction>("Settings", QString(), nullptr);
     // It opens the settings inside the menu, so it does not close the menu.
     registerCCAction(m_settingsAction.get(), "", false, false, false);
     connect(m_settingsAction.get(), SIGNAL(triggered()), this, SLOT(openSettings()));
+}
+
+void ZelControlCenter::setTexts()
+{
+    m_settingsAction->setText(QCoreApplication::translate("ZelControlCenter", "Settings"));
+    m_settingsAction->setStatusTip(
+        QCoreApplication::translate("ZelControlCenter", "Changes the settings of the application"));
+    onStateChanged(); // Names the marks.
 }
 
 void ZelControlCenter::registerSettingsPanel(ZelSettingsPanel* panel)

@@ -188,6 +188,8 @@ private:
     kqDMGuiPlugin* guiPlugin() const;
     QPropertyAnimation* createSlide(const char* property, int openWidth, const char* finishedSlot);
     void createSettingsAction();
+    /// Sets the texts that are not in the form.
+    void setTexts();
     bool isSliding() const;
     /// Shows the list of pages and slides the drawer open.
     void showDrawer(bool keepEdits);
