@@ -6,6 +6,7 @@
 #include "platform/zelAction.h"
 
 #include <QBoxLayout>
+#include <QPushButton>
 
 #include <algorithm>
 
@@ -38,6 +39,7 @@ void MenuColumn::addAction(zelAction* action, const QString& anchorName, bool is
     m_layout->insertWidget(besideAnchor && after ? anchor + 1 : anchor, item);
     if (!besideAnchor)
         m_owner->layout()->invalidate();
+    orderFocus(item);
 }
 
 void MenuColumn::removeAction(zelAction* action)
@@ -82,6 +84,30 @@ int MenuColumn::anchorIndex(const QString& anchorName) const
             return index;
     }
     return -1;
+}
+
+void MenuColumn::orderFocus(ZelCCActionItem* added) const
+{
+    const auto buttonAt = [this](int index) -> QWidget* {
+        const auto* item = qobject_cast<ZelCCActionItem*>(m_layout->itemAt(index)->widget());
+        return item ? item->findChild<QPushButton*>() : nullptr;
+    };
+    const int place = m_layout->indexOf(added);
+    QWidget* const button = buttonAt(place);
+    for (int index = place - 1; index >= 0; --index) {
+        if (QWidget* above = buttonAt(index)) {
+            QWidget::setTabOrder(above, button);
+            return;
+        }
+    }
+    for (int index = place + 1; index < m_layout->count(); ++index) {
+        if (QWidget* below = buttonAt(index)) {
+            // Takes the place of the one below, which then follows.
+            QWidget::setTabOrder(below, button);
+            QWidget::setTabOrder(button, below);
+            return;
+        }
+    }
 }
 
 } // namespace zel

@@ -37,6 +37,8 @@ public:
 private:
     /// Index of the anchor in the layout; -1, which QBoxLayout takes for the bottom, when no item has it.
     int anchorIndex(const QString& anchorName) const;
+    /// Puts a new item into the order of the Tab key, which visits the items from top to bottom.
+    void orderFocus(ZelCCActionItem* added) const;
 
     QWidget* const m_owner;
     QBoxLayout* const m_layout;

@@ -60,7 +60,8 @@ QStringList textsOf(QWidget* window)
         for (const char* property :
              {"text", "title", "windowTitle", "shortcut", "toolTip", "statusTip", "accessibleName",
               "accessibleDescription", "announcedValue", "styleSheet"})
-            texts << object->objectName() + ' ' + property + ": " + object->property(property).toString();
+            if (const QString text = object->property(property).toString(); !text.isEmpty())
+                texts << object->objectName() + ' ' + property + ": " + text;
         const auto* items = qobject_cast<const QAbstractItemModel*>(object);
         for (int row = 0; items && row < items->rowCount(); ++row)
             texts << items->index(row, 0).data().toString();
