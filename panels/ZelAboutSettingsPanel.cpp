@@ -86,7 +86,10 @@ ZelAboutSettingsPanel::ZelAboutSettingsPanel(kqDMIApplication* application, QSet
     connect(m_ui->libUseLabel_2, SIGNAL(linkActivated(const QString&)), this,
             SLOT(onLinkActivated(const QString&)));
     setPanelCategory(ApplicationCategory);
-    followLanguage(*m_ui, [this] { setTexts(); });
+    followLanguage(*m_ui, [this] {
+        setTexts();
+        fitHeights();
+    });
 }
 
 ZelAboutSettingsPanel::~ZelAboutSettingsPanel() = default;
@@ -97,7 +100,6 @@ void ZelAboutSettingsPanel::setTexts()
     m_ui->noticeLabel->setText(m_ui->noticeLabel->text().arg(ZEL_YEAR, 0, 10, QChar(' ')));
     m_ui->libUseLabel_2->setText(componentsText());
     m_ui->libUseLabel_2->setAccessibleName(QTextDocumentFragment::fromHtml(componentsText()).toPlainText());
-    fitHeights();
 }
 
 void ZelAboutSettingsPanel::initializeWidget()

@@ -118,6 +118,7 @@ ZelControlCenterStandAloneWidget::~ZelControlCenterStandAloneWidget()
 void ZelControlCenterStandAloneWidget::makeContentScrollable()
 {
     m_scrollArea = new QScrollArea(this);
+    m_scrollArea->setObjectName("contentArea");
     m_scrollArea->setFrameShape(QFrame::NoFrame);
     m_scrollArea->setFocusPolicy(Qt::NoFocus);
     m_scrollArea->setWidgetResizable(true);
