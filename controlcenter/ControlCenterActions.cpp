@@ -1,5 +1,7 @@
 #include "ControlCenterActions.h"
 
+#include "LanguageFollower.h"
+
 #include <QAbstractSpinBox>
 #include <QAction>
 #include <QApplication>
@@ -52,9 +54,9 @@ class ButtonAction : public QAction
 {
 public:
     explicit ButtonAction(QPushButton* button)
-        : QAction(button->text(), nullptr)
+        : QAction(nullptr)
     {
-        setToolTip(button->toolTip());
+        setTexts(*button);
         setEnabled(button->isEnabled());
         button->installEventFilter(this);
         connect(this, SIGNAL(triggered()), button, SLOT(click()));
@@ -62,9 +64,19 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
+        const auto& button = *static_cast<QPushButton*>(watched);
         if (event->type() == QEvent::EnabledChange)
-            setEnabled(static_cast<QPushButton*>(watched)->isEnabled());
+            setEnabled(button.isEnabled());
+        if (event->type() == QEvent::LanguageChange)
+            setTexts(button);
         return false;
+    }
+
+private:
+    void setTexts(const QPushButton& button)
+    {
+        setText(button.text());
+        setToolTip(button.toolTip());
     }
 };
 
@@ -86,10 +98,12 @@ ControlCenterActions::ControlCenterActions(QWidget* column, QScrollArea* drawer,
     connect(apply, SIGNAL(clicked()), this, SLOT(rememberField()));
     connect(reset, SIGNAL(clicked()), this, SLOT(rememberField()));
     for (const Command& command : Commands) {
-        QAction* action = add(command.name, new QAction(translated(command.text), nullptr));
+        QAction* action = add(command.name, new QAction(nullptr));
         action->setData(command.scrolling);
         connect(action, SIGNAL(triggered()), this, command.receiver);
     }
+    setTexts();
+    new LanguageFollower(column, [this] { setTexts(); });
     m_putBack = findChild<QAction*>("putBack");
     m_putBack->setEnabled(false);
 }
@@ -108,6 +122,12 @@ void ControlCenterActions::enable(bool discard, bool restore)
 {
     findChild<QAction*>("discard")->setEnabled(discard);
     findChild<QAction*>("restore")->setEnabled(restore);
+}
+
+void ControlCenterActions::setTexts()
+{
+    for (const Command& command : Commands)
+        findChild<QAction*>(command.name)->setText(translated(command.text));
 }
 
 bool ControlCenterActions::eventFilter(QObject* watched, QEvent* event)

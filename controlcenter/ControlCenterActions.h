@@ -51,6 +51,7 @@ private Q_SLOTS:
 private:
     /// Becomes the owner of the action.
     QAction* add(const char* name, QAction* action);
+    void setTexts();
     bool press(const QKeyEvent& event, bool inColumn);
     /// True for the keys of an action or a button of the control center, or of an action of its window.
     bool triggersCommand(const QKeySequence& keys) const;

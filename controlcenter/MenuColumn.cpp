@@ -1,5 +1,6 @@
 #include "MenuColumn.h"
 
+#include "LanguageFollower.h"
 #include "MenuSeparator.h"
 #include "ZelCCActionItem.h"
 
@@ -8,6 +9,7 @@
 #include <QBoxLayout>
 #include <QColor>
 #include <QCoreApplication>
+#include <QPushButton>
 
 #include <algorithm>
 
@@ -23,12 +25,11 @@ MenuColumn::MenuColumn(QWidget* owner, QFrame* frame)
     : m_owner(owner)
     , m_frame(frame)
     , m_layout(static_cast<QBoxLayout*>(frame->layout()))
-    , m_settingsAction(
-          new zelAction("Settings", QCoreApplication::translate("ZelControlCenter", "Settings"), nullptr))
+    , m_settingsAction(new zelAction("Settings", QString(), nullptr))
 {
     m_layout->setAlignment(Qt::AlignTop);
-    m_settingsAction->setStatusTip(
-        QCoreApplication::translate("ZelControlCenter", "Changes the settings of the application"));
+    setTexts();
+    new LanguageFollower(frame, [this] { setTexts(); });
     // It opens the settings inside the menu, so it does not close the menu.
     addAction(m_settingsAction.get(), QString(), false, false, false);
     QObject::connect(m_settingsAction.get(), SIGNAL(triggered()), owner, SLOT(openSettings()));
@@ -37,6 +38,13 @@ MenuColumn::MenuColumn(QWidget* owner, QFrame* frame)
 MenuColumn::~MenuColumn()
 {
     removeAction(m_settingsAction.get());
+}
+
+void MenuColumn::setTexts()
+{
+    m_settingsAction->setText(QCoreApplication::translate("ZelControlCenter", "Settings"));
+    m_settingsAction->setStatusTip(
+        QCoreApplication::translate("ZelControlCenter", "Changes the settings of the application"));
 }
 
 void MenuColumn::setVisible(bool visible)
@@ -72,6 +80,7 @@ void MenuColumn::addAction(zelAction* action, const QString& anchorName, bool is
     m_layout->insertWidget(besideAnchor && after ? anchor + 1 : anchor, item);
     if (!besideAnchor)
         m_owner->layout()->invalidate();
+    orderFocus(item);
 }
 
 void MenuColumn::removeAction(zelAction* action)
@@ -116,6 +125,30 @@ int MenuColumn::anchorIndex(const QString& anchorName) const
             return index;
     }
     return -1;
+}
+
+void MenuColumn::orderFocus(ZelCCActionItem* added) const
+{
+    const auto buttonAt = [this](int index) -> QWidget* {
+        const auto* item = qobject_cast<ZelCCActionItem*>(m_layout->itemAt(index)->widget());
+        return item ? item->findChild<QPushButton*>() : nullptr;
+    };
+    const int place = m_layout->indexOf(added);
+    QWidget* const button = buttonAt(place);
+    for (int index = place - 1; index >= 0; --index) {
+        if (QWidget* above = buttonAt(index)) {
+            QWidget::setTabOrder(above, button);
+            return;
+        }
+    }
+    for (int index = place + 1; index < m_layout->count(); ++index) {
+        if (QWidget* below = buttonAt(index)) {
+            // Takes the place of the one below, which then follows.
+            QWidget::setTabOrder(below, button);
+            QWidget::setTabOrder(button, below);
+            return;
+        }
+    }
 }
 
 } // namespace zel

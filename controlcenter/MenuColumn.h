@@ -49,8 +49,12 @@ public:
     bool setSeparatorVisible(const QString& separatorName, bool visible);
 
 private:
+    /// Sets the texts of the action "Settings" in the language of the interface.
+    void setTexts();
     /// Index of the anchor in the layout; -1, which QBoxLayout takes for the bottom, when no item has it.
     int anchorIndex(const QString& anchorName) const;
+    /// Puts a new item into the order of the Tab key, which visits the items from top to bottom.
+    void orderFocus(ZelCCActionItem* added) const;
 
     QWidget* const m_owner;
     QFrame* const m_frame;

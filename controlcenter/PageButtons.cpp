@@ -5,7 +5,6 @@
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QKeyEvent>
-#include <QSignalMapper>
 
 namespace zel {
 
@@ -28,11 +27,9 @@ PageButtons::PageButtons(QBoxLayout* layout, const QList<QWidget*>& successors, 
     , m_layout(layout)
     , m_successors(successors)
     , m_group(new QButtonGroup(this))
-    , m_mapper(new QSignalMapper(this))
 {
     m_group->setExclusive(true);
     connect(m_group, SIGNAL(buttonClicked(QAbstractButton*)), this, SLOT(onClicked(QAbstractButton*)));
-    connect(m_mapper, SIGNAL(mapped(QString)), this, SIGNAL(chosen(QString)));
 }
 
 void PageButtons::add(ZelSettingsPanel* page)
@@ -53,8 +50,6 @@ void PageButtons::add(ZelSettingsPanel* page)
             last = successor;
         }
     m_group->addButton(button);
-    connect(button, SIGNAL(clicked()), m_mapper, SLOT(map()));
-    m_mapper->setMapping(button, page->getPanelName());
     m_pages.insert(button, page);
     button->installEventFilter(this);
 }
@@ -67,8 +62,6 @@ void PageButtons::remove(ZelSettingsPanel* page)
     button->removeEventFilter(this);
     m_pages.remove(button);
     m_group->removeButton(button);
-    disconnect(button, SIGNAL(clicked()), m_mapper, SLOT(map()));
-    m_mapper->removeMappings(button);
     button->setParent(nullptr);
 }
 
@@ -94,6 +87,7 @@ bool PageButtons::eventFilter(QObject* watched, QEvent* event)
 void PageButtons::onClicked(QAbstractButton* button)
 {
     m_chosen = button->hasFocus() ? button : nullptr;
+    Q_EMIT chosen(m_pages.value(button)->getPanelName());
 }
 
 } // namespace zel

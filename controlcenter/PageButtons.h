@@ -9,7 +9,6 @@
 class QAbstractButton;
 class QBoxLayout;
 class QButtonGroup;
-class QSignalMapper;
 class QWidget;
 
 namespace zel {
@@ -44,7 +43,6 @@ private:
     QBoxLayout* const m_layout;
     const QList<QWidget*> m_successors;
     QButtonGroup* const m_group;
-    QSignalMapper* const m_mapper;
     QMap<QObject*, ZelSettingsPanel*> m_pages; ///< By their buttons.
     QObject* m_chosen = nullptr;               ///< The button of the chosen page, while it keeps the focus.
 };

@@ -2,6 +2,8 @@
 
 #include "ui_ZelCCActionItem.h"
 
+#include "LanguageFollower.h"
+
 #include "platform/kqDMIApplication.h"
 
 #include <QKeySequence>
@@ -28,6 +30,7 @@ ZelCCActionItem::ZelCCActionItem(zelAction* action, QWidget* parent, Qt::WindowF
     m_ui->setupUi(this);
     setStyleSheet(kqDMIApplication::GetStylesheet("ZelCCActionItem"));
     onActionChanged();
+    new LanguageFollower(this, [this] { onActionChanged(); }); // The names of keys are translated.
     connect(action, SIGNAL(changed()), this, SLOT(onActionChanged()));
     connect(action, SIGNAL(destroyed()), this, SLOT(hide()));
     connect(m_ui->actionButton, SIGNAL(clicked()), action, SLOT(trigger()));

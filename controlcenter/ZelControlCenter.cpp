@@ -6,6 +6,7 @@
 #include "ControlCenterActions.h"
 #include "ControlCenterSlides.h"
 #include "EnableButton.h"
+#include "LanguageFollower.h"
 #include "MenuColumn.h"
 #include "PageButtons.h"
 #include "ReturnKey.h"
@@ -108,6 +109,10 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
 
     onStateChanged();
     openMenu(false);
+    new LanguageFollower(this, [this] {
+        m_parts->form.retranslateUi(this);
+        onStateChanged(); // Names the marks.
+    });
 }
 
 ZelControlCenter::~ZelControlCenter()

@@ -189,21 +189,31 @@ protected:
         return made;
     }
 
-    /// Sets the rows of the page and adds help on them. Call it once, in the constructor, after the form is
-    /// set up and the keys are registered. The values are stored in the order of the rows: first the first
-    /// value of each row, then the further ones.
+    /// Sets the rows of the page and adds help on them. Call it in the constructor, after the form is set up
+    /// and the keys are registered. The values are stored in the order of the rows: first the first value of
+    /// each row, then the further ones.
+    ///
+    /// With followLanguage() it is called again in another language, with the same rows. It then takes their
+    /// texts, and the values and edits stay.
     void setRows(const std::vector<Row>& rows)
     {
-        m_rows = rows;
-        m_help = new ZelPageHelp(this);
-        QStringList keys;
-        for (const Row& row : m_rows) {
-            for (const Field& field : row.fields)
-                keys.append(field.key);
-            m_help->add(helpOn(row));
+        const bool again = m_help;
+        if (!again) {
+            m_rows = rows;
+            m_help = new ZelPageHelp(this);
+            QStringList keys;
+            forEachField([&](const Field& field) { keys.append(field.key); });
+            keys.removeDuplicates();
+            setSettingsKeys(keys);
         }
-        keys.removeDuplicates();
-        setSettingsKeys(keys);
+        for (std::size_t i = 0; i < m_rows.size(); ++i) {
+            m_rows[i].takeTexts(rows[i]);
+            m_help->add(helpOn(m_rows[i]));
+        }
+        if (!again)
+            return;
+        fill(currentModel(), {});
+        changeState();
     }
 
     /// Reads the stored values.
@@ -280,11 +290,13 @@ protected:
     void onEdited()
     {
         checkContent();
-        QMetaObject::invokeMethod(this, "stateChanged", Qt::DirectConnection);
+        changeState();
     }
 
 private:
     using Field = ZelSettingsField<Model>;
+
+    void changeState() { QMetaObject::invokeMethod(this, "stateChanged", Qt::DirectConnection); }
 
     Model read(void (ZelEditablePanel::*reader)(Model& model) const) const
     {
@@ -359,7 +371,7 @@ private:
         return help;
     }
 
-    std::vector<Row> m_rows; ///< Constant after setRows(), so that the help can refer to them.
+    std::vector<Row> m_rows; ///< Stays where it is after setRows(), so that the help can refer to it.
     ZelPageHelp* m_help = nullptr;
     Model m_stored;  ///< What was stored when the widgets were last filled from it.
     Model m_loaded;  ///< What the widgets have shown then.

@@ -54,8 +54,13 @@ ZelPageHelp::ZelPageHelp(QWidget* page)
 
 void ZelPageHelp::add(const ZelSettingHelp& setting)
 {
-    m_settings.push_back(setting);
-    ZelSettingHelp& added = m_settings.back();
+    QWidget* first = setting.fields.first();
+    const auto former =
+        std::find_if(m_settings.begin(), m_settings.end(),
+                     [first](const ZelSettingHelp& each) { return each.fields.first() == first; });
+    const bool isNew = former == m_settings.end();
+    const auto place = isNew ? m_settings.insert(former, setting) : former;
+    ZelSettingHelp& added = *place = setting;
     if (added.name.isEmpty())
         added.name = nameOf(*added.fields.first());
     const QString text = added.summary();
@@ -65,8 +70,11 @@ void ZelPageHelp::add(const ZelSettingHelp& setting)
             field->setStatusTip(text);
         else // Rich text, because QToolTip wraps only that.
             field->setToolTip(Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal));
-        watch(field, field);
     }
+    if (!isNew)
+        return;
+    for (QWidget* field : added.fields)
+        watch(field, field);
     for (QLabel* label : static_cast<QWidget*>(parent())->findChildren<QLabel*>())
         if (added.fields.contains(label->buddy()))
             watch(label, label->buddy());

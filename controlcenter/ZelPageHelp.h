@@ -53,7 +53,8 @@ public:
     /// The page becomes its owner.
     explicit ZelPageHelp(QWidget* page);
 
-    /// Adds a setting, and sets the tool tips and accessible descriptions of its fields.
+    /// Adds a setting, and sets the tool tips and accessible descriptions of its fields. Replaces the one
+    /// that has the same first field.
     void add(const ZelSettingHelp& setting);
 
     /// The setting that a field of the page edits; null for any other widget. Valid until the next add().

@@ -231,6 +231,14 @@ struct ZelSettingsRow
         return *this;
     }
 
+    /// Takes what a language decides from the same row in another language.
+    void takeTexts(const ZelSettingsRow& translated)
+    {
+        name = translated.name;
+        description = translated.description;
+        range = translated.range;
+    }
+
     /// True when a value that counts in the first model differs.
     bool differs(const Model& current, const Model& other) const
     {

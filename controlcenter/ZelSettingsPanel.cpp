@@ -1,5 +1,6 @@
 #include "ZelSettingsPanel.h"
 
+#include "LanguageFollower.h"
 #include "StyleSheetPause.h"
 #include "ZelSettingsFile.h"
 
@@ -19,9 +20,7 @@ ZelSettingsPanel::ZelSettingsPanel(kqDMIApplication* application, QSettings& set
 {
     m_actionWidget->setCheckable(true);
     m_actionWidget->setAutoExclusive(true);
-    const QString language = application ? application->getLanguageCode() : QString();
-    if (!language.isEmpty())
-        setLocale(QLocale(language));
+    setLocaleOfLanguage();
 }
 
 ZelSettingsPanel::~ZelSettingsPanel()
@@ -82,6 +81,27 @@ void ZelSettingsPanel::registerCCAction(zelAction*)
 
 void ZelSettingsPanel::unregisterCCActionByName(const QString&)
 {
+}
+
+void ZelSettingsPanel::followLanguage(const std::function<void()>& setTexts)
+{
+    setTexts();
+    onLanguageChange(setTexts);
+}
+
+void ZelSettingsPanel::onLanguageChange(const std::function<void()>& setTexts)
+{
+    new LanguageFollower(this, [this, setTexts] {
+        setLocaleOfLanguage();
+        setTexts();
+    });
+}
+
+void ZelSettingsPanel::setLocaleOfLanguage()
+{
+    const QString language = m_application ? m_application->getLanguageCode() : QString();
+    if (!language.isEmpty())
+        setLocale(QLocale(language));
 }
 
 void ZelSettingsPanel::setNamedStyleSheet(const QString& name)

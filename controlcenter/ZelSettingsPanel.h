@@ -9,6 +9,8 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <functional>
+
 class QSettings;
 class kqDMIApplication;
 class zelAction;
@@ -93,11 +95,28 @@ protected:
     /// The settings; while Apply runs, the copy of their file that takes its place at the end.
     QSettings& settings() const;
 
+    /// Lets the page follow the language of the interface: calls a function that sets all its texts, at once
+    /// and whenever a translator is installed or removed. Its locale follows too. Call it in the constructor.
+    void followLanguage(const std::function<void()>& setTexts);
+    /// The same for a page with a form, whose texts are translated before the function is called.
+    template <class Form>
+    void followLanguage(Form& form, const std::function<void()>& setTexts)
+    {
+        setTexts(); // Setting the form up has translated it.
+        onLanguageChange([this, &form, setTexts] {
+            form.retranslateUi(this);
+            setTexts();
+        });
+    }
+
     /// Sets the style sheet that kqDMIApplication::GetStylesheet() has under this name. Call it after the
     /// form is set up.
     void setNamedStyleSheet(const QString& name);
 
 private:
+    void onLanguageChange(const std::function<void()>& setTexts);
+    void setLocaleOfLanguage();
+
     kqDMIApplication* m_application;
     QSettings* m_settings;
     QString m_panelName;

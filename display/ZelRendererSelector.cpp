@@ -4,6 +4,7 @@
 
 #include "Accessibility.h"
 #include "LabelImage.h"
+#include "LanguageFollower.h"
 
 #include "platform/kqMovableObject.h"
 
@@ -31,11 +32,13 @@ ZelRendererSelector::ZelRendererSelector(QWidget* parent, Qt::WindowFlags flags)
     auto* movable = new kqMovableObject(this);
     movable->setAnchorObject(m_ui->titleFrame, this);
 
-    for (QLabel* engine : {m_ui->raytracerButton, m_ui->deferredButton}) {
+    for (QLabel* engine : {m_ui->raytracerButton, m_ui->deferredButton})
         engine->installEventFilter(this);
-        const auto text = QTextDocumentFragment::fromHtml(engine->text());
-        engine->setAccessibleName(text.toPlainText().simplified());
-    }
+    nameEngines();
+    new LanguageFollower(this, [this] {
+        m_ui->retranslateUi(this);
+        nameEngines();
+    });
     announceChosen();
     m_ui->okButton->setFocus();
 }
@@ -102,6 +105,14 @@ void ZelRendererSelector::announceChosen()
 {
     announceChoice(*m_ui->raytracerButton, !useGPURenderer());
     announceChoice(*m_ui->deferredButton, useGPURenderer());
+}
+
+void ZelRendererSelector::nameEngines()
+{
+    for (QLabel* engine : {m_ui->raytracerButton, m_ui->deferredButton}) {
+        const auto text = QTextDocumentFragment::fromHtml(engine->text());
+        engine->setAccessibleName(text.toPlainText().simplified());
+    }
 }
 
 void ZelRendererSelector::on_okButton_clicked()

@@ -50,6 +50,7 @@ private:
     /// True when the choice has changed.
     bool choose(const QObject* engine);
     void announceChosen();
+    void nameEngines();
 
     std::unique_ptr<Ui::ZelRendererSelector> m_ui;
 };

@@ -81,7 +81,6 @@ ZelRendererSettingsPanel::ZelRendererSettingsPanel(kqDMIApplication* application
 {
     m_ui->setupUi(this);
     setNamedStyleSheet("ZelRendererSettingsPanel");
-    setPanelName(Text::tr("Display"));
     setPanelCategory(ApplicationCategory);
 
     const int cores = QThread::idealThreadCount();
@@ -92,7 +91,14 @@ ZelRendererSettingsPanel::ZelRendererSettingsPanel(kqDMIApplication* application
     for (zelSpinBox* memory : {m_ui->maxCPU3DSpinBox, m_ui->maxCPURaySpinBox, m_ui->maxGPUSPinBox})
         memory->setRange(MinimumMebibytes, MaximumMebibytes);
     m_ui->maxTrianglesSpinBox->setRange(MinimumTriangles, MaximumTriangles);
+    followLanguage(*m_ui, [this] { setTexts(); });
+}
 
+ZelRendererSettingsPanel::~ZelRendererSettingsPanel() = default;
+
+void ZelRendererSettingsPanel::setTexts()
+{
+    setPanelName(Text::tr("Display"));
     const ZelFieldWidgets<bool> engines(m_ui->deferredButton, m_ui->raytracerButton);
     const ZelFieldWidgets<int> qualities(m_ui->qualitySlider, qualityText);
     const ZelFieldWidgets<int> coreCounts(m_ui->coreUsedSlider, coresText);
@@ -151,8 +157,6 @@ ZelRendererSettingsPanel::ZelRendererSettingsPanel(kqDMIApplication* application
                      "smoothly; with more, they show finer details.")),
     });
 }
-
-ZelRendererSettingsPanel::~ZelRendererSettingsPanel() = default;
 
 int ZelRendererSettingsPanel::GetSceneUnitComboIndex(float factor)
 {

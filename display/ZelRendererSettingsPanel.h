@@ -74,6 +74,8 @@ protected:
     bool shouldRestart() const override;
 
 private:
+    /// Sets the texts that are not in the form.
+    void setTexts();
     /// True when the raytracer is chosen and its quality or number of cores needs a restart.
     bool hasRaytracerRebootChanged() const;
 

@@ -80,19 +80,27 @@ ZelAboutSettingsPanel::ZelAboutSettingsPanel(kqDMIApplication* application, QSet
 {
     m_ui->setupUi(this);
     showImage(*m_ui->applicationIcon, ":/controlCenter/controlCenter/logo-torvane.png", LogoSize);
-    m_ui->noticeLabel->setText(m_ui->noticeLabel->text().arg(ZEL_YEAR, 0, 10, QChar(' ')));
     setNamedStyleSheet("ZelAboutSettingsPanel");
     m_ui->platform->setText("X64");
     m_ui->pluginsFrame->hide();
-    m_ui->libUseLabel_2->setText(componentsText());
-    m_ui->libUseLabel_2->setAccessibleName(QTextDocumentFragment::fromHtml(componentsText()).toPlainText());
     connect(m_ui->libUseLabel_2, SIGNAL(linkActivated(const QString&)), this,
             SLOT(onLinkActivated(const QString&)));
-    setPanelName(QCoreApplication::translate("ZelAboutSettingsPanel", "About"));
     setPanelCategory(ApplicationCategory);
+    followLanguage(*m_ui, [this] {
+        setTexts();
+        fitHeights();
+    });
 }
 
 ZelAboutSettingsPanel::~ZelAboutSettingsPanel() = default;
+
+void ZelAboutSettingsPanel::setTexts()
+{
+    setPanelName(QCoreApplication::translate("ZelAboutSettingsPanel", "About"));
+    m_ui->noticeLabel->setText(m_ui->noticeLabel->text().arg(ZEL_YEAR, 0, 10, QChar(' ')));
+    m_ui->libUseLabel_2->setText(componentsText());
+    m_ui->libUseLabel_2->setAccessibleName(QTextDocumentFragment::fromHtml(componentsText()).toPlainText());
+}
 
 void ZelAboutSettingsPanel::initializeWidget()
 {
@@ -107,11 +115,16 @@ void ZelAboutSettingsPanel::initializeWidget()
 
 void ZelAboutSettingsPanel::resizeEvent(QResizeEvent* event)
 {
+    fitHeights();
+    QWidget::resizeEvent(event);
+}
+
+void ZelAboutSettingsPanel::fitHeights()
+{
     // The texts wrap, so their height depends on the width.
     showAllRows(*m_ui->tableWidget);
     m_ui->scrollArea->setFixedHeight(
         m_ui->scrollAreaWidgetContents->heightForWidth(m_ui->scrollArea->viewport()->width()));
-    QWidget::resizeEvent(event);
 }
 
 void ZelAboutSettingsPanel::onLinkActivated(const QString& link)

@@ -48,6 +48,9 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    /// Sets the texts that are not in the form.
+    void setTexts();
+    void fitHeights();
     void fillPlugins();
 
     const std::unique_ptr<Ui::ZelAboutSettingsPanel> m_ui;

@@ -33,8 +33,15 @@ ZelGeneralSettingsPanel::ZelGeneralSettingsPanel(kqDMIApplication* application, 
 {
     m_ui->setupUi(this);
     setNamedStyleSheet("ZelGeneralSettingsPanel");
-    setPanelName(Text::tr("Folders"));
     setPanelCategory(ApplicationCategory);
+    followLanguage(*m_ui, [this] { setTexts(); });
+}
+
+ZelGeneralSettingsPanel::~ZelGeneralSettingsPanel() = default;
+
+void ZelGeneralSettingsPanel::setTexts()
+{
+    setPanelName(Text::tr("Folders"));
     setRows({
         folderRow(keys::CacheDirectory, &GeneralModel::cacheDirectory, m_ui->databaseButton,
                   EffectAfterRestart,
@@ -47,8 +54,6 @@ ZelGeneralSettingsPanel::ZelGeneralSettingsPanel(kqDMIApplication* application, 
                   EffectAtOnce, Text::tr("Where your screenshots are saved. A click chooses a folder.")),
     });
 }
-
-ZelGeneralSettingsPanel::~ZelGeneralSettingsPanel() = default;
 
 void ZelGeneralSettingsPanel::on_databaseButton_clicked()
 {

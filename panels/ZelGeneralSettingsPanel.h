@@ -73,6 +73,8 @@ protected:
     void setMaxCacheSize() { setMaxCacheSize(currentModel()); }
 
 private:
+    /// Sets the texts that are not in the form.
+    void setTexts();
     static Row folderRow(const char* key, QString GeneralModel::*folder, QPushButton* button,
                          ZelSettingEffect effect, const QString& description);
     void setScreenshotFolder(const GeneralModel& model);

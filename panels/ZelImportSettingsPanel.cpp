@@ -34,8 +34,15 @@ ZelImportSettingsPanel::ZelImportSettingsPanel(kqDMIApplication* application, QS
     m_limits[Angle] = {m_ui->defaultAngle, m_ui->angle, m_ui->faceAngleSpin};
     m_ui->faceAngleSpin->setRange(0, MaximumFaceAngle);
     setNamedStyleSheet("ZelImportSettingsPanel");
-    setPanelName(Text::tr("Tessellation"));
     setPanelCategory(AdvancedCategory);
+    followLanguage(*m_ui, [this] { setTexts(); });
+}
+
+ZelImportSettingsPanel::~ZelImportSettingsPanel() = default;
+
+void ZelImportSettingsPanel::setTexts()
+{
+    setPanelName(Text::tr("Tessellation"));
     setRows({
         qualityRow(),
         limitRow(Sag, keys::MaxFaceSagSet, &ImportModel::maxFaceSagSet, keys::MaxFaceSag,
@@ -52,8 +59,6 @@ ZelImportSettingsPanel::ZelImportSettingsPanel(kqDMIApplication* application, QS
                           "looks rounder and makes more triangles.")),
     });
 }
-
-ZelImportSettingsPanel::~ZelImportSettingsPanel() = default;
 
 void ZelImportSettingsPanel::on_lowQuality_clicked()
 {

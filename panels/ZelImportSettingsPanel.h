@@ -71,6 +71,8 @@ private:
     };
     enum LimitIndex { Sag, Length, Angle };
 
+    /// Sets the texts that are not in the form.
+    void setTexts();
     template <class Box, class Value>
     Row limitRow(LimitIndex index, const char* setKey, bool ImportModel::*set, const char* valueKey,
                  Value ImportModel::*value, Box* box, const QString& description);

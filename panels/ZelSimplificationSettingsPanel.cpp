@@ -111,13 +111,17 @@ ZelSimplificationSettingsPanel::ZelSimplificationSettingsPanel(kqDMIApplication*
     showLevelImages(*m_ui);
     m_percentages = {m_ui->ratio1, m_ui->ratio2, m_ui->ratio3, m_ui->ratio4, m_ui->ratio5};
     setNamedStyleSheet("ZelSimplificationSettingsPanel");
-    setPanelName(Text::tr("Simplification"));
     setPanelCategory(ProjectCategory);
-
-    setRows({levelRow(1), levelRow(2), levelRow(3), levelRow(4), levelRow(5)});
+    followLanguage(*m_ui, [this] { setTexts(); });
 }
 
 ZelSimplificationSettingsPanel::~ZelSimplificationSettingsPanel() = default;
+
+void ZelSimplificationSettingsPanel::setTexts()
+{
+    setPanelName(Text::tr("Simplification"));
+    setRows({levelRow(1), levelRow(2), levelRow(3), levelRow(4), levelRow(5)});
+}
 
 bool ZelSimplificationSettingsPanel::hasModifications() const
 {

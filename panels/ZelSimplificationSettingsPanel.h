@@ -58,6 +58,8 @@ protected:
     void setRatios() { pushToApplication(currentModel()); }
 
 private:
+    /// Sets the texts that are not in the form.
+    void setTexts();
     /// Brings an edited level and its two neighbours into descending order; other levels stay as they are.
     void finishEditing(int level);
     Row levelRow(int level) const;

@@ -1,5 +1,6 @@
 #include "PendingList.h"
 
+#include "LanguageFollower.h"
 #include "ZelPageEdits.h"
 #include "ZelSettingsPanel.h"
 
@@ -82,6 +83,7 @@ QString textOf(const ZelPendingEdit& edit)
 
 PendingList::PendingList(QWidget* parent)
     : QFrame(parent)
+    , m_title(new QLabel(this))
     , m_goTo(new QSignalMapper(this))
     , m_putBack(new QSignalMapper(this))
 {
@@ -91,21 +93,29 @@ PendingList::PendingList(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 10, 8, 10);
     layout->setSpacing(4);
-    auto* title = new QLabel(QCoreApplication::translate("PendingList", "Not applied yet"), this);
-    title->setTextFormat(Qt::PlainText);
-    layout->addWidget(title);
+    m_title->setTextFormat(Qt::PlainText);
+    layout->addWidget(m_title);
     m_lines = new QVBoxLayout;
     m_lines->setSpacing(0);
     layout->addLayout(m_lines);
     connect(m_goTo, SIGNAL(mapped(int)), this, SLOT(goToField(int)));
     connect(m_putBack, SIGNAL(mapped(int)), this, SLOT(putBack(int)));
     hide();
+    setTexts();
+    new LanguageFollower(this, [this] { setTexts(); });
 }
 
 void PendingList::setPages(const QList<ZelSettingsPanel*>& pages)
 {
     for (ZelSettingsPanel* page : pages)
         m_pages << page;
+    refresh();
+}
+
+void PendingList::setTexts()
+{
+    m_title->setText(QCoreApplication::translate("PendingList", "Not applied yet"));
+    m_shown.clear();
     refresh();
 }
 
@@ -128,8 +138,13 @@ void PendingList::refresh()
         addRow();
     for (int i = 0; i < texts.size(); ++i) {
         const auto* row = m_lines->itemAt(i)->widget()->layout();
-        static_cast<Line*>(row->itemAt(0)->widget())->show(texts[i]);
-        row->itemAt(1)->widget()->setAccessibleDescription(texts[i]);
+        auto* line = static_cast<Line*>(row->itemAt(0)->widget());
+        line->show(texts[i]);
+        line->setAccessibleDescription(QCoreApplication::translate("PendingList", "Goes to the setting."));
+        QWidget* takeBack = row->itemAt(1)->widget();
+        takeBack->setToolTip(QCoreApplication::translate("ZelHelpCard", "Puts back what is stored"));
+        takeBack->setAccessibleName(takeBack->toolTip());
+        takeBack->setAccessibleDescription(texts[i]);
     }
 }
 
@@ -139,12 +154,9 @@ void PendingList::addRow()
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     auto* line = new Line(row);
-    line->setAccessibleDescription(QCoreApplication::translate("PendingList", "Goes to the setting."));
     auto* takeBack = new QPushButton(QString(QChar(0x00D7)), row); // A cross.
     takeBack->setObjectName("takeBack");
     takeBack->setFixedSize(26, 26);
-    takeBack->setToolTip(QCoreApplication::translate("ZelHelpCard", "Puts back what is stored"));
-    takeBack->setAccessibleName(takeBack->toolTip());
     layout->addWidget(line);
     layout->addWidget(takeBack);
     m_goTo->setMapping(line, m_lines->count());

@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QStringList>
 
+class QLabel;
 class QSignalMapper;
 class QVBoxLayout;
 
@@ -36,8 +37,10 @@ private Q_SLOTS:
 
 private:
     void addRow();
+    void setTexts();
 
     QList<QPointer<ZelSettingsPanel>> m_pages;
+    QLabel* m_title;
     QVBoxLayout* m_lines;
     QSignalMapper* m_goTo;
     QSignalMapper* m_putBack;

@@ -1,5 +1,7 @@
 #include "WindowShortcuts.h"
 
+#include "LanguageFollower.h"
+
 #include <QAction>
 #include <QKeySequence>
 #include <QPushButton>
@@ -22,9 +24,18 @@ QKeySequence altKey(const QPushButton& button, const char* name, QString& taken)
     return QKeySequence();
 }
 
+void setAltKeys(const QWidget& controlCenter)
+{
+    QString taken;
+    for (const char* name : {"apply", "reset"}) {
+        auto* button = controlCenter.findChild<QPushButton*>(QString(name) + "Button");
+        button->setShortcut(altKey(*button, name, taken));
+    }
+}
+
 } // namespace
 
-void addWindowShortcuts(QWidget& window, const QWidget& controlCenter, const QString& closeText)
+void addWindowShortcuts(QWidget& window, const QWidget& controlCenter)
 {
     for (QAction* action : controlCenter.actions()) {
         action->setShortcutContext(Qt::WindowShortcut);
@@ -35,13 +46,12 @@ void addWindowShortcuts(QWidget& window, const QWidget& controlCenter, const QSt
     for (const auto& [action, key] : keys)
         controlCenter.findChild<QAction*>(action)->setShortcut(QKeySequence(key));
 
-    QString taken;
-    for (const char* name : {"apply", "reset"}) {
-        auto* button = controlCenter.findChild<QPushButton*>(QString(name) + "Button");
-        button->setShortcut(altKey(*button, name, taken));
-    }
+    setAltKeys(controlCenter);
+    // A new text takes the key from a button. The control center has set the texts before this one is told.
+    new LanguageFollower(controlCenter.findChild<QPushButton*>("applyButton"),
+                         [&controlCenter] { setAltKeys(controlCenter); });
 
-    auto* close = new QAction(closeText, &window);
+    auto* close = new QAction(&window);
     close->setObjectName("close");
     close->setShortcuts(QList<QKeySequence>() << QKeySequence("Ctrl+Q") << QKeySequence("Ctrl+W"));
     QObject::connect(close, SIGNAL(triggered()), &window, SLOT(closeWidget()));

@@ -5,6 +5,7 @@
 #include "Accessibility.h"
 #include "DrawerShadow.h"
 #include "FrameResizer.h"
+#include "LanguageFollower.h"
 #include "ReturnKey.h"
 #include "WindowGeometry.h"
 #include "WindowShortcuts.h"
@@ -18,6 +19,7 @@
 #include "platform/kqDMIApplication.h"
 #include "platform/kqMovableObject.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
@@ -96,9 +98,12 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
     connect(m_controlCenter.get(), SIGNAL(helpRequested(QWidget*)), m_ui->helpArea,
             SLOT(showHelpOfFocusedField()));
 
-    if (QStringList({"ja", "zh"}).contains(application->getLanguageCode()))
-        straightenTexts();
-    addWindowShortcuts(*this, *m_controlCenter, m_ui->closeButton->accessibleName());
+    addWindowShortcuts(*this, *m_controlCenter);
+    setTexts(*application);
+    new LanguageFollower(this, [this, application] {
+        m_ui->retranslateUi(this);
+        setTexts(*application);
+    });
     orderFocus();
     const QString folder = QFileInfo(application->getSettings().fileName()).path();
     m_geometry = new WindowGeometry(
@@ -117,6 +122,7 @@ ZelControlCenterStandAloneWidget::~ZelControlCenterStandAloneWidget()
 void ZelControlCenterStandAloneWidget::makeContentScrollable()
 {
     m_scrollArea = new QScrollArea(this);
+    m_scrollArea->setObjectName("contentArea");
     m_scrollArea->setFrameShape(QFrame::NoFrame);
     m_scrollArea->setFocusPolicy(Qt::NoFocus);
     m_scrollArea->setWidgetResizable(true);
@@ -126,11 +132,17 @@ void ZelControlCenterStandAloneWidget::makeContentScrollable()
     connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
 }
 
-void ZelControlCenterStandAloneWidget::straightenTexts()
+void ZelControlCenterStandAloneWidget::setTexts(kqDMIApplication& application)
 {
+    findChild<QAction*>("close")->setText(m_ui->closeButton->accessibleName());
+    nameMaximizeButton();
+    // Some writings have no italics: a slanted character is hard to read.
+    const bool upright = QStringList({"ja", "zh"}).contains(application.getLanguageCode());
+    const QString sheet = upright ? "font-style: normal;" : "";
     for (const auto& panel : m_panels)
         for (QLabel* summary : panel->findChildren<QLabel*>("summaryLabel"))
-            summary->setStyleSheet("font-style: normal;");
+            if (summary->styleSheet() != sheet)
+                summary->setStyleSheet(sheet);
 }
 
 void ZelControlCenterStandAloneWidget::orderFocus()
@@ -192,8 +204,12 @@ void ZelControlCenterStandAloneWidget::closeEvent(QCloseEvent* event)
 void ZelControlCenterStandAloneWidget::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    if (event->type() != QEvent::WindowStateChange)
-        return;
+    if (event->type() == QEvent::WindowStateChange)
+        nameMaximizeButton();
+}
+
+void ZelControlCenterStandAloneWidget::nameMaximizeButton()
+{
     const QString what = QCoreApplication::translate(
         "ControlCenterStandAlone", isMaximized() ? QT_TRANSLATE_NOOP("ControlCenterStandAlone", "Restore")
                                                  : QT_TRANSLATE_NOOP("ControlCenterStandAlone", "Maximize"));

@@ -67,8 +67,9 @@ private Q_SLOTS:
 
 private:
     void makeContentScrollable();
-    /// For writings that have no italics: a slanted character is hard to read.
-    void straightenTexts();
+    /// Sets the texts that are not in the form, and how they look in the language.
+    void setTexts(kqDMIApplication& application);
+    void nameMaximizeButton();
     void orderFocus();
     bool mayDiscardModifications();
 

@@ -3,6 +3,7 @@
 #include "ui_ZelHelpCard.h"
 
 #include "EnableButton.h"
+#include "LanguageFollower.h"
 #include "ZelPageHelp.h"
 #include "ZelSettingsPanel.h"
 
@@ -48,6 +49,10 @@ ZelHelpCard::ZelHelpCard(QWidget* parent)
     m_ui->setupUi(this);
     setObjectName("helpFrame");
     refresh();
+    new LanguageFollower(this, [this] {
+        m_ui->retranslateUi(this);
+        refresh();
+    });
 }
 
 ZelHelpCard::~ZelHelpCard() = default;

@@ -14,8 +14,15 @@ TurntableSettingsPanel::TurntableSettingsPanel(ViewerScene& scene, kqDMIApplicat
     m_ui->setupUi(this);
     // For the fonts and fields of the library's pages.
     setNamedStyleSheet("ZelGeneralSettingsPanel");
-    setPanelName(tr("Turntable"));
     setPanelCategory(ApplicationCategory);
+    followLanguage(*m_ui, [this] { setTexts(); });
+}
+
+TurntableSettingsPanel::~TurntableSettingsPanel() = default;
+
+void TurntableSettingsPanel::setTexts()
+{
+    setPanelName(tr("Turntable"));
     setRows({
         row(viewerkeys::Turns, &TurntableModel::turns, m_ui->turnsCheckBox, zel::EffectAtOnce,
             tr("Whether the model turns by itself. You can still turn it with the mouse.")),
@@ -23,8 +30,6 @@ TurntableSettingsPanel::TurntableSettingsPanel(ViewerScene& scene, kqDMIApplicat
             tr("How fast the model turns: at 90 degrees per second, once in four seconds.")),
     });
 }
-
-TurntableSettingsPanel::~TurntableSettingsPanel() = default;
 
 void TurntableSettingsPanel::pushToApplication(const TurntableModel& model)
 {

@@ -39,6 +39,8 @@ protected:
     void pushToApplication(const TurntableModel& model) override;
 
 private:
+    void setTexts();
+
     const std::unique_ptr<Ui::TurntableSettingsPanel> m_ui;
     ViewerScene& m_scene;
 };

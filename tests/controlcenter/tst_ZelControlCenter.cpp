@@ -519,6 +519,13 @@ private Q_SLOTS:
         for (const auto& [name, anchor, after] : registrations)
             m_controlCenter->registerCCAction(&action(name), anchor, false, after, false);
         QCOMPARE(columnText(), QString("b,twice,before a,a,Settings,last,twice"));
+        QStringList visited; // By the Tab key.
+        for (QWidget* widget = m_window.get(); (widget = widget->nextInFocusChain()) != m_window.get();)
+            if (widget->objectName() == "actionButton")
+                visited << static_cast<ZelCCActionItem*>(widget->parentWidget()->parentWidget())
+                               ->getZelAction()
+                               ->getActionName();
+        QCOMPARE(visited.join(","), columnText());
 
         QVERIFY(m_controlCenter->addCCSeparator("Settings", "before settings"));
         QVERIFY(!m_controlCenter->addCCSeparator("", "before settings"));

@@ -209,7 +209,9 @@ private Q_SLOTS:
             page.click(button);
             QCOMPARE(page.canClickReset(), canClickReset);
         }
-        QCOMPARE(page.changes.count(), 6 + 4);
+        QTest::keyClick(page.find("defaultQuality"), Qt::Key_Down);
+        QVERIFY(page.find<QRadioButton>("highQuality")->isChecked() && page.find("highQuality")->hasFocus());
+        QCOMPARE(page.changes.count(), 6 + 4 + 1);
     }
 
     void ratiosReachTheSimplifier()

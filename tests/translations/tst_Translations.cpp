@@ -1,7 +1,9 @@
-#include "FakeApplication.h"
+#include "ShownPage.h"
 #include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
+#include "ZelPageDefaults.h"
 #include "ZelRendererSelector.h"
+#include "ZelSettingsFile.h"
 #include "ZelSettingsPanel.h"
 
 using namespace zel;
@@ -47,6 +49,56 @@ QString clippedTexts(const QWidget& window)
     }
     return clipped;
 }
+
+/// All that a window says, also of what is hidden.
+QStringList textsOf(QWidget* window)
+{
+    QStringList texts;
+    QList<QObject*> objects = window->findChildren<QObject*>();
+    objects << window;
+    for (const QObject* object : objects) {
+        for (const char* property :
+             {"text", "title", "windowTitle", "shortcut", "toolTip", "statusTip", "accessibleName",
+              "accessibleDescription", "announcedValue", "styleSheet"})
+            if (const QString text = object->property(property).toString(); !text.isEmpty())
+                texts << object->objectName() + ' ' + property + ": " + text;
+        const auto* items = qobject_cast<const QAbstractItemModel*>(object);
+        for (int row = 0; items && row < items->rowCount(); ++row)
+            texts << items->index(row, 0).data().toString();
+        for (int column = 0; items && column < items->columnCount(); ++column)
+            texts << items->headerData(column, Qt::Horizontal).toString();
+    }
+    texts.sort();
+    return texts;
+}
+
+/// The editor with pending edits, of which the last one has the focus, and the choice of the renderer.
+struct EditedWindow : User
+{
+    explicit EditedWindow(FakeApplication& application)
+        : editor(&application, nullptr, Qt::FramelessWindowHint)
+    {
+        window = &editor;
+        editor.resize(1100, 800);
+        editor.show();
+        editor.openMenu();
+        QTRY_VERIFY(find<ZelControlCenter>("ZelControlCenter")->isSettingsOpen());
+        QApplication::setActiveWindow(&editor);
+        click("deferredFXAACheckBox");
+        type("databaseSpinBox", "1234567");
+        find("maxTrianglesSpinBox")->setFocus();
+        QTest::keyClick(find("maxTrianglesSpinBox"), Qt::Key_PageUp);
+    }
+
+    QStringList texts()
+    {
+        QCoreApplication::processEvents();
+        return textsOf(&editor) + textsOf(&selector);
+    }
+
+    ZelControlCenterStandAloneWidget editor;
+    ZelRendererSelector selector;
+};
 
 } // namespace
 
@@ -103,6 +155,31 @@ private Q_SLOTS:
             QVERIFY2(m_language != "en" || text[2] == text[1], qPrintable(text[1]));
         }
         QVERIFY(complete > 0 && complete == all.count("<message>"));
+    }
+
+    void textsFollowTheLanguage()
+    {
+        ZelPageDefaults::Register(QSettings(QString(), QSettings::IniFormat));
+        QString error;
+        QVERIFY(ZelSettingsFile::Repair(m_application.getSettings(), error));
+        const auto speak = [this](const QString& language, auto change) {
+            m_application.setLanguageCode(language);
+            for (const auto& translator : m_translators)
+                change(translator.second.get());
+        };
+        speak(m_language, [](QTranslator*) {});
+        const QStringList translated = EditedWindow(m_application).texts();
+        speak("en", &QCoreApplication::removeTranslator);
+        EditedWindow shown(m_application);
+        const QStringList untranslated = shown.texts();
+        QCOMPARE(translated == untranslated, m_language == "en");
+        QWidget* focused = QApplication::focusWidget();
+
+        speak(m_language, &QCoreApplication::installTranslator);
+        QTRY_COMPARE(shown.texts(), translated);
+        QCOMPARE(QApplication::focusWidget(), focused);
+        speak("en", &QCoreApplication::removeTranslator);
+        QTRY_COMPARE(shown.texts(), untranslated);
     }
 
     void windowsShowTheirTexts()
