@@ -45,7 +45,21 @@ bool succeedsWithin(int timeout, Attempt attempt)
 }
 
 #if defined(Q_OS_WIN)
-const int BusyFileTimeout = 1000; // ms; virus scanners, for example, open files for themselves.
+/// Repeats an attempt for a second while it fails because a program has the file open for itself, as virus
+/// scanners do. On failure the error is that of the last attempt.
+/// @param alsoBusy  another error that may mean this
+template <typename Attempt>
+bool succeedsWhenFree(Attempt attempt, DWORD alsoBusy = ERROR_SHARING_VIOLATION)
+{
+    bool isDone = false;
+    succeedsWithin(1000, [&] {
+        isDone = attempt();
+        const DWORD error = GetLastError();
+        return isDone ||
+               (error != ERROR_SHARING_VIOLATION && error != ERROR_LOCK_VIOLATION && error != alsoBusy);
+    });
+    return isDone;
+}
 
 const wchar_t* native(const QString& path)
 {
@@ -58,8 +72,6 @@ bool isReadOnly(const QString& path)
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY);
 }
 #else
-const int BusyFileTimeout = 0;
-
 QByteArray native(const QString& path)
 {
     return QFile::encodeName(path);
@@ -79,12 +91,6 @@ const bool SettingsIgnoreCase = false;
 QString systemError()
 {
     return qt_error_string();
-}
-
-bool openWhenFree(QFile& file, QIODevice::OpenMode mode)
-{
-    return succeedsWithin(BusyFileTimeout, [&] { return file.open(mode) || !file.exists(); }) &&
-           file.isOpen();
 }
 
 FileStamp stampOf(const QString& path)
@@ -114,6 +120,11 @@ void makeLater(const QString& path, const FileStamp& replaced)
 }
 
 #if defined(Q_OS_WIN)
+
+bool openWhenFree(QFile& file, QIODevice::OpenMode mode)
+{
+    return succeedsWhenFree([&] { return file.open(mode); });
+}
 
 bool isOwnFile(const QString&)
 {
@@ -175,13 +186,20 @@ bool replaceFile(const QString& file, const QString& replaced)
         SetLastError(ERROR_ACCESS_DENIED);
         return false;
     }
-    return succeedsWithin(BusyFileTimeout, [&] {
-        return MoveFileExW(native(file), native(replaced),
-                           MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
-    });
+    return succeedsWhenFree(
+        [&] {
+            return MoveFileExW(native(file), native(replaced),
+                               MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+        },
+        ERROR_ACCESS_DENIED);
 }
 
 #else
+
+bool openWhenFree(QFile& file, QIODevice::OpenMode mode)
+{
+    return file.open(mode);
+}
 
 bool isOwnFile(const QString& path)
 {

@@ -44,11 +44,10 @@ std::filesystem::file_type typeOf(const QString& path, std::error_code& error)
 /// The existing folder in which the missing parents of a path would be created.
 QString existingFolder(const QString& path)
 {
-    QString folder = QDir(path).absolutePath();
-    // A link that leads nowhere does not exist, and yet no folder can take its place.
-    while (!QFileInfo(folder).exists() && !QFileInfo(folder).isSymLink() && !QDir(folder).isRoot())
-        folder = QFileInfo(folder).path();
-    return folder;
+    const QFileInfo folder(QDir(path).absolutePath());
+    // A link that leads nowhere does not exist, and yet no folder can take its place. A drive has no parent.
+    const bool isEnd = folder.exists() || folder.isSymLink() || folder.path() == folder.filePath();
+    return isEnd ? folder.filePath() : existingFolder(folder.path());
 }
 
 } // namespace

@@ -42,7 +42,8 @@ void removeFolder(const QString& path)
     if (QDir().rmdir(path) || QFileInfo(path).isSymLink())
         return;
     QDir folder(path);
-    for (const QString& name : folder.entryList(QStringList("[0-9]*.ini*"), QDir::Files | QDir::System))
+    for (const QString& name :
+         folder.entryList(QStringList("[0-9]*.ini*"), QDir::Files | QDir::System | QDir::Hidden))
         folder.remove(name);
     QDir().rmdir(path);
 }
