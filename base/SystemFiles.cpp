@@ -45,6 +45,8 @@ bool succeedsWithin(int timeout, Attempt attempt)
 }
 
 #if defined(Q_OS_WIN)
+const bool IsWindows = true;
+
 /// Repeats an attempt for a second while it fails because a program has the file open for itself, as virus
 /// scanners do. On failure the error is that of the last attempt.
 /// @param alsoBusy  another error that may mean this
@@ -72,6 +74,8 @@ bool isReadOnly(const QString& path)
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY);
 }
 #else
+const bool IsWindows = false;
+
 QByteArray native(const QString& path)
 {
     return QFile::encodeName(path);
@@ -80,13 +84,9 @@ QByteArray native(const QString& path)
 
 } // namespace
 
-#if defined(Q_OS_WIN)
-const bool SettingsFilesAreReplaced = true;
-const bool SettingsIgnoreCase = true;
-#else
-const bool SettingsFilesAreReplaced = QT_VERSION >= QT_VERSION_CHECK(5, 10, 0);
-const bool SettingsIgnoreCase = false;
-#endif
+const bool SettingsFilesAreReplaced = IsWindows || QT_VERSION >= QT_VERSION_CHECK(5, 10, 0);
+const bool SettingsIgnoreCase = IsWindows || QT_VERSION < QT_VERSION_CHECK(5, 0, 0);
+const bool SettingsDropTabs = QT_VERSION < QT_VERSION_CHECK(5, 0, 0);
 
 QString systemError()
 {

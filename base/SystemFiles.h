@@ -14,8 +14,12 @@ namespace zel {
 /// there.
 extern const bool SettingsFilesAreReplaced;
 
-/// True where QSettings takes names that differ only in case for the same key.
+/// True where QSettings takes names that differ only in case for the same key. It does not find a name with
+/// bytes beyond ASCII there.
 extern const bool SettingsIgnoreCase;
+
+/// True where QSettings drops a tab that ends a text, once it has written it.
+extern const bool SettingsDropTabs;
 
 /// The system's text for the error of the last call.
 QString systemError();

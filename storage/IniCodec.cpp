@@ -43,7 +43,7 @@ protected:
             m_firstHalf = whole.at(whole.length() - 1);
             whole.chop(1);
         }
-        return whole.toUtf8();
+        return zel::isText(whole) ? whole.toUtf8() : QByteArray();
     }
 
 private:
@@ -56,4 +56,17 @@ QTextCodec& zel::iniCodec()
 {
     static IniCodec codec;
     return codec;
+}
+
+bool zel::isText(const QString& text)
+{
+    for (int i = 0, length = 0; i < text.size(); i += length) {
+        const QChar first = text.at(i), second = i + 1 < text.size() ? text.at(i + 1) : QChar();
+        length = first.isHighSurrogate() && second.isLowSurrogate() ? 2 : 1;
+        const uint code = length == 2 ? QChar::surrogateToUcs4(first, second) : first.unicode();
+        const bool isHalf = code >= 0xD800 && code <= 0xDFFF;
+        if (isHalf || (code >= 0xFDD0 && code <= 0xFDEF) || (code & 0xFFFE) == 0xFFFE)
+            return false;
+    }
+    return true;
 }

@@ -6,6 +6,8 @@
 #include <QSet>
 #include <QTextCodec>
 
+#include <algorithm>
+
 namespace zel {
 
 namespace {
@@ -74,7 +76,8 @@ struct Line
     bool hasComment = false;
     bool isGroup = false;
     QByteArray name = QByteArray(); ///< Encoded; of the group or of the setting.
-    QString value = QString();      ///< Decoded, except that a byte of UTF-8 is a character.
+    /// Decoded, except that a byte of UTF-8 is a character; without the blanks outside quotation marks.
+    QString value = QString();
 };
 
 /// Reads a text line by line, up to one that cannot be read.
@@ -156,7 +159,7 @@ private:
                 isQuoted = !isQuoted;
             else if (character == ',' && !isQuoted)
                 line.value += ElementMark;
-            else if (token.meaning >= 0)
+            else if (token.meaning >= 0 && (isQuoted || !isBlank(character)))
                 line.value += QChar(token.meaning);
             skip(token.end - m_at);
         }
@@ -188,8 +191,9 @@ private:
 bool isUtf8(const QByteArray& text)
 {
     QTextCodec::ConverterState state;
-    QTextCodec::codecForName("UTF-8")->toUnicode(text.constData(), text.size(), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0;
+    const QString decoded =
+        QTextCodec::codecForName("UTF-8")->toUnicode(text.constData(), text.size(), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0 && isText(decoded);
 }
 
 bool isReadable(const QByteArray& text)
@@ -240,11 +244,11 @@ void forEachObject(const QByteArray& text, Take take)
     }
 }
 
-/// True when a value has half of a character that takes two: QSettings writes nothing for it.
-bool hasHalfCharacter(const QString& value)
+/// True when QSettings does not write all of a decoded value, or does not read it again.
+bool isCut(const QString& value)
 {
-    const QByteArray encoded = value.toUtf8();
-    return QString::fromUtf8(encoded.constData(), encoded.size()) != value;
+    return !isText(value) ||
+           (SettingsDropTabs && (value + ElementMark).contains(QString("\t") + ElementMark));
 }
 
 /// Decodes the name of a group or a key: "a%20b" is "a b", "a\b" is "a/b".
@@ -273,6 +277,10 @@ public:
     /// True when an earlier line has the same key, or QSettings writes the key under another name.
     bool isLost(const Line& line)
     {
+        const QByteArray& name = line.name;
+        if (SettingsIgnoreCase &&
+            std::any_of(name.begin(), name.end(), [](uchar byte) { return byte > '~'; }))
+            return true;
         if (line.isGroup) {
             const QByteArray plain = line.name.toLower();
             m_group = decodedName(plain == "%general" ? line.name.mid(1) : line.name) + '/';
@@ -324,7 +332,7 @@ QString settingsDamage(const QByteArray& text)
     Line line;
     Keys keys;
     for (Scanner scanner(text); scanner.next(line);) {
-        const char* const damage = !line.isReadable || hasHalfCharacter(line.value) ? "cannot be read"
+        const char* const damage = !line.isReadable || isCut(line.value)  ? "cannot be read"
                                    : holdsObject(line.value, ElementMark) ? "holds a serialised object"
                                    : keys.isLost(line)
                                        ? "has a key that stands twice, or a name that is not kept"

@@ -68,7 +68,8 @@ QVariantMap valuesOf(const QSettings& settings)
     QVariantMap values;
     for (const QString& key : settings.allKeys()) {
         const bool isGeneral = key.startsWith(general, Qt::CaseInsensitive);
-        if (!key.isEmpty() && !key.startsWith('/') && !key.endsWith('/') && !key.contains("//"))
+        if (!key.isEmpty() && !key.startsWith('/') && !key.endsWith('/') && !key.contains("//") &&
+            settings.contains(key))
             values.insert(isGeneral ? general + key.mid(general.size()) : key, settings.value(key));
     }
     return values;
@@ -126,20 +127,22 @@ bool WorkingCopy::make(QString& reason)
     if (!writeFile(m_copy, text, reason))
         return false;
     m_settings = ZelSettingsFile::Open(m_copy);
-    if (!m_damaged && !m_settings->contains(EndKey)) {
+    if (m_damaged) { // The change begins with what QSettings writes of it.
+        const QVariantMap values = valuesOf(*m_settings);
+        m_copy = nextName();
+        m_settings = ZelSettingsFile::Open(m_copy);
+        for (auto value = values.constBegin(); value != values.constEnd(); ++value)
+            m_settings->setValue(value.key(), *value);
+        m_settings->setValue(EndKey, true);
+        if (!writeFile(m_copy, QByteArray(), reason) || !readAgain(false, reason))
+            return false;
+    }
+    if (!m_settings->contains(EndKey)) {
         reason = SettingsFileText::tr("it cannot be read to its end");
         return false;
     }
-    m_settings->remove(EndKey);
-    if (!m_damaged)
-        return true;
-    // The change begins with what QSettings writes of it.
-    const QVariantMap values = valuesOf(*m_settings);
-    m_copy = nextName();
-    m_settings = ZelSettingsFile::Open(m_copy);
-    for (auto value = values.constBegin(); value != values.constEnd(); ++value)
-        m_settings->setValue(value.key(), *value);
-    return writeFile(m_copy, QByteArray(), reason) && readAgain(false, reason);
+    m_settings->remove(EndKey); // A change: what was just read is written again, even if it lacks something.
+    return true;
 }
 
 bool WorkingCopy::keepContent(const QString& loss, QString& reason) const
