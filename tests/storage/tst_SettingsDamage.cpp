@@ -1,6 +1,8 @@
+#include "../support/Files.h"
 #include "IniCodec.h"
 #include "QtTestCompat.h"
 #include "SettingsDamage.h"
+#include "ZelSettingsFile.h"
 
 class tst_SettingsDamage : public QObject
 {
@@ -37,6 +39,21 @@ private Q_SLOTS:
             {"other note", "# note\n", "line 1 cannot be read"}};
         for (const auto& [name, text, expected] : rows)
             QVERIFY2(zel::settingsDamage(text) == expected, name);
+    }
+
+    /// Windows has drives that do not exist, and does not even open a file that is read-only.
+    void unwritablePlacesAreToldAtOnce()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.path() + "/Settings.ini";
+        store(path, "a=1\n");
+        QVERIFY(QFile::setPermissions(path, QFile::ReadOwner));
+        QElapsedTimer clock;
+        clock.start();
+        QString error;
+        for (const QString& name : {path, QString("Q:Settings.ini"), QString("Q:/a/Settings.ini")})
+            QVERIFY(zel::ZelSettingsFile::IsWritable(name, error) || error.contains(name));
+        QVERIFY(clock.elapsed() < 900);
     }
 
     /// Streams of others, which ask for a codec by its name and split characters, do not get that of the
