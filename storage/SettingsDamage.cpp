@@ -274,12 +274,13 @@ QString decodedName(const QByteArray& name)
 class Keys
 {
 public:
-    /// True when an earlier line has the same key, or QSettings writes the key under another name.
+    /// True when an earlier line has the same key, or QSettings writes the key under another name or
+    /// does not find it.
     bool isLost(const Line& line)
     {
         const QByteArray& name = line.name;
         if (SettingsIgnoreCase &&
-            std::any_of(name.begin(), name.end(), [](uchar byte) { return byte > '~'; }))
+            std::any_of(name.begin(), name.end(), [](uchar byte) { return byte > 127; }))
             return true;
         if (line.isGroup) {
             const QByteArray plain = line.name.toLower();

@@ -672,7 +672,7 @@ private Q_SLOTS:
             {&validate, version2 + "[DBCache]\ncacheSize=1, 2\n", 1},
             {&apply, "; mine\n" + version2, 1},
             {&validate, version2 + "own=1, 2\n", 0},
-            {&apply, version2 + "own=1\nOwn=2\n", SettingsIgnoreCase},
+            {&apply, version2 + "Engine=1\nENGINE=2\n", SettingsIgnoreCase},
             {&apply, version2 + "gr\303\266\303\237e=5\n", SettingsIgnoreCase},
             {&validate, "a=\"\\xffff\"\n[DBCache]\ncacheSize=77\n" + version2, 1},
             {&apply, version2 + "own=\357\277\277\n", 1},
