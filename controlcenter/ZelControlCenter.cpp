@@ -558,11 +558,12 @@ void ZelControlCenter::showWriteError(const QString& error)
     m_ui->writeErrorLabel->setText(error);
     // The column may be too narrow for a long path, which may hold what looks like markup.
     m_ui->writeErrorLabel->setToolTip(error.isEmpty() ? QString() : Qt::convertFromPlainText(error));
-    m_ui->writeErrorLabel->setVisible(!error.isEmpty());
     m_ui->writeErrorLabel->setAccessibleDescription(error);
-    if (error.isEmpty())
+    if (error.isEmpty()) {
+        m_ui->writeErrorLabel->hide();
         return;
-    announceNotice(*m_ui->writeErrorLabel);
+    }
+    showNotice(*m_ui->writeErrorLabel);
     QTimer::singleShot(0, this, SLOT(bringNoticeIntoView())); // When it is laid out.
 }
 
