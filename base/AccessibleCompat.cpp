@@ -36,8 +36,7 @@ public:
         if (kind == QAccessible::Value)
             return value;
         const QString own = QAccessibleWidget::text(kind);
-        // AT-SPI carries values as numbers only, so the text goes into the description.
-        if (kind == QAccessible::Description && m_slider && ValuesAreNumbersOnly)
+        if (kind == QAccessible::Description && m_slider && accessibleValuesAreNumbers())
             return value + ". " + own;
         return own;
     }
@@ -78,12 +77,6 @@ public:
     QVariant minimumStepSize() const override { return m_slider->singleStep(); }
 
 private:
-#    if defined(Q_OS_WIN)
-    static const bool ValuesAreNumbersOnly = false;
-#    else
-    static const bool ValuesAreNumbersOnly = true;
-#    endif
-
     QSlider* const m_slider;
 };
 
@@ -173,6 +166,15 @@ AccessibleFactory::AccessibleFactory(bool (*concerns)(const QWidget&),
 AccessibleFactory::~AccessibleFactory()
 {
     QAccessible::removeFactory(&createInterface);
+}
+
+bool accessibleValuesAreNumbers()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0) && !defined(Q_OS_WIN)
+    return true; // AT-SPI.
+#else
+    return false;
+#endif
 }
 
 void forgetAccessible(QWidget& widget)

@@ -92,7 +92,12 @@ private Q_SLOTS:
         m_window->move(0, -120); // So that the pointer finds the field on a screen of 600 pixels.
         point("label_29");       // A label stands for its field, once the pointer rests on it.
         QCOMPARE(said("nameLabel"), QString("Cache size"));
-        QTRY_COMPARE((point("label_29"), said("nameLabel")), QString("Screenshot folder")); // It may move.
+        for (int tries = 0; tries < 10 && said("nameLabel") != "Screenshot folder"; ++tries) { // It may move.
+            point("helpFrame");
+            point("label_29");
+            QTest::qWait(600);
+        }
+        QCOMPARE(said("nameLabel"), QString("Screenshot folder"));
         QVERIFY(find("screenshotFolderButton")->toolTip().isEmpty());
 
         // On its way to the help the pointer crosses other fields.
@@ -194,30 +199,6 @@ private Q_SLOTS:
         const QSignalSpy requests(help, SIGNAL(helpRequested(QWidget*)));
         QTest::keyClick(box, Qt::Key_F1, Qt::ShiftModifier);
         QCOMPARE(requests.value(0).value(0).value<QWidget*>(), box);
-    }
-
-    void formsHaveTheLimitsOfTheValidators_data()
-    {
-        QTest::addColumn<QString>("key");
-        for (const auto& [field, key] : {std::make_pair("maxCPU3DSpinBox", "Resources/MaxCPUMemory3D"),
-                                         {"maxCPURaySpinBox", "Resources/MaxCPUMemoryRaytracer"},
-                                         {"maxGPUSPinBox", "Resources/MaxGPUMemory"},
-                                         {"maxTrianglesSpinBox", "Resources/LODTrianglesCap"},
-                                         {"faceAngleSpin", "Tesselation/TesselationMaxFaceAngle"},
-                                         {"coreUsedSlider", "raytracer/coreNumber"}})
-            QTest::newRow(field) << key;
-    }
-
-    void formsHaveTheLimitsOfTheValidators()
-    {
-        QFETCH(QString, key);
-        const int hiddenBits = key.contains("Memory") ? 20 : 0;
-        for (const auto& [limit, given] : {std::make_pair("minimum", 0LL), {"maximum", 2000000000LL}}) {
-            QString text = QString::number(given << hiddenBits), error;
-            QVERIFY(ZelSettingsRegistry::GetDefaultSettingsValues().at(key).second(key, {}, text, error));
-            QCOMPARE(find(QTest::currentDataTag())->property(limit).toLongLong(),
-                     text.toLongLong() >> hiddenBits);
-        }
     }
 
     void numbersFollowTheLanguage()
