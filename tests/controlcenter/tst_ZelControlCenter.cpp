@@ -619,7 +619,7 @@ private:
             slide->setDuration(30);
         m_controlCenter->openMenu(true);
         m_controlCenter->setControlCenterVisible(true);
-        QTRY_VERIFY(m_controlCenter->isMenuOpen() && m_controlCenter->isSettingsOpen());
+        QTRY_VERIFY(m_controlCenter->isMenuOpen() && showsPages(*m_controlCenter));
         m_calls.clear();
         m_application->engineUpdates.clear();
     }

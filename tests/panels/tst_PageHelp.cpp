@@ -62,7 +62,7 @@ private:
         m_window->show();
         QApplication::setActiveWindow(m_window.get());
         m_window->openMenu();
-        QTRY_VERIFY(m_window->findChild<ZelControlCenter*>()->isSettingsOpen());
+        QTRY_VERIFY(showsPages(*m_window->findChild<ZelControlCenter*>()));
     }
 
     std::unique_ptr<FakeApplication> m_application;

@@ -212,6 +212,7 @@ private:
         store(m_path, before);
         QVERIFY(succeeds(startChild([&] { return operation(m_path); })));
         const QByteArray after = contentOf(m_path);
+        const int kept = copies().size();
         QVERIFY(after != before);
         bool isReached = true;
         int calls = 0, changed = 0;
@@ -242,6 +243,7 @@ private:
             // Rewritten in place, a file may be cut until the next start.
             QVERIFY(ZelSettingsFile::IsUsable(m_path, error));
             QVERIFY2(contentOf(m_path) == before || contentOf(m_path) == after, which);
+            QVERIFY2(copies().size() <= kept, which);
             QElapsedTimer clock;
             clock.start();
             QVERIFY2(operation(m_path), qPrintable(error));
@@ -374,6 +376,7 @@ private Q_SLOTS:
         // A program that knows nothing of the copy has written the file since.
         store(m_path, "[General]\nother=1\n");
         store(spare, Foreign);
+        makeOld(spare);
         QVERIFY(ZelSettingsFile::IsUsable(m_path, error));
         QCOMPARE(contentOf(m_path), QByteArray("[General]\nother=1\n"));
         QCOMPARE(contentOf(copies().value(0)), Foreign);
