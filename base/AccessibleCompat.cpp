@@ -12,6 +12,13 @@ namespace {
 bool (*Concerns)(const QWidget&) = nullptr;
 AccessibleTraits (*TraitsOf)(const QWidget&) = nullptr;
 
+void press(QWidget& button)
+{
+    button.setFocus();
+    QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier);
+    QCoreApplication::sendEvent(&button, &space);
+}
+
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
 
 class Interface : public QAccessibleWidget, public QAccessibleValueInterface
@@ -65,9 +72,7 @@ public:
             QAccessibleWidget::doAction(name);
             return;
         }
-        widget()->setFocus();
-        QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier);
-        QCoreApplication::sendEvent(widget(), &space);
+        press(*widget());
     }
 
     QVariant currentValue() const override { return m_slider->value(); }
@@ -126,6 +131,14 @@ public:
         if (traits.isSilent)
             state |= Invisible;
         return state;
+    }
+
+    bool doAction(int action, int child, const QVariantList& parameters)
+    {
+        if ((action != Press && action != DefaultAction) || TraitsOf(*widget()).chosen.isNull())
+            return QAccessibleWidget::doAction(action, child, parameters);
+        press(*widget());
+        return true;
     }
 };
 

@@ -219,7 +219,9 @@ void ZelPageHelp::watch(QWidget* widget, QWidget* field)
     m_fields.insert(widget, field);
     widget->installEventFilter(this);
     // The user property of a class, such as QSpinBox::value, is what the user edits.
-    const QMetaProperty edits = widget->metaObject()->userProperty();
+    QMetaProperty edits = widget->metaObject()->userProperty();
+    if (!edits.hasNotifySignal()) // Qt 4.8 does not tell of the text of a list.
+        edits = widget->metaObject()->property(widget->metaObject()->indexOfProperty("currentIndex"));
     if (widget == field && edits.hasNotifySignal())
         connect(widget, edits.notifySignal(), this,
                 metaObject()->method(metaObject()->indexOfSignal("edited()")));

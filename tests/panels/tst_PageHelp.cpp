@@ -6,6 +6,7 @@
 #include "ZelPageDefaults.h"
 #include "ZelPageHelp.h"
 #include "ZelRendererSelector.h"
+#include "ZelRendererSettingsPanel.h"
 
 using namespace zel;
 
@@ -235,13 +236,30 @@ private Q_SLOTS:
         ZelRendererSelector selector(nullptr, Qt::WindowFlags());
         selector.show();
         QCOMPARE(poorlyAnnounced(QAccessible::queryAccessibleInterface(&selector), controls), QString());
-        auto* low = QAccessible::queryAccessibleInterface(selector.findChild<QWidget*>("raytracerButton"));
-        QVERIFY(low->role() == QAccessible::RadioButton && !low->state().checked);
-        QApplication::setActiveWindow(&selector);
-        low->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-        QVERIFY(low->state().checked && !selector.useGPURenderer());
     }
 #endif
+
+    void readersPressTheTilesOfTheSelector()
+    {
+        ZelRendererSelector selector(nullptr, Qt::WindowFlags());
+        selector.show();
+        QApplication::setActiveWindow(&selector);
+        auto* low = selector.findChild<QWidget*>("raytracerButton");
+        QVERIFY(roleOf(low) == QAccessible::RadioButton && selector.useGPURenderer());
+        pressByReader(low);
+        QVERIFY(!selector.useGPURenderer());
+    }
+
+    void tellsOfEdits()
+    {
+        find<QRadioButton>("deferredButton")->click();
+        find<QCheckBox>("deferredSSAOCheckBox")->setChecked(true);
+        auto* list = find<QComboBox>("sceneUnitComboBox");
+        auto* page = m_window->findChild<ZelRendererSettingsPanel*>();
+        QSignalSpy edits(page->findChild<ZelPageHelp*>(), SIGNAL(edited()));
+        list->setCurrentIndex(1 - qMin(list->currentIndex(), 1));
+        QCOMPARE(edits.count(), 1);
+    }
 };
 
 QTEST_MAIN(tst_PageHelp)
