@@ -12,6 +12,13 @@ namespace {
 bool (*Concerns)(const QWidget&) = nullptr;
 AccessibleTraits (*TraitsOf)(const QWidget&) = nullptr;
 
+void press(QWidget& button)
+{
+    button.setFocus();
+    QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier);
+    QCoreApplication::sendEvent(&button, &space);
+}
+
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
 
 class Interface : public QAccessibleWidget, public QAccessibleValueInterface
@@ -36,8 +43,7 @@ public:
         if (kind == QAccessible::Value)
             return value;
         const QString own = QAccessibleWidget::text(kind);
-        // AT-SPI carries values as numbers only, so the text goes into the description.
-        if (kind == QAccessible::Description && m_slider && ValuesAreNumbersOnly)
+        if (kind == QAccessible::Description && m_slider && accessibleValuesAreNumbers())
             return value + ". " + own;
         return own;
     }
@@ -66,9 +72,7 @@ public:
             QAccessibleWidget::doAction(name);
             return;
         }
-        widget()->setFocus();
-        QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier);
-        QCoreApplication::sendEvent(widget(), &space);
+        press(*widget());
     }
 
     QVariant currentValue() const override { return m_slider->value(); }
@@ -78,12 +82,6 @@ public:
     QVariant minimumStepSize() const override { return m_slider->singleStep(); }
 
 private:
-#    if defined(Q_OS_WIN)
-    static const bool ValuesAreNumbersOnly = false;
-#    else
-    static const bool ValuesAreNumbersOnly = true;
-#    endif
-
     QSlider* const m_slider;
 };
 
@@ -134,6 +132,14 @@ public:
             state |= Invisible;
         return state;
     }
+
+    bool doAction(int action, int child, const QVariantList& parameters)
+    {
+        if ((action != Press && action != DefaultAction) || TraitsOf(*widget()).chosen.isNull())
+            return QAccessibleWidget::doAction(action, child, parameters);
+        press(*widget());
+        return true;
+    }
 };
 
 void dropInterface(QWidget&)
@@ -173,6 +179,15 @@ AccessibleFactory::AccessibleFactory(bool (*concerns)(const QWidget&),
 AccessibleFactory::~AccessibleFactory()
 {
     QAccessible::removeFactory(&createInterface);
+}
+
+bool accessibleValuesAreNumbers()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0) && !defined(Q_OS_WIN)
+    return true; // AT-SPI.
+#else
+    return false;
+#endif
 }
 
 void forgetAccessible(QWidget& widget)

@@ -37,6 +37,9 @@ public:
     AccessibleFactory& operator=(const AccessibleFactory&) = delete;
 };
 
+/// True where assistive technology gets values as numbers only, so that a text has to be in the description.
+bool accessibleValuesAreNumbers();
+
 /// Makes Qt ask again about a widget. Setting up a form already asks, and Qt keeps the answer.
 void forgetAccessible(QWidget& widget);
 

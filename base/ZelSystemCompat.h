@@ -3,12 +3,15 @@
 
 // The differences between Windows and other systems in how product code handles processes and names.
 
+#include <QCoreApplication>
+#include <QStringList>
 #include <QTextCodec>
 
 #if defined(Q_OS_WIN)
 #    if !defined(NOMINMAX)
 #        define NOMINMAX
 #    endif
+#    include <shellapi.h>
 #    include <windows.h>
 #endif
 
@@ -30,6 +33,24 @@ inline void useUtf8FileNames()
 #if !defined(Q_OS_WIN)
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 #endif
+}
+
+/// What follows the name of the program on its command line. On Windows Qt 4.8 takes an apostrophe for a
+/// quotation mark. Needs the application object.
+inline QStringList programArguments()
+{
+    QStringList arguments;
+#if defined(Q_OS_WIN)
+    int count = 0;
+    wchar_t** const texts = CommandLineToArgvW(GetCommandLineW(), &count);
+    for (int index = 0; index < count; ++index)
+        arguments << QString::fromWCharArray(texts[index]);
+    LocalFree(texts);
+#else
+    arguments = QCoreApplication::arguments();
+#endif
+    arguments.removeFirst();
+    return arguments;
 }
 
 } // namespace zel

@@ -64,9 +64,12 @@ void zel::announceWindow(QWidget& window)
     announce(window, RoleProperty, static_cast<int>(QAccessible::Window));
 }
 
-void zel::announceNotice(QLabel& label)
+void zel::showNotice(QLabel& label)
 {
+    // A notice is read when it appears, so one that is there already has to appear again.
+    label.hide();
     announce(label, RoleProperty, static_cast<int>(NoticeRole));
+    label.show();
     tellAccessibleAlert(label);
 }
 

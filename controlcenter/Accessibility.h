@@ -22,8 +22,8 @@ void announceChoice(QLabel& label, bool chosen);
 /// dialogs and main windows.
 void announceWindow(QWidget& window);
 
-/// Announces a label as a notice that has appeared by itself, and reads it out at once.
-void announceNotice(QLabel& label);
+/// Shows a label, and announces it as a notice that appears by itself, which is read out at once.
+void showNotice(QLabel& label);
 
 /// Hides a widget from screen readers, because another widget already says the same.
 void keepSilent(QWidget& widget);

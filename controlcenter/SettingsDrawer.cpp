@@ -130,6 +130,13 @@ void SettingsDrawer::showAllPages()
 {
     while (!m_newPages.isEmpty())
         showNextPage();
+    if (!area())
+        return;
+    // Without waiting for events, so that the places of the pages and the scroll range are right.
+    m_pageLayout->activate();
+    m_contentLayout->activate();
+    QEvent request(QEvent::LayoutRequest);
+    QCoreApplication::sendEvent(area(), &request);
 }
 
 void SettingsDrawer::scrollTo(const QWidget& widget)
@@ -166,7 +173,8 @@ void SettingsDrawer::onFocusChanged(QWidget* previous, QWidget* current)
 
 void SettingsDrawer::onRangeChanged()
 {
-    if (isVisible())
+    // Each step of a slide does so.
+    if (width() == OpenWidth)
         setWidth(width());
 }
 

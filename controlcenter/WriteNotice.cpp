@@ -21,11 +21,12 @@ void WriteNotice::show(const QString& reason)
     m_label->setText(reason);
     // The column may be too narrow for a long path, which may hold what looks like markup.
     m_label->setToolTip(reason.isEmpty() ? QString() : Qt::convertFromPlainText(reason));
-    m_label->setVisible(!reason.isEmpty());
     m_label->setAccessibleDescription(reason);
-    if (reason.isEmpty())
+    if (reason.isEmpty()) {
+        m_label->hide();
         return;
-    announceNotice(*m_label);
+    }
+    showNotice(*m_label);
     QTimer::singleShot(0, this, SLOT(bringIntoView())); // When it is laid out.
 }
 

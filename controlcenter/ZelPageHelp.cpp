@@ -1,6 +1,9 @@
 #include "ZelPageHelp.h"
 
+#include "base/AccessibleCompat.h"
+
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QGroupBox>
@@ -189,6 +192,8 @@ bool ZelPageHelp::eventFilter(QObject* watched, QEvent* event)
         }
     }
     // A field that scrolls under a resting pointer gets no Enter event, but one for its tool tip.
+    if (type == QEvent::FocusIn)
+        describeItemOf(field);
     if (type == QEvent::Enter || type == QEvent::FocusIn || type == QEvent::ToolTip)
         Q_EMIT reached(field);
     return type == QEvent::ToolTip && m_helpAreaVisible && !setting(field)->tipIsValue;
@@ -214,10 +219,26 @@ void ZelPageHelp::watch(QWidget* widget, QWidget* field)
     m_fields.insert(widget, field);
     widget->installEventFilter(this);
     // The user property of a class, such as QSpinBox::value, is what the user edits.
-    const QMetaProperty edits = widget->metaObject()->userProperty();
+    QMetaProperty edits = widget->metaObject()->userProperty();
+    if (!edits.hasNotifySignal()) // Qt 4.8 does not tell of the text of a list.
+        edits = widget->metaObject()->property(widget->metaObject()->indexOfProperty("currentIndex"));
     if (widget == field && edits.hasNotifySignal())
         connect(widget, edits.notifySignal(), this,
                 metaObject()->method(metaObject()->indexOfSignal("edited()")));
+    if (qobject_cast<QComboBox*>(widget))
+        connect(widget, SIGNAL(currentIndexChanged(int)), this, SLOT(describeItem()));
+}
+
+void ZelPageHelp::describeItem()
+{
+    describeItemOf(static_cast<QWidget*>(sender()));
+}
+
+void ZelPageHelp::describeItemOf(QWidget* field)
+{
+    const auto* box = qobject_cast<const QComboBox*>(field);
+    if (box && accessibleValuesAreNumbers())
+        field->setAccessibleDescription(box->currentText() + ". " + setting(field)->summary());
 }
 
 } // namespace zel

@@ -92,6 +92,11 @@ Q_SIGNALS:
     /// The user asks what a field is. Without a receiver the help appears at the field.
     void helpRequested(QWidget* field);
 
+private Q_SLOTS:
+    /// Brings the current item of a combo box into its description, where screen readers find no other text
+    /// of it.
+    void describeItem();
+
 private:
     /// A command on the setting of a field: "Put back", "Default" or "What is this?".
     struct Command;
@@ -101,6 +106,7 @@ private:
     void showMenu(QWidget* field, const QPoint& position);
     QString nameOf(const QWidget& field) const;
     void watch(QWidget* widget, QWidget* field);
+    void describeItemOf(QWidget* field);
 
     std::vector<ZelSettingHelp> m_settings;
     bool m_helpAreaVisible = false;

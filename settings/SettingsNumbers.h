@@ -9,12 +9,16 @@
 
 namespace zel {
 
-/// Reads a single-precision number. False for surrounding text and for "nan", which no setting can mean.
+/// Reads a single-precision number. False for surrounding text, for "nan", which no setting can mean, and for
+/// numbers too large or too small; "inf" is one.
 inline bool parseFloat(const QString& text, float& number)
 {
+    // Not QString::toFloat(), which has other limits in Qt 4.8.
     bool parsed = false;
-    number = text.toFloat(&parsed);
-    return parsed && !std::isnan(number);
+    const double exact = text.toDouble(&parsed);
+    number = static_cast<float>(exact);
+    return parsed && !std::isnan(exact) && std::isinf(exact) == std::isinf(number) &&
+           (exact == 0) == (number == 0);
 }
 
 /// Writes a number in general notation with six significant digits.

@@ -69,7 +69,7 @@ bool refuseWriting(const QString& path, const QString& reason, QString& error)
                 error);
 }
 
-QString fileBehind(const QString& path)
+QString resolvedPath(const QString& path)
 {
     QFileInfo file(path);
     if (!file.isSymLink())
@@ -83,7 +83,7 @@ QString fileBehind(const QString& path)
 
 QStringList namesOf(const QString& path)
 {
-    const QString target = fileBehind(path);
+    const QString target = resolvedPath(path);
     return target == path ? QStringList(path) : QStringList(target) << path;
 }
 
@@ -159,7 +159,7 @@ QString unwritableReason(const QString& path)
 {
     QByteArray content;
     QString reason;
-    const QString target = fileBehind(path);
+    const QString target = resolvedPath(path);
     if (!readFile(path, content, reason, Deadline(), QIODevice::ReadWrite))
         return reason;
     if (exists(target) && !mayReplace(target))

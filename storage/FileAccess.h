@@ -21,10 +21,21 @@ public:
     Deadline() { m_clock.start(); }
 
     /// In milliseconds; 0 once it is over.
-    int remaining() const { return static_cast<int>(qMax<qint64>(0, 3000 - m_clock.elapsed())); }
+    int remaining() const { return static_cast<int>(qMax<qint64>(0, m_time - m_clock.elapsed())); }
+
+    /// Does work of others, whose time does not count.
+    template <typename Work>
+    bool pauseFor(Work work)
+    {
+        const qint64 begin = m_clock.elapsed();
+        const bool isDone = work();
+        m_time += m_clock.elapsed() - begin;
+        return isDone;
+    }
 
 private:
     QElapsedTimer m_clock;
+    qint64 m_time = 3000;
 };
 
 /// Translates the error texts of the settings file.
@@ -42,7 +53,7 @@ bool refuseWriting(const QString& path, const QString& reason, QString& error);
 
 /// The file that a link leads to, also through other links, which may not exist; the file itself if it is no
 /// link.
-QString fileBehind(const QString& path);
+QString resolvedPath(const QString& path);
 
 /// The names of a file under which programs lock it: behind all links, and as it is given.
 QStringList namesOf(const QString& path);

@@ -215,9 +215,9 @@ bool holdsObject(QString decoded, const QString& before)
     return false;
 }
 
-/// Calls take(begin, end) for each part of a text that holds an object.
-template <typename Take>
-void forEachObject(const QByteArray& text, Take take)
+/// Calls visit(begin, end) for each part of a text that holds an object.
+template <typename Visit>
+void forEachObject(const QByteArray& text, Visit visit)
 {
     if (!text.contains('@') && !text.contains('\\')) // An escape may stand for the '@'.
         return;
@@ -225,7 +225,7 @@ void forEachObject(const QByteArray& text, Take take)
         Line line;
         for (Scanner scanner(text); scanner.next(line);)
             if (holdsObject(line.value, ElementMark))
-                take(line.begin, line.end);
+                visit(line.begin, line.end);
         return;
     }
     // What QSettings makes of a line depends on all lines before it. So the name of an object counts
@@ -240,7 +240,7 @@ void forEachObject(const QByteArray& text, Take take)
         }
         end += lineEndLength(text, end);
         if (holdsObject(decoded, QString()))
-            take(begin, end);
+            visit(begin, end);
     }
 }
 

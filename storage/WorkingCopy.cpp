@@ -81,7 +81,7 @@ WorkingCopy* WorkingCopy::Changing = nullptr;
 
 WorkingCopy::WorkingCopy(const QString& path, const Deadline& deadline)
     : m_path(path)
-    , m_target(fileBehind(path))
+    , m_target(resolvedPath(path))
     , m_folder(m_target + FolderMark + QString::number(QCoreApplication::applicationPid()))
     , m_deadline(deadline)
     , m_exists(false)
@@ -218,8 +218,8 @@ Outcome WorkingCopy::replace(QString& reason) const
         return Outcome::Failed;
     }
     QByteArray present;
-    const bool isThere = exists(m_target);
-    if (isThere && !openWhenFree(target, QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+    const bool isThere = openWhenFree(target, QIODevice::ReadOnly | QIODevice::Unbuffered);
+    if (!isThere && exists(m_target)) {
         reason = target.errorString();
         return Outcome::Failed;
     }

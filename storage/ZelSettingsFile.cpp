@@ -37,17 +37,17 @@ class SettingsLock
 {
 public:
     SettingsLock(const QString& path, const Deadline& deadline)
-        : m_path(path)
+        : m_names(namesOf(path))
         , m_deadline(deadline)
     {
-        for (const QString& name : namesOf(path))
+        QDir().mkpath(QFileInfo(path).path());
+        for (const QString& name : m_names)
             m_locks.push_back(std::make_unique<FileLock>(name + ".lock"));
     }
 
     /// Waits for others, and ends a write that was killed. False, with the reason, when that fails.
     bool take(QString& reason)
     {
-        QDir().mkpath(QFileInfo(m_path).path());
         for (const auto& lock : m_locks) {
             const FileLock::State state = lock->take(m_deadline.remaining());
             if (state != FileLock::Free) {
@@ -56,7 +56,7 @@ public:
                 return false;
             }
         }
-        const SpareCopy spare(fileBehind(m_path));
+        const SpareCopy spare(m_names.first());
         return !spare.exists() || spare.finish(m_deadline, reason);
     }
 
@@ -67,7 +67,7 @@ public:
     }
 
 private:
-    const QString m_path;
+    const QStringList m_names;
     const Deadline& m_deadline;
     std::vector<std::unique_ptr<FileLock>> m_locks;
 };
@@ -134,7 +134,7 @@ private:
     /// cut it all the same, and that of Qt 5 changes its rights.
     bool writePending(QString& reason)
     {
-        const QString target = fileBehind(m_settings.fileName());
+        const QString target = resolvedPath(m_settings.fileName());
         const SpareCopy spare(target);
         SettingsLock lock(m_settings.fileName(), m_deadline);
         if (!lock.take(reason) || (exists(target) && !spare.make(reason))) {
@@ -194,7 +194,7 @@ bool dropObjects(const QString& path, const Deadline& deadline, QString& reason)
 bool makeUsable(const QString& path, const Deadline& deadline, QByteArray& content, QString& reason,
                 QSettings* shared = nullptr)
 {
-    if (SpareCopy(fileBehind(path)).exists() && !SettingsLock(path, deadline).take(reason))
+    if (SpareCopy(resolvedPath(path)).exists() && !SettingsLock(path, deadline).take(reason))
         logWarning(QString("The write of \"%1\" that was cut short is not finished: %2").arg(path, reason));
     if (!readFile(path, content, reason, deadline))
         return false;
@@ -207,16 +207,8 @@ bool makeUsable(const QString& path, const Deadline& deadline, QByteArray& conte
     return readFile(path, content, reason, deadline);
 }
 
-/// Calls the change for the copy, which pages see meanwhile.
-bool call(const ZelSettingsFile::Change& change, WorkingCopy& copy, QString& error)
-{
-    const Visible visible(copy);
-    return change(copy.settings(), error);
-}
-
 /// ZelSettingsFile::Write() within a time.
-bool write(QSettings& settings, const ZelSettingsFile::Change& change, const Deadline& deadline,
-           QString& error)
+bool write(QSettings& settings, const ZelSettingsFile::Change& change, Deadline& deadline, QString& error)
 {
     const QString path = settings.fileName();
     QByteArray content;
@@ -239,7 +231,11 @@ bool write(QSettings& settings, const ZelSettingsFile::Change& change, const Dea
         restore(copy, shared.held());
         // The change may take long, or let the shared settings write, which then wait for the lock.
         lock.release();
-        if (!call(change, copy, error))
+        const bool isMade = deadline.pauseFor([&] {
+            const Visible visible(copy);
+            return change(copy.settings(), error);
+        });
+        if (!isMade)
             return false;
         shared.carryOver(copy.settings());
         if (valuesOf(copy.settings()) == before && !copy.isDamaged())
@@ -301,12 +297,13 @@ bool ZelSettingsFile::ReadAgain(QSettings& settings, QString& error)
 
 bool ZelSettingsFile::Write(QSettings& settings, const Change& change, QString& error)
 {
-    return write(settings, change, Deadline(), error);
+    Deadline deadline;
+    return write(settings, change, deadline, error);
 }
 
 bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
 {
-    const Deadline deadline;
+    Deadline deadline;
     const QString path = settings.fileName();
     QByteArray content;
     QString reason;
@@ -321,7 +318,7 @@ bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
         values[entry.first] = {stored, text};
         needsWrite = needsWrite || needsRepair(stored, text);
     };
-    if (!validateSettings(settings, error, keep))
+    if (!deadline.pauseFor([&] { return validateSettings(settings, error, keep); }))
         return false;
     const auto change = [&values](QSettings& copy, QString& failure) {
         for (const auto& [key, rule] : ZelSettingsRegistry::GetDefaultSettingsValues()) {

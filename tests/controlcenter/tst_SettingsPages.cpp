@@ -90,7 +90,7 @@ private Q_SLOTS:
         };
         ask(*m_pages);
         const bool others = leaving != "list" && leaving != "all";
-        QCOMPARE(m_page.size(), leaving == "list" ? 3u : others ? 2u : 0u);
+        QCOMPARE(static_cast<int>(m_page.size()), leaving == "list" ? 3 : others ? 2 : 0);
         QCOMPARE(m_pages ? (*m_pages).all()->size() : -1, leaving == "list" ? -1 : others ? 2 : 0);
         m_page.clear();
     }

@@ -5,6 +5,7 @@
 #include "ZelGeneralSettingsPanel.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsPanel.h"
+#include "base/AccessibleCompat.h"
 #include "zelSpinBox.h"
 
 #include "platform/zelAction.h"
@@ -17,6 +18,17 @@ using zel::ZelCCActionItem;
 using zel::ZelControlCenter;
 
 const int GuardTime = 550; // Milliseconds, and some more, in which another click does not close the menu.
+
+/// Counts how often a widget appears with the role of a notice, which makes screen readers read it.
+struct NoticeCounter : QObject
+{
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        count += event->type() == QEvent::Show && roleOf(static_cast<QWidget*>(watched)) == zel::NoticeRole;
+        return false;
+    }
+    int count = 0;
+};
 
 /// A window with a view and a control center, as a viewer has them.
 class tst_ZelControlCenter : public QObject
@@ -149,8 +161,11 @@ private Q_SLOTS:
         for (const auto& [block, clear] : obstacles) {
             size->setValue(size->value() + 1);
             QVERIFY(block());
+            NoticeCounter notices;
+            error->installEventFilter(&notices);
             for (int twice = 0; twice < 2; ++twice)
                 QTest::mouseClick(button("applyButton"), Qt::LeftButton);
+            QCOMPARE(notices.count, 2);
             QVERIFY(canApply() && page.hasModifications() && m_controlCenter->hasModifications());
             QVERIFY2(error->isVisible() && error->text().contains(file), qPrintable(error->text()));
             QVERIFY(clear());

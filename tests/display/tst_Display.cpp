@@ -104,46 +104,31 @@ private Q_SLOTS:
         QCOMPARE(empty.getSettings().allKeys().size(), Plain.size());
     }
 
-    void restarts_data()
-    {
-        QTest::addColumn<QString>("started");
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QStringList>(
-            "steps"); // An engine, or a slider and its position; which need a restart.
-        QTest::newRow("from the deferred renderer")
-            << "deferred"
-            << "deferred"
-            << QStringList({"raytracer restart", "cores 1 restart", "quality 3 restart", "cores 0",
-                            "deferred", "raytracer restart"});
-        QTest::newRow("back to the running renderer") << "deferred"
-                                                      << "software" << QStringList("deferred");
-        QTest::newRow("in the raytracer")
-            << "software"
-            << "software"
-            << QStringList({"cores 1 restart", "cores 0", "cores 2 restart", "quality 2 restart",
-                            "cores 1 restart", "quality 1", "cores 0", "quality 0 restart"});
-        QTest::newRow("from the raytracer") << "software"
-                                            << "software" << QStringList({"deferred restart", "raytracer"});
-    }
-
     void restarts()
     {
-        QFETCH(QString, started);
-        QFETCH(QString, stored);
-        QFETCH(QStringList, steps);
-        Viewer viewer({{"engine", started}});
-        DisplayPage display(viewer);
-        store(viewer.getSettings(), {{"engine", stored}});
-        display.page.initializeWidget();
-        for (const QString& step : steps) {
-            const QStringList words = step.split(' ');
-            if (words[0] == "cores" || words[0] == "quality")
-                display.slide(words[0] == "cores" ? "coreUsedSlider" : "qualitySlider", words[1].toInt());
-            else
-                display.click(words[0] + "Button");
-            const bool modified = display.page.hasModifications();
-            QVERIFY2(modified && display.page.applyModifications() == (words.last() == "restart"),
-                     qPrintable(step));
+        // The engine at the start, the stored one, and steps: an engine, or a slider and its position; "!"
+        // needs a restart.
+        const QString rows[][3] = {
+            {"deferred", "deferred", "raytracer!,cores 1!,quality 3!,cores 0,deferred,raytracer!"},
+            {"deferred", "software", "deferred"}, // Back to the running renderer.
+            {"software", "software",
+             "cores 1!,cores 0,cores 2!,quality 2!,cores 1!,quality 1,cores 0,quality 0!"},
+            {"software", "software", "deferred!,raytracer"}};
+        for (const auto& [started, stored, steps] : rows) {
+            Viewer viewer({{"engine", started}});
+            DisplayPage display(viewer);
+            store(viewer.getSettings(), {{"engine", stored}});
+            display.page.initializeWidget();
+            for (const QString& step : steps.split(',')) {
+                const QStringList words = step.section('!', 0, 0).split(' ');
+                if (words.size() > 1)
+                    display.slide(words[0] == "cores" ? "coreUsedSlider" : "qualitySlider", words[1].toInt());
+                else
+                    display.click(words[0] + "Button");
+                const bool modified = display.page.hasModifications();
+                QVERIFY2(modified && display.page.applyModifications() == step.endsWith('!'),
+                         qPrintable(step));
+            }
         }
     }
 

@@ -23,7 +23,7 @@ const char* const CloseSelector = "mousemove --window %1 489 28 click 1";
 const char* const Minimize = "mousemove --window %1 734 15 click 1";
 const char* const Close = "mousemove --window %1 782 15 click 1";
 const char* const OpenFolders = "mousemove --window %1 50 117 click 1";
-const QString TypeCacheSize = "mousemove --window %1 530 304 click 1 key ctrl+a type ";
+const QString TypeCacheSize = "mousemove --window %1 530 325 click 1 key ctrl+a type ";
 const char* const Apply = "mousemove --window %1 184 265 click 1";
 const char* const ChooseLowMode = "mousemove --window %1 275 183 click 1";
 

@@ -16,9 +16,6 @@ private Q_SLOTS:
         // Not valid but for ratios: a default is taken as it stands.
         const QString no = "1/0.75/0.5/0.25/0.1";
         const QString threads = QString::number(QThread::idealThreadCount());
-        bool isNumber = false; // For Qt 4.8 it is none.
-        QString("inf").toFloat(&isNumber);
-        const QString most = isNumber ? "100" : no;
         const QString longHost = QString("a.").repeated(127) + "a";
         // Values and what they become, alternating.
         const std::pair<Validator, QStringList> rows[] = {
@@ -37,8 +34,8 @@ private Q_SLOTS:
             {&V::ensureCoreNumber, {"0", "1", "1000", threads, "one", no}},
             {&V::ensureTesselationMaxFaceAngle, {"-1", "0", "360", "359", "1.5", no}},
             {&V::ensureTesselationMaxFaceLength,
-             {"250.5", "100", "-3", "0", "0.1234567", "0.123457", "1e-3", "0.001", "nan", no, "inf", most,
-              "1,5", no, "", no}},
+             {"250.5", "100", "-3",    "0", "0.1234567", "0.123457", "1e-3", "0.001", "nan", no,
+              "inf",   "100", "1e-50", no,  "1e50",      no,         "1,5",  no,      "",    no}},
             {&V::ensureTesselationMaxFaceSag, {"100.01", "100"}},
             {&V::ensureLODTrianglesCap, {"1", "50000", "500000001", "500000000", "60000", "60000", "-5", no}},
             {&V::ensureMaxGPUMemory, {"1", "134217728", "8489271297", "8489271296", "much", no}},

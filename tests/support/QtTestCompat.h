@@ -65,6 +65,13 @@ inline QAccessible::Role roleOf(QWidget* widget)
     return QAccessible::queryAccessibleInterface(widget)->role();
 }
 
+/// As assistive technology presses it.
+inline void pressByReader(QWidget* widget)
+{
+    QAccessibleInterface* read = QAccessible::queryAccessibleInterface(widget);
+    read->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+}
+
 /// Turns the wheel towards the user.
 inline void turnWheel(QWidget& window, const QPoint& place)
 {
@@ -347,6 +354,12 @@ inline QAccessible::Role roleOf(QWidget* widget)
 {
     const std::unique_ptr<QAccessibleInterface> read(QAccessible::queryAccessibleInterface(widget));
     return read->role(0);
+}
+
+inline void pressByReader(QWidget* widget)
+{
+    const std::unique_ptr<QAccessibleInterface> read(QAccessible::queryAccessibleInterface(widget));
+    read->doAction(QAccessible::Press, 0, QVariantList());
 }
 
 /// Turns the wheel towards the user.

@@ -202,14 +202,14 @@ private Q_SLOTS:
         window.show();
         controlCenter->openMenu(true);
         QTRY_VERIFY(controlCenter->isMenuOpen());
-        QCOMPARE(clippedTexts(window), QString());
+        QTRY_COMPARE(clippedTexts(window), QString());
         window.openMenu();
         QTRY_VERIFY(controlCenter->isSettingsOpen());
         for (const char* engine : {"raytracerButton", "deferredButton"}) {
             window.findChild<QRadioButton*>(engine)->click();
             for (int quality = 0; quality < 4; ++quality) {
                 window.findChild<QSlider*>("qualitySlider")->setValue(quality);
-                QCOMPARE(clippedTexts(window), QString());
+                QTRY_COMPARE(clippedTexts(window), QString());
             }
         }
         for (const QWidget* page : window.findChildren<ZelSettingsPanel*>())

@@ -39,6 +39,8 @@ bool mustBeEscaped(uint character)
 {
     const QChar::Category categories[] = {QChar::Other_Control, QChar::Other_Format, QChar::Other_Surrogate,
                                           QChar::Separator_Line, QChar::Separator_Paragraph};
+    if (character == 0x061C || (character >= 0x2064 && character <= 0x206F))
+        return true; // Format characters that Qt 4.8 does not know.
     return std::find(std::begin(categories), std::end(categories), QChar::category(character)) !=
            std::end(categories);
 }

@@ -284,7 +284,7 @@ int main(int argc, char** argv)
     useUtf8FileNames();
     const QCoreApplication application(argc, argv);
     std::vector<Name> arguments;
-    for (const QString& argument : QCoreApplication::arguments().mid(1))
+    for (const QString& argument : programArguments())
         arguments.push_back({argument, QFile::encodeName(argument) == *++argv});
     Options options;
     if (!parse(arguments, options)) {
