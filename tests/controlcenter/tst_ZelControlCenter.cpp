@@ -371,12 +371,12 @@ private Q_SLOTS:
         addPages(1);
         m_application->guiPlugin = &m_guiPlugin;
         openEverything();
-        QTest::qWait(GuardTime);
         QDialog dialog(m_window.get()); // A press in it answers it.
         dialog.setModal(true);
         dialog.move(m_view->mapToGlobal(QPoint(20, 20)));
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QTest::qWait(GuardTime);
         QTest::mouseClick(inputOf(&dialog), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
         QVERIFY(m_application->engineUpdates.isEmpty());
         dialog.close();
