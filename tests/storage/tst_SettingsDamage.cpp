@@ -15,6 +15,8 @@ private Q_SLOTS:
             {"usual", "[General]\nkey=value\n; note\n\n[a b]\nk = \"x;y=z\" ; note = \"\r\n", ""},
             {"no group, no line end", "key=", ""},
             {"mark of the encoding", "\xEF\xBB\xBF[General]\nkey=\xC3\xBC\n", ""},
+            {"mark as a name", "\xEF\xBB\xBFkey=1\n",
+             "line 1 has a key that stands twice, or a name that is not kept"},
             {"line goes on", "key=\"a\\\nb\"\nother=\"\\\"\"\n", ""},
             {"takes in the next line", "key=C:\\\nb=1\n", "line 1 cannot be read"},
             {"cut value", "a=1 ; 2\npath=/a;/b\n", "line 2 cannot be read"},

@@ -96,14 +96,16 @@ Name decoded(const QByteArray& name)
 /// Adds the names on standard input.
 void readNames(Options& options)
 {
-    QFile input;
-    input.open(stdin, QIODevice::ReadOnly);
-    const QByteArray list = input.readAll();
+    // Not with QFile: it does not wait for a slow writer, and takes that for an error of the stream.
+    QByteArray list;
+    char part[4096];
+    while (const std::size_t length = std::fread(part, 1, sizeof(part), stdin))
+        list.append(part, static_cast<int>(length));
     for (const QByteArray& name : list.split(list.contains('\0') ? '\0' : '\n')) {
         if (!name.isEmpty())
             options.files.push_back(decoded(name));
     }
-    if (std::ferror(stdin)) { // QFile does not tell.
+    if (std::ferror(stdin)) {
         std::fputs("torvane-settings-check: the list of files cannot be read\n", stderr);
         options.isComplete = false;
     }
