@@ -174,7 +174,7 @@ private:
                 return true;
             }
             if (character == '"' || character == ';' ||
-                (character == '\\' && QByteArray("\\=\n\r").contains(m_text.mid(m_at + 1, 1))))
+                (character == '\\' && QByteArray("=\n\r").contains(m_text.mid(m_at + 1, 1))))
                 return false;
         }
         return false;
@@ -298,12 +298,12 @@ public:
         }
         if (line.value.isNull()) // It has no setting.
             return false;
-        const QString key = m_group + decodedName(line.name);
+        const QString name = decodedName(line.name), key = m_group + name;
         const QString compared = SettingsIgnoreCase ? key.toLower() : key;
         const bool isKnown = m_keys.contains(compared);
         m_keys.insert(compared);
         // Before the first group QSettings takes the mark of the encoding for a part of the name.
-        return isKnown || m_isMarked || key.startsWith('/') ||
+        return isKnown || m_isMarked || key.startsWith('/') || name.endsWith('/') ||
                (key.startsWith("general/", Qt::CaseInsensitive) && !key.startsWith("General/"));
     }
 
@@ -344,9 +344,8 @@ QString settingsDamage(const QByteArray& text)
     for (Scanner scanner(text); scanner.next(line);) {
         const char* const damage = !line.isReadable || hasHalfCharacter(line.value) ? "cannot be read"
                                    : holdsObject(line.value, ElementMark) ? "holds a serialised object"
-                                   : keys.isLost(line)
-                                       ? "has a key that stands twice, or a name that is not kept"
-                                       : nullptr;
+                                   : keys.isLost(line)                    ? "has a key twice, or a lost name"
+                                                                          : nullptr;
         if (damage)
             return QString("line %1 %2").arg(line.number).arg(damage);
     }
