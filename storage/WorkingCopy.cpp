@@ -14,6 +14,8 @@
 #include <QSettings>
 #include <QStringList>
 
+#include <algorithm>
+
 namespace zel {
 
 namespace {
@@ -36,14 +38,24 @@ QMap<QString, QString> textsOf(const QSettings& settings)
     return texts;
 }
 
+/// True when a registered key is gone.
+bool lacksRegistered(const QVariantMap& values, const QVariantMap& held)
+{
+    const auto& registered = ZelSettingsRegistry::GetDefaultSettingsValues();
+    return std::any_of(registered.begin(), registered.end(), [&](const auto& entry) {
+        return held.contains(entry.first) && !values.contains(entry.first);
+    });
+}
+
 /// Removes the folder of a copy, and nothing that is not ours.
 void removeFolder(const QString& path)
 {
     if (QDir().rmdir(path) || QFileInfo(path).isSymLink())
         return;
     QDir folder(path);
-    for (const QString& name : folder.entryList(QStringList("[0-9]*.ini*"), QDir::Files | QDir::System))
-        folder.remove(name);
+    for (const QString& name : folder.entryList(QDir::Files | QDir::System))
+        if (name.at(0).isDigit())
+            folder.remove(name);
     QDir().rmdir(path);
 }
 
@@ -52,9 +64,10 @@ void removeOrphans(const QString& target)
 {
     const QFileInfo file(target);
     const QString stem = file.fileName() + FolderMark;
-    for (const QString& name : file.dir().entryList(QStringList(stem + "*"), QDir::Dirs | QDir::Hidden)) {
+    for (const QString& name : file.dir().entryList(QDir::Dirs | QDir::Hidden)) {
         const qint64 process = name.mid(stem.size()).toLongLong();
-        if (process == QCoreApplication::applicationPid() || !isProcessRunning(process))
+        if (name.startsWith(stem) &&
+            (process == QCoreApplication::applicationPid() || !isProcessRunning(process)))
             removeFolder(file.dir().filePath(name));
     }
 }
@@ -67,7 +80,8 @@ QVariantMap valuesOf(const QSettings& settings)
     QVariantMap values;
     for (const QString& key : settings.allKeys()) {
         const bool isGeneral = key.startsWith(general, Qt::CaseInsensitive);
-        if (!key.isEmpty() && !key.startsWith('/') && !key.endsWith('/') && !key.contains("//"))
+        if (!key.isEmpty() && !key.startsWith('/') && !key.endsWith('/') && !key.contains("//") &&
+            !key.startsWith(QString::fromLatin1(Utf8Mark)))
             values.insert(isGeneral ? general + key.mid(general.size()) : key, settings.value(key));
     }
     return values;
@@ -99,7 +113,7 @@ QString WorkingCopy::nextName() const
     return QString("%1/%2.ini").arg(m_folder).arg(++number);
 }
 
-bool WorkingCopy::make(QString& reason)
+bool WorkingCopy::make(const QVariantMap& held, QString& reason)
 {
     m_exists = exists(m_target);
     if (m_exists && !mayReplace(m_target)) {
@@ -130,10 +144,20 @@ bool WorkingCopy::make(QString& reason)
         return false;
     }
     m_settings->remove(EndKey);
-    if (!m_damaged)
-        return true;
-    // The change begins with what QSettings writes of it.
-    const QVariantMap values = valuesOf(*m_settings);
+    QVariantMap values = valuesOf(*m_settings);
+    if (m_damaged || m_content.isEmpty() || lacksRegistered(values, held)) {
+        for (auto value = held.constBegin(); value != held.constEnd(); ++value) {
+            if (!values.contains(value.key())) {
+                values.insert(value.key(), *value);
+                m_damaged = true;
+            }
+        }
+    }
+    return !m_damaged || makeOf(values, reason);
+}
+
+bool WorkingCopy::makeOf(const QVariantMap& values, QString& reason)
+{
     m_copy = nextName();
     m_settings = ZelSettingsFile::Open(m_copy);
     for (auto value = values.constBegin(); value != values.constEnd(); ++value)
