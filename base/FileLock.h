@@ -18,6 +18,8 @@ public:
     explicit FileLock(const QString& lock);
     ~FileLock();
 
+    const QString& path() const { return m_path; }
+
     enum State {
         Free,   ///< It can be taken, or an orphaned lock can be removed.
         Held,   ///< A program holds it, or may do so.

@@ -98,15 +98,19 @@ FileStamp stampOf(const QString& path)
     return {static_cast<qint64>(size), std::chrono::duration_cast<std::chrono::milliseconds>(time).count()};
 }
 
+bool setTime(const QString& path, std::int64_t time)
+{
+    std::error_code error;
+    std::filesystem::last_write_time(std::filesystem::u8path(path.toUtf8().constData()),
+                                     std::filesystem::file_time_type(std::chrono::milliseconds(time)), error);
+    return !error;
+}
+
 void makeLater(const QString& path, const FileStamp& replaced)
 {
     const FileStamp present = stampOf(path);
-    if (present.size != replaced.size || present.time / 1000 > replaced.time / 1000)
-        return;
-    std::error_code error;
-    std::filesystem::last_write_time(
-        std::filesystem::u8path(path.toUtf8().constData()),
-        std::filesystem::file_time_type(std::chrono::milliseconds(replaced.time + 1000)), error);
+    if (present.size == replaced.size && present.time / 1000 <= replaced.time / 1000)
+        setTime(path, replaced.time + 1000);
 }
 
 #if defined(Q_OS_WIN)
@@ -123,7 +127,11 @@ bool mayReplace(const QString&)
 
 bool isWritableFolder(const QString& path)
 {
-    return QFileInfo(path).isDir();
+    const DWORD attributes = GetFileAttributesW(native(path));
+    const bool isFolder = attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
+    if (!isFolder && attributes != INVALID_FILE_ATTRIBUTES)
+        SetLastError(ERROR_DIRECTORY);
+    return isFolder;
 }
 
 bool isProcessRunning(qint64 process)
@@ -187,8 +195,7 @@ bool mayReplace(const QString& path)
 
 bool isWritableFolder(const QString& path)
 {
-    const QFileInfo folder(path);
-    return folder.isDir() && folder.isWritable();
+    return ::access((native(path) + "/.").constData(), W_OK) == 0;
 }
 
 bool isProcessRunning(qint64 process)
@@ -299,12 +306,12 @@ bool QtSettingsLock::take(int timeout)
 
 struct QtSettingsLock::Private
 {
-    int descriptor;
+    const QFile& file;
     short type;
 };
 
 QtSettingsLock::QtSettingsLock(const QFile& file, Access access)
-    : d(new Private{file.handle(), static_cast<short>(access == Write ? F_WRLCK : F_RDLCK)})
+    : d(new Private{file, static_cast<short>(access == Write ? F_WRLCK : F_RDLCK)})
 {
 }
 
@@ -317,7 +324,7 @@ bool QtSettingsLock::take(int timeout)
         struct flock range = {};
         range.l_type = d->type;
         range.l_whence = SEEK_SET;
-        return ::fcntl(d->descriptor, F_SETLK, &range) == 0 || (errno != EACCES && errno != EAGAIN);
+        return ::fcntl(d->file.handle(), F_SETLK, &range) == 0 || (errno != EACCES && errno != EAGAIN);
     });
 }
 

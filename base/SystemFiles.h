@@ -26,8 +26,9 @@ bool isOwnFile(const QString& path);
 /// True when a new file that replaces this one can have the same owner.
 bool mayReplace(const QString& path);
 
-/// True for a folder in which files can be created, as far as its permissions tell. On Windows its read-only
-/// attribute does not mean that, and access rights show only when a file is created.
+/// True for a folder in which files can be created, as far as its permissions tell; else systemError() tells
+/// why. On Windows its read-only attribute does not mean that, and access rights show only when a file is
+/// created.
 bool isWritableFolder(const QString& path);
 
 /// True for the number of a process that runs, or may do so.
@@ -55,6 +56,9 @@ struct FileStamp
 };
 FileStamp stampOf(const QString& path);
 
+/// Sets when a file was written, in the milliseconds of its stamp. False when that is not possible.
+bool setTime(const QString& path, std::int64_t time);
+
 /// Makes a file that has replaced another of the same size at least a second later than that one.
 void makeLater(const QString& path, const FileStamp& replaced);
 
@@ -68,7 +72,7 @@ class QtSettingsLock
 public:
     enum Access { Read, Write };
 
-    /// @param file  open for this access, except on Windows
+    /// @param file  outlives the lock, and is open for this access when it is taken, except on Windows
     QtSettingsLock(const QFile& file, Access access);
     ~QtSettingsLock();
 

@@ -1,15 +1,30 @@
 // The baseline of a start: an empty Qt window.
-//   empty_window [PLUGINS]    loads the plug-ins of that folder instead of all of Qt's
+//   empty_window [PLUGINS [--first-frame]]    loads the plug-ins of that folder instead of all of Qt's; ends
+//   after the
+//                                             first frame
 
 #include <QApplication>
 #include <QWidget>
+
+#include <cstdlib>
+
+struct Window : QWidget
+{
+    using QWidget::QWidget;
+
+    void paintEvent(QPaintEvent*) override
+    {
+        if (QApplication::arguments().contains("--first-frame"))
+            std::quick_exit(0);
+    }
+};
 
 int main(int argc, char** argv)
 {
     if (argc > 1)
         QCoreApplication::setLibraryPaths({argv[1]});
     QApplication application(argc, argv);
-    QWidget window(nullptr, Qt::FramelessWindowHint);
+    Window window(nullptr, Qt::FramelessWindowHint);
     window.resize(800, 600);
     window.show();
     return QApplication::exec();

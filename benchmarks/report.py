@@ -78,6 +78,9 @@ def main():
                 seconds("start torvane"), seconds("start empty"), time_text, maximum_ratio=1.5),
             row("– beside an empty window that loads no more plug-ins than the editor",
                 seconds("start torvane"), seconds("start empty, same plug-ins"), time_text)]
+    rows.append(row("Instructions up to the first frame, beside an empty window with the same plug-ins",
+                    MEDIAN(results["instructions torvane"]) / 1e6, MEDIAN(results["instructions empty"]) / 1e6,
+                    lambda number: text(number, "million"), maximum=200))
     for name, limit in (("empty", 1.25), ("empty, same plug-ins", None)):
         rows.append(row("Peak of the memory, beside an empty Qt window" if limit else "– with the same plug-ins",
                         MEDIAN(results["memory torvane"]) / 1024, MEDIAN(results["memory " + name]) / 1024,
@@ -123,6 +126,8 @@ The control center and its pages are measured in a start of their own; together 
 
 - *First painted frame*: an X client fills the empty screen with a colour, starts the program and looks, every half
   millisecond, whether that colour is gone from the middle row and the middle column of the program's window.
+- *Instructions*: counted by valgrind, without a screen and with one font, so that the figures of machines can be compared.
+  `scripts/instructions` fails when a start takes 10 % more than the number in `benchmarks/instructions`.
 - *Peak of the memory*: `VmHWM` a second after the first frame, when the drawer has opened.
 - *Validation pass*: the file lies in memory and is written again each time, so that it is really read. The plain
   reading and writing visits the same keys in the same order and stores what it has read.

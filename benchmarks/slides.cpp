@@ -8,6 +8,8 @@
 #include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
 #include "ZelSettingsApplication.h"
+#include "ZelSettingsFile.h"
+#include "launch.h"
 
 #include <QtWidgets>
 
@@ -182,6 +184,11 @@ int main(int argc, char** argv)
 
     const QTemporaryDir folder;
     ZelSettingsApplication application(folder.path());
+    zelRegisterPageDefaults();
+    ZelControlCenter::InitDefaultSettingsValues("TorvaneBoundlessX64");
+    QString error;
+    if (!ZelSettingsFile::Repair(application.getSettings(), error))
+        qFatal("%s", qPrintable(error));
     if (arguments.contains("--plain"))
         measurePlain(widgetsOfPages(application), size);
     else

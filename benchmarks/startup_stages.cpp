@@ -1,9 +1,7 @@
 // Measures the stages of a start: takes the steps of launch() and prints "stage <tab> milliseconds" for each.
 // first_frame starts this program and passes the time at which the first stage begins.
 //   startup_stages [--pages]        measures the control center and each page instead of the window
-//   startup_stages --first-frame    ends after the first frame, for a count of instructions:
-//                                   QT_QPA_PLATFORM=offscreen valgrind --tool=callgrind startup_stages
-//                                   --first-frame
+//   startup_stages --first-frame    ends after the first frame, for scripts/instructions
 
 #include "ZelAboutSettingsPanel.h"
 #include "ZelControlCenter.h"
@@ -14,6 +12,7 @@
 #include "ZelSettingsApplication.h"
 #include "ZelSettingsFile.h"
 #include "ZelSimplificationSettingsPanel.h"
+#include "launch.h"
 
 #include "platform/kqLibraries.h"
 
@@ -140,6 +139,7 @@ int main(int argc, char** argv)
     stages.end("translation");
 
     ZelSettingsApplication application(qEnvironmentVariable("XDG_CONFIG_HOME") + "/TorvaneBoundlessX64");
+    zelRegisterPageDefaults();
     ZelControlCenter::InitDefaultSettingsValues("TorvaneBoundlessX64");
     QSettings& settings = application.getSettings();
     QString error;

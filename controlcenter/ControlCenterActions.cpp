@@ -118,6 +118,12 @@ QAction* ControlCenterActions::add(const char* name, QAction* action)
     return action;
 }
 
+void ControlCenterActions::enable(bool discard, bool restore)
+{
+    findChild<QAction*>("discard")->setEnabled(discard);
+    findChild<QAction*>("restore")->setEnabled(restore);
+}
+
 void ControlCenterActions::setTexts()
 {
     for (const Command& command : Commands)

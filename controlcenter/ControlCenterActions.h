@@ -29,6 +29,9 @@ class ControlCenterActions : public QObject
 public:
     ControlCenterActions(QWidget* column, QScrollArea* drawer, QPushButton* apply, QPushButton* reset);
 
+    /// Enables the actions for pending edits: "discard", and "restore".
+    void enable(bool discard, bool restore);
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:

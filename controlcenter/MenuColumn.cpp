@@ -1,11 +1,14 @@
 #include "MenuColumn.h"
 
+#include "LanguageFollower.h"
 #include "MenuSeparator.h"
 #include "ZelCCActionItem.h"
 
 #include "platform/zelAction.h"
 
 #include <QBoxLayout>
+#include <QColor>
+#include <QCoreApplication>
 #include <QPushButton>
 
 #include <algorithm>
@@ -18,11 +21,49 @@ const int SeparatorMargin = 18; // pixels
 
 } // namespace
 
-MenuColumn::MenuColumn(QWidget* owner, QBoxLayout* layout)
+MenuColumn::MenuColumn(QWidget* owner, QFrame* frame)
     : m_owner(owner)
-    , m_layout(layout)
+    , m_frame(frame)
+    , m_layout(static_cast<QBoxLayout*>(frame->layout()))
+    , m_settingsAction(new zelAction("Settings", QString(), nullptr))
 {
-    layout->setAlignment(Qt::AlignTop);
+    m_layout->setAlignment(Qt::AlignTop);
+    setTexts();
+    new LanguageFollower(frame, [this] { setTexts(); });
+    // It opens the settings inside the menu, so it does not close the menu.
+    addAction(m_settingsAction.get(), QString(), false, false, false);
+    QObject::connect(m_settingsAction.get(), SIGNAL(triggered()), owner, SLOT(openSettings()));
+}
+
+MenuColumn::~MenuColumn()
+{
+    removeAction(m_settingsAction.get());
+}
+
+void MenuColumn::setTexts()
+{
+    m_settingsAction->setText(QCoreApplication::translate("ZelControlCenter", "Settings"));
+    m_settingsAction->setStatusTip(
+        QCoreApplication::translate("ZelControlCenter", "Changes the settings of the application"));
+}
+
+void MenuColumn::setVisible(bool visible)
+{
+    m_frame->setVisible(visible);
+}
+
+void MenuColumn::giveSpace(bool given)
+{
+    m_frame->setMaximumHeight(given ? QWIDGETSIZE_MAX : 0);
+    static_cast<QBoxLayout*>(m_frame->parentWidget()->layout())->setStretchFactor(m_frame, given ? 1 : 0);
+}
+
+void MenuColumn::setColor(const QColor& color)
+{
+    m_frame->setStyleSheet(QString("#actionFrame{ background-color:rgb(%1,%2,%3);}")
+                               .arg(color.red())
+                               .arg(color.green())
+                               .arg(color.blue()));
 }
 
 void MenuColumn::addAction(zelAction* action, const QString& anchorName, bool isWorkflowSpecific, bool after,

@@ -5,7 +5,10 @@
 #include <QMap>
 #include <QString>
 
+#include <memory>
+
 class QBoxLayout;
+class QColor;
 class QFrame;
 class QWidget;
 class zelAction;
@@ -19,8 +22,19 @@ class ZelCCActionItem;
 class MenuColumn
 {
 public:
-    /// Fills a layout of the owner, which owns the items and separators and has the slot closeMenu().
-    MenuColumn(QWidget* owner, QBoxLayout* layout);
+    /// In pixels, when it is open.
+    static const int OpenWidth = 250;
+
+    /// Fills a frame of the owner with an item for the action "Settings". The owner owns the items and the
+    /// separators, and has the slots closeMenu() and openSettings().
+    MenuColumn(QWidget* owner, QFrame* frame);
+    ~MenuColumn();
+
+    void setVisible(bool visible);
+    /// Lets the column take space beside what else is in its layout, or none.
+    void giveSpace(bool given);
+    /// The colour of the background, without alpha.
+    void setColor(const QColor& color);
 
     /// Adds an item for the action, before or after its anchor.
     /// @param closesMenu  choosing the action closes the menu
@@ -35,13 +49,17 @@ public:
     bool setSeparatorVisible(const QString& separatorName, bool visible);
 
 private:
+    /// Sets the texts of the action "Settings" in the language of the interface.
+    void setTexts();
     /// Index of the anchor in the layout; -1, which QBoxLayout takes for the bottom, when no item has it.
     int anchorIndex(const QString& anchorName) const;
     /// Puts a new item into the order of the Tab key, which visits the items from top to bottom.
     void orderFocus(ZelCCActionItem* added) const;
 
     QWidget* const m_owner;
+    QFrame* const m_frame;
     QBoxLayout* const m_layout;
+    std::unique_ptr<zelAction> m_settingsAction;
     QList<ZelCCActionItem*> m_items;
     QMap<QString, QFrame*> m_separators;
 };

@@ -16,7 +16,7 @@ namespace zel {
 
 namespace {
 
-const int PolishingTime = 2; // ms of a frame
+const int PreparingTime = 2; // ms of a frame
 
 /// Qt polishes each new widget when it next processes events, even if it is never shown.
 void polishWhenShown(QWidget& tree)
@@ -27,18 +27,23 @@ void polishWhenShown(QWidget& tree)
         QCoreApplication::removePostedEvents(widget, QEvent::PolishRequest);
 }
 
-/// Polishes some widgets, from the leaves to the root. True when the tree needs no more of it.
-bool polishPartly(const QWidget& tree)
+/// Polishes and measures some widgets, from the leaves to the root. True when there was nothing left to do.
+bool preparePartly(const QWidget& tree)
 {
     const QList<QWidget*> descendants = tree.findChildren<QWidget*>();
+    bool wasReady = true;
     QElapsedTimer clock;
     clock.start();
     for (int index = descendants.size() - 1; index >= 0; --index) {
-        if (clock.elapsed() >= PolishingTime)
+        if (clock.elapsed() >= PreparingTime)
             return false;
-        descendants[index]->ensurePolished();
+        QWidget& widget = *descendants[index];
+        wasReady = wasReady && widget.testAttribute(Qt::WA_WState_Polished);
+        widget.ensurePolished();
+        if (widget.layout())
+            widget.layout()->totalSizeHint(); // Which it keeps.
     }
-    return true;
+    return wasReady;
 }
 
 } // namespace
@@ -52,9 +57,18 @@ SettingsDrawer::SettingsDrawer(QScrollArea* area, QVBoxLayout*& contentLayout, Q
     , m_scrolling(new QPropertyAnimation(area->verticalScrollBar(), "value", this))
 {
     contentLayout = m_contentLayout;
+    area->parentWidget()->layout()->removeWidget(area);
+    area->hide();
+    // A slide moves and uncovers what has been painted.
+    area->setAutoFillBackground(true);
+    for (QWidget* widget : {static_cast<QWidget*>(area), area->viewport(), area->widget()})
+        widget->setAttribute(Qt::WA_StaticContents);
     m_scrolling->setDuration(SlideTime);
     m_scrolling->setEasingCurve(QEasingCurve::InOutQuad);
     new ReturnKey(area);
+    // Queued: QScrollArea shows or hides the bar only after the range has changed.
+    connect(area->verticalScrollBar(), SIGNAL(rangeChanged(int, int)), this, SLOT(onRangeChanged()),
+            Qt::QueuedConnection);
     // QScrollArea follows only a focus that moves within it.
     connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
 }
@@ -105,7 +119,7 @@ void SettingsDrawer::showWithoutNewPages()
 
 void SettingsDrawer::showNextPage()
 {
-    if (m_newPages.isEmpty() || (m_newPages.first() && !polishPartly(*m_newPages.first())))
+    if (m_newPages.isEmpty() || (m_newPages.first() && !preparePartly(*m_newPages.first())))
         return;
     QWidget* page = m_newPages.takeFirst();
     if (page && page->parentWidget() == m_pageLayout->parentWidget())
@@ -116,6 +130,13 @@ void SettingsDrawer::showAllPages()
 {
     while (!m_newPages.isEmpty())
         showNextPage();
+    if (!area())
+        return;
+    // Without waiting for events, so that the places of the pages and the scroll range are right.
+    m_pageLayout->activate();
+    m_contentLayout->activate();
+    QEvent request(QEvent::LayoutRequest);
+    QCoreApplication::sendEvent(area(), &request);
 }
 
 void SettingsDrawer::scrollTo(const QWidget& widget)
@@ -148,6 +169,13 @@ void SettingsDrawer::onFocusChanged(QWidget* previous, QWidget* current)
     // Do not scroll the pages while a mouse button is down.
     if (QApplication::mouseButtons() == Qt::NoButton)
         area()->ensureWidgetVisible(current, 0);
+}
+
+void SettingsDrawer::onRangeChanged()
+{
+    // Each step of a slide does so.
+    if (width() == OpenWidth)
+        setWidth(width());
 }
 
 } // namespace zel

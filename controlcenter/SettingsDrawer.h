@@ -28,11 +28,11 @@ public:
     /// In pixels, when it is open.
     static const int OpenWidth = 450;
 
-    /// Takes over the layout of the form that has the area's content, and puts the pages into another of its
-    /// layouts. Anyone may delete the area.
+    /// Takes the area out of its layout, so that the application can put it into one of its own, and hides
+    /// it. Takes over the layout of the form that has the area's content, and puts the pages into another of
+    /// its layouts. Anyone may delete the area.
     SettingsDrawer(QScrollArea* area, QVBoxLayout*& contentLayout, QBoxLayout* pageLayout, QObject* parent);
 
-    /// Null when it has been deleted.
     /// Null as soon as its destruction has begun.
     QScrollArea* area() const { return qobject_cast<QScrollArea*>(m_area.data()); }
     bool isVisible() const { return m_area && m_area->isVisible(); }
@@ -57,6 +57,8 @@ public:
 private Q_SLOTS:
     /// Scrolls to the focused field when the focus enters the drawer.
     void onFocusChanged(QWidget* previous, QWidget* current);
+    /// Fits the width of the pages to the scroll bar, which may have appeared or gone.
+    void onRangeChanged();
 
 private:
     const QPointer<QWidget> m_area;

@@ -46,7 +46,47 @@ void markButton(QPushButton& button, bool pending)
     button.setAccessibleDescription(tip);
 }
 
+/// Applies every page, in order. One that is not in the list has no edits of the user.
+bool applyEach(const PageList& pages, const QList<ZelSettingsPanel*>& edited)
+{
+    // Another program has changed the file. The page must not put its own values back.
+    const QList<ZelSettingsPanel*> outdated = pages.modified();
+    pages.forEach([&](ZelSettingsPanel* page) {
+        if (outdated.contains(page) && !edited.contains(page))
+            page->initializeWidget();
+    });
+    bool restart = false;
+    pages.forEach([&](ZelSettingsPanel* page) { restart = page->applyModifications() || restart; });
+    return restart;
+}
+
 } // namespace
+
+void PageList::forEach(const std::function<void(ZelSettingsPanel*)>& action) const
+{
+    any([&](ZelSettingsPanel* page) {
+        action(page);
+        return false;
+    });
+}
+
+bool PageList::any(const std::function<bool(ZelSettingsPanel*)>& test) const
+{
+    const auto listed = m_pages;
+    const QList<ZelSettingsPanel*> pages = *listed;
+    return std::any_of(pages.begin(), pages.end(),
+                       [&](ZelSettingsPanel* page) { return listed->contains(page) && test(page); });
+}
+
+QList<ZelSettingsPanel*> PageList::modified() const
+{
+    QList<ZelSettingsPanel*> modified;
+    forEach([&](ZelSettingsPanel* page) {
+        if (page->hasModifications())
+            modified << page;
+    });
+    return modified;
+}
 
 SettingsPages::SettingsPages(QObject* parent)
     : QObject(parent)
@@ -55,11 +95,16 @@ SettingsPages::SettingsPages(QObject* parent)
 {
 }
 
+SettingsPages::~SettingsPages()
+{
+    m_pages->clear();
+}
+
 bool SettingsPages::add(ZelSettingsPanel* page)
 {
-    if (m_pages.contains(page))
+    if (m_pages->contains(page))
         return false;
-    m_pages.append(page);
+    m_pages->append(page);
     logUnregisteredKeys(*page);
     connect(page, SIGNAL(stateChanged()), this, SIGNAL(stateChanged()));
     connect(page, SIGNAL(destroyed(QObject*)), this, SLOT(onPageDestroyed(QObject*)));
@@ -70,34 +115,26 @@ bool SettingsPages::remove(ZelSettingsPanel* page)
 {
     disconnect(page, nullptr, this, nullptr);
     m_discarded.remove(page);
-    return m_pages.removeOne(page);
-}
-
-void SettingsPages::forEach(const std::function<void(ZelSettingsPanel*)>& action)
-{
-    const QPointer<SettingsPages> self(this);
-    const QList<ZelSettingsPanel*> pages = m_pages;
-    for (ZelSettingsPanel* page : pages)
-        if (self && m_pages.contains(page))
-            action(page);
+    return m_pages->removeOne(page);
 }
 
 bool SettingsPages::hasModifications() const
 {
-    return std::any_of(m_pages.begin(), m_pages.end(),
-                       [](const ZelSettingsPanel* page) { return page->hasModifications(); });
+    return m_pages.any([](ZelSettingsPanel* page) { return page->hasModifications(); });
 }
 
 bool SettingsPages::canReset() const
 {
-    return std::any_of(m_pages.begin(), m_pages.end(),
-                       [](const ZelSettingsPanel* page) { return page->canResetContent(); });
+    return m_pages.any([](ZelSettingsPanel* page) { return page->canResetContent(); });
 }
 
-void SettingsPages::load()
+bool SettingsPages::load(QSettings& settings, QString& error)
 {
+    const bool usable = ZelSettingsFile::ReadAgain(settings, error) &&
+                        ZelSettingsFile::IsWritable(settings.fileName(), error);
     m_discarded.clear();
-    forEach([](ZelSettingsPanel* page) { page->initializeWidget(); });
+    m_pages.forEach([](ZelSettingsPanel* page) { page->initializeWidget(); });
+    return usable;
 }
 
 void SettingsPages::follow(QSettings* settings)
@@ -120,7 +157,7 @@ void SettingsPages::timerEvent(QTimerEvent*)
         return;
     m_stamp = present;
     const QPointer<SettingsPages> self(this);
-    forEach([](ZelSettingsPanel* page) {
+    m_pages.forEach([](ZelSettingsPanel* page) {
         if (auto* edits = dynamic_cast<ZelPageEdits*>(page))
             edits->takeStored();
     });
@@ -130,85 +167,79 @@ void SettingsPages::timerEvent(QTimerEvent*)
 
 bool SettingsPages::apply(QSettings& settings, bool& restart, QString& error)
 {
-    QList<ZelSettingsPanel*> edited;
-    for (ZelSettingsPanel* page : m_pages)
-        if (page->hasModifications())
-            edited << page;
+    const PageList pages = m_pages;
+    const QList<ZelSettingsPanel*> edited = pages.modified();
     const auto applyPages = [&](QSettings&, QString&) {
-        restart = applyEach(edited) || restart; // It may be called again.
+        restart = applyEach(pages, edited) || restart; // It may be called again.
         return true;
     };
     // One write for all pages, so that the file never has only some of the edits.
     if (edited.isEmpty())
         return applyPages(settings, error);
-    const QPointer<SettingsPages> self(this);
     const bool written = ZelSettingsFile::Write(settings, applyPages, error);
-    if (!self)
-        return written;
-    forEach([&](ZelSettingsPanel* page) {
+    pages.forEach([&](ZelSettingsPanel* page) {
         if (auto* edits = dynamic_cast<ZelPageEdits*>(page))
             written ? edits->takeStored() : edits->pushStored();
     });
     return written;
 }
 
-bool SettingsPages::applyEach(const QList<ZelSettingsPanel*>& edited)
-{
-    bool restart = false;
-    forEach([&](ZelSettingsPanel* page) {
-        // Another program has changed the file. The page must not put its own values back.
-        if (!edited.contains(page) && page->hasModifications())
-            page->initializeWidget();
-        restart = page->applyModifications() || restart;
-    });
-    return restart;
-}
-
 void SettingsPages::reset()
 {
-    forEach([](ZelSettingsPanel* page) { page->resetContent(); });
+    m_pages.forEach([](ZelSettingsPanel* page) { page->resetContent(); });
 }
 
 void SettingsPages::discard()
 {
-    m_discarded.clear();
-    forEach([&](ZelSettingsPanel* page) {
+    const QPointer<SettingsPages> self(this);
+    const PageList pages = m_pages;
+    decltype(m_discarded) discarded;
+    pages.forEach([&](ZelSettingsPanel* page) {
         auto* edits = dynamic_cast<ZelPageEdits*>(page);
         if (const auto again = edits ? edits->copyOfEdits() : nullptr)
-            m_discarded.insert(page, again);
-        if (page->hasModifications())
+            discarded.insert(page, again);
+    });
+    if (self)
+        m_discarded = discarded;
+    const QList<ZelSettingsPanel*> modified = pages.modified();
+    pages.forEach([&](ZelSettingsPanel* page) {
+        if (modified.contains(page))
             page->initializeWidget();
     });
-    Q_EMIT stateChanged();
+    if (self)
+        Q_EMIT stateChanged();
 }
 
 void SettingsPages::restore()
 {
+    const QPointer<SettingsPages> self(this);
     const auto discarded = m_discarded;
     m_discarded.clear();
-    forEach([&](ZelSettingsPanel* page) {
+    m_pages.forEach([&](ZelSettingsPanel* page) {
         if (const auto again = discarded.value(page))
             again();
     });
-    Q_EMIT stateChanged();
+    if (self)
+        Q_EMIT stateChanged();
 }
 
 bool SettingsPages::mark() const
 {
     bool any = false;
-    for (ZelSettingsPanel* page : m_pages) {
+    m_pages.forEach([&](ZelSettingsPanel* page) {
+        const QPointer<QPushButton> button = page->getActionWidget();
         const bool pending = page->hasModifications();
-        if (QPushButton* button = page->getActionWidget())
+        if (button)
             markButton(*button, pending);
         any = any || pending;
-    }
+    });
     return any;
 }
 
 void SettingsPages::onPageDestroyed(QObject* page)
 {
     // A page that is being destroyed is only a QObject: compare its address.
-    m_pages.erase(std::remove(m_pages.begin(), m_pages.end(), page), m_pages.end());
+    m_pages->erase(std::remove(m_pages->begin(), m_pages->end(), page), m_pages->end());
     m_discarded.remove(page);
     Q_EMIT stateChanged();
 }

@@ -9,12 +9,32 @@
 #include <QObject>
 
 #include <functional>
+#include <memory>
 
 class QSettings;
 
 namespace zel {
 
 class ZelSettingsPanel;
+
+/// A list of pages, each of which may change the list, or delete the object that has it, while it is asked:
+/// those that have left the list are not asked any more. Copies are the same list, so a function that goes
+/// through it twice takes a copy.
+class PageList
+{
+public:
+    QList<ZelSettingsPanel*>* operator->() const { return m_pages.get(); }
+
+    /// Calls a function for each page, in order.
+    void forEach(const std::function<void(ZelSettingsPanel*)>& action) const;
+    /// True when a test is true for a page; the next ones are not tested.
+    bool any(const std::function<bool(ZelSettingsPanel*)>& test) const;
+    /// The pages with pending edits.
+    QList<ZelSettingsPanel*> modified() const;
+
+private:
+    std::shared_ptr<QList<ZelSettingsPanel*>> m_pages = std::make_shared<QList<ZelSettingsPanel*>>();
+};
 
 /// The registered pages in the order of their registration, and what is asked of all of them together. Needs
 /// no window. Does not own the pages.
@@ -26,23 +46,23 @@ class SettingsPages : public QObject
 
 public:
     explicit SettingsPages(QObject* parent);
+    ~SettingsPages() override;
 
     /// The pages, the first registered one first.
-    const QList<ZelSettingsPanel*>& all() const { return m_pages; }
+    const PageList& all() const { return m_pages; }
     /// False when the page is already there. Logs its keys that the registry does not have.
     bool add(ZelSettingsPanel* page);
     /// False when the page is not there.
     bool remove(ZelSettingsPanel* page);
-    /// Calls a function for each page, in order.
-    void forEach(const std::function<void(ZelSettingsPanel*)>& action);
 
     /// True when any page has pending edits.
     bool hasModifications() const;
     /// True when any page differs from its defaults.
     bool canReset() const;
 
-    /// Loads the stored values, which discards the pending edits for good.
-    void load();
+    /// Reads the file again, which others may have written, and loads the stored values, which discards the
+    /// pending edits for good. False, with a translated text, when the file cannot be read or written.
+    bool load(QSettings& settings, QString& error);
     /// Lets the fields without an edit take what other programs write to the file of these settings; null
     /// ends it.
     void follow(QSettings* settings);
@@ -52,14 +72,16 @@ public:
     bool apply(QSettings& settings, bool& restart, QString& error);
     /// Puts the defaults into the pages, as pending edits.
     void reset();
+    /// True when restore() makes edits again.
+    bool canRestore() const { return !m_discarded.isEmpty(); }
+    /// Marks the buttons of the pages that have pending edits. True when there is one.
+    bool mark() const;
+
+public Q_SLOTS:
     /// Discards the pending edits, so that restore() can make them again.
     void discard();
     /// Makes the edits again that the last discard() has taken back, on the pages that can do so.
     void restore();
-    bool canRestore() const { return !m_discarded.isEmpty(); }
-
-    /// Marks the buttons of the pages that have pending edits. True when there is one.
-    bool mark() const;
 
 Q_SIGNALS:
     /// The answers of a page may have changed, or a registered page was deleted.
@@ -73,10 +95,7 @@ private Q_SLOTS:
     void onPageDestroyed(QObject* page);
 
 private:
-    /// Applies every page, in order. One that is not in the list has no edits of the user.
-    bool applyEach(const QList<ZelSettingsPanel*>& edited);
-
-    QList<ZelSettingsPanel*> m_pages;
+    PageList m_pages;
     QSettings* m_followed; ///< Not owned.
     FileStamp m_stamp;     ///< Of their file, when it was read.
     QBasicTimer m_timer;

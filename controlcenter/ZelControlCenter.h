@@ -6,7 +6,6 @@
 #include "ZelSettingsValidators.h"
 #include "base/ZelExport.h"
 
-#include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QWidget>
@@ -14,22 +13,11 @@
 #include <memory>
 
 class QColor;
-class QPropertyAnimation;
-class kqDMGuiPlugin;
 class kqDMIApplication;
 class zelAction;
 
-namespace Ui {
-class ControlCenter;
-}
-
 namespace zel {
 
-class ClickOutside;
-class MenuColumn;
-class PageButtons;
-class SettingsDrawer;
-class SettingsPages;
 class ZelSettingsPanel;
 
 /// The side panel that an application puts beside its 3D view: a menu column of actions that slides open, and
@@ -158,16 +146,6 @@ protected Q_SLOTS:
     void onScrollBarValueChanged(int value);
     /// Calls openMenu(false).
     void closeMenu();
-    /// Fits the width of the pages to the scroll bar, which may have appeared or gone.
-    void onScrollBarRangeChanged();
-    /// Takes back the pending edits of all pages.
-    void discardEdits();
-    /// Makes the edits again that were taken back last.
-    void restoreEdits();
-    /// Scrolls to the notice why the settings file cannot be written.
-    void bringNoticeIntoView();
-    /// The user has clicked outside the menu, which closes it.
-    void onClickOutside();
 
 protected:
     /// Slides the drawer open or closed. Opening a closed drawer loads the stored values into every page.
@@ -183,47 +161,19 @@ protected:
     void showEvent(QShowEvent* event) override;
     /// @}
 
+private Q_SLOTS:
+    void onClickOutside();
+    /// Loads the stored values into the pages, and shows whether the file can be written.
+    void loadPages();
+
 private:
-    /// Null outside the viewer.
-    kqDMGuiPlugin* guiPlugin() const;
-    QPropertyAnimation* createSlide(const char* property, int openWidth, const char* finishedSlot);
-    void createSettingsAction();
-    /// Sets the texts that are not in the form.
-    void setTexts();
-    bool isSliding() const;
-    /// Shows the list of pages and slides the drawer open.
-    void showDrawer(bool keepEdits);
-    /// Pauses the engine and slides the drawer, if its state changes. A closed drawer loads the stored values
-    /// before it opens, unless keepEdits is true.
-    void slideDrawer(bool open, bool keepEdits);
-    /// Where the style animates nothing, it is not paused.
-    void pauseEngine();
-    void resumeEngine();
-    void resumeEngineUnlessSliding();
-    void closeDrawer();
-    /// Lets the actions take space in the menu column, or none.
-    void setActionSpace(bool given);
-    /// Shows below the Apply button why the settings file cannot be written; an empty text hides it.
-    void showWriteError(const QString& error);
-    void initializePanels();
+    struct Parts;
+
     /// Discards pending edits; in the viewer it asks first. False when the user keeps them, or when this
     /// object was deleted while the question was open.
     bool discardModifications();
 
-    const std::unique_ptr<Ui::ControlCenter> m_ui;
-    std::unique_ptr<zelAction> m_settingsAction;
-    std::unique_ptr<MenuColumn> m_menu;
-    kqDMIApplication* const m_application;
-    SettingsPages* const m_pages;
-    ClickOutside* const m_clickOutside;
-    QPointer<QPushButton> m_controlCenterButton;
-    SettingsDrawer* m_drawer;
-    PageButtons* m_pageButtons;
-    QPropertyAnimation* m_widthAnimation;
-    QPropertyAnimation* m_settingsAnimation;
-    bool m_menuOpen;
-    bool m_settingsOpen;
-    bool m_enginePaused;
+    const std::unique_ptr<Parts> m_parts;
 };
 
 } // namespace zel

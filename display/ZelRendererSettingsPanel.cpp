@@ -198,10 +198,14 @@ bool ZelRendererSettingsPanel::hasRaytracerRebootChanged() const
 
 void ZelRendererSettingsPanel::forceGPUMode(bool gpu)
 {
+    const auto show = [](QWidget* frame, bool shown) {
+        if (frame->isHidden() == shown) // Otherwise Qt would lay it out again.
+            frame->setVisible(shown);
+    };
     for (QWidget* frame : {m_ui->hardwareFrame, m_ui->GPUMemoryFrame, m_ui->GPUMemory})
-        frame->setVisible(gpu);
+        show(frame, gpu);
     for (QWidget* frame : {m_ui->softwareFrame, m_ui->CPUMemoryFrame})
-        frame->setVisible(!gpu);
+        show(frame, !gpu);
 
     zelActionManager* actions = application() ? application()->getActionManager() : nullptr;
     zelAction* renderingMode = actions ? actions->getActionByName("renderingMode") : nullptr;

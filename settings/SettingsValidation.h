@@ -20,10 +20,10 @@ struct FolderFunctions
 extern FolderFunctions folderFunctions;
 
 /// Runs the validator of every registered key, in key order, on what the settings hold for it, and calls
-/// take(entry of the registry, stored value, resulting text). The stored value of a missing key is invalid;
+/// visit(entry of the registry, stored value, resulting text). The stored value of a missing key is invalid;
 /// its validator sees the default. Stops at a validator that fails, and returns false.
-template <typename Take>
-bool validateSettings(const QSettings& settings, QString& error, Take take)
+template <typename Visit>
+bool validateSettings(const QSettings& settings, QString& error, Visit visit)
 {
     // No settings file can hold a pointer, so it stands for a missing key.
     const QVariant missing = QVariant::fromValue<void*>(nullptr);
@@ -36,7 +36,7 @@ bool validateSettings(const QSettings& settings, QString& error, Take take)
         QString text = isMissing ? defaultValue : stored.toString();
         if (!validator(entry.first, defaultValue, text, error))
             return false;
-        take(entry, stored, text);
+        visit(entry, stored, text);
     }
     return true;
 }

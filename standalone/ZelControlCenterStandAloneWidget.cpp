@@ -3,6 +3,7 @@
 #include "ui_ControlCenterStandAlone.h"
 
 #include "Accessibility.h"
+#include "DrawerShadow.h"
 #include "FrameResizer.h"
 #include "LanguageFollower.h"
 #include "ReturnKey.h"
@@ -74,8 +75,11 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
 
     m_controlCenter = std::make_unique<ZelControlCenter>(application, nullptr, Qt::WindowFlags());
     m_controlCenter->setGUIHandler(this);
-    m_ui->contentLayout->insertWidget(0, m_controlCenter.get());
-    m_ui->contentLayout->insertWidget(1, m_controlCenter->settingsWidget());
+    // The slides neither move nor resize the help beside it.
+    m_ui->slidesFrame->setFixedWidth(ZelControlCenter::OpenWidth());
+    m_ui->slidesLayout->insertWidget(0, m_controlCenter.get());
+    m_ui->slidesLayout->insertWidget(1, m_controlCenter->settingsWidget());
+    new DrawerShadow(m_controlCenter->settingsWidget(), m_ui->slidesFrame);
 
     connect(m_ui->closeButton, SIGNAL(clicked()), this, SLOT(closeWidget()));
     connect(m_ui->maximizeButton, SIGNAL(clicked()), this, SLOT(triggerMaximize()));

@@ -115,6 +115,9 @@ bool ZelHelpArea::eventFilter(QObject*, QEvent* event)
     // Queued, because the layout of the column is still at work.
     if (type == QEvent::Resize || type == QEvent::Move || type == QEvent::Show || type == QEvent::Hide)
         QMetaObject::invokeMethod(this, "place", Qt::QueuedConnection);
+    // It takes some milliseconds, which the first frame does not have.
+    if (type == QEvent::Paint && m_columnLayout->indexOf(m_help) < 0)
+        QMetaObject::invokeMethod(this, "moveToColumn", Qt::QueuedConnection);
     return false;
 }
 
@@ -174,20 +177,34 @@ void ZelHelpArea::place()
     const bool beside = roomOf(*this) >= MinimumWidth;
     const bool inColumn = !beside && freeHeightOfColumn() >= MinimumHeight;
     if (m_columnHost && inColumn) {
-        const QWidget& column = *m_columnHost->parentWidget();
         const int height = freeHeightOfColumn();
-        m_columnHost->setGeometry(0, column.height() - height, column.width(), height);
+        // A column that slides clips what is in it.
+        m_columnHost->setGeometry(0, m_columnHost->parentWidget()->height() - height, m_above->width(),
+                                  height);
     }
-    QBoxLayout* layout = inColumn ? m_columnLayout : m_areaLayout;
-    if (layout->indexOf(m_help) < 0)
-        layout->insertWidget(0, m_help);
-    m_card->setCompact(inColumn);
-    m_help->setVisible(beside || inColumn);
+    if (beside)
+        put(m_areaLayout, false);
+    m_help->setVisible(beside || (inColumn && m_columnLayout->indexOf(m_help) >= 0));
     if (m_columnHost)
         m_columnHost->setVisible(inColumn);
     for (const QPointer<ZelPageHelp>& page : m_pages)
         if (page)
             page->setHelpAreaVisible(beside || inColumn);
+}
+
+void ZelHelpArea::moveToColumn()
+{
+    if (roomOf(*this) >= MinimumWidth)
+        return;
+    put(m_columnLayout, true);
+    place();
+}
+
+void ZelHelpArea::put(QBoxLayout* layout, bool compact)
+{
+    if (layout->indexOf(m_help) < 0)
+        layout->insertWidget(0, m_help);
+    m_card->setCompact(compact);
 }
 
 int ZelHelpArea::freeHeightOfColumn() const

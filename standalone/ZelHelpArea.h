@@ -62,8 +62,11 @@ private Q_SLOTS:
     void onFocusChanged(QWidget* previous, QWidget* current);
     void onRest();
     void place();
+    /// Leaves the area while it is too narrow, also when the column has no room yet.
+    void moveToColumn();
 
 private:
+    void put(QBoxLayout* layout, bool compact);
     int freeHeightOfColumn() const;
     void openAt(QWidget& field);
 

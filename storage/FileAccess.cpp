@@ -17,7 +17,8 @@ namespace zel {
 namespace {
 
 const qint64 MaximumFileSize = qint64{64} * 1024 * 1024;
-const qint64 MaximumGrowth = 16384; // Bytes that a write needs besides, for its lock and a last block.
+const qint64 Reserve = 16384; // Bytes that a write needs besides the content, as for its lock.
+const int MaximumLinks = 40;  // That one name leads through, as for the system.
 
 bool fail(const QString& text, const QString& path, const QString& reason, QString& error)
 {
@@ -50,22 +51,6 @@ QString existingFolder(const QString& path)
     return folder;
 }
 
-bool readOpenFile(QFile& file, QByteArray& content, QString& reason, bool isLocked)
-{
-    QtSettingsLock lock(file, QtSettingsLock::Read);
-    if (!isLocked && !lock.take(LockTimeout)) { // Before the size is known, which QFile remembers.
-        reason = SettingsFileText::tr("another program has locked it");
-    } else if (file.size() > MaximumFileSize) {
-        reason = SettingsFileText::tr("it is too large");
-    } else {
-        content = file.readAll();
-        if (file.error() == QFile::NoError)
-            return true;
-        reason = file.errorString();
-    }
-    return false;
-}
-
 } // namespace
 
 bool canCreateFolder(const QString& path)
@@ -85,12 +70,22 @@ bool refuseWriting(const QString& path, const QString& reason, QString& error)
                 error);
 }
 
-QString fileBehind(const QString& path)
+QString resolvedPath(const QString& path)
 {
-    const QFileInfo file(path);
+    QFileInfo file(path);
     if (!file.isSymLink())
         return path;
-    return file.exists() ? file.canonicalFilePath() : file.symLinkTarget();
+    if (file.exists())
+        return file.canonicalFilePath();
+    for (int links = 0; file.isSymLink() && links < MaximumLinks; ++links)
+        file.setFile(file.symLinkTarget());
+    return file.filePath();
+}
+
+QStringList namesOf(const QString& path)
+{
+    const QString target = resolvedPath(path);
+    return target == path ? QStringList(path) : QStringList(target) << path;
 }
 
 bool exists(const QString& path)
@@ -99,7 +94,8 @@ bool exists(const QString& path)
     return typeOf(path, error) != std::filesystem::file_type::not_found;
 }
 
-bool readFile(const QString& path, QByteArray& content, QString& reason, bool isLocked)
+bool readFile(const QString& path, QByteArray& content, QString& reason, const Deadline& deadline,
+              QIODevice::OpenMode mode)
 {
     content.clear();
     std::error_code error;
@@ -107,15 +103,29 @@ bool readFile(const QString& path, QByteArray& content, QString& reason, bool is
     if (type == std::filesystem::file_type::not_found)
         return true;
     QFile file(path);
+    QtSettingsLock lock(file, QtSettingsLock::Read);
     if (type == std::filesystem::file_type::none)
         reason = QString::fromLocal8Bit(error.message().c_str());
     else if (type != std::filesystem::file_type::regular)
         reason = SettingsFileText::tr("it is not a file");
-    else if (!openWhenFree(file, QIODevice::ReadOnly | QIODevice::Unbuffered))
+    else if (!openWhenFree(file, mode | QIODevice::Unbuffered))
         reason = file.errorString();
+    else if (!lock.take(deadline.remaining()))
+        reason = lockedReason();
     else
-        return readOpenFile(file, content, reason, isLocked);
+        return readOpenFile(file, content, reason);
     return false;
+}
+
+bool readOpenFile(QFile& file, QByteArray& content, QString& reason)
+{
+    if (file.size() > MaximumFileSize) {
+        reason = SettingsFileText::tr("it is too large");
+        return false;
+    }
+    content = file.readAll();
+    reason = file.errorString();
+    return file.error() == QFile::NoError;
 }
 
 bool writeFile(const QString& path, const QByteArray& content, QString& reason)
@@ -129,42 +139,44 @@ bool writeFile(const QString& path, const QByteArray& content, QString& reason)
     return false;
 }
 
-QString lockReason(const QString& lock, bool isHeld)
+QString lockReason(const FileLock& lock, bool isHeld)
 {
     if (isHeld)
-        return SettingsFileText::tr("another program has locked it");
+        return lockedReason();
     const QString error = systemError(); // Before it is lost.
-    const QFileInfo file(lock);
+    const QFileInfo file(lock.path());
     return file.exists() || file.isSymLink()
-               ? SettingsFileText::tr("\"%1\" is in the way, which no program uses: remove it").arg(lock)
+               ? SettingsFileText::tr("\"%1\" is in the way, which no program uses: remove it")
+                     .arg(lock.path())
                : error;
+}
+
+QString lockedReason()
+{
+    return SettingsFileText::tr("another program has locked it");
 }
 
 QString unwritableReason(const QString& path)
 {
     QByteArray content;
     QString reason;
-    if (!readFile(path, content, reason))
+    const QString target = resolvedPath(path);
+    if (!readFile(path, content, reason, Deadline(), QIODevice::ReadWrite))
         return reason;
-    const QString target = fileBehind(path);
-    QFile file(target);
-    if (file.exists() && !mayReplace(target))
+    if (exists(target) && !mayReplace(target))
         return SettingsFileText::tr("it belongs to another user, who would lose it");
-    if (file.exists() && !openWhenFree(file, QIODevice::ReadWrite))
-        return file.errorString();
-    // The lock stands beside a link, and the new file beside its target, whose folder is not created.
-    for (const QString& folder : {existingFolder(QFileInfo(path).path()), QFileInfo(target).path()}) {
-        const QString probe = folder + "/.torvane-probe";
-        if (!isWritableFolder(folder) && !createPrivateFolder(probe))
+    for (const QString& name : namesOf(path)) {
+        const QString folder = QFileInfo(name).path();
+        const FileLock lock(name + ".lock");
+        if (!isWritableFolder(name == path ? existingFolder(folder) : folder))
             return systemError();
-        QDir().rmdir(probe);
-        if (isFull(folder, file.size() + MaximumGrowth))
+        if (isFull(folder, content.size() + Reserve))
             return QString::fromLocal8Bit(
                 std::make_error_code(std::errc::no_space_on_device).message().c_str());
+        if (lock.state() == FileLock::Blocked)
+            return lockReason(lock, false);
     }
-    const QString lock = path + ".lock";
-    const FileLock::State state = FileLock(lock).state();
-    return state == FileLock::Blocked ? lockReason(lock, false) : QString();
+    return QString();
 }
 
 } // namespace zel

@@ -3,12 +3,40 @@
 
 #include <QByteArray>
 #include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QIODevice>
 #include <QString>
+#include <QStringList>
+
+class QFile;
 
 namespace zel {
 
-/// How long to wait for a lock that another program holds, in milliseconds.
-const int LockTimeout = 3000;
+class FileLock;
+
+/// Ends all waits of one operation for other programs, three seconds after it has begun.
+class Deadline
+{
+public:
+    Deadline() { m_clock.start(); }
+
+    /// In milliseconds; 0 once it is over.
+    int remaining() const { return static_cast<int>(qMax<qint64>(0, m_time - m_clock.elapsed())); }
+
+    /// Does work of others, whose time does not count.
+    template <typename Work>
+    bool pauseFor(Work work)
+    {
+        const qint64 begin = m_clock.elapsed();
+        const bool isDone = work();
+        m_time += m_clock.elapsed() - begin;
+        return isDone;
+    }
+
+private:
+    QElapsedTimer m_clock;
+    qint64 m_time = 3000;
+};
 
 /// Translates the error texts of the settings file.
 struct SettingsFileText
@@ -23,16 +51,24 @@ bool refuseReading(const QString& path, const QString& reason, QString& error);
 bool refuseWriting(const QString& path, const QString& reason, QString& error);
 /// @}
 
-/// The file that a link leads to, which may not exist; the file itself if it is no link.
-QString fileBehind(const QString& path);
+/// The file that a link leads to, also through other links, which may not exist; the file itself if it is no
+/// link.
+QString resolvedPath(const QString& path);
+
+/// The names of a file under which programs lock it: behind all links, and as it is given.
+QStringList namesOf(const QString& path);
 
 /// True for a name that is taken, also when the system does not tell by what.
 bool exists(const QString& path);
 
 /// Reads a whole settings file; a missing one is empty. False, with the reason, when it is no regular file,
 /// is too large, or cannot be read to its end.
-/// @param isLocked  this process has locked it as QSettings does
-bool readFile(const QString& path, QByteArray& content, QString& reason, bool isLocked = false);
+/// @param mode  as which it is opened: to write it as well, it must not be read-only
+bool readFile(const QString& path, QByteArray& content, QString& reason,
+              const Deadline& deadline = Deadline(), QIODevice::OpenMode mode = QIODevice::ReadOnly);
+
+/// Reads an open settings file from its beginning. False, with the reason, as for readFile().
+bool readOpenFile(QFile& file, QByteArray& content, QString& reason);
 
 /// Writes a file and forces it onto the disk. False, with the reason, when not all of it is there.
 bool writeFile(const QString& path, const QByteArray& content, QString& reason);
@@ -44,8 +80,11 @@ QString unwritableReason(const QString& path);
 /// True when a folder exists and can be written into, or can be created with its missing parents.
 bool canCreateFolder(const QString& path);
 
-/// What a lock file that cannot be taken means for the user.
-QString lockReason(const QString& lock, bool isHeld);
+/// What it means for the user when a lock file cannot be taken.
+QString lockReason(const FileLock& lock, bool isHeld);
+
+/// The reason when another program keeps a file locked.
+QString lockedReason();
 
 } // namespace zel
 

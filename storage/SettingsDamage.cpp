@@ -3,28 +3,187 @@
 #include "IniCodec.h"
 #include "base/SystemFiles.h"
 
-#include <QRegExp>
 #include <QSet>
-#include <QStringList>
 #include <QTextCodec>
-
-#include <algorithm>
-#include <functional>
 
 namespace zel {
 
 namespace {
 
-// The lines that QSettings reads and writes again unchanged. An escape in a value is one that it writes
-// itself, or writes as the same character. A comment follows a blank.
-const QString Group("[ \\t]*\\[(?:[^\\]\"\\\\;]|\\\\.|\"(?:[^\\]\"\\\\]|\\\\.)*\")*\\][ \\t]*(?:;.*)?");
-const QString Key("(?:[^\"\\\\;=]|\\\\.|\"(?:[^\"\\\\]|\\\\.)*\")*");
-const QString Escape("\\\\(?:[abfnrtv\"?'\\\\]|x[0-9A-Fa-f]{1,4}(?![0-9A-Fa-f])|0(?![0-7]))");
-const QString Comment("(?:[^\"\\\\;]|\\\\.|\"(?:[^\"\\\\]|\\\\.)*\")*;.*"); // Outside quotation marks.
-const QString Value("(?:[^\"\\\\;]|%1|\"(?:[^\"\\\\\\r\\n]|%1|\\\\[\\r\\n])*\")*(?:[ \\t];.*)?");
-
 // What QSettings decodes.
 const char* const Objects[] = {"@Variant(", "@DateTime("};
+
+const QChar ElementMark(1); ///< Before each element of a decoded value, which may be a list.
+
+bool isLineEnd(const QByteArray& text, int at)
+{
+    const char character = at < text.size() ? text.at(at) : '\0';
+    return character == '\n' || character == '\r';
+}
+
+/// 1 or 2; 0 when no line ends here, or only the text.
+int lineEndLength(const QByteArray& text, int at)
+{
+    const bool isPair = isLineEnd(text, at) && isLineEnd(text, at + 1) && text.at(at) != text.at(at + 1);
+    return isPair ? 2 : isLineEnd(text, at) ? 1 : 0;
+}
+
+bool isBlank(char character)
+{
+    return character == ' ' || character == '\t';
+}
+
+/// A character of a value, or an escape.
+struct Token
+{
+    int end;     ///< Behind it, in the text.
+    int meaning; ///< A UTF-16 unit, or a byte of UTF-8; -1 for what QSettings drops.
+    bool isKept; ///< It is a character, or an escape that QSettings writes itself or as the same character.
+};
+
+Token tokenAt(const QByteArray& text, int at)
+{
+    static const QByteArray escapes = "abfnrtv\"?'\\", meanings = "\a\b\f\n\r\t\v\"?'\\";
+    static const QByteArray octalDigits = "01234567", hexDigits = octalDigits + "89abcdefABCDEF";
+    const char character = text.at(at);
+    if (character != '\\' || at + 1 == text.size())
+        return {at + 1, static_cast<uchar>(character), character != '\\'};
+    const char kind = text.at(at + 1);
+    const int simple = escapes.indexOf(kind);
+    if (simple >= 0)
+        return {at + 2, meanings.at(simple), true};
+    const bool isHex = kind == 'x';
+    const int begin = at + (isHex ? 2 : 1);
+    int end = begin;
+    while (end < text.size() && (isHex ? hexDigits : octalDigits).contains(text.at(end)))
+        ++end;
+    if (end == begin)
+        return {at + 1 + qMax(1, lineEndLength(text, at + 1)), -1, false};
+    // Of more digits than fit, the last ones count.
+    const uint code = text.mid(begin, end - begin).right(6).toUInt(nullptr, isHex ? 16 : 8);
+    return {end, static_cast<ushort>(code), isHex ? end <= begin + 4 : end == begin + 1 && code == 0};
+}
+
+/// A line of a settings file. One in which a quoted value ends with a backslash goes on in the next.
+struct Line
+{
+    int begin = 0;          ///< In the text.
+    int end = 0;            ///< Behind its line end.
+    int number = 0;         ///< Where it ends, from 1.
+    bool isReadable = true; ///< QSettings reads it, and writes it again unchanged.
+    bool hasComment = false;
+    bool isGroup = false;
+    QByteArray name = QByteArray(); ///< Encoded; of the group or of the setting.
+    QString value = QString();      ///< Decoded, except that a byte of UTF-8 is a character.
+};
+
+/// Reads a text line by line, up to one that cannot be read.
+class Scanner
+{
+public:
+    explicit Scanner(const QByteArray& text)
+        : m_text(text)
+        , m_at(text.startsWith(Utf8Mark) ? static_cast<int>(qstrlen(Utf8Mark)) : 0)
+    {
+    }
+
+    /// False behind the last line.
+    bool next(Line& line)
+    {
+        line = Line();
+        line.begin = m_at;
+        if (m_at == m_text.size())
+            return false;
+        skipBlanks();
+        if (!atLineEnd() && !readComment(line))
+            line.isReadable = m_text.at(m_at) == '[' ? readGroup(line) : readSetting(line);
+        line.number = m_number;
+        skip(lineEndLength(m_text, m_at));
+        line.end = m_at;
+        return true;
+    }
+
+private:
+    bool atLineEnd() const { return m_at == m_text.size() || isLineEnd(m_text, m_at); }
+
+    void skip(int length)
+    {
+        for (; length > 0; --length)
+            m_number += m_text.at(m_at++) == '\n';
+    }
+
+    void skipBlanks()
+    {
+        while (m_at < m_text.size() && isBlank(m_text.at(m_at)))
+            ++m_at;
+    }
+
+    /// ; comment
+    bool readComment(Line& line)
+    {
+        line.hasComment = m_text.at(m_at) == ';';
+        while (line.hasComment && !atLineEnd())
+            ++m_at;
+        return line.hasComment;
+    }
+
+    /// [name]
+    bool readGroup(Line& line)
+    {
+        line.isGroup = true;
+        ++m_at;
+        if (!readName(line, ']'))
+            return false;
+        skipBlanks();
+        return atLineEnd() || readComment(line);
+    }
+
+    /// name=value
+    bool readSetting(Line& line)
+    {
+        if (!readName(line, '='))
+            return false;
+        line.value = ElementMark;
+        bool isQuoted = false;
+        while (!atLineEnd()) {
+            const char character = m_text.at(m_at);
+            if (character == ';' && !isQuoted) // QSettings takes that of "path=/a;/b" for a comment as well.
+                return isBlank(m_text.at(m_at - 1)) && readComment(line);
+            const Token token = tokenAt(m_text, m_at);
+            if (!token.isKept && !(isQuoted && isLineEnd(m_text, m_at + 1)))
+                return false;
+            if (character == '"')
+                isQuoted = !isQuoted;
+            else if (character == ',' && !isQuoted)
+                line.value += ElementMark;
+            else if (token.meaning >= 0)
+                line.value += QChar(token.meaning);
+            skip(token.end - m_at);
+        }
+        return !isQuoted;
+    }
+
+    /// Up to a character, and behind it. A backslash separates groups, but hides some characters.
+    bool readName(Line& line, char end)
+    {
+        for (const int begin = m_at; !atLineEnd(); ++m_at) {
+            const char character = m_text.at(m_at);
+            if (character == end) {
+                line.name = m_text.mid(begin, m_at - begin).trimmed();
+                ++m_at;
+                return true;
+            }
+            if (character == '"' || character == ';' ||
+                (character == '\\' && QByteArray("\\=\n\r").contains(m_text.mid(m_at + 1, 1))))
+                return false;
+        }
+        return false;
+    }
+
+    const QByteArray& m_text;
+    int m_at;
+    int m_number = 1;
+};
 
 bool isUtf8(const QByteArray& text)
 {
@@ -33,87 +192,59 @@ bool isUtf8(const QByteArray& text)
     return state.invalidChars == 0 && state.remainingChars == 0;
 }
 
-/// A raw line has no zero at its end, which Qt 4.8 would look for without the length.
-QString asText(const QByteArray& line)
+bool isReadable(const QByteArray& text)
 {
-    return QString::fromLatin1(line.constData(), line.size());
+    Line line;
+    for (Scanner scanner(text); line.isReadable && scanner.next(line);)
+        continue;
+    return line.isReadable && isUtf8(text);
 }
 
-int lineEnd(const QByteArray& text, int begin)
+/// True when an object begins behind a text in a decoded value.
+bool holdsObject(QString decoded, const QString& before)
 {
-    const auto isEnd = [](char character) { return character == '\n' || character == '\r'; };
-    return static_cast<int>(std::find_if(text.begin() + begin, text.end(), isEnd) - text.begin());
+    // QSettings skips blanks behind a quotation mark, and Qt's own codec the mark of the encoding.
+    decoded.remove(' ').remove('\t').remove(QString::fromLatin1(Utf8Mark));
+    for (const char* const object : Objects)
+        if (decoded.contains(before + object))
+            return true;
+    return false;
 }
 
-/// The first character that is no blank; a zero byte in an empty line.
-char firstCharacter(const QByteArray& line)
+/// Calls visit(begin, end) for each part of a text that holds an object.
+template <typename Visit>
+void forEachObject(const QByteArray& text, Visit visit)
 {
-    const auto isBlank = [](char character) { return character == ' ' || character == '\t'; };
-    const auto* const first = std::find_if_not(line.begin(), line.end(), isBlank);
-    return first == line.end() ? '\0' : *first;
-}
-
-bool hasComment(const QByteArray& line)
-{
-    static const QRegExp comment(Comment);
-    return line.contains(';') && comment.exactMatch(asText(line));
-}
-
-bool isUnreadable(const QByteArray& line)
-{
-    static const QRegExp group(Group), setting(Key + '=' + Value.arg(Escape));
-    const char first = firstCharacter(line);
-    if (first == '\0' || first == ';')
-        return false;
-    if (first == '[' || line.contains('"') || line.contains('\\') || line.contains(';'))
-        return !(first == '[' ? group : setting).exactMatch(asText(line));
-    return !line.contains('=');
-}
-
-/// True for a line that ends with a backslash which is not itself escaped.
-bool isContinued(const QByteArray& line)
-{
-    int end = line.size();
-    while (end > 0 && line.at(end - 1) == '\\')
-        --end;
-    return (line.size() - end) % 2 == 1;
-}
-
-/// A line of a text, or several that are joined by backslashes at their ends.
-struct Line
-{
-    QByteArray text;
-    int number; ///< From 1; of the first when several are joined.
-    int begin;  ///< In the text.
-    int end;    ///< Behind its line end.
-};
-
-/// The first line of a kind; its number is 0 when there is none.
-Line firstLine(const QByteArray& text, const std::function<bool(const Line& line)>& isWanted)
-{
-    int number = 1;
-    int begin = text.startsWith(Utf8Mark) ? 3 : 0;
-    while (begin < text.size()) {
-        int end = lineEnd(text, begin), last = number;
-        const auto line = [&] { return QByteArray::fromRawData(text.constData() + begin, end - begin); };
-        // A readable line that ends with a backslash ends with a comment, which does not go on.
-        const bool isJoined = isContinued(line()) && isUnreadable(line());
-        while (isJoined && end < text.size() && isContinued(line())) {
-            if (text.mid(end, 2) == "\r\n")
-                ++end;
-            if (text.at(end) == '\n')
-                ++last;
-            end = lineEnd(text, end + 1);
-        }
-        const Line found = {line(), last, begin, std::min(end + 1, text.size())};
-        if (isWanted(found))
-            return found;
-        if (end < text.size() && text.at(end) == '\n')
-            ++last;
-        number = last;
-        begin = end + 1;
+    if (!text.contains('@') && !text.contains('\\')) // An escape may stand for the '@'.
+        return;
+    if (isReadable(text)) {
+        Line line;
+        for (Scanner scanner(text); scanner.next(line);)
+            if (holdsObject(line.value, ElementMark))
+                visit(line.begin, line.end);
+        return;
     }
-    return {QByteArray(), 0, 0, 0};
+    // What QSettings makes of a line depends on all lines before it. So the name of an object counts
+    // anywhere.
+    for (int begin = 0, end = 0; begin < text.size(); begin = end) {
+        QString decoded;
+        while (end < text.size() && !isLineEnd(text, end)) {
+            const Token token = tokenAt(text, end);
+            if (token.meaning >= 0 && text.at(end) != '"')
+                decoded += QChar(token.meaning);
+            end = token.end;
+        }
+        end += lineEndLength(text, end);
+        if (holdsObject(decoded, QString()))
+            visit(begin, end);
+    }
+}
+
+/// True when a value has half of a character that takes two: QSettings writes nothing for it.
+bool hasHalfCharacter(const QString& value)
+{
+    const QByteArray encoded = value.toUtf8();
+    return QString::fromUtf8(encoded.constData(), encoded.size()) != value;
 }
 
 /// Decodes the name of a group or a key: "a%20b" is "a b", "a\b" is "a/b".
@@ -122,12 +253,12 @@ QString decodedName(const QByteArray& name)
     QString decoded;
     for (int i = 0; i < name.size(); ++i) {
         const char character = name.at(i);
-        const int start = i + (name.mid(i + 1, 1) == "U" ? 2 : 1);
+        const bool isLong = name.mid(i + 1, 1) == "U"; // %U1f42 in place of %20.
         bool isHex = false;
-        const ushort code = name.mid(start, start - i == 2 ? 4 : 2).toUShort(&isHex, 16);
+        const ushort code = name.mid(i + (isLong ? 2 : 1), isLong ? 4 : 2).toUShort(&isHex, 16);
         if (character == '%' && isHex) {
             decoded += QChar(code);
-            i = start + (start - i == 2 ? 3 : 1);
+            i += isLong ? 5 : 2;
         } else {
             decoded += character == '\\' ? QChar('/') : QChar(static_cast<uchar>(character));
         }
@@ -135,163 +266,53 @@ QString decodedName(const QByteArray& name)
     return decoded;
 }
 
-/// Finds settings that stand twice: QSettings keeps the last. Follows the groups of the lines that it is
-/// given.
-class SeenKeys
+/// Finds settings that QSettings does not keep. Follows the groups of the lines that it is given.
+class Keys
 {
 public:
-    /// True when an earlier line has the same key, or the line begins a group without a name.
-    bool isLost(const QByteArray& line)
+    /// True when an earlier line has the same key, or QSettings writes the key under another name.
+    bool isLost(const Line& line)
     {
-        const char first = firstCharacter(line);
-        if (first == '[')
-            return !enter(
-                line.mid(line.indexOf('[') + 1, line.indexOf(']') - line.indexOf('[') - 1).trimmed());
-        if (first == '\0' || first == ';')
+        if (line.isGroup) {
+            const QByteArray plain = line.name.toLower();
+            m_group = decodedName(plain == "%general" ? line.name.mid(1) : line.name) + '/';
+            if (plain == "general")
+                m_group.clear();
+            return m_group.startsWith('/');
+        }
+        if (line.value.isNull()) // It has no setting.
             return false;
-        QString key = m_group + decodedName(line.left(line.indexOf('=')).trimmed());
-        while (key.startsWith('/')) // QSettings writes it without.
-            key.remove(0, 1);
-        if (SettingsIgnoreCase)
-            key = key.toLower();
-        const bool isKnown = m_keys.contains(key);
-        m_keys.insert(key);
-        return isKnown;
+        const QString key = m_group + decodedName(line.name);
+        const QString compared = SettingsIgnoreCase ? key.toLower() : key;
+        const bool isKnown = m_keys.contains(compared);
+        m_keys.insert(compared);
+        return isKnown || key.startsWith('/') ||
+               (key.startsWith("general/", Qt::CaseInsensitive) && !key.startsWith("General/"));
     }
 
 private:
-    /// False for a group whose keys cannot be looked up.
-    bool enter(const QByteArray& name)
-    {
-        const QByteArray plain = name.toLower();
-        m_group =
-            plain == "general" ? QString() : decodedName(plain == "%general" ? name.mid(1) : name) + '/';
-        return !m_group.startsWith('/');
-    }
-
     QString m_group;
     QSet<QString> m_keys;
 };
-
-/// The elements of a value as QSettings decodes them, which drops an escape that it does not know.
-/// @param hasComment  a ';' outside quotation marks begins a comment
-QStringList decodedElements(const QByteArray& value, bool hasComment)
-{
-    const QByteArray simple = "abfnrtv\"?'\\", meant = "\a\b\f\n\r\t\v\"?'\\";
-    QStringList elements("");
-    bool isQuoted = false, isBegun = false;
-    for (int i = 0; i < value.size(); ++i) {
-        const char character = value.at(i);
-        if (character == '"') {
-            isQuoted = !isQuoted;
-            isBegun = true;
-        } else if (character == ',' && !isQuoted) {
-            elements += "";
-            isBegun = false;
-        } else if (character == ';' && !isQuoted && hasComment) {
-            break;
-        } else if (character == '\\' && i + 1 < value.size()) {
-            const char kind = value.at(++i);
-            const int base = kind == 'x' ? 16 : 8, begin = kind == 'x' ? i + 1 : i;
-            int end = begin, code = 0;
-            for (bool isDigit = true; isDigit && end < value.size();) {
-                const int digit = value.mid(end, 1).toInt(&isDigit, base);
-                code = isDigit ? (code * base + digit) & 0xFFFF : code;
-                end += isDigit;
-            }
-            if (simple.contains(kind))
-                elements.last() += QChar(meant.at(simple.indexOf(kind)));
-            else if (end > begin)
-                elements.last() += QChar(static_cast<ushort>(code));
-            isBegun = true;
-            if (value.mid(i, 2) == "\r\n")
-                ++i;
-            i = std::max(i, end - 1);
-        } else if (isBegun || (character != ' ' && character != '\t')) {
-            elements.last() += QChar(static_cast<uchar>(character));
-            isBegun = true;
-        }
-    }
-    return elements;
-}
-
-QByteArray valueOf(const QByteArray& line)
-{
-    const char first = firstCharacter(line);
-    return first == '[' || first == ';' ? QByteArray() : line.mid(line.indexOf('=') + 1);
-}
-
-/// False for most texts, without a closer look: an escape may stand for the '@'.
-bool mayHoldObjects(const QByteArray& text)
-{
-    return text.contains('@') || text.contains('\\');
-}
-
-/// True when QSettings would decode an object of the line. What it makes of lines that cannot be read depends
-/// on what stands before them, so in a text with such lines the name of an object alone counts.
-bool holdsObject(const QByteArray& line, bool isTextReadable)
-{
-    if (!mayHoldObjects(line))
-        return false;
-    QByteArray value = isTextReadable ? valueOf(line) : line;
-    value.replace(Utf8Mark, ""); // Qt's own codec drops it.
-    for (const QString& element : decodedElements(value, isTextReadable))
-        for (const char* const object : Objects)
-            if (isTextReadable ? element.startsWith(object) : element.contains(object))
-                return true;
-    return false;
-}
-
-/// True when a value has half of a character that takes two: QSettings writes nothing for it.
-bool hasHalfCharacter(const QByteArray& line)
-{
-    if (!line.contains("\\x"))
-        return false;
-    for (const QString& element : decodedElements(valueOf(line), true)) {
-        bool isOpen = false;
-        for (const QChar character : element) {
-            if (character.isLowSurrogate() != isOpen)
-                return true;
-            isOpen = character.isHighSurrogate();
-        }
-        if (isOpen)
-            return true;
-    }
-    return false;
-}
-
-bool isReadable(const QByteArray& text)
-{
-    return isUtf8(text) &&
-           firstLine(text, [](const Line& line) { return isUnreadable(line.text); }).number == 0;
-}
 
 } // namespace
 
 bool holdsObjects(const QByteArray& text)
 {
-    if (!mayHoldObjects(text))
-        return false;
-    const bool isTextReadable = isReadable(text);
-    return firstLine(text, [&](const Line& line) { return holdsObject(line.text, isTextReadable); }).number !=
-           0;
+    bool isFound = false;
+    forEachObject(text, [&](int, int) { isFound = true; });
+    return isFound;
 }
 
 QByteArray withoutObjects(const QByteArray& text)
 {
-    if (!mayHoldObjects(text))
-        return text;
-    const bool isTextReadable = isReadable(text);
     QByteArray kept;
-    int begin = 0;
-    firstLine(text, [&](const Line& line) {
-        if (holdsObject(line.text, isTextReadable)) {
-            kept += text.mid(begin, line.begin - begin);
-            begin = line.end;
-        }
-        return false;
+    int copied = 0;
+    forEachObject(text, [&](int begin, int end) {
+        kept += text.mid(copied, begin - copied);
+        copied = end;
     });
-    return kept + text.mid(begin);
+    return kept + text.mid(copied);
 }
 
 QString settingsDamage(const QByteArray& text)
@@ -300,30 +321,27 @@ QString settingsDamage(const QByteArray& text)
         return "it holds zero bytes";
     if (!isUtf8(text))
         return "it is not UTF-8 text";
-    const auto describe = [](const Line& line, const char* what) {
-        return line.number ? QString("line %1 %2").arg(line.number).arg(what) : QString();
-    };
-    const Line unreadable = firstLine(
-        text, [](const Line& line) { return isUnreadable(line.text) || hasHalfCharacter(line.text); });
-    if (unreadable.number)
-        return describe(unreadable, "cannot be read");
-    if (mayHoldObjects(text)) {
-        const Line object = firstLine(text, [](const Line& line) { return holdsObject(line.text, true); });
-        if (object.number)
-            return describe(object, "holds a serialised object");
+    Line line;
+    Keys keys;
+    for (Scanner scanner(text); scanner.next(line);) {
+        const char* const damage = !line.isReadable || hasHalfCharacter(line.value) ? "cannot be read"
+                                   : holdsObject(line.value, ElementMark) ? "holds a serialised object"
+                                   : keys.isLost(line)
+                                       ? "has a key that stands twice, or a name that is not kept"
+                                       : nullptr;
+        if (damage)
+            return QString("line %1 %2").arg(line.number).arg(damage);
     }
-    SeenKeys seen;
-    return describe(firstLine(text, [&](const Line& line) { return seen.isLost(line.text); }),
-                    "has a key that stands twice, or a group without a name");
+    return QString();
 }
 
 QString droppedComment(const QByteArray& text)
 {
-    if (!text.contains(';'))
-        return QString();
-    const Line comment = firstLine(text, [](const Line& line) { return hasComment(line.text); });
-    return comment.number ? QString("line %1 has a comment, which is not kept").arg(comment.number)
-                          : QString();
+    Line line;
+    for (Scanner scanner(text); line.isReadable && scanner.next(line);)
+        if (line.hasComment)
+            return QString("line %1 has a comment, which is not kept").arg(line.number);
+    return QString();
 }
 
 } // namespace zel

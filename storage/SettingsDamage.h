@@ -9,8 +9,8 @@ namespace zel {
 /// Why QSettings would lose something of this text by reading it and writing it again; empty if nothing. The
 /// reasons: zero bytes, an encoding other than UTF-8, a line that it cannot parse, an unquoted value that it
 /// cuts at a ';' ("path=/a;/b"), a '\' that is no escape ("C:\Users"), a line that it joins with the next, a
-/// key that stands twice, half of a character that takes two ("\xd83d"), a serialised object
-/// ("@Variant(...)"). Comments do not count: see droppedComment().
+/// key that stands twice, a name that it writes as another ("[/a]", "[%general]"), half of a character that
+/// takes two ("\xd83d"), a serialised object ("@Variant(...)"). Comments do not count: see droppedComment().
 QString settingsDamage(const QByteArray& text);
 
 /// True when a line of a text holds a serialised object, which QSettings decodes as soon as it reads the

@@ -4,6 +4,7 @@
 #include "IniCodec.h"
 #include "SettingsBackup.h"
 #include "SettingsDamage.h"
+#include "SettingsValidation.h"
 #include "ZelSettingsFile.h"
 #include "base/SystemFiles.h"
 
@@ -11,6 +12,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
+#include <QStringList>
 
 namespace zel {
 
@@ -24,29 +26,13 @@ const char* const EndText = "\n[end%20of%20the%20working%20copy]\nisRead=true\n"
 
 const char* const FolderMark = ".new-"; // Before the number of the process.
 
-QString spareOf(const QString& target)
+/// The values as QSettings writes them, whatever their types.
+QMap<QString, QString> textsOf(const QSettings& settings)
 {
-    return target + ".unfinished";
-}
-
-/// As QSettings writes it.
-QStringList textOf(const QVariant& value)
-{
-    return value.type() == QVariant::StringList || value.type() == QVariant::List
-               ? value.toStringList()
-               : QStringList(value.toString());
-}
-
-/// The values as texts, by the names that QSettings writes: the group "[%general]" becomes "[%General]".
-QMap<QString, QString> written(const QVariantMap& values)
-{
-    const QString general = "General/";
     QMap<QString, QString> texts;
-    for (auto value = values.constBegin(); value != values.constEnd(); ++value) {
-        const QString& key = value.key();
-        const bool isGeneral = key.startsWith(general, Qt::CaseInsensitive);
-        texts.insert(isGeneral ? general + key.mid(general.size()) : key, textOf(*value).join("\n"));
-    }
+    const QVariantMap values = valuesOf(settings);
+    for (auto value = values.constBegin(); value != values.constEnd(); ++value)
+        texts.insert(value.key(), isList(*value) ? value->toStringList().join("\n") : value->toString());
     return texts;
 }
 
@@ -61,66 +47,39 @@ void removeFolder(const QString& path)
     QDir().rmdir(path);
 }
 
-/// Removes the folders that killed writers have left.
+/// Removes the folders that killed writers have left, also one with the number of this process.
 void removeOrphans(const QString& target)
 {
     const QFileInfo file(target);
     const QString stem = file.fileName() + FolderMark;
-    for (const QString& name : file.dir().entryList(QStringList(stem + "*"), QDir::Dirs | QDir::Hidden))
-        if (!isProcessRunning(name.mid(stem.size()).toLongLong()))
+    for (const QString& name : file.dir().entryList(QStringList(stem + "*"), QDir::Dirs | QDir::Hidden)) {
+        const qint64 process = name.mid(stem.size()).toLongLong();
+        if (process == QCoreApplication::applicationPid() || !isProcessRunning(process))
             removeFolder(file.dir().filePath(name));
-}
-
-/// Writes over the file that another program may have opened already, and waits to write to it.
-WorkingCopy::Outcome overwrite(const QString& path, const QByteArray& expected, const QByteArray& content,
-                               QString& reason)
-{
-    QFile file(path);
-    if (!openWhenFree(file, QIODevice::ReadWrite | QIODevice::Unbuffered)) {
-        reason = file.errorString();
-        return WorkingCopy::Failed;
     }
-    QtSettingsLock lock(file, QtSettingsLock::Write);
-    if (!lock.take(LockTimeout)) {
-        reason = SettingsFileText::tr("another program has locked it");
-        return WorkingCopy::Failed;
-    }
-    const QByteArray present = file.readAll();
-    if (file.error() != QFile::NoError) {
-        reason = file.errorString();
-        return WorkingCopy::Failed;
-    }
-    if (present != expected)
-        return WorkingCopy::Outdated;
-    const FileStamp former = stampOf(path);
-    const bool isWritten =
-        file.resize(0) && file.seek(0) && file.write(content) == content.size() && syncToDisk(file);
-    makeLater(path, former);
-    // Where there is no room, the spare copy still has its own.
-    if (isWritten || replaceFile(spareOf(path), path))
-        return WorkingCopy::InPlace;
-    reason = systemError();
-    return WorkingCopy::Failed;
 }
 
 } // namespace
 
 QVariantMap valuesOf(const QSettings& settings)
 {
+    const QString general = "General/";
     QVariantMap values;
     for (const QString& key : settings.allKeys()) {
+        const bool isGeneral = key.startsWith(general, Qt::CaseInsensitive);
         if (!key.isEmpty() && !key.startsWith('/') && !key.endsWith('/') && !key.contains("//"))
-            values.insert(key, settings.value(key));
+            values.insert(isGeneral ? general + key.mid(general.size()) : key, settings.value(key));
     }
     return values;
 }
 
 WorkingCopy* WorkingCopy::Changing = nullptr;
 
-WorkingCopy::WorkingCopy(const QString& path)
+WorkingCopy::WorkingCopy(const QString& path, const Deadline& deadline)
     : m_path(path)
-    , m_target(fileBehind(path))
+    , m_target(resolvedPath(path))
     , m_folder(m_target + FolderMark + QString::number(QCoreApplication::applicationPid()))
+    , m_deadline(deadline)
     , m_exists(false)
     , m_damaged(false)
 {
@@ -147,16 +106,9 @@ bool WorkingCopy::make(QString& reason)
         reason = SettingsFileText::tr("it belongs to another user, who would lose it");
         return false;
     }
-    QFile file(m_target);
-    if (m_exists && !openWhenFree(file, QIODevice::ReadWrite)) { // It may be read-only.
-        reason = file.errorString();
-        return false;
-    }
-    file.close();
-    if (!readFile(m_target, m_content, reason))
+    if (!readFile(m_target, m_content, reason, m_deadline, QIODevice::ReadWrite))
         return false;
     removeOrphans(m_target);
-    removeFolder(m_folder); // Of an earlier process with the same number.
     if (!createPrivateFolder(m_folder)) {
         reason = systemError();
         return false;
@@ -167,27 +119,26 @@ bool WorkingCopy::make(QString& reason)
     m_damaged = !damage.isEmpty();
     if (!loss.isEmpty() && !keepContent(loss, reason))
         return false;
-    const bool endIsKnown = !m_damaged && !m_content.isEmpty();
-    QByteArray text = m_damaged ? withoutObjects(m_content) : m_content;
+    QByteArray text = m_damaged ? withoutObjects(m_content) : m_content + EndText;
     if (text.startsWith(Utf8Mark)) // It would make QSettings use Qt's own codec.
         text.remove(0, static_cast<int>(qstrlen(Utf8Mark)));
-    if (!writeFile(m_copy, endIsKnown ? text + EndText : text, reason))
+    if (!writeFile(m_copy, text, reason))
         return false;
     m_settings = ZelSettingsFile::Open(m_copy);
-    if (endIsKnown && !m_settings->contains(EndKey)) {
+    if (!m_damaged && !m_settings->contains(EndKey)) {
         reason = SettingsFileText::tr("it cannot be read to its end");
         return false;
     }
     m_settings->remove(EndKey);
     if (!m_damaged)
         return true;
-    // QSettings writes nothing of a file that it could not read unless a value is set.
+    // The change begins with what QSettings writes of it.
     const QVariantMap values = valuesOf(*m_settings);
     m_copy = nextName();
     m_settings = ZelSettingsFile::Open(m_copy);
     for (auto value = values.constBegin(); value != values.constEnd(); ++value)
         m_settings->setValue(value.key(), *value);
-    return writeFile(m_copy, QByteArray(), reason);
+    return writeFile(m_copy, QByteArray(), reason) && readAgain(false, reason);
 }
 
 bool WorkingCopy::keepContent(const QString& loss, QString& reason) const
@@ -196,118 +147,86 @@ bool WorkingCopy::keepContent(const QString& loss, QString& reason) const
     return keepBackup(m_path, m_content, loss, m_path == m_target ? nextName() : m_path + ".bak.new", reason);
 }
 
-bool WorkingCopy::write(QString& reason)
+bool WorkingCopy::readAgain(bool isExact, QString& reason)
 {
-    const QVariantMap wanted = valuesOf(*m_settings);
+    const QMap<QString, QString> wanted = textsOf(*m_settings);
     m_settings->sync();
-    // Under another name, because QSettings answers from what it remembers.
     const QString former = m_copy;
-    m_copy = nextName();
-    bool isComplete = replaceFile(former, m_copy);
-    if (isComplete) {
-        m_settings = ZelSettingsFile::Open(m_copy);
-        // More may be there: a name that cannot be looked up, such as "/key", is written as another.
-        const auto present = written(valuesOf(*m_settings)), expected = written(wanted);
-        isComplete = !m_settings->contains(EndKey);
-        for (auto text = expected.constBegin(); text != expected.constEnd(); ++text)
-            // Of a damaged file QSettings may have read what it cannot write, such as half of a character.
-            isComplete = isComplete && present.contains(text.key()) &&
-                         (m_damaged || present.value(text.key()) == *text);
-    }
-    QFile copy(m_copy);
-    if (isComplete && !readFile(m_copy, m_result, reason))
-        return false;
-    if (isComplete && holdsObjects(m_result)) {
-        reason = SettingsFileText::tr("not all values can be kept in it");
-        return false;
-    }
-    if (isComplete) {
-        const bool isOnDisk = copy.open(QIODevice::ReadWrite) && syncToDisk(copy);
-        reason = isOnDisk ? QString() : systemError();
-        return isOnDisk;
-    }
+    m_copy = nextName(); // QSettings answers from what it remembers of a name.
+    const bool isThere = replaceFile(former, m_copy);
+    m_settings = ZelSettingsFile::Open(m_copy);
+    const QMap<QString, QString> present = textsOf(*m_settings);
+    if (isThere && (isExact ? present == wanted : present.keys() == wanted.keys()))
+        return true;
     // QSettings does not tell why.
-    int size = ProbeSize;
-    for (auto value = wanted.constBegin(); value != wanted.constEnd(); ++value)
-        size += value.key().size() + textOf(*value).join(",").size();
-    if (writeFile(nextName(), QByteArray(size, '\n'), reason))
+    const QString all = QStringList(wanted.keys() + wanted.values()).join(QString());
+    if (writeFile(nextName(), QByteArray(all.size() + ProbeSize, '\n'), reason))
         reason = SettingsFileText::tr("not all values can be kept in it");
     return false;
 }
 
-WorkingCopy::Outcome WorkingCopy::put(bool keepsSpare, QString& reason)
+bool WorkingCopy::write(QString& reason)
+{
+    if (!readAgain(true, reason))
+        return false;
+    QFile copy(m_copy);
+    if (!copy.open(QIODevice::ReadWrite | QIODevice::Unbuffered) || !syncToDisk(copy)) {
+        reason = systemError();
+        return false;
+    }
+    if (!readOpenFile(copy, m_result, reason))
+        return false;
+    const bool isGood = settingsDamage(m_result).isEmpty();
+    if (!isGood) // As with an object, or with what was left of a longer text.
+        reason = SettingsFileText::tr("not all values can be kept in it");
+    return isGood;
+}
+
+Outcome WorkingCopy::put(QString& reason)
 {
     m_settings.reset();
     const bool hasRights = !m_exists || copyRights(m_target, m_copy);
+    if (!m_exists || (hasRights && SettingsFilesAreReplaced))
+        return replace(reason);
     if (!hasRights)
         QFile::setPermissions(m_copy, QFile::ReadOwner | QFile::WriteOwner);
-    const bool replaces = !m_exists || (hasRights && SettingsFilesAreReplaced);
-    makeLater(m_copy, stampOf(m_target));
-    if (!replaces || keepsSpare) {
-        const QString spare = replaces ? nextName() : m_copy;
-        if (replaces && !writeFile(spare, m_result, reason))
-            return Failed;
-        if (replaces)
-            copyRights(m_copy, spare);
-        if (!replaceFile(spare, spareOf(m_target))) {
-            reason = systemError();
-            return Failed;
-        }
-    }
-    const Outcome outcome = replaces ? replace(reason) : overwrite(m_target, m_content, m_result, reason);
-    // A file that was cut while it was overwritten still needs its spare copy.
+    const SpareCopy spare(m_target);
+    if (!spare.keep(m_copy, reason))
+        return Outcome::Failed;
+    const Outcome outcome = spare.overwrite(m_content, m_result, m_deadline, reason);
+    // A file that was cut still needs it.
     QByteArray present;
     QString ignored;
-    if (outcome == Failed ? readFile(m_target, present, ignored) && present == m_content
-                          : outcome == Outdated || !keepsSpare)
-        QFile::remove(spareOf(m_target));
+    if (outcome != Outcome::Failed ||
+        (readFile(m_target, present, ignored, m_deadline) && present == m_content))
+        spare.remove();
     return outcome;
 }
 
-WorkingCopy::Outcome WorkingCopy::replace(QString& reason) const
+Outcome WorkingCopy::replace(QString& reason) const
 {
-    const QFile target(m_target);
-    QtSettingsLock lock(target, QtSettingsLock::Write);
+    QFile target(m_target);
+    QtSettingsLock lock(target, QtSettingsLock::Write); // On Windows it needs no open file.
+    if (!lock.take(m_deadline.remaining())) {
+        reason = lockedReason();
+        return Outcome::Failed;
+    }
     QByteArray present;
-    if (!lock.take(LockTimeout)) {
-        reason = SettingsFileText::tr("another program has locked it");
-        return Failed;
+    const bool isThere = openWhenFree(target, QIODevice::ReadOnly | QIODevice::Unbuffered);
+    if (!isThere && exists(m_target)) {
+        reason = target.errorString();
+        return Outcome::Failed;
     }
-    if (!readFile(m_target, present, reason, true))
-        return Failed;
-    if (exists(m_target) != m_exists || present != m_content)
-        return Outdated;
+    if (isThere && !readOpenFile(target, present, reason))
+        return Outcome::Failed;
+    target.close(); // Windows replaces no open file.
+    if (isThere != m_exists || present != m_content)
+        return Outcome::Outdated;
+    makeLater(m_copy, stampOf(m_target));
     if (replaceFile(m_copy, m_target))
-        return InPlace;
+        return Outcome::InPlace;
     reason = systemError() + ": " + SettingsFileText::tr("it cannot be replaced by a new one");
-    return Failed;
-}
-
-bool WorkingCopy::isUnfinished(const QString& path)
-{
-    const QFileInfo spare(spareOf(fileBehind(path)));
-    return spare.isFile() && !spare.isSymLink();
-}
-
-bool WorkingCopy::finish(const QString& path, bool givesRights, QString& reason)
-{
-    const QString target = fileBehind(path), spare = spareOf(target);
-    QByteArray wanted, present;
-    if (!readFile(spare, wanted, reason) || !readFile(target, present, reason))
-        return false;
-    if (present == wanted) {
-        if (givesRights)
-            copyRights(spare, target);
-    } else if (wanted.startsWith(present)) {
-        if (!(SettingsFilesAreReplaced && copyRights(target, spare) && replaceFile(spare, target)) &&
-            overwrite(target, present, wanted, reason) != InPlace)
-            return false;
-    } else if (!keepBackup(path, wanted, "its writing was cut short, and another program has written it",
-                           spare + ".new", reason)) {
-        return false;
-    }
-    QFile::remove(spare);
-    return true;
+    return Outcome::Failed;
 }
 
 } // namespace zel

@@ -1,9 +1,10 @@
 #ifndef ZEL_WORKINGCOPY_H
 #define ZEL_WORKINGCOPY_H
 
+#include "SpareCopy.h"
+
 #include <QByteArray>
 #include <QString>
-#include <QStringList>
 #include <QVariant>
 
 #include <memory>
@@ -12,29 +13,24 @@ class QSettings;
 
 namespace zel {
 
-/// All values, except those with names that QSettings reads from a file but cannot look up.
+/// All values, by the names that QSettings writes: the group "[%general]" becomes "[%General]". Not those
+/// with names that it reads from a file but cannot look up.
 QVariantMap valuesOf(const QSettings& settings);
 
 /// A complete file beside the settings file, in a folder that only its user can enter. It is changed in place
 /// of the settings file, and takes its place when it is known to be good. Its maker holds the lock of the
-/// settings file.
+/// settings file, except while it is changed.
 class WorkingCopy
 {
 public:
     /// @param path  of the settings file, which may be a link
-    explicit WorkingCopy(const QString& path);
+    /// @param deadline  ends all waits; outlives the copy
+    WorkingCopy(const QString& path, const Deadline& deadline);
     /// Removes the copy, unless it has taken its place.
     ~WorkingCopy();
 
     /// The copy that a change is made to; null when none is.
     static WorkingCopy* Changing;
-
-    /// What put() has come to.
-    enum Outcome {
-        InPlace,
-        Outdated, ///< Another program has changed the file since it was copied. Nothing is changed.
-        Failed    ///< The reason is set. Nothing is changed, or a spare copy is left for finish().
-    };
 
     /// Copies the settings file, after a dated copy of it where a write loses something. Lines with
     /// serialised objects are left out. False, with the reason, when the file cannot be read or copied.
@@ -58,27 +54,21 @@ public:
     bool write(QString& reason);
 
     /// Lets the copy take the place of the settings file, with its rights.
-    /// @param keepsSpare  leaves a copy that finish() compares with the file
-    Outcome put(bool keepsSpare, QString& reason);
-
-    /// Ends a write that was killed, or that put() has kept a spare copy for. If the file is cut, the copy
-    /// takes its place; if another program has written the file since, the copy is kept as a dated one.
-    /// False, with the reason, when that is not possible.
-    /// @param givesRights  gives the file the rights of the copy, where both are the same
-    static bool finish(const QString& path, bool givesRights, QString& reason);
-
-    /// True when there is a write for finish().
-    static bool isUnfinished(const QString& path);
+    Outcome put(QString& reason);
 
 private:
     Q_DISABLE_COPY(WorkingCopy)
 
     QString nextName() const;
+    /// Writes the values and reads them. False, with the reason, when they are not the same.
+    /// @param isExact  compares more than the names
+    bool readAgain(bool isExact, QString& reason);
     Outcome replace(QString& reason) const;
 
     const QString m_path;
     const QString m_target; ///< The settings file behind all links.
     const QString m_folder; ///< Of the copy.
+    const Deadline& m_deadline;
     QString m_copy;
     QByteArray m_content; ///< Of the settings file, when it was copied.
     QByteArray m_result;  ///< Of the copy, once it is written.

@@ -10,12 +10,12 @@
 #include "base/FileLock.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFileInfo>
-#include <QStringList>
+#include <QSettings>
 
 #include <algorithm>
 #include <map>
+#include <vector>
 
 namespace zel {
 
@@ -32,33 +32,44 @@ private:
     Q_DISABLE_COPY(Visible)
 };
 
-/// The write of one file, which keeps others from writing it.
-class Locked
+/// Keeps other programs from writing a file.
+class SettingsLock
 {
 public:
-    explicit Locked(const QString& path)
-        : m_path(path)
-        , m_lock(path + ".lock")
+    SettingsLock(const QString& path, const Deadline& deadline)
+        : m_names(namesOf(path))
+        , m_deadline(deadline)
     {
+        QDir().mkpath(QFileInfo(path).path());
+        for (const QString& name : m_names)
+            m_locks.push_back(std::make_unique<FileLock>(name + ".lock"));
     }
 
-    /// Waits for others, and ends a write that is not finished. False, with the reason, when that fails.
-    /// @param givesRights  see WorkingCopy::finish()
-    bool take(QString& reason, bool givesRights = false)
+    /// Waits for others, and ends a write that was killed. False, with the reason, when that fails.
+    bool take(QString& reason)
     {
-        QDir().mkpath(QFileInfo(m_path).path());
-        const FileLock::State state = m_lock.take(LockTimeout);
-        if (state != FileLock::Free)
-            reason = lockReason(m_path + ".lock", state == FileLock::Held);
-        return state == FileLock::Free &&
-               (!WorkingCopy::isUnfinished(m_path) || WorkingCopy::finish(m_path, givesRights, reason));
+        for (const auto& lock : m_locks) {
+            const FileLock::State state = lock->take(m_deadline.remaining());
+            if (state != FileLock::Free) {
+                reason = lockReason(*lock, state == FileLock::Held);
+                release();
+                return false;
+            }
+        }
+        const SpareCopy spare(m_names.first());
+        return !spare.exists() || spare.finish(m_deadline, reason);
     }
 
-    void release() { m_lock.release(); }
+    void release()
+    {
+        for (const auto& lock : m_locks)
+            lock->release();
+    }
 
 private:
-    const QString m_path;
-    FileLock m_lock;
+    const QStringList m_names;
+    const Deadline& m_deadline;
+    std::vector<std::unique_ptr<FileLock>> m_locks;
 };
 
 void set(QSettings& settings, const QVariantMap& before, const QVariantMap& after)
@@ -70,6 +81,78 @@ void set(QSettings& settings, const QVariantMap& before, const QVariantMap& afte
         if (!before.contains(value.key()) || before.value(value.key()) != *value)
             settings.setValue(value.key(), *value);
 }
+
+/// The settings that a write is asked for. They only read the file. A change may set values in them all the
+/// same, as many a page does: QSettings cannot forget these, and has to write them.
+class SharedSettings
+{
+public:
+    SharedSettings(QSettings& settings, const Deadline& deadline)
+        : m_settings(settings)
+        , m_held(valuesOf(settings))
+        , m_deadline(deadline)
+    {
+    }
+
+    /// Unless the file has been written, they hold again what they held.
+    ~SharedSettings()
+    {
+        const QVariantMap shown = valuesOf(m_settings);
+        if (m_isWritten || shown == m_held)
+            return;
+        set(m_settings, shown, m_held);
+        QString ignored;
+        writePending(ignored);
+    }
+
+    const QVariantMap& held() const { return m_held; }
+
+    /// Sets in a copy of the file what the change has set here.
+    void carryOver(QSettings& copy) const { set(copy, m_held, valuesOf(m_settings)); }
+
+    /// To be called when the file is written, and not under its lock. False, with the reason, when it has not
+    /// stayed whole.
+    bool readWritten(QString& reason)
+    {
+        m_isWritten = true;
+        if (valuesOf(m_settings) != m_held)
+            return writePending(reason);
+        readAgain();
+        return true;
+    }
+
+private:
+    Q_DISABLE_COPY(SharedSettings)
+
+    void readAgain()
+    {
+        m_settings.sync();
+        ZelSettingsFile::UseFileEncoding(m_settings); // Reading the UTF-8 mark brings Qt's own codec back.
+    }
+
+    /// Lets them write, so that nothing is pending. They hold what the file holds, but QSettings of Qt 4 may
+    /// cut it all the same, and that of Qt 5 changes its rights.
+    bool writePending(QString& reason)
+    {
+        const QString target = resolvedPath(m_settings.fileName());
+        const SpareCopy spare(target);
+        SettingsLock lock(m_settings.fileName(), m_deadline);
+        if (!lock.take(reason) || (exists(target) && !spare.make(reason))) {
+            // They would wait without end, or write without protection.
+            QCoreApplication::removePostedEvents(&m_settings, QEvent::UpdateRequest);
+            return true;
+        }
+        lock.release();
+        readAgain();
+        spare.giveRights();
+        return lock.take(reason);
+    }
+
+    QSettings& m_settings;
+    const QVariantMap m_held;
+    const Deadline& m_deadline;
+    bool m_isWritten = false;
+};
 
 /// Sets what a damaged, empty or cut file has lost.
 void restore(const WorkingCopy& copy, const QVariantMap& held)
@@ -86,78 +169,88 @@ void restore(const WorkingCopy& copy, const QVariantMap& held)
             settings.setValue(value.key(), *value);
 }
 
-/// Puts back what the shared settings held, and lets them write it at once, so that nothing is pending. Not
-/// under the lock, which they take themselves.
-void rollBack(QSettings& shared, const QVariantMap& held)
+/// Keeps a dated copy of a file in which a list stands in place of a registered text, and now the text.
+/// False, with the reason, when that is not possible.
+bool keepLists(const WorkingCopy& copy, const QVariantMap& before, QString& reason)
 {
-    const QVariantMap shown = valuesOf(shared);
-    if (shown == held)
-        return;
-    set(shared, shown, held);
-    shared.sync();
-}
-
-/// Calls the change for the copy, and carries over what it has set in the shared settings. False when the
-/// change gave up; the shared settings then hold what they held.
-bool make(const ZelSettingsFile::Change& change, WorkingCopy& copy, QSettings& shared,
-          const QVariantMap& held, bool& isCarried, QString& error)
-{
-    const Visible visible(copy);
-    bool isMade = false;
-    try {
-        isMade = change(copy.settings(), error);
-    } catch (...) {
-        rollBack(shared, held);
-        throw;
-    }
-    const QVariantMap shown = valuesOf(shared);
-    isCarried = isCarried || shown != held;
-    if (isMade)
-        set(copy.settings(), held, shown);
-    else
-        rollBack(shared, held);
-    return isMade;
-}
-
-/// The shared settings read the file again. What the change has set in them they write first, because
-/// QSettings cannot forget it: a spare copy protects the file meanwhile.
-bool readWritten(QSettings& shared, Locked& lock, bool isCarried, QString& reason)
-{
-    lock.release();
-    shared.sync();
-    ZelSettingsFile::UseFileEncoding(shared); // Reading the UTF-8 mark brings Qt's own codec back.
-    if (!isCarried)
-        return true;
-    const bool isFinished = lock.take(reason, true);
-    lock.release();
-    shared.sync();
-    return isFinished;
+    const auto& registered = ZelSettingsRegistry::GetDefaultSettingsValues();
+    const bool losesList = std::any_of(registered.begin(), registered.end(), [&](const auto& entry) {
+        return isList(before.value(entry.first)) && !isList(copy.settings().value(entry.first));
+    });
+    return !losesList || copy.keepContent("it holds a list in place of a text", reason);
 }
 
 /// Drops the serialised objects of a file. False, with the reason, when that is not possible.
-bool dropObjects(const QString& path, QString& reason)
+bool dropObjects(const QString& path, const Deadline& deadline, QString& reason)
 {
-    Locked lock(path);
-    WorkingCopy copy(path);
+    SettingsLock lock(path, deadline);
+    WorkingCopy copy(path, deadline);
     return lock.take(reason) && copy.make(reason) && copy.write(reason) &&
-           copy.put(false, reason) == WorkingCopy::InPlace;
+           copy.put(reason) == Outcome::InPlace;
 }
 
-/// Makes a file one that QSettings can read. False, with the reason, when that is not possible.
+/// Makes a file one that QSettings can read, and reads it. False, with the reason, when that is not possible.
 /// @param shared  reads the file again if it has changed for that
-bool makeUsable(const QString& path, QString& reason, QSettings* shared = nullptr)
+bool makeUsable(const QString& path, const Deadline& deadline, QByteArray& content, QString& reason,
+                QSettings* shared = nullptr)
 {
-    QByteArray content;
-    if (WorkingCopy::isUnfinished(path) && !Locked(path).take(reason))
+    if (SpareCopy(resolvedPath(path)).exists() && !SettingsLock(path, deadline).take(reason))
         logWarning(QString("The write of \"%1\" that was cut short is not finished: %2").arg(path, reason));
-    if (!readFile(path, content, reason))
+    if (!readFile(path, content, reason, deadline))
         return false;
     if (!holdsObjects(content))
         return true;
-    const bool isDropped = dropObjects(path, reason);
-    if (isDropped && shared)
+    if (!dropObjects(path, deadline, reason))
+        return false;
+    if (shared)
         shared->sync();
-    return isDropped;
+    return readFile(path, content, reason, deadline);
+}
+
+/// ZelSettingsFile::Write() within a time.
+bool write(QSettings& settings, const ZelSettingsFile::Change& change, Deadline& deadline, QString& error)
+{
+    const QString path = settings.fileName();
+    QByteArray content;
+    QString reason;
+    const auto refuse = [&] { return refuseWriting(path, reason, error); };
+    if (WorkingCopy::Changing) {
+        reason = SettingsFileText::tr("it is being written already");
+        return refuse();
+    }
+    ZelSettingsFile::UseFileEncoding(settings);
+    if (!makeUsable(path, deadline, content, reason, &settings))
+        return refuse();
+    SharedSettings shared(settings, deadline);
+    for (Outcome outcome = Outcome::Outdated; outcome == Outcome::Outdated;) {
+        SettingsLock lock(path, deadline);
+        WorkingCopy copy(path, deadline);
+        if (!lock.take(reason) || !copy.make(reason))
+            return refuse();
+        const QVariantMap before = valuesOf(copy.settings());
+        restore(copy, shared.held());
+        // The change may take long, or let the shared settings write, which then wait for the lock.
+        lock.release();
+        const bool isMade = deadline.pauseFor([&] {
+            const Visible visible(copy);
+            return change(copy.settings(), error);
+        });
+        if (!isMade)
+            return false;
+        shared.carryOver(copy.settings());
+        if (valuesOf(copy.settings()) == before && !copy.isDamaged())
+            break;
+        if (!keepLists(copy, before, reason) || !lock.take(reason) || !copy.write(reason))
+            return refuse();
+        outcome = copy.put(reason);
+        if (outcome == Outcome::Outdated && deadline.remaining() == 0) {
+            reason = lockedReason();
+            outcome = Outcome::Failed;
+        }
+        if (outcome == Outcome::Failed)
+            return refuse();
+    }
+    return shared.readWritten(reason) || refuse();
 }
 
 } // namespace
@@ -176,8 +269,9 @@ void ZelSettingsFile::UseFileEncoding(QSettings& settings)
 
 bool ZelSettingsFile::IsUsable(const QString& path, QString& error)
 {
+    QByteArray content;
     QString reason;
-    return makeUsable(path, reason) || refuseReading(path, reason, error);
+    return makeUsable(path, Deadline(), content, reason) || refuseReading(path, reason, error);
 }
 
 bool ZelSettingsFile::IsWritable(const QString& path, QString& error)
@@ -203,96 +297,46 @@ bool ZelSettingsFile::ReadAgain(QSettings& settings, QString& error)
 
 bool ZelSettingsFile::Write(QSettings& settings, const Change& change, QString& error)
 {
-    const QString path = settings.fileName();
-    QString reason;
-    if (WorkingCopy::Changing)
-        return refuseWriting(path, SettingsFileText::tr("it is being written already"), error);
-    UseFileEncoding(settings);
-    Locked lock(path);
-    if (!makeUsable(path, reason, &settings))
-        return refuseWriting(path, reason, error);
-    const QVariantMap held = valuesOf(settings);
-    const auto refuse = [&](const QString& why) {
-        lock.release();
-        rollBack(settings, held);
-        return refuseWriting(path, why, error);
-    };
-    bool isCarried = false;
-    QElapsedTimer clock;
-    clock.start();
-    do {
-        // Gone before the lock is released for good.
-        auto copy = lock.take(reason) ? std::make_unique<WorkingCopy>(path) : nullptr;
-        if (!copy || !copy->make(reason))
-            return refuse(reason);
-        const QVariantMap before = valuesOf(copy->settings());
-        restore(*copy, held);
-        // The change may take long, or let the shared settings write, which then wait for the lock.
-        lock.release();
-        if (!make(change, *copy, settings, held, isCarried, error))
-            return false;
-        if (valuesOf(copy->settings()) == before && !copy->isDamaged() && !isCarried) {
-            settings.sync();
-            return true;
-        }
-        if (!lock.take(reason))
-            return refuse(reason);
-        const WorkingCopy::Outcome outcome =
-            copy->write(reason) ? copy->put(isCarried, reason) : WorkingCopy::Failed;
-        copy.reset();
-        if (outcome == WorkingCopy::InPlace)
-            return readWritten(settings, lock, isCarried, reason) || refuseWriting(path, reason, error);
-        if (outcome == WorkingCopy::Failed)
-            return refuse(reason);
-        lock.release();
-    } while (clock.elapsed() < LockTimeout);
-    return refuse(SettingsFileText::tr("another program has locked it"));
+    Deadline deadline;
+    return write(settings, change, deadline, error);
 }
 
 bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
 {
+    Deadline deadline;
     const QString path = settings.fileName();
     QByteArray content;
     QString reason;
-    if (!makeUsable(path, reason, &settings) || !readFile(path, content, reason))
+    if (!makeUsable(path, deadline, content, reason, &settings))
         return refuseReading(path, reason, error);
     settings.sync();
     UseFileEncoding(settings);
 
-    struct Value
-    {
-        QVariant stored;
-        QString text;
-    };
-    std::map<QString, Value> values;
+    std::map<QString, std::pair<QVariant, QString>> values; // What is stored, and what it becomes.
     bool needsWrite = !settingsDamage(content).isEmpty();
     const auto keep = [&](const auto& entry, const QVariant& stored, const QString& text) {
         values[entry.first] = {stored, text};
         needsWrite = needsWrite || needsRepair(stored, text);
     };
-    if (!validateSettings(settings, error, keep))
+    if (!deadline.pauseFor([&] { return validateSettings(settings, error, keep); }))
         return false;
-    const auto change = [&](QSettings& copy, QString& failure) {
-        bool losesList = false;
+    const auto change = [&values](QSettings& copy, QString& failure) {
         for (const auto& [key, rule] : ZelSettingsRegistry::GetDefaultSettingsValues()) {
             const auto& [defaultValue, validator] = rule;
+            auto& [known, text] = values[key];
             const QVariant stored = copy.value(key);
-            Value& value = values[key];
-            if (stored != value.stored) { // Another program has written it since.
-                value = {stored, stored.isValid() ? stored.toString() : defaultValue};
-                if (!validator(key, defaultValue, value.text, failure))
+            if (stored != known) { // Another program has written it since.
+                known = stored;
+                text = stored.isValid() ? stored.toString() : defaultValue;
+                if (!validator(key, defaultValue, text, failure))
                     return false;
             }
-            if (needsRepair(value.stored, value.text)) {
-                copy.setValue(key, value.text);
-                losesList = losesList || isList(stored);
-            }
+            if (needsRepair(stored, text))
+                copy.setValue(key, text);
         }
-        return !losesList ||
-               WorkingCopy::Changing->keepContent("it holds a list in place of a text", reason) ||
-               refuseWriting(path, reason, failure);
+        return true;
     };
-    return (!needsWrite || Write(settings, change, error)) && runEndChecks(settings, error);
+    return (!needsWrite || write(settings, change, deadline, error)) && runEndChecks(settings, error);
 }
 
 } // namespace zel

@@ -50,12 +50,16 @@ public:
         setPanelName(tr("Backups"));
         setRows({row(MinutesKey, &BackupModel::minutes, minutes, zel::EffectAtOnce,
                      tr("How often your work is saved. Without backups, set 0."))});
-        connect(minutes, QOverload<int>::of(&QSpinBox::valueChanged), this, &BackupPage::onEdited);
-        connect(reset, &QPushButton::clicked, this, &BackupPage::resetContent);
+        connect(minutes, SIGNAL(valueChanged(int)), SLOT(onMinutesChanged()));
+        connect(reset, SIGNAL(clicked()), SLOT(onResetClicked()));
     }
 
 Q_SIGNALS:
     void stateChanged();
+
+private Q_SLOTS:
+    void onMinutesChanged() { onEdited(); }
+    void onResetClicked() { resetContent(); }
 };
 
 /// The application object. As a plug-in, it lets the control center ask the user.
@@ -84,18 +88,19 @@ int main(int argc, char** argv)
         return 1;
     }
     const QString log = host.getSettings().value(QLatin1String(zel::keys::LogFile)).toString();
-    MTLogger::InstallFileHandler(log.toStdString(), host.isDiagModeEnable(), std::string());
+    MTLogger::InstallFileHandler(log.toUtf8().constData(), host.isDiagModeEnable(), std::string());
     QWidget window;
     BackupPage page(host);
     zelAction about(QLatin1String("about"), QLatin1String("About Qt"), nullptr);
-    QObject::connect(&about, &QAction::triggered, &QApplication::aboutQt);
+    QObject::connect(&about, SIGNAL(triggered()), &qt, SLOT(aboutQt()));
     zel::ZelControlCenter center(&host, nullptr, Qt::WindowFlags());
     center.settingsWidget()->setStyleSheet(
         kqDMIApplication::GetStylesheet(QLatin1String("ZelControlCenter")));
     center.registerCCAction(&about, QLatin1String("Settings"), false, false, true);
     center.registerSettingsPanel(&page);
     QPushButton view(QLatin1String("Menu"));
-    QObject::connect(&view, &QPushButton::clicked, [&] { center.openMenu(!center.isMenuOpen()); });
+    view.setCheckable(true);
+    QObject::connect(&view, SIGNAL(clicked(bool)), &center, SLOT(openMenu(bool)));
     QHBoxLayout layout(&window);
     layout.addWidget(&center);
     layout.addWidget(center.settingsWidget());

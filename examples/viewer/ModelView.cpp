@@ -127,7 +127,7 @@ std::vector<ModelView::PaintedFacet> ModelView::visibleFacets()
         QPolygonF outline;
         for (const QVector3D& point : {a, b, c})
             outline << centre + QPointF(point.x(), -point.y()) * scale;
-        facets.push_back({outline, shade(normal, mesh->along(i)), a.z() + b.z() + c.z()});
+        facets.push_back({outline, shade(normal, mesh->along(i)), float(a.z() + b.z() + c.z())});
     }
     std::sort(facets.begin(), facets.end(),
               [](const PaintedFacet& left, const PaintedFacet& right) { return left.depth < right.depth; });
@@ -136,9 +136,9 @@ std::vector<ModelView::PaintedFacet> ModelView::visibleFacets()
 
 QColor ModelView::shade(const QVector3D& normal, float along) const
 {
-    const double diffuse = 0.3 + 0.7 * std::max(0.0F, QVector3D::dotProduct(normal, Light));
+    const double diffuse = 0.3 + 0.7 * std::max<double>(0, QVector3D::dotProduct(normal, Light));
     const QVector3D half = (Light + QVector3D(0, 0, 1)).normalized();
-    const double specular = std::max(0.0F, QVector3D::dotProduct(normal, half));
+    const double specular = std::max<double>(0, QVector3D::dotProduct(normal, half));
     const double shine = m_highlights ? 0.6 * std::pow(specular, 30) : 0;
     const double hue = 0.58 + 0.08 * std::sin(2 * 3.14159265 * along);
     const QColor base = QColor::fromHsvF(hue, 0.65, 0.9);

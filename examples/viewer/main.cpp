@@ -33,11 +33,6 @@ std::string utf8(const QString& text)
     return text.toUtf8().constData();
 }
 
-void logMessage(QtMsgType, const QMessageLogContext&, const QString& text)
-{
-    MTLogger::Log("warning", utf8(text));
-}
-
 int showFatalError(const QString& error)
 {
     QMessageBox::information(
@@ -81,9 +76,10 @@ int runViewer(const QString& folder, bool once)
 
 int main(int argc, char** argv)
 {
-    qInstallMessageHandler(&logMessage);
+#if QT_VERSION >= QT_VERSION_CHECK(5, 6, 0)
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
     QApplication qt(argc, argv);
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     if (arguments.contains("--help")) {

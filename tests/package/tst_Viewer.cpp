@@ -9,8 +9,8 @@ const char* const Box = "Settings Modification";
 // What the user does, in the words of xdotool.
 const char* const ClickButton = "mousemove --window %1 24 24 click 1";
 const char* const ClickSettings = "mousemove --window %1 150 112 click 1";
-const char* const ClickEdgeDetect = "mousemove --window %1 320 292 click 1";
-const char* const TypeTriangles = "mousemove --window %1 650 395 click 1 key ctrl+a type 50000";
+const char* const ClickEdgeDetect = "mousemove --window %1 330 308 click 1";
+const char* const TypeTriangles = "mousemove --window %1 650 420 click 1 key ctrl+a type 50000";
 const char* const ClickApply = "mousemove --window %1 231 267 click 1";
 const char* const ClickView = "mousemove --window %1 900 600 click 1";
 const int ClickGuard = 500; // Milliseconds in which another click does not close the menu.

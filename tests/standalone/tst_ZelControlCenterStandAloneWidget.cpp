@@ -31,7 +31,7 @@ private Q_SLOTS:
         m_window.show();
         m_window.openMenu();
         QVERIFY(QTest::qWaitForWindowActive(&m_window));
-        QTRY_VERIFY(m_window.findChild<zel::ZelControlCenter*>()->isSettingsOpen());
+        QTRY_VERIFY(showsPages(*m_window.findChild<zel::ZelControlCenter*>()));
         QMap<int, QString> pages;
         for (const auto* page : m_window.findChildren<zel::ZelSettingsPanel*>())
             pages.insert(page->y(), page->getPanelName());

@@ -16,7 +16,7 @@ private Q_SLOTS:
             {"no group, no line end", "key=", ""},
             {"mark of the encoding", "\xEF\xBB\xBF[General]\nkey=\xC3\xBC\n", ""},
             {"line goes on", "key=\"a\\\nb\"\nother=\"\\\"\"\n", ""},
-            {"takes in the next line", "key=C:\\\nb=1\n", "line 2 cannot be read"},
+            {"takes in the next line", "key=C:\\\nb=1\n", "line 1 cannot be read"},
             {"cut value", "a=1 ; 2\npath=/a;/b\n", "line 2 cannot be read"},
             {"escapes", "a=\"\\x1f642\"\n", "line 1 cannot be read"},
             {"escapes of QSettings", "a=\\0\\x1f\\xfeff\\n\\\"\\\\,@Invalid()\n", ""},
@@ -32,6 +32,8 @@ private Q_SLOTS:
             {"quoted assignment", "\"a=1\"\n", "line 1 cannot be read"},
             {"escaped assignment", "; c:\\\na\\=1\n", "line 2 cannot be read"},
             {"group in a group", "[a]\nb\\c=1\n", ""},
+            {"name of another", "[%general]\na=1\n",
+             "line 2 has a key that stands twice, or a name that is not kept"},
             {"other note", "# note\n", "line 1 cannot be read"}};
         for (const auto& [name, text, expected] : rows)
             QVERIFY2(zel::settingsDamage(text) == expected, name);
@@ -68,6 +70,8 @@ private Q_SLOTS:
                                                            {"unknown escape", "x=\"@\\q" + end},
                                                            {"after a mark", "x=\"@\xEF\xBB\xBF" + end},
                                                            {"joined lines", "x=\"@Vari\\\r\nant(\\x0)\"\n"},
+                                                           {"oddly joined lines", "x=@Vari\\\n\rant(\\x0)\n"},
+                                                           {"behind quotes", "x=\"@\" Variant(\\x0)\n"},
                                                            {"time", "x=@DateTime(\\x0)\n"}};
         for (const auto& [name, line] : rows)
             QTest::newRow(name) << "a=1\n" + line + "b=@\n" << QByteArray("a=1\nb=@\n");

@@ -2,6 +2,7 @@
 #define ZEL_SHOWNPAGE_H
 
 #include "FakeApplication.h"
+#include "ZelControlCenter.h"
 #include "ZelSettingsRegistry.h"
 #include "ZelSettingsValidators.h"
 
@@ -22,6 +23,13 @@ inline void store(QSettings& settings, const SettingsTexts& texts)
 {
     for (const QString& key : texts.keys())
         settings.setValue(key, texts[key]);
+}
+
+/// True as soon as the drawer is open and shows its pages, which are laid out when the slide has ended.
+inline bool showsPages(zel::ZelControlCenter& controlCenter)
+{
+    const QWidget* pages = controlCenter.settingsWidget()->widget();
+    return controlCenter.isSettingsOpen() && pages->height() >= pages->sizeHint().height();
 }
 
 struct User

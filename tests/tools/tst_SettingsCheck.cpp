@@ -18,6 +18,7 @@ private:
         environment.insert("LC_ALL", "C");
         process.setProcessEnvironment(environment);
         process.start(TORVANE_SETTINGS_CHECK, arguments);
+        QTest::qWait(m_input.isEmpty() ? 0 : 200); // The names come when they are already waited for.
         process.write(m_input);
         process.closeWriteChannel();
         process.waitForFinished();

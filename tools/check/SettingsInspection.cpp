@@ -61,10 +61,10 @@ QString reasonFor(const Registered& entry, const QVariant& oldValue, const QStri
 }
 
 /// Runs passes over the values of a file, without storing them, until one changes nothing, and then calls
-/// take(entry of the registry, stored value, resulting text). False, with the error text set, when a
+/// visit(entry of the registry, stored value, resulting text). False, with the error text set, when a
 /// validator gives up.
-template <typename Take>
-bool settleValues(const QSettings& settings, QString& error, Take take)
+template <typename Visit>
+bool settleValues(const QSettings& settings, QString& error, Visit visit)
 {
     std::map<QString, std::pair<QVariant, QString>> values;
     bool isChanging = false;
@@ -86,7 +86,7 @@ bool settleValues(const QSettings& settings, QString& error, Take take)
         error = "The default of a setting is not valid";
     for (const Registered& entry : ZelSettingsRegistry::GetDefaultSettingsValues()) {
         if (isValid)
-            take(entry, values[entry.first].first, values[entry.first].second);
+            visit(entry, values[entry.first].first, values[entry.first].second);
     }
     return isValid;
 }

@@ -3,7 +3,6 @@
 #include "SettingsBackup.h"
 #include "SettingsKeys.h"
 #include "SettingsValidation.h"
-#include "WorkingCopy.h"
 #include "ZelSettingsCatalogue.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsRegistry.h"
@@ -97,14 +96,16 @@ Name decoded(const QByteArray& name)
 /// Adds the names on standard input.
 void readNames(Options& options)
 {
-    QFile input;
-    input.open(stdin, QIODevice::ReadOnly);
-    const QByteArray list = input.readAll();
+    // Not by QFile, which reads without waiting at first, and leaves the stream with that error.
+    QByteArray list;
+    char part[4096];
+    while (const size_t length = std::fread(part, 1, sizeof part, stdin))
+        list.append(part, static_cast<int>(length));
     for (const QByteArray& name : list.split(list.contains('\0') ? '\0' : '\n')) {
         if (!name.isEmpty())
             options.files.push_back(decoded(name));
     }
-    if (std::ferror(stdin)) { // QFile does not tell.
+    if (std::ferror(stdin)) {
         std::fputs("torvane-settings-check: the list of files cannot be read\n", stderr);
         options.isComplete = false;
     }
@@ -148,17 +149,12 @@ bool parse(const std::vector<Name>& arguments, Options& options)
 /// Stores the new values, with that a migration sets, and runs the pass.
 bool runPass(const QString& path, const std::vector<SettingsChange>& changes, QString& error)
 {
-    const bool losesList =
-        std::any_of(changes.begin(), changes.end(), [](const auto& change) { return isList(change.old); });
-    const auto store = [&](QSettings& settings, QString& failure) {
+    const auto store = [&](QSettings& settings, QString&) {
         for (const SettingsChange& change : changes) {
             if (settings.value(change.key) == change.old) // Else another program has just written it.
                 settings.setValue(change.key, change.newText);
         }
-        QString reason;
-        return !losesList ||
-               WorkingCopy::Changing->keepContent("it holds a list in place of a text", reason) ||
-               refuseWriting(path, reason, failure);
+        return true;
     };
     return (changes.empty() || ZelSettingsFile::Write(*ZelSettingsFile::Open(path), store, error)) &&
            ZelSettingsFile::Repair(*ZelSettingsFile::Open(path), error);

@@ -1,0 +1,101 @@
+#include "SpareCopy.h"
+
+#include "FileAccess.h"
+#include "SettingsBackup.h"
+#include "base/SystemFiles.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace zel {
+
+SpareCopy::SpareCopy(const QString& target)
+    : m_target(target)
+    , m_path(target + ".unfinished")
+{
+}
+
+bool SpareCopy::exists() const
+{
+    const QFileInfo file(m_path);
+    return file.isFile() && !file.isSymLink();
+}
+
+bool SpareCopy::make(QString& reason) const
+{
+    const QString incomplete = m_path + ".new";
+    QByteArray content;
+    if (!readFile(m_target, content, reason) || !writeFile(incomplete, content, reason))
+        return false;
+    if (copyRights(m_target, incomplete))
+        return keep(incomplete, reason);
+    reason = systemError();
+    QFile::remove(incomplete);
+    return false;
+}
+
+bool SpareCopy::keep(const QString& file, QString& reason) const
+{
+    // A file that still has this time has not been written since.
+    if (setTime(file, stampOf(m_target).time) && replaceFile(file, m_path))
+        return true;
+    reason = systemError();
+    return false;
+}
+
+Outcome SpareCopy::overwrite(const QByteArray& expected, const QByteArray& content, const Deadline& deadline,
+                             QString& reason) const
+{
+    QFile file(m_target);
+    QtSettingsLock lock(file, QtSettingsLock::Write);
+    QByteArray present;
+    if (!openWhenFree(file, QIODevice::ReadWrite | QIODevice::Unbuffered))
+        reason = file.errorString();
+    else if (!lock.take(deadline.remaining()))
+        reason = lockedReason();
+    else if (readOpenFile(file, present, reason)) {
+        if (present != expected)
+            return Outcome::Outdated;
+        const FileStamp former = stampOf(m_target);
+        const bool isWritten =
+            file.resize(0) && file.seek(0) && file.write(content) == content.size() && syncToDisk(file);
+        // Where there is no room for it, the spare copy still has its own.
+        const bool isInPlace = isWritten || replaceFile(m_path, m_target);
+        makeLater(m_target, former);
+        if (isInPlace)
+            return Outcome::InPlace;
+        reason = systemError();
+    }
+    return Outcome::Failed;
+}
+
+bool SpareCopy::finish(const Deadline& deadline, QString& reason) const
+{
+    QByteArray wanted, present;
+    if (!readFile(m_path, wanted, reason, deadline) || !readFile(m_target, present, reason, deadline))
+        return false;
+    const bool isCut = present != wanted && wanted.startsWith(present);
+    if (isCut) {
+        if (!(SettingsFilesAreReplaced && copyRights(m_target, m_path) && replaceFile(m_path, m_target)) &&
+            overwrite(present, wanted, deadline, reason) != Outcome::InPlace)
+            return false;
+    } else if (present != wanted && stampOf(m_target).time != stampOf(m_path).time) {
+        if (!keepBackup(m_target, wanted, "its writing was cut short, and another program has written it",
+                        m_path + ".new", reason))
+            return false;
+    }
+    remove();
+    return true;
+}
+
+void SpareCopy::giveRights() const
+{
+    copyRights(m_path, m_target);
+}
+
+void SpareCopy::remove() const
+{
+    QFile::remove(m_path);
+}
+
+} // namespace zel

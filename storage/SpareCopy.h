@@ -1,0 +1,59 @@
+#ifndef ZEL_SPARECOPY_H
+#define ZEL_SPARECOPY_H
+
+#include <QByteArray>
+#include <QString>
+
+namespace zel {
+
+class Deadline;
+
+/// What putting a new content in place has come to.
+enum class Outcome {
+    InPlace,
+    Outdated, ///< Another program has changed the file since it was copied. Nothing is changed.
+    Failed    ///< The reason is set. Nothing is changed, or a spare copy is left for SpareCopy::finish().
+};
+
+/// A complete copy that stands beside a file, "Settings.ini.unfinished", while the file is written in place:
+/// by QSettings, or because QSettings locks the file itself. It has what the file holds in the end. If the
+/// process is killed meanwhile, the file is brought to its end from it. The caller holds the lock of the
+/// file.
+class SpareCopy
+{
+public:
+    /// @param target  the file, which is no link
+    explicit SpareCopy(const QString& target);
+
+    /// True while there is one: now, or because a process was killed.
+    bool exists() const;
+
+    /// Makes one of what the file holds, with its rights. False, with the reason, when that is not possible.
+    bool make(QString& reason) const;
+
+    /// Makes another file the spare copy. False, with the reason, when that is not possible.
+    bool keep(const QString& file, QString& reason) const;
+
+    /// Writes over the file, which other programs may have opened already, waiting to write to it.
+    /// @param expected  what the file holds unless another program has written it
+    /// @param content  what the spare copy holds
+    Outcome overwrite(const QByteArray& expected, const QByteArray& content, const Deadline& deadline,
+                      QString& reason) const;
+
+    /// Brings the file to its end if it is cut, and removes the spare copy. If another program has written
+    /// the file since, the spare copy becomes a dated one. False, with the reason, when that is not possible.
+    bool finish(const Deadline& deadline, QString& reason) const;
+
+    /// Gives the file the rights that it had when the spare copy was made.
+    void giveRights() const;
+
+    void remove() const;
+
+private:
+    const QString m_target;
+    const QString m_path;
+};
+
+} // namespace zel
+
+#endif

@@ -1,0 +1,124 @@
+#include "FakePage.h"
+#include "Files.h"
+#include "SettingsPages.h"
+#include "ZelSettingsRegistry.h"
+#include "ZelSettingsValidators.h"
+
+#include "platform/MTLogger.h"
+
+#include <QtTest>
+
+#include <map>
+#include <memory>
+
+using zel::SettingsPages;
+
+Q_DECLARE_METATYPE(std::function<void(SettingsPages&)>)
+
+/// Pages without a window.
+class tst_SettingsPages : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_settings = std::make_unique<QSettings>(m_folder.path() + "/Settings.ini", QSettings::IniFormat);
+        m_pages = std::make_unique<SettingsPages>(nullptr);
+        for (const char* name : {"A", "B", "C"}) {
+            m_page[name] = std::make_unique<FakePage>(name, *m_settings, m_calls);
+            QVERIFY(m_pages->add(m_page[name].get()) && !m_pages->add(m_page[name].get()));
+        }
+        m_calls.clear();
+    }
+
+    void appliesInOrder()
+    {
+        bool restart = false;
+        QString error;
+        QSignalSpy changed(m_pages.get(), SIGNAL(stateChanged()));
+        QVERIFY(!m_pages->hasModifications() && !m_pages->mark() && !m_pages->canReset());
+        m_page["A"]->needsRestart = true;
+        m_page["B"]->edit();
+        QVERIFY(m_pages->hasModifications() && m_pages->mark() && m_pages->canReset());
+        QVERIFY(m_page["B"]->getActionWidget()->toolTip() != m_page["A"]->getActionWidget()->toolTip());
+        QVERIFY(m_pages->apply(*m_settings, restart, error) && restart && error.isEmpty());
+        QCOMPARE(m_calls.join(","), QString("A apply,B apply,C apply"));
+        QVERIFY(m_pages->remove(m_page["B"].get()) && !m_pages->remove(m_page["B"].get()));
+        m_pages->reset();
+        QCOMPARE(QStringList(m_calls.mid(3)).join(","), QString("A reset,C reset"));
+        m_page["B"]->edit();
+        QCOMPARE(changed.count(), 1);
+    }
+
+    void pagesMayLeaveWhileTheyAreAsked_data()
+    {
+        QTest::addColumn<std::function<void(SettingsPages&)>>("ask");
+        QTest::addColumn<QString>("leaving");
+        const std::pair<const char*, std::function<void(SettingsPages&)>> questions[] = {
+            {"modifications", [](SettingsPages& pages) { pages.hasModifications(); }},
+            {"reset", [](SettingsPages& pages) { pages.canReset(), pages.reset(); }},
+            {"marks", [](SettingsPages& pages) { pages.mark(); }},
+            {"discard", [](SettingsPages& pages) { pages.discard(); }},
+            {"load",
+             [this](SettingsPages& pages) {
+                 QString error;
+                 pages.load(*m_settings, error);
+             }},
+            {"apply", [this](SettingsPages& pages) {
+                 bool restart;
+                 QString error;
+                 pages.apply(*m_settings, restart, error);
+             }}};
+        for (const auto& [name, ask] : questions)
+            for (const char* leaving : {"A", "B", "C", "all", "list"})
+                QTest::newRow(qPrintable(QString("%1: %2 leaves").arg(name, leaving))) << ask << leaving;
+    }
+
+    void pagesMayLeaveWhileTheyAreAsked()
+    {
+        QFETCH(std::function<void(SettingsPages&)>, ask);
+        QFETCH(QString, leaving);
+        m_page["C"]->modified = true;
+        m_page["A"]->whenAsked = m_page["B"]->whenAsked = [&] {
+            if (leaving == "list")
+                m_pages.reset();
+            else if (leaving == "all")
+                m_page.clear();
+            else
+                m_page.erase(leaving);
+        };
+        ask(*m_pages);
+        const bool others = leaving != "list" && leaving != "all";
+        QCOMPARE(static_cast<int>(m_page.size()), leaving == "list" ? 3 : others ? 2 : 0);
+        QCOMPARE(m_pages ? (*m_pages).all()->size() : -1, leaving == "list" ? -1 : others ? 2 : 0);
+        m_page.clear();
+    }
+
+    void unregisteredKeysAreLogged()
+    {
+        struct : FakePage
+        {
+            using FakePage::FakePage;
+            using ZelSettingsPanel::setSettingsKeys;
+        } page("Folders", *m_settings, m_calls);
+        page.setSettingsKeys({"known", "unknown"});
+        zel::ZelSettingsRegistry::RegisterSetting("known", "1", &zel::ZelSettingsValidators::noOp);
+        MTLogger::InstallFileHandler((m_folder.path() + "/log.txt").toStdString(), false, "");
+        m_pages->add(&page);
+        MTLogger::RemoveFileHandler();
+        zel::ZelSettingsRegistry::ClearSettingsValues();
+        const QString log = contentOf(m_folder.path() + "/log.txt");
+        QVERIFY2(log.contains("\"Folders\"") && log.contains("not registered: unknown"), qPrintable(log));
+    }
+
+private:
+    QTemporaryDir m_folder;
+    QStringList m_calls;
+    std::unique_ptr<QSettings> m_settings;
+    std::map<QString, std::unique_ptr<FakePage>> m_page;
+    std::unique_ptr<SettingsPages> m_pages;
+};
+
+QTEST_MAIN(tst_SettingsPages)
+#include "tst_SettingsPages.moc"
