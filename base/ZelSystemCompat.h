@@ -11,7 +11,6 @@
 #    if !defined(NOMINMAX)
 #        define NOMINMAX
 #    endif
-#    include <shellapi.h>
 #    include <windows.h>
 #endif
 

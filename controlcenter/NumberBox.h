@@ -3,6 +3,7 @@
 
 #include "WheelGuard.h"
 
+#include <QEvent>
 #include <QLocale>
 #include <QString>
 #include <QValidator>
@@ -27,6 +28,14 @@ public:
     QString shownText(double number) const { return this->prefix() + nearestText(number) + this->suffix(); }
 
 protected:
+    /// Shows the number as the new locale does.
+    void changeEvent(QEvent* event) override
+    {
+        WheelGuard<Box>::changeEvent(event);
+        if (event->type() == QEvent::LocaleChange)
+            this->setValue(this->value());
+    }
+
     /// Lets numbers outside the range be typed.
     QValidator::State validate(QString& input, int& position) const override
     {

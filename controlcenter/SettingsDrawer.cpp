@@ -27,23 +27,21 @@ void polishWhenShown(QWidget& tree)
         QCoreApplication::removePostedEvents(widget, QEvent::PolishRequest);
 }
 
-/// Polishes and measures some widgets, from the leaves to the root. True when there was nothing left to do.
+/// Polishes and measures some widgets, from the leaves to the root. True when nothing is left to do.
 bool preparePartly(const QWidget& tree)
 {
     const QList<QWidget*> descendants = tree.findChildren<QWidget*>();
-    bool wasReady = true;
     QElapsedTimer clock;
     clock.start();
     for (int index = descendants.size() - 1; index >= 0; --index) {
         if (clock.elapsed() >= PreparingTime)
             return false;
         QWidget& widget = *descendants[index];
-        wasReady = wasReady && widget.testAttribute(Qt::WA_WState_Polished);
         widget.ensurePolished();
         if (widget.layout())
             widget.layout()->totalSizeHint(); // Which it keeps.
     }
-    return wasReady;
+    return true;
 }
 
 } // namespace

@@ -1,14 +1,36 @@
 #include "ZelSettingsPanel.h"
 
 #include "LanguageFollower.h"
+#include "SignalBlock.h"
 #include "StyleSheetPause.h"
 #include "ZelSettingsFile.h"
 
 #include "platform/kqDMIApplication.h"
 
+#include <QComboBox>
 #include <QLocale>
+#include <QMap>
 
 namespace zel {
+
+namespace {
+
+/// Forms of Qt 4.8 fill their combo boxes again, which loses the current item.
+void translateKeepingItems(const QWidget& page, const std::function<void()>& translate)
+{
+    QMap<QComboBox*, int> items;
+    QList<QWidget*> boxes;
+    for (QComboBox* box : page.findChildren<QComboBox*>()) {
+        items.insert(box, box->currentIndex());
+        boxes << box;
+    }
+    const SignalBlock block(boxes);
+    translate();
+    for (QComboBox* box : items.keys())
+        box->setCurrentIndex(items.value(box));
+}
+
+} // namespace
 
 ZelSettingsPanel::ZelSettingsPanel(kqDMIApplication* application, QSettings& settings, QWidget* parent,
                                    Qt::WindowFlags flags)
@@ -86,13 +108,15 @@ void ZelSettingsPanel::unregisterCCActionByName(const QString&)
 void ZelSettingsPanel::followLanguage(const std::function<void()>& setTexts)
 {
     setTexts();
-    onLanguageChange(setTexts);
+    onLanguageChange([] {}, setTexts);
 }
 
-void ZelSettingsPanel::onLanguageChange(const std::function<void()>& setTexts)
+void ZelSettingsPanel::onLanguageChange(const std::function<void()>& translateForm,
+                                        const std::function<void()>& setTexts)
 {
-    new LanguageFollower(this, [this, setTexts] {
+    new LanguageFollower(this, [this, translateForm, setTexts] {
         setLocaleOfLanguage();
+        translateKeepingItems(*this, translateForm);
         setTexts();
     });
 }

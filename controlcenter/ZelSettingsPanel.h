@@ -103,10 +103,7 @@ protected:
     void followLanguage(Form& form, const std::function<void()>& setTexts)
     {
         setTexts(); // Setting the form up has translated it.
-        onLanguageChange([this, &form, setTexts] {
-            form.retranslateUi(this);
-            setTexts();
-        });
+        onLanguageChange([this, &form] { form.retranslateUi(this); }, setTexts);
     }
 
     /// Sets the style sheet that kqDMIApplication::GetStylesheet() has under this name. Call it after the
@@ -114,7 +111,7 @@ protected:
     void setNamedStyleSheet(const QString& name);
 
 private:
-    void onLanguageChange(const std::function<void()>& setTexts);
+    void onLanguageChange(const std::function<void()>& translateForm, const std::function<void()>& setTexts);
     void setLocaleOfLanguage();
 
     kqDMIApplication* m_application;

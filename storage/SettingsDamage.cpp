@@ -177,7 +177,7 @@ private:
                 return true;
             }
             if (character == '"' || character == ';' ||
-                (character == '\\' && QByteArray("\\=\n\r").contains(m_text.mid(m_at + 1, 1))))
+                (character == '\\' && QByteArray("=\n\r").contains(m_text.mid(m_at + 1, 1))))
                 return false;
         }
         return false;
@@ -207,6 +207,8 @@ bool isReadable(const QByteArray& text)
 /// True when an object begins behind a text in a decoded value.
 bool holdsObject(QString decoded, const QString& before)
 {
+    if (!decoded.contains('@'))
+        return false;
     // QSettings skips blanks behind a quotation mark, and Qt's own codec the mark of the encoding.
     decoded.remove(' ').remove('\t').remove(QString::fromLatin1(Utf8Mark));
     for (const char* const object : Objects)
@@ -257,15 +259,18 @@ QString decodedName(const QByteArray& name)
     QString decoded;
     for (int i = 0; i < name.size(); ++i) {
         const char character = name.at(i);
-        const bool isLong = name.mid(i + 1, 1) == "U"; // %U1f42 in place of %20.
-        bool isHex = false;
-        const ushort code = name.mid(i + (isLong ? 2 : 1), isLong ? 4 : 2).toUShort(&isHex, 16);
-        if (character == '%' && isHex) {
-            decoded += QChar(code);
-            i += isLong ? 5 : 2;
-        } else {
-            decoded += character == '\\' ? QChar('/') : QChar(static_cast<uchar>(character));
+        bool isEscape = false;
+        if (character == '%') {
+            const bool isLong = name.mid(i + 1, 1) == "U"; // %U1f42 in place of %20.
+            const QByteArray digits = isLong ? name.mid(i + 2, 4) : name.mid(i + 1, 2);
+            const ushort code = digits.toUShort(&isEscape, 16);
+            if (isEscape) {
+                decoded += QChar(code);
+                i += digits.size() + (isLong ? 1 : 0);
+            }
         }
+        if (!isEscape)
+            decoded += character == '\\' ? QChar('/') : QChar(static_cast<uchar>(character));
     }
     return decoded;
 }
@@ -274,15 +279,21 @@ QString decodedName(const QByteArray& name)
 class Keys
 {
 public:
+    explicit Keys(bool hasMark)
+        : m_isMarked(hasMark)
+    {
+    }
+
     /// True when an earlier line has the same key, or QSettings writes the key under another name or
     /// does not find it.
     bool isLost(const Line& line)
     {
-        const QByteArray& name = line.name;
+        const QByteArray& encoded = line.name;
         if (SettingsIgnoreCase &&
-            std::any_of(name.begin(), name.end(), [](uchar byte) { return byte > 127; }))
+            std::any_of(encoded.begin(), encoded.end(), [](uchar byte) { return byte > 127; }))
             return true;
         if (line.isGroup) {
+            m_isMarked = false;
             const QByteArray plain = line.name.toLower();
             m_group = decodedName(plain == "%general" ? line.name.mid(1) : line.name) + '/';
             if (plain == "general")
@@ -291,15 +302,17 @@ public:
         }
         if (line.value.isNull()) // It has no setting.
             return false;
-        const QString key = m_group + decodedName(line.name);
+        const QString name = decodedName(line.name), key = m_group + name;
         const QString compared = SettingsIgnoreCase ? key.toLower() : key;
         const bool isKnown = m_keys.contains(compared);
         m_keys.insert(compared);
-        return isKnown || key.startsWith('/') ||
+        // Before the first group QSettings takes the mark of the encoding for a part of the name.
+        return isKnown || m_isMarked || key.startsWith('/') || name.endsWith('/') ||
                (key.startsWith("general/", Qt::CaseInsensitive) && !key.startsWith("General/"));
     }
 
 private:
+    bool m_isMarked;
     QString m_group;
     QSet<QString> m_keys;
 };
@@ -331,13 +344,12 @@ QString settingsDamage(const QByteArray& text)
     if (!isUtf8(text))
         return "it is not UTF-8 text";
     Line line;
-    Keys keys;
+    Keys keys(text.startsWith(Utf8Mark));
     for (Scanner scanner(text); scanner.next(line);) {
         const char* const damage = !line.isReadable || isCut(line.value)  ? "cannot be read"
                                    : holdsObject(line.value, ElementMark) ? "holds a serialised object"
-                                   : keys.isLost(line)
-                                       ? "has a key that stands twice, or a name that is not kept"
-                                       : nullptr;
+                                   : keys.isLost(line)                    ? "has a key twice, or a lost name"
+                                                                          : nullptr;
         if (damage)
             return QString("line %1 %2").arg(line.number).arg(damage);
     }

@@ -14,6 +14,8 @@
 #include <QSettings>
 #include <QStringList>
 
+#include <algorithm>
+
 namespace zel {
 
 namespace {
@@ -38,15 +40,24 @@ QMap<QString, QString> textsOf(const QSettings& settings)
     return texts;
 }
 
+/// True when a registered key is gone.
+bool lacksRegistered(const QVariantMap& values, const QVariantMap& held)
+{
+    const auto& registered = ZelSettingsRegistry::GetDefaultSettingsValues();
+    return std::any_of(registered.begin(), registered.end(), [&](const auto& entry) {
+        return held.contains(entry.first) && !values.contains(entry.first);
+    });
+}
+
 /// Removes the folder of a copy, and nothing that is not ours.
 void removeFolder(const QString& path)
 {
     if (QDir().rmdir(path) || QFileInfo(path).isSymLink())
         return;
     QDir folder(path);
-    for (const QString& name :
-         folder.entryList(QStringList("[0-9]*.ini*"), QDir::Files | QDir::System | QDir::Hidden))
-        folder.remove(name);
+    for (const QString& name : folder.entryList(QDir::Files | QDir::System | QDir::Hidden))
+        if (name.at(0).isDigit())
+            folder.remove(name);
     QDir().rmdir(path);
 }
 
@@ -55,9 +66,10 @@ void removeOrphans(const QString& target)
 {
     const QFileInfo file(target);
     const QString stem = file.fileName() + FolderMark;
-    for (const QString& name : file.dir().entryList(QStringList(stem + "*"), QDir::Dirs | QDir::Hidden)) {
+    for (const QString& name : file.dir().entryList(QDir::Dirs | QDir::Hidden)) {
         const qint64 process = name.mid(stem.size()).toLongLong();
-        if (process == QCoreApplication::applicationPid() || !isProcessRunning(process))
+        if (name.startsWith(stem) &&
+            (process == QCoreApplication::applicationPid() || !isProcessRunning(process)))
             removeFolder(file.dir().filePath(name));
     }
 }
@@ -71,7 +83,7 @@ QVariantMap valuesOf(const QSettings& settings)
     for (const QString& key : settings.allKeys()) {
         const bool isGeneral = key.startsWith(general, Qt::CaseInsensitive);
         if (!key.isEmpty() && !key.startsWith('/') && !key.endsWith('/') && !key.contains("//") &&
-            settings.contains(key))
+            !key.startsWith(QString::fromLatin1(Utf8Mark)) && settings.contains(key))
             values.insert(isGeneral ? general + key.mid(general.size()) : key, settings.value(key));
     }
     return values;
@@ -103,7 +115,7 @@ QString WorkingCopy::nextName() const
     return QString("%1/%2.ini").arg(m_folder).arg(++number);
 }
 
-bool WorkingCopy::make(QString& reason)
+bool WorkingCopy::make(const QVariantMap& held, QString& reason)
 {
     m_exists = exists(m_target);
     if (m_exists && !mayReplace(m_target)) {
@@ -129,20 +141,32 @@ bool WorkingCopy::make(QString& reason)
     if (!writeFile(m_copy, text, reason))
         return false;
     m_settings = ZelSettingsFile::Open(m_copy);
-    if (m_damaged) { // The change begins with what QSettings writes of it.
-        const QVariantMap values = valuesOf(*m_settings);
-        m_copy = nextName();
-        m_settings = ZelSettingsFile::Open(m_copy);
-        for (auto value = values.constBegin(); value != values.constEnd(); ++value)
-            m_settings->setValue(value.key(), *value);
-        m_settings->setValue(EndKey, true);
-        if (!writeFile(m_copy, QByteArray(), reason) || !readAgain(false, reason))
-            return false;
-    }
-    if (!m_settings->contains(EndKey)) {
+    if (!m_damaged && !m_settings->contains(EndKey)) {
         reason = SettingsFileText::tr("it cannot be read to its end");
         return false;
     }
+    m_settings->remove(EndKey);
+    QVariantMap values = valuesOf(*m_settings);
+    if (m_damaged || m_content.isEmpty() || lacksRegistered(values, held)) {
+        for (auto value = held.constBegin(); value != held.constEnd(); ++value) {
+            if (!values.contains(value.key())) {
+                values.insert(value.key(), *value);
+                m_damaged = true;
+            }
+        }
+    }
+    return !m_damaged || makeOf(values, reason);
+}
+
+bool WorkingCopy::makeOf(const QVariantMap& values, QString& reason)
+{
+    m_copy = nextName();
+    m_settings = ZelSettingsFile::Open(m_copy);
+    for (auto value = values.constBegin(); value != values.constEnd(); ++value)
+        m_settings->setValue(value.key(), *value);
+    m_settings->setValue(EndKey, true);
+    if (!writeFile(m_copy, QByteArray(), reason) || !readAgain(false, reason))
+        return false;
     m_settings->remove(EndKey); // A change: what was just read is written again, even if it lacks something.
     return true;
 }

@@ -34,16 +34,17 @@ public:
 
     /// Copies the settings file, after a dated copy of it where a write loses something. Lines with
     /// serialised objects are left out. False, with the reason, when the file cannot be read or copied.
-    bool make(QString& reason);
+    /// @param held  what the settings hold: what a damaged, empty or cut file has lost comes back from it. A
+    ///     file that lacks a registered key counts as cut.
+    bool make(const QVariantMap& held, QString& reason);
 
     /// Of the copy. Valid from a successful make() on.
     QSettings& settings() const { return *m_settings; }
 
     /// Of the settings file, as it was given.
     const QString& path() const { return m_path; }
-    /// The content of the settings file when it was copied.
-    const QByteArray& content() const { return m_content; }
-    /// True when QSettings could not write the content again without a loss.
+    /// True when the file must be written even if the change sets nothing: QSettings could not write its
+    /// content again without a loss, or has lost some.
     bool isDamaged() const { return m_damaged; }
 
     /// Keeps the content of the settings file as a dated copy; see keepBackup().
@@ -60,6 +61,8 @@ private:
     Q_DISABLE_COPY(WorkingCopy)
 
     QString nextName() const;
+    /// Begins with what QSettings writes of values.
+    bool makeOf(const QVariantMap& values, QString& reason);
     /// Writes the values and reads them. False, with the reason, when they are not the same.
     /// @param isExact  compares more than the names
     bool readAgain(bool isExact, QString& reason);

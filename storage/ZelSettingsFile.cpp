@@ -154,21 +154,6 @@ private:
     bool m_isWritten = false;
 };
 
-/// Sets what a damaged, empty or cut file has lost.
-void restore(const WorkingCopy& copy, const QVariantMap& held)
-{
-    QSettings& settings = copy.settings();
-    const auto& registered = ZelSettingsRegistry::GetDefaultSettingsValues();
-    const bool isCut = std::any_of(registered.begin(), registered.end(), [&](const auto& entry) {
-        return held.contains(entry.first) && !settings.contains(entry.first);
-    });
-    if (!copy.isDamaged() && !copy.content().isEmpty() && !isCut)
-        return;
-    for (auto value = held.constBegin(); value != held.constEnd(); ++value)
-        if (!settings.contains(value.key()))
-            settings.setValue(value.key(), *value);
-}
-
 /// Keeps a dated copy of a file in which a list stands in place of a registered text, and now the text.
 /// False, with the reason, when that is not possible.
 bool keepLists(const WorkingCopy& copy, const QVariantMap& before, QString& reason)
@@ -185,7 +170,7 @@ bool dropObjects(const QString& path, const Deadline& deadline, QString& reason)
 {
     SettingsLock lock(path, deadline);
     WorkingCopy copy(path, deadline);
-    return lock.take(reason) && copy.make(reason) && copy.write(reason) &&
+    return lock.take(reason) && copy.make(QVariantMap(), reason) && copy.write(reason) &&
            copy.put(reason) == Outcome::InPlace;
 }
 
@@ -225,10 +210,9 @@ bool write(QSettings& settings, const ZelSettingsFile::Change& change, Deadline&
     for (Outcome outcome = Outcome::Outdated; outcome == Outcome::Outdated;) {
         SettingsLock lock(path, deadline);
         WorkingCopy copy(path, deadline);
-        if (!lock.take(reason) || !copy.make(reason))
+        if (!lock.take(reason) || !copy.make(shared.held(), reason))
             return refuse();
         const QVariantMap before = valuesOf(copy.settings());
-        restore(copy, shared.held());
         // The change may take long, or let the shared settings write, which then wait for the lock.
         lock.release();
         const bool isMade = deadline.pauseFor([&] {

@@ -168,6 +168,7 @@ private Q_SLOTS:
             QCOMPARE(notices.count, 2);
             QVERIFY(canApply() && page.hasModifications() && m_controlCenter->hasModifications());
             QVERIFY2(error->isVisible() && error->text().contains(file), qPrintable(error->text()));
+            QCOMPARE(int(m_application->manager.cacheSizes.last()), size->value() - 1); // The stored one.
             QVERIFY(clear());
             QTest::mouseClick(button("applyButton"), Qt::LeftButton);
             QVERIFY(!canApply() && error->isHidden() && error->text().isEmpty());
@@ -293,19 +294,20 @@ private Q_SLOTS:
         m_controlCenter->registerSettingsPanel(&page);
         openEverything();
         auto* size = page.findChild<QSpinBox*>("databaseSpinBox");
-        for (const int written : {1234, 2345}) {
+        const auto write = [this](int value) {
             const auto other = zel::ZelSettingsFile::Open(m_application->getSettings().fileName());
-            other->setValue("DBCache/cacheSize", written);
-            other->setValue("other/key", QString(written, 'x'));
+            other->setValue("DBCache/cacheSize", value);
+            other->setValue("other/key", value);
             other->sync();
-            if (written == 1234)
-                QTRY_COMPARE(size->value(), written);
-            else
-                QTRY_VERIFY(m_application->getSettings().value("other/key").toString().size() == written);
-            if (written == 1234)
-                size->setValue(77); // An edit stays.
-        }
-        QCOMPARE(size->value(), 77);
+        };
+        write(1234);
+        QTRY_COMPARE(size->value(), 1234);
+        size->setValue(77);
+        write(2345); // An edit stays.
+        QTRY_COMPARE(m_application->getSettings().value("other/key").toInt(), 2345);
+        QVERIFY(size->value() == 77 && canApply());
+        write(77); // It is stored.
+        QTRY_VERIFY(!canApply());
         m_controlCenter->unregisterSettingsPanel(&page, true);
     }
 
@@ -384,6 +386,15 @@ private Q_SLOTS:
         addPages(1);
         m_application->guiPlugin = &m_guiPlugin;
         openEverything();
+        QDialog dialog(m_window.get()); // A press in it answers it.
+        dialog.setModal(true);
+        dialog.move(m_view->mapToGlobal(QPoint(20, 20)));
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QTest::qWait(GuardTime);
+        QTest::mouseClick(inputOf(&dialog), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+        QVERIFY(m_application->engineUpdates.isEmpty());
+        dialog.close();
         m_pages[0]->edit();
         QWidget foreign, inView(m_view);
         inView.resize(m_view->size());

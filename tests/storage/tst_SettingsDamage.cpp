@@ -13,10 +13,9 @@ private Q_SLOTS:
     {
         // That QSettings keeps what is not called damaged is for the fuzzer to refute.
         const std::tuple<const char*, QByteArray, QString> rows[] = {
-            {"empty", "", ""},
             {"usual", "[General]\nkey=value\n; note\n\n[a b]\nk = \"x;y=z\" ; note = \"\r\n", ""},
-            {"no group, no line end", "key=", ""},
             {"mark of the encoding", "\xEF\xBB\xBF[General]\nkey=\xC3\xBC\n", ""},
+            {"mark as a name", "\xEF\xBB\xBFkey=1\n", "line 1 has a key twice, or a lost name"},
             {"line goes on", "key=\"a\\\nb\"\nother=\"\\\"\"\n", ""},
             {"takes in the next line", "key=C:\\\nb=1\n", "line 1 cannot be read"},
             {"cut value", "a=1 ; 2\npath=/a;/b\n", "line 2 cannot be read"},
@@ -24,7 +23,6 @@ private Q_SLOTS:
             {"escapes of QSettings", "a=\\0\\x1f\\xfeff\\n\\\"\\\\,@Invalid()\n", ""},
             {"no escape", "a=\"C:\\Users\"\n", "line 1 cannot be read"},
             {"zero bytes", QByteArray("key=\0\n", 6), "it holds zero bytes"},
-            {"Latin-1", "key=\xFC\n", "it is not UTF-8 text"},
             {"cut character", "key=\xE6\x97", "it is not UTF-8 text"},
             {"no value", "[a]\nkey=\n\nkey\nb=1\n", "line 4 cannot be read"},
             {"no key", "=1\n", ""},
@@ -34,8 +32,8 @@ private Q_SLOTS:
             {"quoted assignment", "\"a=1\"\n", "line 1 cannot be read"},
             {"escaped assignment", "; c:\\\na\\=1\n", "line 2 cannot be read"},
             {"group in a group", "[a]\nb\\c=1\n", ""},
-            {"name of another", "[%general]\na=1\n",
-             "line 2 has a key that stands twice, or a name that is not kept"},
+            {"written as no name", "b%2F=1\n", "line 1 has a key twice, or a lost name"},
+            {"name of another", "[%general]\na=1\n", "line 2 has a key twice, or a lost name"},
             {"other note", "# note\n", "line 1 cannot be read"}};
         for (const auto& [name, text, expected] : rows)
             QVERIFY2(zel::settingsDamage(text) == expected, name);
@@ -61,8 +59,7 @@ private Q_SLOTS:
     void codecIsForTheSettingsOnly()
     {
         QTextCodec& codec = zel::iniCodec();
-        for (const char* name : {"UTF-8", "utf-8", "utf8"})
-            QCOMPARE(QTextCodec::codecForName(name)->mibEnum(), 106);
+        QCOMPARE(QTextCodec::codecForName("utf8")->mibEnum(), 106);
         QTextDecoder decoder(&codec);
         QTextEncoder encoder(&codec, QTextCodec::IgnoreHeader);
         QString text;
@@ -80,8 +77,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QByteArray>("kept");
         const QByteArray end = "Variant(\\x0)\"\n";
-        const std::pair<const char*, QByteArray> rows[] = {{"plain", "x=\"@" + end},
-                                                           {"in a list", "x=a, \"@" + end},
+        const std::pair<const char*, QByteArray> rows[] = {{"in a list", "x=a, \"@" + end},
                                                            {"escaped", "x=\"\\x40" + end},
                                                            {"octal", "x=\"\\0100" + end},
                                                            {"unknown escape", "x=\"@\\q" + end},

@@ -702,12 +702,6 @@ private Q_SLOTS:
     {
         ZelSettingsRegistry::RegisterSetting("Foreign", "text", &ZelSettingsValidators::noOp);
         store(m_path, Foreign);
-        const auto settings = ZelSettingsFile::Open(m_path);
-        const auto giveUp = [](QSettings& changed, QString&) {
-            changed.setValue("Foreign", "text");
-            return false;
-        };
-        QVERIFY(!ZelSettingsFile::Write(*settings, giveUp, error) && holdsForeign(contentOf(m_path)));
         QVERIFY(validate(m_path) && holdsForeign(contentOf(m_path)));
     }
 

@@ -33,25 +33,13 @@ public:
         modified = false;
         note("initialize");
     }
-    bool hasModifications() const override
-    {
-        const bool answer = modified;
-        whenAsked();
-        return answer;
-    }
+    bool hasModifications() const override { return answer(modified); }
     bool applyModifications() override
     {
         modified = false;
-        const bool answer = needsRestart;
-        note("apply");
-        return answer;
+        return note("apply", needsRestart);
     }
-    bool canResetContent() const override
-    {
-        const bool answer = resettable;
-        whenAsked();
-        return answer;
-    }
+    bool canResetContent() const override { return answer(resettable); }
     void resetContent() override { note("reset"); }
     bool cancelModifications() override { return false; }
 
@@ -59,10 +47,15 @@ Q_SIGNALS:
     void stateChanged();
 
 private:
-    void note(const char* call)
+    bool answer(bool result) const
+    {
+        whenAsked();
+        return result;
+    }
+    bool note(const char* call, bool result = false) const
     {
         m_calls << getPanelName() + ' ' + call;
-        whenAsked();
+        return answer(result);
     }
 
     QStringList& m_calls;

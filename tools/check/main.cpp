@@ -96,7 +96,7 @@ Name decoded(const QByteArray& name)
 /// Adds the names on standard input.
 void readNames(Options& options)
 {
-    // Not by QFile, which reads without waiting at first, and leaves the stream with that error.
+    // Not with QFile: it does not wait for a slow writer, and takes that for an error of the stream.
     QByteArray list;
     char part[4096];
     while (const size_t length = std::fread(part, 1, sizeof part, stdin))
