@@ -9,7 +9,7 @@
 
 namespace zel {
 
-/// True where a file that QSettings writes may be replaced by a new one. QSettings of Qt 4 locks the file
+/// True where a file that QSettings writes may be replaced by a new one. Before Qt 5.10, QSettings locks the file
 /// itself outside Windows: one that waits for that lock would go on to write to the file that is no longer
 /// there.
 extern const bool SettingsFilesAreReplaced;
@@ -69,8 +69,8 @@ void makeLater(const QString& path, const FileStamp& replaced);
 /// Opens a file; on Windows it waits up to a second while another program has it open for itself.
 bool openWhenFree(QFile& file, QIODevice::OpenMode mode);
 
-/// What QSettings of Qt 4 locks while it reads or writes a file, so that it and this process wait for each
-/// other. With Qt 5 it locks nothing: FileLock is what QSettings takes there.
+/// What QSettings locks before Qt 5.10 while it reads or writes a file, so that it and this process wait for
+/// each other. Since then it locks nothing: FileLock is what QSettings takes there.
 class QtSettingsLock
 {
 public:

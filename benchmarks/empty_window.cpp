@@ -1,7 +1,6 @@
 // The baseline of a start: an empty Qt window.
-//   empty_window [PLUGINS [--first-frame]]    loads the plug-ins of that folder instead of all of Qt's; ends
-//   after the
-//                                             first frame
+//   empty_window [PLUGINS [--first-frame]]
+// Loads the plug-ins of that folder instead of all of Qt's, and ends after the first frame.
 
 #include <QApplication>
 #include <QWidget>

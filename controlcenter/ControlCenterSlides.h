@@ -26,7 +26,7 @@ class ControlCenterSlides : public QObject
 
 public:
     /// The slides animate properties of the column and call its slots when they end. Nothing is owned; all
-    /// live as long as the column.
+    /// outlive the last slide.
     ControlCenterSlides(QWidget* column, const Ui::ControlCenter& form, MenuColumn& menu,
                         SettingsDrawer& drawer, kqDMIApplication& application);
     ~ControlCenterSlides() override;
@@ -39,11 +39,11 @@ public:
     bool isDrawerToBeOpen() const;
     bool isDrawerSliding() const;
 
-    /// Slides the menu column open or closed, and the drawer closed. The opener, if any, is checked while the
-    /// column is open.
+    /// Slides the menu column open or closed; closing closes the drawer too, opening hides the list of pages.
+    /// The opener, if any, is checked while the column is open.
     void slideMenu(bool open, QPushButton* opener);
-    /// Pauses the engine and slides the drawer, if its state changes. A closed drawer emits aboutToOpen()
-    /// before it opens, unless keepEdits is true.
+    /// Pauses the engine, which the caller resumes if nothing slides, and slides the drawer, if its state
+    /// changes. A closed drawer emits aboutToOpen() before it opens, unless keepEdits is true.
     void slideDrawer(bool open, bool keepEdits);
     /// Shows the list of pages and slides the drawer open.
     void showDrawer(bool keepEdits);

@@ -18,8 +18,8 @@ namespace zel {
 class ZelSettingsPanel;
 
 /// A list of pages, each of which may change the list, or delete the object that has it, while it is asked:
-/// those that have left the list are not asked any more. Copies are the same list, so a function that goes
-/// through it twice takes a copy.
+/// those that have left the list are not asked any more. A copy shares the list and keeps it alive, so a
+/// function that goes through it twice takes one.
 class PageList
 {
 public:

@@ -58,7 +58,7 @@ Ui::ControlCenter setUp(QWidget* controlCenter)
 
 } // namespace
 
-/// What the control center consists of. The control center owns all of it that is not here by value.
+/// What the control center consists of, and owns, except the application and the opener.
 struct ZelControlCenter::Parts
 {
     Parts(ZelControlCenter* owner, kqDMIApplication* application)
@@ -93,7 +93,7 @@ ZelControlCenter::ZelControlCenter(kqDMIApplication* application, QWidget* paren
     : QWidget(parent, flags)
     , m_parts(new Parts(this, application))
 {
-    // They read properties of the control center, which need the other parts.
+    // They read properties of the control center at once, through m_parts.
     m_parts->slides =
         new ControlCenterSlides(this, m_parts->form, m_parts->menu, m_parts->drawer, *application);
     new ReturnKey(this);
@@ -404,7 +404,10 @@ void ZelControlCenter::showEvent(QShowEvent* event)
 void ZelControlCenter::loadPages()
 {
     QString error;
+    const QPointer<ZelControlCenter> self(this);
     m_parts->pages.load(m_parts->application.getSettings(), error);
+    if (!self)
+        return;
     m_parts->notice.show(error);
     onStateChanged();
 }

@@ -191,9 +191,9 @@ bool ZelPageHelp::eventFilter(QObject* watched, QEvent* event)
             }
         }
     }
-    // A field that scrolls under a resting pointer gets no Enter event, but one for its tool tip.
     if (type == QEvent::FocusIn)
         describeItemOf(field);
+    // A field that scrolls under a resting pointer gets no Enter event, but one for its tool tip.
     if (type == QEvent::Enter || type == QEvent::FocusIn || type == QEvent::ToolTip)
         Q_EMIT reached(field);
     return type == QEvent::ToolTip && m_helpAreaVisible && !setting(field)->tipIsValue;

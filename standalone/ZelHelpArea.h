@@ -62,7 +62,7 @@ private Q_SLOTS:
     void onFocusChanged(QWidget* previous, QWidget* current);
     void onRest();
     void place();
-    /// Leaves the area while it is too narrow, also when the column has no room yet.
+    /// Puts the help into the column while the area is too narrow, also when the column has no room yet.
     void moveToColumn();
 
 private:
