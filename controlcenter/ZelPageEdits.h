@@ -18,7 +18,7 @@ struct ZelPendingEdit
     QString name;                  ///< As the page names it, in the language of the interface.
     QString stored;                ///< The stored value, as a field shows it.
     QString shown;                 ///< The value that Apply would store, as a field shows it.
-    QWidget* field;                ///< The first field that can take the focus. The page owns it.
+    QWidget* field;                ///< The first field that can take the focus, or null. The page owns it.
     std::function<void()> putBack; ///< Puts the stored value into the fields. Valid while the page lives.
 };
 

@@ -121,8 +121,9 @@ void PendingList::setTexts()
 
 void PendingList::refresh()
 {
+    const auto edits = editsOf(m_pages);
     QStringList texts;
-    for (const ZelPendingEdit& edit : editsOf(m_pages))
+    for (const ZelPendingEdit& edit : edits)
         texts << textOf(edit);
     if (texts == m_shown)
         return;
@@ -140,6 +141,7 @@ void PendingList::refresh()
         const auto* row = m_lines->itemAt(i)->widget()->layout();
         auto* line = static_cast<Line*>(row->itemAt(0)->widget());
         line->show(texts[i]);
+        line->parentWidget()->setEnabled(edits[i].field);
         line->setAccessibleDescription(QCoreApplication::translate("PendingList", "Goes to the setting."));
         QWidget* takeBack = row->itemAt(1)->widget();
         takeBack->setToolTip(QCoreApplication::translate("ZelHelpCard", "Puts back what is stored"));
@@ -170,14 +172,14 @@ void PendingList::addRow()
 void PendingList::goToField(int line)
 {
     const auto edits = editsOf(m_pages);
-    if (line < static_cast<int>(edits.size()))
+    if (line < static_cast<int>(edits.size()) && edits[line].field)
         edits[line].field->setFocus(Qt::OtherFocusReason);
 }
 
 void PendingList::putBack(int line)
 {
     const auto edits = editsOf(m_pages);
-    if (line >= static_cast<int>(edits.size()))
+    if (line >= static_cast<int>(edits.size()) || !edits[line].field)
         return;
     // The line goes away, and the focus with it.
     edits[line].field->setFocus(Qt::OtherFocusReason);

@@ -62,7 +62,7 @@ file(WRITE ${SCRATCH}/strict/CMakeLists.txt
      "target_include_directories(strict PRIVATE \"${SCRATCH}/moved/include\")\n"
      "target_link_libraries(strict PRIVATE Qt5::Widgets)\n")
 build(strict g++ -DCMAKE_CXX_COMPILER=g++ -DCMAKE_CXX_STANDARD=17 -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS=${strict})
-build(strict clang++ -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_CXX_STANDARD=17 -DCMAKE_BUILD_TYPE=Debug
+build(strict clang++ -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_CXX_STANDARD=20 -DCMAKE_BUILD_TYPE=Debug
       -DCMAKE_CXX_FLAGS=${strict})
 
 # A program in C, built by pkg-config, links every public function that is not inline.

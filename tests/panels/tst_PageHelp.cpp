@@ -152,6 +152,20 @@ private Q_SLOTS:
                      QString::fromUtf8("Cache size: 1,024 Mo \342\206\222 512 Mo"));
         find<QPushButton>("takeBack")->click();
         QVERIFY(marked().isEmpty() && find("pendingList")->isHidden() && find("databaseSpinBox")->hasFocus());
+        // What no field can change is listed too, and leads nowhere.
+        const QString ratios = settings().value("Simplification/Ratios").toString();
+        for (const QString& stored : {ratios.mid(2).prepend("0.9/"), ratios}) {
+            settings().setValue("Simplification/Ratios", stored);
+            settings().sync();
+            for (auto* page : m_window->findChildren<ZelSettingsPanel*>())
+                page->initializeWidget();
+            type("databaseSpinBox", "512");
+            QCOMPARE(marked(), QString(stored == ratios ? "Folders" : "Folders Simplification"));
+            QTRY_VERIFY(!find("pendingList")->isHidden());
+            for (auto* button : find("pendingList")->findChildren<QAbstractButton*>())
+                button->click();
+        }
+        QVERIFY(marked().isEmpty());
         type("databaseSpinBox", "512");
         find("databaseSpinBox")->setFocus();
         QVERIFY(!said("stateLabel").isEmpty());
