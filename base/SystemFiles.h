@@ -9,9 +9,9 @@
 
 namespace zel {
 
-/// True where a file that QSettings writes may be replaced by a new one. Before Qt 5.10, QSettings locks the file
-/// itself outside Windows: one that waits for that lock would go on to write to the file that is no longer
-/// there.
+/// True where a file that QSettings writes may be replaced by a new one. Before Qt 5.10, QSettings locks the
+/// file itself outside Windows: one that waits for that lock would go on to write to the file that is no
+/// longer there.
 extern const bool SettingsFilesAreReplaced;
 
 /// True where QSettings takes names that differ only in case for the same key. It does not find a name with
