@@ -16,9 +16,9 @@ namespace zel {
 /// full or a read fails, it holds its old content or the new one, with every key that is not ours. Each
 /// change is made to a copy beside the file, which is read back and then takes its place, with the rights of
 /// the file. A write excludes other programs that use this class or QSettings, and waits for them for up to
-/// three seconds. Built with Qt 4 on Unix, where QSettings locks the file itself, and where the rights cannot be
-/// given to a new file, it rewrites the file in place; a copy that is complete stands beside it meanwhile, and
-/// the next start puts it in place if the process is killed.
+/// three seconds. Built with Qt 4 on Unix, where QSettings locks the file itself, and where the rights cannot
+/// be given to a new file, it rewrites the file in place; a copy that is complete stands beside it meanwhile,
+/// and the next start puts it in place if the process is killed.
 ///
 /// Error texts are translated, name the file and the reason, and are logged. GUI thread only.
 class ZEL_EXPORT ZelSettingsFile
