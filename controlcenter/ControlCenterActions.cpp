@@ -64,11 +64,11 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        const auto& button = *static_cast<QPushButton*>(watched);
+        // A button that is being destroyed sends other events, and is no QPushButton any more.
         if (event->type() == QEvent::EnabledChange)
-            setEnabled(button.isEnabled());
+            setEnabled(static_cast<QPushButton*>(watched)->isEnabled());
         if (event->type() == QEvent::LanguageChange)
-            setTexts(button);
+            setTexts(*static_cast<QPushButton*>(watched));
         return false;
     }
 

@@ -59,7 +59,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("leaving");
         const std::pair<const char*, std::function<void(SettingsPages&)>> questions[] = {
             {"modifications", [](SettingsPages& pages) { pages.hasModifications(); }},
-            {"reset", [](SettingsPages& pages) { pages.canReset(), pages.reset(); }},
+            {"resettable", [](SettingsPages& pages) { pages.canReset(); }},
+            {"reset", [](SettingsPages& pages) { pages.reset(); }},
             {"marks", [](SettingsPages& pages) { pages.mark(); }},
             {"discard", [](SettingsPages& pages) { pages.discard(); }},
             {"load",
