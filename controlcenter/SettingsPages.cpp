@@ -169,6 +169,7 @@ bool SettingsPages::apply(QSettings& settings, bool& restart, QString& error)
 {
     const PageList pages = m_pages;
     const QList<ZelSettingsPanel*> edited = pages.modified();
+    restart = false;
     const auto applyPages = [&](QSettings&, QString&) {
         restart = applyEach(pages, edited) || restart; // It may be called again.
         return true;
