@@ -45,8 +45,8 @@ public:
             m_locks.push_back(std::make_unique<FileLock>(name + ".lock"));
     }
 
-    /// Waits for others, and ends a write that was killed. False, with the reason, when that fails.
-    bool take(QString& reason)
+    /// Waits for others. False, with the reason, when that takes too long.
+    bool wait(QString& reason)
     {
         for (const auto& lock : m_locks) {
             const FileLock::State state = lock->take(m_deadline.remaining());
@@ -56,8 +56,14 @@ public:
                 return false;
             }
         }
+        return true;
+    }
+
+    /// Waits for others, and ends a write that was killed. False, with the reason, when that fails.
+    bool take(QString& reason)
+    {
         const SpareCopy spare(m_names.first());
-        return !spare.exists() || spare.finish(m_deadline, reason);
+        return wait(reason) && (!spare.exists() || spare.finish(m_deadline, reason));
     }
 
     void release()
@@ -82,6 +88,34 @@ void set(QSettings& settings, const QVariantMap& before, const QVariantMap& afte
             settings.setValue(value.key(), *value);
 }
 
+/// Set in settings that hold values which they could not write.
+const char* const UnwrittenProperty = "zelUnwritten";
+
+/// Finds out whether settings are about to write: they have posted an event to themselves.
+class PendingProbe : public QObject
+{
+public:
+    static bool finds(QSettings& settings)
+    {
+        PendingProbe probe;
+        settings.installEventFilter(&probe);
+        QCoreApplication::sendPostedEvents(&settings, QEvent::UpdateRequest);
+        settings.removeEventFilter(&probe);
+        if (probe.m_isFound) // Without it they would never post one again.
+            QCoreApplication::postEvent(&settings, new QEvent(QEvent::UpdateRequest));
+        return probe.m_isFound || settings.property(UnwrittenProperty).toBool();
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        m_isFound = m_isFound || event->type() == QEvent::UpdateRequest;
+        return true;
+    }
+
+private:
+    bool m_isFound = false;
+};
+
 /// The settings that a write is asked for. They only read the file. A change may set values in them all the
 /// same, as many a page does: QSettings cannot forget these, and has to write them.
 class SharedSettings
@@ -90,6 +124,7 @@ public:
     SharedSettings(QSettings& settings, const Deadline& deadline)
         : m_settings(settings)
         , m_held(valuesOf(settings))
+        , m_hasPending(PendingProbe::finds(settings))
         , m_deadline(deadline)
     {
     }
@@ -110,13 +145,25 @@ public:
     /// Sets in a copy of the file what the change has set here.
     void carryOver(QSettings& copy) const { set(copy, m_held, valuesOf(m_settings)); }
 
+    /// True until catchUp() when there may be values that were set before the write, and are not in the file.
+    bool isBehind(const QVariantMap& file) const { return !m_isCaughtUp && (m_hasPending || m_held != file); }
+
+    /// Lets the file have such values, and reads what others have written. Not to be called under the lock.
+    /// False, with the reason, when that is not possible.
+    bool catchUp(QString& reason)
+    {
+        m_isCaughtUp = writePending(reason);
+        m_held = valuesOf(m_settings);
+        return m_isCaughtUp;
+    }
+
     /// To be called when the file is written, and not under its lock. False, with the reason, when it has not
     /// stayed whole.
     bool readWritten(QString& reason)
     {
         m_isWritten = true;
         if (valuesOf(m_settings) != m_held)
-            return writePending(reason);
+            return writePending(reason) || !SpareCopy(resolvedPath(m_settings.fileName())).exists();
         readAgain();
         return true;
     }
@@ -130,8 +177,9 @@ private:
         ZelSettingsFile::UseFileEncoding(m_settings); // Reading the UTF-8 mark brings Qt's own codec back.
     }
 
-    /// Lets them write, so that nothing is pending. They hold what the file holds, but QSettings of Qt 4 may
-    /// cut it all the same, and that of Qt 5 changes its rights.
+    /// Lets them write, so that nothing is pending. QSettings of Qt 4 may cut the file, and that of Qt 5
+    /// changes its rights, so a spare copy stands beside it. It is left only when it could not help. False,
+    /// with the reason, when nothing is written, or a spare copy is left.
     bool writePending(QString& reason)
     {
         const QString target = resolvedPath(m_settings.fileName());
@@ -140,17 +188,22 @@ private:
         if (!lock.take(reason) || (exists(target) && !spare.make(reason))) {
             // They would wait without end, or write without protection.
             QCoreApplication::removePostedEvents(&m_settings, QEvent::UpdateRequest);
-            return true;
+            m_settings.setProperty(UnwrittenProperty, true);
+            return false;
         }
+        m_settings.setProperty(UnwrittenProperty, QVariant());
         lock.release();
         readAgain();
         spare.giveRights();
-        return lock.take(reason);
+        // Whoever holds it now has to bring the file to its end.
+        return !lock.wait(reason) || !spare.exists() || spare.finish(m_deadline, reason);
     }
 
     QSettings& m_settings;
-    const QVariantMap m_held;
+    QVariantMap m_held;
+    const bool m_hasPending;
     const Deadline& m_deadline;
+    bool m_isCaughtUp = false;
     bool m_isWritten = false;
 };
 
@@ -192,49 +245,64 @@ bool makeUsable(const QString& path, const Deadline& deadline, QByteArray& conte
     return readFile(path, content, reason, deadline);
 }
 
+/// One attempt of write(). Outdated when another one has to follow. Failed without a reason when the change
+/// gave up.
+Outcome tryWrite(const QString& path, SharedSettings& shared, const ZelSettingsFile::Change& change,
+                 Deadline& deadline, QString& reason, QString& error)
+{
+    SettingsLock lock(path, deadline);
+    WorkingCopy copy(path, deadline);
+    if (!lock.take(reason) || !copy.make(shared.held(), reason))
+        return Outcome::Failed;
+    const auto put = [&] { return copy.write(reason) ? copy.put(reason) : Outcome::Failed; };
+    const QVariantMap before = valuesOf(copy.settings());
+    if (shared.isBehind(before)) {
+        // QSettings that reads a file which has lost something would forget it as well.
+        if (copy.isDamaged())
+            return put() == Outcome::Failed ? Outcome::Failed : Outcome::Outdated;
+        lock.release();
+        return shared.catchUp(reason) ? Outcome::Outdated : Outcome::Failed;
+    }
+    // The change may take long, or let the shared settings write, which then wait for the lock.
+    lock.release();
+    const bool isMade = deadline.pauseFor([&] {
+        const Visible visible(copy);
+        return change(copy.settings(), error);
+    });
+    if (!isMade) {
+        reason.clear();
+        return Outcome::Failed;
+    }
+    shared.carryOver(copy.settings());
+    if (valuesOf(copy.settings()) == before && !copy.isDamaged())
+        return Outcome::InPlace;
+    return keepLists(copy, before, reason) && lock.take(reason) ? put() : Outcome::Failed;
+}
+
 /// ZelSettingsFile::Write() within a time.
 bool write(QSettings& settings, const ZelSettingsFile::Change& change, Deadline& deadline, QString& error)
 {
     const QString path = settings.fileName();
     QByteArray content;
     QString reason;
-    const auto refuse = [&] { return refuseWriting(path, reason, error); };
     if (WorkingCopy::Changing) {
         reason = SettingsFileText::tr("it is being written already");
-        return refuse();
+        return refuseWriting(path, reason, error);
     }
     ZelSettingsFile::UseFileEncoding(settings);
     if (!makeUsable(path, deadline, content, reason, &settings))
-        return refuse();
+        return refuseWriting(path, reason, error);
     SharedSettings shared(settings, deadline);
-    for (Outcome outcome = Outcome::Outdated; outcome == Outcome::Outdated;) {
-        SettingsLock lock(path, deadline);
-        WorkingCopy copy(path, deadline);
-        if (!lock.take(reason) || !copy.make(shared.held(), reason))
-            return refuse();
-        const QVariantMap before = valuesOf(copy.settings());
-        // The change may take long, or let the shared settings write, which then wait for the lock.
-        lock.release();
-        const bool isMade = deadline.pauseFor([&] {
-            const Visible visible(copy);
-            return change(copy.settings(), error);
-        });
-        if (!isMade)
-            return false;
-        shared.carryOver(copy.settings());
-        if (valuesOf(copy.settings()) == before && !copy.isDamaged())
-            break;
-        if (!keepLists(copy, before, reason) || !lock.take(reason) || !copy.write(reason))
-            return refuse();
-        outcome = copy.put(reason);
+    Outcome outcome = Outcome::Outdated;
+    while (outcome == Outcome::Outdated) {
+        outcome = tryWrite(path, shared, change, deadline, reason, error);
         if (outcome == Outcome::Outdated && deadline.remaining() == 0) {
             reason = lockedReason();
             outcome = Outcome::Failed;
         }
-        if (outcome == Outcome::Failed)
-            return refuse();
     }
-    return shared.readWritten(reason) || refuse();
+    const bool isWritten = outcome == Outcome::InPlace && shared.readWritten(reason);
+    return isWritten || (!reason.isEmpty() && refuseWriting(path, reason, error));
 }
 
 } // namespace
