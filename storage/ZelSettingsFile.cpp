@@ -3,19 +3,17 @@
 #include "FileAccess.h"
 #include "IniCodec.h"
 #include "Log.h"
-#include "SettingsBackup.h"
 #include "SettingsDamage.h"
+#include "SettingsLock.h"
 #include "SettingsValidation.h"
+#include "SharedSettings.h"
+#include "SpareCopy.h"
 #include "WorkingCopy.h"
-#include "base/FileLock.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QSettings>
 
 #include <algorithm>
 #include <map>
-#include <vector>
 
 namespace zel {
 
@@ -30,181 +28,6 @@ public:
 
 private:
     Q_DISABLE_COPY(Visible)
-};
-
-/// Keeps other programs from writing a file.
-class SettingsLock
-{
-public:
-    SettingsLock(const QString& path, const Deadline& deadline)
-        : m_names(namesOf(path))
-        , m_deadline(deadline)
-    {
-        QDir().mkpath(QFileInfo(path).path());
-        for (const QString& name : m_names)
-            m_locks.push_back(std::make_unique<FileLock>(name + ".lock"));
-    }
-
-    /// Waits for others. False, with the reason, when that takes too long.
-    bool wait(QString& reason)
-    {
-        for (const auto& lock : m_locks) {
-            const FileLock::State state = lock->take(m_deadline.remaining());
-            if (state != FileLock::Free) {
-                reason = lockReason(*lock, state == FileLock::Held);
-                release();
-                return false;
-            }
-        }
-        return true;
-    }
-
-    /// Waits for others, and ends a write that was killed. False, with the reason, when that fails.
-    bool take(QString& reason)
-    {
-        const SpareCopy spare(m_names.first());
-        return wait(reason) && (!spare.exists() || spare.finish(m_deadline, reason));
-    }
-
-    void release()
-    {
-        for (const auto& lock : m_locks)
-            lock->release();
-    }
-
-private:
-    const QStringList m_names;
-    const Deadline& m_deadline;
-    std::vector<std::unique_ptr<FileLock>> m_locks;
-};
-
-void set(QSettings& settings, const QVariantMap& before, const QVariantMap& after)
-{
-    for (auto value = before.constBegin(); value != before.constEnd(); ++value)
-        if (!after.contains(value.key()))
-            settings.remove(value.key());
-    for (auto value = after.constBegin(); value != after.constEnd(); ++value)
-        if (!before.contains(value.key()) || before.value(value.key()) != *value)
-            settings.setValue(value.key(), *value);
-}
-
-/// Set in settings that hold values which they could not write.
-const char* const UnwrittenProperty = "zelUnwritten";
-
-/// Finds out whether settings are about to write: they have posted an event to themselves.
-class PendingProbe : public QObject
-{
-public:
-    static bool finds(QSettings& settings)
-    {
-        PendingProbe probe;
-        settings.installEventFilter(&probe);
-        QCoreApplication::sendPostedEvents(&settings, QEvent::UpdateRequest);
-        settings.removeEventFilter(&probe);
-        if (probe.m_isFound) // Without it they would never post one again.
-            QCoreApplication::postEvent(&settings, new QEvent(QEvent::UpdateRequest));
-        return probe.m_isFound || settings.property(UnwrittenProperty).toBool();
-    }
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        m_isFound = m_isFound || event->type() == QEvent::UpdateRequest;
-        return true;
-    }
-
-private:
-    bool m_isFound = false;
-};
-
-/// The settings that a write is asked for. They only read the file. A change may set values in them all the
-/// same, as many a page does: QSettings cannot forget these, and has to write them.
-class SharedSettings
-{
-public:
-    SharedSettings(QSettings& settings, const Deadline& deadline)
-        : m_settings(settings)
-        , m_held(valuesOf(settings))
-        , m_hasPending(PendingProbe::finds(settings))
-        , m_deadline(deadline)
-    {
-    }
-
-    /// Unless the file has been written, they hold again what they held.
-    ~SharedSettings()
-    {
-        const QVariantMap shown = valuesOf(m_settings);
-        if (m_isWritten || shown == m_held)
-            return;
-        set(m_settings, shown, m_held);
-        QString ignored;
-        writePending(ignored);
-    }
-
-    const QVariantMap& held() const { return m_held; }
-
-    /// Sets in a copy of the file what the change has set here.
-    void carryOver(QSettings& copy) const { set(copy, m_held, valuesOf(m_settings)); }
-
-    /// True until catchUp() when there may be values that were set before the write, and are not in the file.
-    bool isBehind(const QVariantMap& file) const { return !m_isCaughtUp && (m_hasPending || m_held != file); }
-
-    /// Lets the file have such values, and reads what others have written. Not to be called under the lock.
-    /// False, with the reason, when that is not possible.
-    bool catchUp(QString& reason)
-    {
-        m_isCaughtUp = writePending(reason);
-        m_held = valuesOf(m_settings);
-        return m_isCaughtUp;
-    }
-
-    /// To be called when the file is written, and not under its lock. False, with the reason, when it has not
-    /// stayed whole.
-    bool readWritten(QString& reason)
-    {
-        m_isWritten = true;
-        if (valuesOf(m_settings) != m_held)
-            return writePending(reason) || !SpareCopy(resolvedPath(m_settings.fileName())).exists();
-        readAgain();
-        return true;
-    }
-
-private:
-    Q_DISABLE_COPY(SharedSettings)
-
-    void readAgain()
-    {
-        m_settings.sync();
-        ZelSettingsFile::UseFileEncoding(m_settings); // Reading the UTF-8 mark brings Qt's own codec back.
-    }
-
-    /// Lets them write, so that nothing is pending. QSettings of Qt 4 may cut the file, and that of Qt 5
-    /// changes its rights, so a spare copy stands beside it. It is left only when it could not help. False,
-    /// with the reason, when nothing is written, or a spare copy is left.
-    bool writePending(QString& reason)
-    {
-        const QString target = resolvedPath(m_settings.fileName());
-        const SpareCopy spare(target);
-        SettingsLock lock(m_settings.fileName(), m_deadline);
-        if (!lock.take(reason) || (exists(target) && !spare.make(reason))) {
-            // They would wait without end, or write without protection.
-            QCoreApplication::removePostedEvents(&m_settings, QEvent::UpdateRequest);
-            m_settings.setProperty(UnwrittenProperty, true);
-            return false;
-        }
-        m_settings.setProperty(UnwrittenProperty, QVariant());
-        lock.release();
-        readAgain();
-        spare.giveRights();
-        // Whoever holds it now has to bring the file to its end.
-        return !lock.wait(reason) || !spare.exists() || spare.finish(m_deadline, reason);
-    }
-
-    QSettings& m_settings;
-    QVariantMap m_held;
-    const bool m_hasPending;
-    const Deadline& m_deadline;
-    bool m_isCaughtUp = false;
-    bool m_isWritten = false;
 };
 
 /// Keeps a dated copy of a file in which a list stands in place of a registered text, and now the text.
@@ -222,7 +45,7 @@ bool keepLists(const WorkingCopy& copy, const QVariantMap& before, QString& reas
 bool dropObjects(const QString& path, const Deadline& deadline, QString& reason)
 {
     SettingsLock lock(path, deadline);
-    WorkingCopy copy(path, deadline);
+    WorkingCopy copy(lock);
     return lock.take(reason) && copy.make(QVariantMap(), reason) && copy.write(reason) &&
            copy.put(reason) == Outcome::InPlace;
 }
@@ -251,14 +74,14 @@ Outcome tryWrite(const QString& path, SharedSettings& shared, const ZelSettingsF
                  Deadline& deadline, QString& reason, QString& error)
 {
     SettingsLock lock(path, deadline);
-    WorkingCopy copy(path, deadline);
+    WorkingCopy copy(lock);
     if (!lock.take(reason) || !copy.make(shared.held(), reason))
         return Outcome::Failed;
     const auto put = [&] { return copy.write(reason) ? copy.put(reason) : Outcome::Failed; };
     const QVariantMap before = valuesOf(copy.settings());
     if (shared.isBehind(before)) {
         // QSettings that reads a file which has lost something would forget it as well.
-        if (copy.isDamaged())
+        if (copy.mustBeWritten())
             return put() == Outcome::Failed ? Outcome::Failed : Outcome::Outdated;
         lock.release();
         return shared.catchUp(reason) ? Outcome::Outdated : Outcome::Failed;
@@ -274,7 +97,7 @@ Outcome tryWrite(const QString& path, SharedSettings& shared, const ZelSettingsF
         return Outcome::Failed;
     }
     shared.carryOver(copy.settings());
-    if (valuesOf(copy.settings()) == before && !copy.isDamaged())
+    if (valuesOf(copy.settings()) == before && !copy.mustBeWritten())
         return Outcome::InPlace;
     return keepLists(copy, before, reason) && lock.take(reason) ? put() : Outcome::Failed;
 }
