@@ -132,8 +132,7 @@ bool SharedSettings::writePending(QString& reason)
     WorkingCopy copy(lock);
     QString ignored;
     // QSettings may take an old content for the present one. Then it has written nothing.
-    const bool isOld = present.size == former.size && present.time == former.time &&
-                       m_settings.status() == QSettings::NoError;
+    const bool isOld = present.size == former.size && present.time == former.time;
     if (isOld || (copy.make(QVariantMap(), ignored) && textsOf(copy.settings()) == textsOf(m_settings))) {
         spare.remove();
         return true;
@@ -143,7 +142,11 @@ bool SharedSettings::writePending(QString& reason)
         // QSettings takes them for written.
         const QVariantMap held = valuesOf(m_settings);
         readAgain(m_settings);
-        set(m_settings, valuesOf(m_settings), held);
+        QVariantMap wanted = valuesOf(m_settings);
+        const QVariantMap stored = wanted;
+        for (auto value = held.constBegin(); value != held.constEnd(); ++value)
+            wanted.insert(value.key(), *value);
+        set(m_settings, stored, wanted);
         stopWriting();
     }
     return false;
