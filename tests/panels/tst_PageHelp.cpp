@@ -188,6 +188,21 @@ private Q_SLOTS:
         QCOMPARE(marked(), QString("Simplification"));
     }
 
+    void aHostsBackgroundCoversNoBox()
+    {
+        qApp->setStyleSheet("QWidget { background: #ff0000; }");
+        type("databaseSpinBox", "512");
+        for (const char* name : {"helpFrame", "pendingList", "ZelGeneralSettingsPanel"}) {
+            const QImage picture = pictureOf(find(name));
+            for (QWidget* inside : find(name)->findChildren<QWidget*>())
+                if (inside->isVisibleTo(find(name)))
+                    QVERIFY2(QColor(picture.pixel(inside->mapTo(find(name), QPoint(1, 1)))) !=
+                                 QColor(Qt::red),
+                             qPrintable(inside->objectName()));
+        }
+        qApp->setStyleSheet(QString());
+    }
+
     void fieldsHaveCommandsOfTheirOwn()
     {
         auto* box = find<QSpinBox>("databaseSpinBox");
