@@ -66,7 +66,8 @@ foreach(library IN LISTS ZEL_LIBRARIES)
 endforeach()
 set(CPACK_ZEL_SYMBOLS ${PROJECT_BINARY_DIR}/debian/symbols)
 set(CPACK_ZEL_SYMBOLS_TEMPLATE ${zel_debian}/torvane-settings.symbols)
-set(CPACK_DEBIAN_EDITOR_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/debian/shlibs ${CPACK_ZEL_SYMBOLS})
+set(CPACK_DEBIAN_EDITOR_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/debian/shlibs ${CPACK_ZEL_SYMBOLS}
+                                               ${PROJECT_BINARY_DIR}/debian/conffiles)
 
 # zel_debian_file(<component> <file> <folder> <name>): one that `install` does not make elsewhere.
 function(zel_debian_file component file folder name)
@@ -87,6 +88,13 @@ foreach(pair IN ITEMS desktop=torvane-settings debian_development=libzelcontrolc
 endforeach()
 
 zel_debian_file(desktop ${PROJECT_SOURCE_DIR}/docs/administrators.md /usr/share/doc/torvane-settings administrators.md)
+
+# Administrators edit it, and keep what they wrote when the package is upgraded.
+set(defaults /etc/torvane-settings/Defaults.ini)
+file(WRITE ${PROJECT_BINARY_DIR}/debian/conffiles ${defaults}\n)
+file(CREATE_LINK ${defaults} ${PROJECT_BINARY_DIR}/debian/Defaults.ini SYMBOLIC)
+zel_debian_file(desktop ${ZEL_STAGE}/${ZEL_DEFAULTS} /etc/torvane-settings Defaults.ini)
+zel_debian_file(desktop ${PROJECT_BINARY_DIR}/debian/Defaults.ini ${ZEL_PACKAGE_PREFIX}/resources Defaults.ini)
 
 # The plug-ins and the texts of Qt are where its packages put them. A folder of plug-ins may appear later, with a package
 # that the user installs.
