@@ -1,6 +1,7 @@
 # What `cpack` makes for Windows: a zip that runs where it is unpacked, and an installer. The installer knows "/S" (asks
 # nothing) and "/D=<folder>"; the uninstaller removes what has been installed, and never the user's settings.
 
+include(${CMAKE_CURRENT_LIST_DIR}/ZelSourcePackage.cmake)
 set(CPACK_GENERATOR ZIP NSIS)
 set(CPACK_PACKAGE_NAME torvane-settings)
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
