@@ -25,6 +25,7 @@ class tst_Viewer : public QObject
 private Q_SLOTS:
     void init()
     {
+        m_viewer.reset();
         m_home = std::make_unique<QTemporaryDir>();
         m_viewer = std::make_unique<Editor>(m_home->path());
         QSettings settings(file("Settings.ini"), QSettings::IniFormat);
@@ -32,8 +33,6 @@ private Q_SLOTS:
         settings.setValue("turntable/enabled", "false");
         settings.setValue("Resources/LODTrianglesCap", "100000");
     }
-
-    void cleanup() { m_viewer.reset(); }
 
     void closingAsksBeforeItDiscards()
     {
