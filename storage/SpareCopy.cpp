@@ -28,13 +28,13 @@ bool SpareCopy::make(QString& reason) const
     if (!readFile(m_target, content, reason) || !writeFile(incomplete, content, reason))
         return false;
     if (copyRights(m_target, incomplete))
-        return keep(incomplete, reason);
+        return adopt(incomplete, reason);
     reason = systemError();
     QFile::remove(incomplete);
     return false;
 }
 
-bool SpareCopy::keep(const QString& file, QString& reason) const
+bool SpareCopy::adopt(const QString& file, QString& reason) const
 {
     // A file that still has this time has not been written since.
     if (setTime(file, stampOf(m_target).time) && replaceFile(file, m_path))

@@ -32,7 +32,7 @@ public:
     bool make(QString& reason) const;
 
     /// Makes another file the spare copy. False, with the reason, when that is not possible.
-    bool keep(const QString& file, QString& reason) const;
+    bool adopt(const QString& file, QString& reason) const;
 
     /// Writes over the file, which other programs may have opened already, waiting to write to it.
     /// @param expected  what the file holds unless another program has written it

@@ -450,6 +450,24 @@ private Q_SLOTS:
         settings->sync();
         QCoreApplication::sendPostedEvents(settings.get(), 0);
         QVERIFY(contentOf(m_path).contains("[page]\nkey=3\n") && settings->value("page/key").toInt() == 3);
+        // What was pending before is written, but not over the change.
+        for (const QByteArray general : {"[page]\nkey=4\n", "[page]\nkey=5\n", "no value\n"}) {
+            store(m_path, general + Foreign);
+            settings->setValue("page/key", 4);
+            settings->setValue("host/key", 5);
+            QVERIFY(write(*settings, {{"page/key", 6}}));
+            settings->sync();
+            QVERIFY(holdsForeign(contentOf(m_path)) && contentOf(m_path).contains("[host]\nkey=5\n"));
+            QVERIFY2(contentOf(m_path).contains("[page]\nkey=6\n"), contentOf(m_path));
+        }
+        const auto locked = [&](QSettings&, QString&) {
+            settings->setValue("page/key", 7);
+            return ::system("touch " + m_path.toUtf8() + ".lock") != 0;
+        };
+        QVERIFY(!ZelSettingsFile::Write(*settings, locked, error));
+        QVERIFY(QFile::remove(m_path + ".lock") && write(*settings, {{"page/key", 8}}));
+        settings->sync();
+        QVERIFY2(contentOf(m_path).contains("[page]\nkey=8\n"), contentOf(m_path));
     }
 
     void othersWriteWithoutALock()
