@@ -192,12 +192,15 @@ private Q_SLOTS:
     {
         qApp->setStyleSheet("QWidget { background: #ff0000; }");
         type("databaseSpinBox", "512");
-        for (const char* name : {"helpFrame", "pendingList", "ZelGeneralSettingsPanel"}) {
-            const QImage picture = pictureOf(find(name));
-            for (QWidget* inside : find(name)->findChildren<QWidget*>())
-                if (inside->isVisibleTo(find(name)))
-                    QVERIFY2(QColor(picture.pixel(inside->mapTo(find(name), QPoint(1, 1)))) !=
-                                 QColor(Qt::red),
+        ZelRendererSelector selector(nullptr, Qt::WindowFlags());
+        QMessageBox question(QMessageBox::Question, "Title", "Text", QMessageBox::Ok);
+        question.setStyleSheet(kqDMIApplication::GetStylesheet("kqMessageBox"));
+        for (QWidget* box : {find("helpFrame"), find("pendingList"), find("ZelGeneralSettingsPanel"),
+                             static_cast<QWidget*>(&selector), static_cast<QWidget*>(&question)}) {
+            const QImage picture = pictureOf(box);
+            for (QWidget* inside : box->findChildren<QWidget*>())
+                if (inside->isVisibleTo(box))
+                    QVERIFY2(picture.pixel(inside->mapTo(box, QPoint(1, 1))) != QColor(Qt::red).rgb(),
                              qPrintable(inside->objectName()));
         }
         qApp->setStyleSheet(QString());
