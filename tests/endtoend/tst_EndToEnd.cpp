@@ -27,8 +27,6 @@ const QString TypeCacheSize = "mousemove --window %1 530 325 click 1 key ctrl+a 
 const char* const Apply = "mousemove --window %1 184 265 click 1";
 const char* const ChooseLowMode = "mousemove --window %1 275 183 click 1";
 
-const int Kills = 6;
-
 const char* const Version1 = "[General]\nengine=gl\nsettingsVersion=1\nlanguage=xx\n[Own]\nthing=\303\274\n";
 const QString Umlaut = QString::fromUtf8("\303\274");
 const char* const NoVersion = "[General]\nengine=software\nlanguage=fr\n[Own]\nthing=1\n";
@@ -159,7 +157,7 @@ private Q_SLOTS:
     void killedWhileApplying()
     {
         QByteArray before, after;
-        for (int round = 0; round < Kills; ++round) {
+        for (int round = 0; round < 6; ++round) {
             Editor editor(m_home);
             QVERIFY(opensWindow(editor));
             before = contentOf(settingsFile());

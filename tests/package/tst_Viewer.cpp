@@ -54,8 +54,7 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(qAbs(paintedFacets() - before / 2) < before / 20, Patience);
 
         m_viewer->act("key F12");
-        const QDir pictures(file("Screenshots"));
-        QTRY_COMPARE_WITH_TIMEOUT(pictures.entryList({"*.png"}).size(), 1, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(QDir(file("Screenshots")).entryList({"*.png"}).size(), 1, Patience);
     }
 
 private:
@@ -63,8 +62,7 @@ private:
 
     int paintedFacets() const
     {
-        const QString log = contentOf(file("log.txt"));
-        return log.section("painting ", -1).section(' ', 0, 0).toInt();
+        return QString(contentOf(file("log.txt"))).section("painting ", -1).section(' ', 0, 0).toInt();
     }
 
     /// What is open once nothing moves any more, by the colour of the place where the menu column is.
