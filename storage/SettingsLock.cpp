@@ -2,7 +2,6 @@
 
 #include "FileAccess.h"
 #include "SpareCopy.h"
-#include "base/FileLock.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -21,25 +20,23 @@ SettingsLock::SettingsLock(const QString& path, const Deadline& deadline)
         m_locks.push_back(std::make_unique<FileLock>(name + ".lock"));
 }
 
-SettingsLock::~SettingsLock() = default;
-
-bool SettingsLock::wait(QString& reason)
+FileLock::State SettingsLock::wait(QString& reason)
 {
     for (const auto& lock : m_locks) {
         const FileLock::State state = lock->take(m_deadline.remaining());
         if (state != FileLock::Free) {
             reason = lockReason(*lock, state == FileLock::Held);
             release();
-            return false;
+            return state;
         }
     }
-    return true;
+    return FileLock::Free;
 }
 
 bool SettingsLock::take(QString& reason)
 {
     const SpareCopy spare(target());
-    return wait(reason) && (!spare.exists() || spare.finish(m_deadline, reason));
+    return wait(reason) == FileLock::Free && (!spare.exists() || spare.finish(m_deadline, reason));
 }
 
 void SettingsLock::release()

@@ -1,6 +1,8 @@
 #ifndef ZEL_SETTINGSLOCK_H
 #define ZEL_SETTINGSLOCK_H
 
+#include "base/FileLock.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -10,7 +12,6 @@
 namespace zel {
 
 class Deadline;
-class FileLock;
 
 /// Keeps other programs from writing a settings file: those that use this class, and QSettings.
 class SettingsLock
@@ -20,7 +21,6 @@ public:
     /// @param path  of the file, which may be a link
     /// @param deadline  ends all waits; outlives the lock
     SettingsLock(const QString& path, const Deadline& deadline);
-    ~SettingsLock();
 
     /// Of the file, as it was given.
     const QString& path() const { return m_path; }
@@ -28,8 +28,8 @@ public:
     const QString& target() const { return m_names.first(); }
     const Deadline& deadline() const { return m_deadline; }
 
-    /// Waits for others. False, with the reason, when that takes too long.
-    bool wait(QString& reason);
+    /// Waits for others. The reason is set unless the lock is taken.
+    FileLock::State wait(QString& reason);
 
     /// Waits for others, and ends a write that was killed. False, with the reason, when that fails.
     bool take(QString& reason);

@@ -10,6 +10,12 @@ namespace zel {
 
 class Deadline;
 
+/// True when settings hold values that they have not written.
+bool hasPending(QSettings& settings);
+
+/// Reads the file again. What is pending is written, without protection.
+void readAgain(QSettings& settings);
+
 /// The settings that a write is asked for. They only read the file. A change may set values in them all the
 /// same, as many a page does: QSettings cannot forget these, and has to write them.
 class SharedSettings
@@ -40,7 +46,7 @@ public:
 private:
     Q_DISABLE_COPY(SharedSettings)
 
-    void readAgain();
+    void stopWriting();
     bool writePending(QString& reason);
 
     QSettings& m_settings;

@@ -74,16 +74,24 @@ bool SpareCopy::finish(const Deadline& deadline, QString& reason) const
     QByteArray wanted, present;
     if (!readFile(m_path, wanted, reason, deadline) || !readFile(m_target, present, reason, deadline))
         return false;
-    const bool isCut = present != wanted && wanted.startsWith(present);
-    if (isCut) {
-        if (!(SettingsFilesAreReplaced && copyRights(m_target, m_path) && replaceFile(m_path, m_target)) &&
-            overwrite(present, wanted, deadline, reason) != Outcome::InPlace)
-            return false;
-    } else if (present != wanted && stampOf(m_target).time != stampOf(m_path).time) {
-        if (!keepBackup(m_target, wanted, "its writing was cut short, and another program has written it",
-                        m_path + ".new", reason))
-            return false;
-    }
+    if (present != wanted && wanted.startsWith(present))
+        return restore(deadline, reason);
+    if (present != wanted && stampOf(m_target).time != stampOf(m_path).time &&
+        !keepBackup(m_target, wanted, "its writing was cut short, and another program has written it",
+                    m_path + ".new", reason))
+        return false;
+    remove();
+    return true;
+}
+
+bool SpareCopy::restore(const Deadline& deadline, QString& reason) const
+{
+    QByteArray wanted, present;
+    if (SettingsFilesAreReplaced && copyRights(m_target, m_path) && replaceFile(m_path, m_target))
+        return true;
+    if (!readFile(m_path, wanted, reason, deadline) || !readFile(m_target, present, reason, deadline) ||
+        overwrite(present, wanted, deadline, reason) != Outcome::InPlace)
+        return false;
     remove();
     return true;
 }

@@ -44,6 +44,10 @@ public:
     /// the file since, the spare copy becomes a dated one. False, with the reason, when that is not possible.
     bool finish(const Deadline& deadline, QString& reason) const;
 
+    /// Gives the file the content and the rights of the spare copy, and removes that. False, with the reason,
+    /// when that is not possible.
+    bool restore(const Deadline& deadline, QString& reason) const;
+
     /// Gives the file the rights that it had when the spare copy was made.
     void giveRights() const;
 

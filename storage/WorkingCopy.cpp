@@ -28,18 +28,6 @@ const char* const EndText = "\n[end%20of%20the%20working%20copy]\nisRead=true\n"
 
 const char* const FolderMark = ".new-"; // Before the number of the process.
 
-/// The values as QSettings writes them, whatever their types. Where it ignores case, it lists a name both as
-/// it was read and as it was set.
-QMap<QString, QString> textsOf(const QSettings& settings)
-{
-    QMap<QString, QString> texts;
-    const QVariantMap values = valuesOf(settings);
-    for (auto value = values.constBegin(); value != values.constEnd(); ++value)
-        texts.insert(SettingsIgnoreCase ? value.key().toLower() : value.key(),
-                     isList(*value) ? value->toStringList().join("\n") : value->toString());
-    return texts;
-}
-
 /// True when a registered key is gone.
 bool lacksRegistered(const QVariantMap& values, const QVariantMap& held)
 {
@@ -87,6 +75,16 @@ QVariantMap valuesOf(const QSettings& settings)
             values.insert(isGeneral ? general + key.mid(general.size()) : key, settings.value(key));
     }
     return values;
+}
+
+QMap<QString, QString> textsOf(const QSettings& settings)
+{
+    QMap<QString, QString> texts;
+    const QVariantMap values = valuesOf(settings);
+    for (auto value = values.constBegin(); value != values.constEnd(); ++value)
+        texts.insert(SettingsIgnoreCase ? value.key().toLower() : value.key(),
+                     isList(*value) ? value->toStringList().join("\n") : value->toString());
+    return texts;
 }
 
 WorkingCopy* WorkingCopy::Changing = nullptr;

@@ -5,6 +5,7 @@
 #include "SpareCopy.h"
 
 #include <QByteArray>
+#include <QMap>
 #include <QString>
 #include <QVariant>
 
@@ -17,6 +18,10 @@ namespace zel {
 /// All values, by the names that QSettings writes: the group "[%general]" becomes "[%General]". Not those
 /// with names that it reads from a file but cannot look up.
 QVariantMap valuesOf(const QSettings& settings);
+
+/// The values as QSettings writes them, whatever their types. Where it ignores case, it lists a name both as
+/// it was read and as it was set.
+QMap<QString, QString> textsOf(const QSettings& settings);
 
 /// A complete file beside the settings file, in a folder that only its user can enter. It is changed in place
 /// of the settings file, and takes its place when it is known to be good. Its maker holds the lock, except

@@ -64,7 +64,7 @@ bool makeUsable(const QString& path, const Deadline& deadline, QByteArray& conte
     if (!dropObjects(path, deadline, reason))
         return false;
     if (shared)
-        shared->sync();
+        readAgain(*shared);
     return readFile(path, content, reason, deadline);
 }
 
@@ -128,6 +128,16 @@ bool write(QSettings& settings, const ZelSettingsFile::Change& change, Deadline&
     return isWritten || (!reason.isEmpty() && refuseWriting(path, reason, error));
 }
 
+/// ZelSettingsFile::ReadAgain() of a usable file within a time.
+bool readSafely(QSettings& settings, Deadline& deadline, QString& error)
+{
+    const auto nothing = [](QSettings&, QString&) { return true; };
+    if (hasPending(settings) && !WorkingCopy::Changing)
+        return write(settings, nothing, deadline, error);
+    readAgain(settings);
+    return true;
+}
+
 } // namespace
 
 std::unique_ptr<QSettings> ZelSettingsFile::Open(const QString& path)
@@ -163,11 +173,8 @@ QSettings& ZelSettingsFile::Current(QSettings& settings)
 
 bool ZelSettingsFile::ReadAgain(QSettings& settings, QString& error)
 {
-    if (!IsUsable(settings.fileName(), error))
-        return false;
-    settings.sync();
-    UseFileEncoding(settings);
-    return true;
+    Deadline deadline;
+    return IsUsable(settings.fileName(), error) && readSafely(settings, deadline, error);
 }
 
 bool ZelSettingsFile::Write(QSettings& settings, const Change& change, QString& error)
@@ -181,11 +188,10 @@ bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
     Deadline deadline;
     const QString path = settings.fileName();
     QByteArray content;
-    QString reason;
+    QString reason, ignored;
     if (!makeUsable(path, deadline, content, reason, &settings))
         return refuseReading(path, reason, error);
-    settings.sync();
-    UseFileEncoding(settings);
+    readSafely(settings, deadline, ignored);
 
     std::map<QString, std::pair<QVariant, QString>> values; // What is stored, and what it becomes.
     bool needsWrite = !settingsDamage(content).isEmpty();
@@ -211,7 +217,10 @@ bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
         }
         return true;
     };
-    return (!needsWrite || write(settings, change, deadline, error)) && runEndChecks(settings, error);
+    if ((needsWrite && !write(settings, change, deadline, error)) || !runEndChecks(settings, error))
+        return false;
+    readSafely(settings, deadline, ignored); // An end check may have set values.
+    return true;
 }
 
 } // namespace zel

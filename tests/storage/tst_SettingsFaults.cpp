@@ -470,6 +470,27 @@ private Q_SLOTS:
         QVERIFY2(contentOf(m_path).contains("[page]\nkey=8\n"), contentOf(m_path));
     }
 
+    void endCheckSetsValues()
+    {
+        static bool isMine;
+        isMine = true;
+        const auto check = [](QSettings& settings, QString&) {
+            if (isMine) // It stays registered.
+                settings.setValue("checked/key", 1);
+            return true;
+        };
+        ZelSettingsRegistry::RegisterEndCheckFunction(check);
+        const auto settings = ZelSettingsFile::Open(m_path);
+        QVERIFY(ZelSettingsFile::Repair(*settings, error) &&
+                contentOf(m_path).contains("[checked]\nkey=1\n"));
+        store(m_path, "junk\n" + contentOf(m_path));
+        settings->setValue("checked/key", 2);
+        QVERIFY2(ZelSettingsFile::ReadAgain(*settings, error), qPrintable(error));
+        QVERIFY2(copies().size() == 1, contentOf(m_path));
+        QVERIFY(contentOf(m_path).contains("[checked]\nkey=2\n"));
+        isMine = false;
+    }
+
     void othersWriteWithoutALock()
     {
         store(m_path, Foreign);
@@ -581,6 +602,18 @@ private Q_SLOTS:
             written += isWritten;
         }
         QVERIFY(written > 0 && written < 16);
+        // What a host has set is too large for QSettings, which cuts the file.
+        for (const int freePages : {5, 8}) {
+            store(m_path, Foreign);
+            fillDisk(filler, freePages);
+            const auto settings = ZelSettingsFile::Open(m_path);
+            settings->setValue("host/key", QString(30000, 'z'));
+            QVERIFY(!write(*settings, {{"new/key", 1}}));
+            QCOMPARE(contentOf(m_path), Foreign);
+            QVERIFY(filler.remove());
+            QVERIFY2(write(*settings, {{"new/key", 1}}), qPrintable(error));
+            QVERIFY(contentOf(m_path).contains("zzz") && contentOf(m_path).contains("[new]\nkey=1\n"));
+        }
         store(m_path, Foreign);
         fillDisk(filler, 16);
         const QByteArray path = m_path.toUtf8(), other = path + ".other";
