@@ -17,7 +17,9 @@ namespace zel {
 
 namespace {
 
+// An application's own sheet may give all widgets a background.
 const char* const Style =
+    "QWidget { background: transparent; }"
     "#pendingList { background: rgb(237,237,237); border-radius: 4px; }"
     "QLabel { font: bold 14px \"Open Sans\"; color: rgb(34,34,34); }"
     "QPushButton { background: transparent; border: 1px solid transparent; padding: 3px;"
