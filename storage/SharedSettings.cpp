@@ -15,8 +15,10 @@ namespace zel {
 
 namespace {
 
-/// Set in settings that hold values which they could not write.
+// Properties of settings: true when they hold values that they could not write, and the content of the file
+// when they read it.
 const char* const UnwrittenProperty = "zelUnwritten";
+const char* const ContentProperty = "zelContent";
 
 /// Finds out whether settings are about to write: they have posted an event to themselves.
 class PendingProbe : public QObject
@@ -31,14 +33,30 @@ public:
     }
 };
 
-void set(QSettings& settings, const QVariantMap& before, const QVariantMap& after)
+/// Makes settings hold these values, and no others.
+void set(QSettings& settings, const QVariantMap& wanted)
 {
-    for (auto value = before.constBegin(); value != before.constEnd(); ++value)
-        if (!after.contains(value.key()))
+    const QVariantMap present = valuesOf(settings);
+    for (auto value = present.constBegin(); value != present.constEnd(); ++value)
+        if (!wanted.contains(value.key()))
             settings.remove(value.key());
-    for (auto value = after.constBegin(); value != after.constEnd(); ++value)
-        if (!before.contains(value.key()) || before.value(value.key()) != *value)
+    const QVariantMap left = valuesOf(settings); // A group goes with the key of its name.
+    for (auto value = wanted.constBegin(); value != wanted.constEnd(); ++value)
+        if (!left.contains(value.key()) || left.value(value.key()) != *value)
             settings.setValue(value.key(), *value);
+}
+
+/// Makes the same changes in settings that lead from some values to others.
+void change(QSettings& settings, const QVariantMap& from, const QVariantMap& to)
+{
+    QVariantMap wanted = valuesOf(settings);
+    for (auto value = from.constBegin(); value != from.constEnd(); ++value)
+        if (!to.contains(value.key()))
+            wanted.remove(value.key());
+    for (auto value = to.constBegin(); value != to.constEnd(); ++value)
+        if (!from.contains(value.key()) || from.value(value.key()) != *value)
+            wanted.insert(value.key(), *value);
+    set(settings, wanted);
 }
 
 } // namespace
@@ -54,10 +72,11 @@ bool hasPending(QSettings& settings)
     return probe.isFound || settings.property(UnwrittenProperty).toBool();
 }
 
-void readAgain(QSettings& settings)
+void readAgain(QSettings& settings, const QByteArray& content)
 {
     settings.sync();
     ZelSettingsFile::UseFileEncoding(settings); // Reading the UTF-8 mark brings Qt's own codec back.
+    settings.setProperty(ContentProperty, content);
 }
 
 SharedSettings::SharedSettings(QSettings& settings, const Deadline& deadline)
@@ -65,40 +84,50 @@ SharedSettings::SharedSettings(QSettings& settings, const Deadline& deadline)
     , m_held(valuesOf(settings))
     , m_hasPending(hasPending(settings))
     , m_deadline(deadline)
-    , m_isCaughtUp(false)
     , m_isWritten(false)
 {
 }
 
 SharedSettings::~SharedSettings()
 {
-    const QVariantMap shown = valuesOf(m_settings);
-    if (m_isWritten || shown == m_held)
+    if (m_isWritten || valuesOf(m_settings) == m_held)
         return;
-    set(m_settings, shown, m_held);
-    QString ignored;
-    writePending(ignored);
+    set(m_settings, m_held);
+    stopWriting(); // The next write makes them hold what the file holds.
 }
 
-bool SharedSettings::catchUp(QString& reason)
+void SharedSettings::carryPending(WorkingCopy& copy) const
 {
-    m_isCaughtUp = writePending(reason);
-    m_held = valuesOf(m_settings);
-    return m_isCaughtUp;
+    if (!m_hasPending)
+        return;
+    // Where they have not been read by us, a value that others have changed since cannot be told from one
+    // that was set here.
+    const QVariant content = m_settings.property(ContentProperty);
+    QVariantMap former;
+    if (!content.isValid() || !copy.parse(content.toByteArray(), former))
+        former = valuesOf(copy.settings());
+    QVariantMap present = m_held;
+    if (!content.isValid())
+        for (auto value = former.constBegin(); value != former.constEnd(); ++value)
+            if (!present.contains(value.key()))
+                present.insert(value.key(), *value);
+    change(copy.settings(), former, present);
 }
 
 void SharedSettings::carryOver(QSettings& copy) const
 {
-    set(copy, m_held, valuesOf(m_settings));
+    change(copy, m_held, valuesOf(m_settings));
 }
 
-bool SharedSettings::readWritten(QString& reason)
+bool SharedSettings::readWritten(const QVariantMap& values, const QByteArray& content, QString& reason)
 {
     m_isWritten = true;
-    if (valuesOf(m_settings) != m_held)
-        return writePending(reason) || !SpareCopy(resolvedPath(m_settings.fileName())).exists();
-    readAgain(m_settings);
-    return true;
+    if (!m_hasPending && valuesOf(m_settings) == m_held) {
+        readAgain(m_settings, content);
+        return true;
+    }
+    set(m_settings, values);
+    return writePending(content, reason) || !SpareCopy(resolvedPath(m_settings.fileName())).exists();
 }
 
 /// They would wait without end, or write without protection.
@@ -108,48 +137,25 @@ void SharedSettings::stopWriting()
     m_settings.setProperty(UnwrittenProperty, true);
 }
 
-/// Lets them write, so that nothing is pending. QSettings of Qt 4 may cut the file, and that of Qt 5 changes
-/// its rights, so a spare copy stands beside it meanwhile. False, with the reason, when the file does not
-/// have the values. There is still a spare copy then if the file is not whole.
-bool SharedSettings::writePending(QString& reason)
+/// Lets them write, so that nothing is pending. They hold what the file holds, but QSettings may cut it all
+/// the same, and that of Qt 5 changes its rights, so a spare copy stands beside it meanwhile. False, with the
+/// reason, when they have not written. There is still a spare copy then if the file is not whole.
+bool SharedSettings::writePending(const QByteArray& content, QString& reason)
 {
     SettingsLock lock(m_settings.fileName(), m_deadline);
     const SpareCopy spare(lock.target());
-    const bool isSafe = lock.take(reason) && (!exists(lock.target()) || spare.make(reason));
-    if (!isSafe) {
+    if (!lock.take(reason) || (exists(lock.target()) && !spare.make(reason))) {
         stopWriting();
         return false;
     }
-    m_settings.setProperty(UnwrittenProperty, false);
     const FileStamp former = stampOf(lock.target());
     lock.release();
-    readAgain(m_settings);
+    readAgain(m_settings, content);
     spare.giveRights();
-    // Whoever else holds it now has to bring the file to its end. A full disk has no room for it.
-    if (lock.wait(reason) == FileLock::Held || !spare.exists())
-        return true;
-    const FileStamp present = stampOf(lock.target());
-    WorkingCopy copy(lock);
-    QString ignored;
-    // QSettings may take an old content for the present one. Then it has written nothing.
-    const bool isOld = present.size == former.size && present.time == former.time;
-    if (isOld || (copy.make(QVariantMap(), ignored) && textsOf(copy.settings()) == textsOf(m_settings))) {
-        spare.remove();
-        return true;
-    }
-    reason = SettingsFileText::tr("not all values can be kept in it");
-    if (spare.restore(m_deadline, ignored)) {
-        // QSettings takes them for written.
-        const QVariantMap held = valuesOf(m_settings);
-        readAgain(m_settings);
-        QVariantMap wanted = valuesOf(m_settings);
-        const QVariantMap stored = wanted;
-        for (auto value = held.constBegin(); value != held.constEnd(); ++value)
-            wanted.insert(value.key(), *value);
-        set(m_settings, stored, wanted);
-        stopWriting();
-    }
-    return false;
+    const FileStamp present = stampOf(lock.target()); // QSettings does not tell of every failure.
+    m_settings.setProperty(UnwrittenProperty, present.size == former.size && present.time == former.time);
+    // Whoever else holds the lock now brings the file to its end. A full disk has no room for a lock.
+    return lock.wait(reason) == FileLock::Held || !spare.exists() || spare.restoreIfCut(m_deadline, reason);
 }
 
 } // namespace zel

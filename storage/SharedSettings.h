@@ -1,6 +1,7 @@
 #ifndef ZEL_SHAREDSETTINGS_H
 #define ZEL_SHAREDSETTINGS_H
 
+#include <QByteArray>
 #include <QString>
 #include <QVariant>
 
@@ -9,15 +10,18 @@ class QSettings;
 namespace zel {
 
 class Deadline;
+class WorkingCopy;
 
 /// True when settings hold values that they have not written.
 bool hasPending(QSettings& settings);
 
-/// Reads the file again. What is pending is written, without protection.
-void readAgain(QSettings& settings);
+/// Reads the file again. QSettings writes what is pending, without protection.
+/// @param content  of the file, as it was just read
+void readAgain(QSettings& settings, const QByteArray& content);
 
-/// The settings that a write is asked for. They only read the file. A change may set values in them all the
-/// same, as many a page does: QSettings cannot forget these, and has to write them.
+/// The settings that a write is asked for. They only read the file. Hosts and pages set values in them all
+/// the same: these are carried into the copy of the file. QSettings cannot forget them, so it is given what
+/// the file then holds, and writes that once more.
 class SharedSettings
 {
 public:
@@ -29,31 +33,27 @@ public:
     /// What they held before the change.
     const QVariantMap& held() const { return m_held; }
 
-    /// True until catchUp() when there may be values that were set before the write, and are not in the file.
-    bool isBehind(const QVariantMap& file) const { return !m_isCaughtUp && (m_hasPending || m_held != file); }
-
-    /// Lets the file have such values, and reads what others have written. Not to be called under the lock.
-    /// False, with the reason, when that is not possible.
-    bool catchUp(QString& reason);
+    /// Sets in a copy of the file what has been set here before the change.
+    void carryPending(WorkingCopy& copy) const;
 
     /// Sets in a copy of the file what the change has set here.
     void carryOver(QSettings& copy) const;
 
     /// To be called when the file is written, and not under its lock. False, with the reason, when it has not
     /// stayed whole.
-    bool readWritten(QString& reason);
+    /// @param values, content  what the file holds now
+    bool readWritten(const QVariantMap& values, const QByteArray& content, QString& reason);
 
 private:
     Q_DISABLE_COPY(SharedSettings)
 
     void stopWriting();
-    bool writePending(QString& reason);
+    bool writePending(const QByteArray& content, QString& reason);
 
     QSettings& m_settings;
-    QVariantMap m_held;
+    const QVariantMap m_held;
     const bool m_hasPending;
     const Deadline& m_deadline;
-    bool m_isCaughtUp;
     bool m_isWritten;
 };
 

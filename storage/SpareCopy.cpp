@@ -25,11 +25,16 @@ bool SpareCopy::make(QString& reason) const
 {
     const QString incomplete = m_path + ".new";
     QByteArray content;
-    if (!readFile(m_target, content, reason) || !writeFile(incomplete, content, reason))
-        return false;
-    if (copyRights(m_target, incomplete))
-        return adopt(incomplete, reason);
-    reason = systemError();
+    // Nobody else may read it, not even before it has the rights of the file.
+    bool isMade = readFile(m_target, content, reason) && writeFile(incomplete, QByteArray(), reason) &&
+                  QFile::setPermissions(incomplete, QFile::ReadOwner | QFile::WriteOwner) &&
+                  writeFile(incomplete, content, reason);
+    if (isMade && !copyRights(m_target, incomplete)) {
+        reason = systemError();
+        isMade = false;
+    }
+    if (isMade && adopt(incomplete, reason))
+        return true;
     QFile::remove(incomplete);
     return false;
 }
@@ -74,22 +79,22 @@ bool SpareCopy::finish(const Deadline& deadline, QString& reason) const
     QByteArray wanted, present;
     if (!readFile(m_path, wanted, reason, deadline) || !readFile(m_target, present, reason, deadline))
         return false;
-    if (present != wanted && wanted.startsWith(present))
-        return restore(deadline, reason);
-    if (present != wanted && stampOf(m_target).time != stampOf(m_path).time &&
+    const bool isForeign = !wanted.startsWith(present) && stampOf(m_target).time != stampOf(m_path).time;
+    if (isForeign &&
         !keepBackup(m_target, wanted, "its writing was cut short, and another program has written it",
                     m_path + ".new", reason))
         return false;
-    remove();
-    return true;
+    return restoreIfCut(deadline, reason);
 }
 
-bool SpareCopy::restore(const Deadline& deadline, QString& reason) const
+bool SpareCopy::restoreIfCut(const Deadline& deadline, QString& reason) const
 {
     QByteArray wanted, present;
-    if (SettingsFilesAreReplaced && copyRights(m_target, m_path) && replaceFile(m_path, m_target))
-        return true;
-    if (!readFile(m_path, wanted, reason, deadline) || !readFile(m_target, present, reason, deadline) ||
+    if (!readFile(m_path, wanted, reason, deadline) || !readFile(m_target, present, reason, deadline))
+        return false;
+    const bool isCut = present != wanted && wanted.startsWith(present);
+    if (isCut &&
+        !(SettingsFilesAreReplaced && copyRights(m_target, m_path) && replaceFile(m_path, m_target)) &&
         overwrite(present, wanted, deadline, reason) != Outcome::InPlace)
         return false;
     remove();

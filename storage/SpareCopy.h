@@ -40,13 +40,13 @@ public:
     Outcome overwrite(const QByteArray& expected, const QByteArray& content, const Deadline& deadline,
                       QString& reason) const;
 
-    /// Brings the file to its end if it is cut, and removes the spare copy. If another program has written
-    /// the file since, the spare copy becomes a dated one. False, with the reason, when that is not possible.
+    /// As restoreIfCut(), after a write that was killed. If another program has written the file since, the
+    /// spare copy becomes a dated one.
     bool finish(const Deadline& deadline, QString& reason) const;
 
-    /// Gives the file the content and the rights of the spare copy, and removes that. False, with the reason,
-    /// when that is not possible.
-    bool restore(const Deadline& deadline, QString& reason) const;
+    /// Brings the file to its end if it is cut, and removes the spare copy. False, with the reason, when that
+    /// is not possible.
+    bool restoreIfCut(const Deadline& deadline, QString& reason) const;
 
     /// Gives the file the rights that it had when the spare copy was made.
     void giveRights() const;

@@ -28,6 +28,18 @@ const char* const EndText = "\n[end%20of%20the%20working%20copy]\nisRead=true\n"
 
 const char* const FolderMark = ".new-"; // Before the number of the process.
 
+/// The values as QSettings writes them, whatever their types. Where it ignores case, it lists a name both as
+/// it was read and as it was set.
+QMap<QString, QString> textsOf(const QSettings& settings)
+{
+    QMap<QString, QString> texts;
+    const QVariantMap values = valuesOf(settings);
+    for (auto value = values.constBegin(); value != values.constEnd(); ++value)
+        texts.insert(SettingsIgnoreCase ? value.key().toLower() : value.key(),
+                     isList(*value) ? value->toStringList().join("\n") : value->toString());
+    return texts;
+}
+
 /// True when a registered key is gone.
 bool lacksRegistered(const QVariantMap& values, const QVariantMap& held)
 {
@@ -35,6 +47,12 @@ bool lacksRegistered(const QVariantMap& values, const QVariantMap& held)
     return std::any_of(registered.begin(), registered.end(), [&](const auto& entry) {
         return held.contains(entry.first) && !values.contains(entry.first);
     });
+}
+
+/// It would make QSettings use Qt's own codec.
+QByteArray withoutMark(const QByteArray& text)
+{
+    return text.startsWith(Utf8Mark) ? text.mid(static_cast<int>(qstrlen(Utf8Mark))) : text;
 }
 
 /// Removes the folder of a copy, and nothing that is not ours.
@@ -75,16 +93,6 @@ QVariantMap valuesOf(const QSettings& settings)
             values.insert(isGeneral ? general + key.mid(general.size()) : key, settings.value(key));
     }
     return values;
-}
-
-QMap<QString, QString> textsOf(const QSettings& settings)
-{
-    QMap<QString, QString> texts;
-    const QVariantMap values = valuesOf(settings);
-    for (auto value = values.constBegin(); value != values.constEnd(); ++value)
-        texts.insert(SettingsIgnoreCase ? value.key().toLower() : value.key(),
-                     isList(*value) ? value->toStringList().join("\n") : value->toString());
-    return texts;
 }
 
 WorkingCopy* WorkingCopy::Changing = nullptr;
@@ -132,10 +140,8 @@ bool WorkingCopy::make(const QVariantMap& held, QString& reason)
     m_mustBeWritten = !damage.isEmpty();
     if (!loss.isEmpty() && !keepContent(loss, reason))
         return false;
-    QByteArray text = m_mustBeWritten ? withoutObjects(m_content) : m_content + EndText;
-    if (text.startsWith(Utf8Mark)) // It would make QSettings use Qt's own codec.
-        text.remove(0, static_cast<int>(qstrlen(Utf8Mark)));
-    if (!writeFile(m_copy, text, reason))
+    const QByteArray text = m_mustBeWritten ? withoutObjects(m_content) : m_content + EndText;
+    if (!writeFile(m_copy, withoutMark(text), reason))
         return false;
     m_settings = ZelSettingsFile::Open(m_copy);
     if (!m_mustBeWritten && !m_settings->contains(EndKey)) {
@@ -165,6 +171,16 @@ bool WorkingCopy::makeOf(const QVariantMap& values, QString& reason)
     if (!writeFile(m_copy, QByteArray(), reason) || !readAgain(false, reason))
         return false;
     m_settings->remove(EndKey); // A change: what was just read is written again, even if it lacks something.
+    return true;
+}
+
+bool WorkingCopy::parse(const QByteArray& content, QVariantMap& values) const
+{
+    const QString name = nextName();
+    QString ignored;
+    if (!writeFile(name, withoutMark(content), ignored))
+        return false;
+    values = valuesOf(*ZelSettingsFile::Open(name));
     return true;
 }
 

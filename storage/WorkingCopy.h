@@ -5,7 +5,6 @@
 #include "SpareCopy.h"
 
 #include <QByteArray>
-#include <QMap>
 #include <QString>
 #include <QVariant>
 
@@ -18,10 +17,6 @@ namespace zel {
 /// All values, by the names that QSettings writes: the group "[%general]" becomes "[%General]". Not those
 /// with names that it reads from a file but cannot look up.
 QVariantMap valuesOf(const QSettings& settings);
-
-/// The values as QSettings writes them, whatever their types. Where it ignores case, it lists a name both as
-/// it was read and as it was set.
-QMap<QString, QString> textsOf(const QSettings& settings);
 
 /// A complete file beside the settings file, in a folder that only its user can enter. It is changed in place
 /// of the settings file, and takes its place when it is known to be good. Its maker holds the lock, except
@@ -51,6 +46,12 @@ public:
     /// True when the file must be written even if the change sets nothing: QSettings could not write its
     /// content again without a loss, or has lost some.
     bool mustBeWritten() const { return m_mustBeWritten; }
+
+    /// Of the settings file, when it was copied; once the copy is written, of that.
+    const QByteArray& content() const { return m_result.isNull() ? m_content : m_result; }
+
+    /// Reads the values of a content of the settings file. False when there is no room for that.
+    bool parse(const QByteArray& content, QVariantMap& values) const;
 
     /// Keeps the content of the settings file as a dated copy; see keepBackup().
     bool keepContent(const QString& loss, QString& reason) const;

@@ -19,6 +19,8 @@ namespace zel {
 
 namespace {
 
+const int MaximumTries = 50; // Of a write, while others write the file.
+
 /// Lets pages see the copy while a change runs, also if it ends with an exception.
 class Visible
 {
@@ -44,10 +46,16 @@ bool keepLists(const WorkingCopy& copy, const QVariantMap& before, QString& reas
 /// Drops the serialised objects of a file. False, with the reason, when that is not possible.
 bool dropObjects(const QString& path, const Deadline& deadline, QString& reason)
 {
-    SettingsLock lock(path, deadline);
-    WorkingCopy copy(lock);
-    return lock.take(reason) && copy.make(QVariantMap(), reason) && copy.write(reason) &&
-           copy.put(reason) == Outcome::InPlace;
+    Outcome outcome = Outcome::Outdated;
+    while (outcome == Outcome::Outdated && deadline.remaining() > 0) {
+        SettingsLock lock(path, deadline);
+        WorkingCopy copy(lock);
+        const bool isMade = lock.take(reason) && copy.make(QVariantMap(), reason) && copy.write(reason);
+        outcome = isMade ? copy.put(reason) : Outcome::Failed;
+    }
+    if (outcome == Outcome::Outdated)
+        reason = lockedReason();
+    return outcome == Outcome::InPlace;
 }
 
 /// Makes a file one that QSettings can read, and reads it. False, with the reason, when that is not possible.
@@ -63,9 +71,11 @@ bool makeUsable(const QString& path, const Deadline& deadline, QByteArray& conte
         return true;
     if (!dropObjects(path, deadline, reason))
         return false;
+    if (!readFile(path, content, reason, deadline))
+        return false;
     if (shared)
-        readAgain(*shared);
-    return readFile(path, content, reason, deadline);
+        readAgain(*shared, content);
+    return true;
 }
 
 /// One attempt of write(). Outdated when another one has to follow. Failed without a reason when the change
@@ -77,15 +87,8 @@ Outcome tryWrite(const QString& path, SharedSettings& shared, const ZelSettingsF
     WorkingCopy copy(lock);
     if (!lock.take(reason) || !copy.make(shared.held(), reason))
         return Outcome::Failed;
-    const auto put = [&] { return copy.write(reason) ? copy.put(reason) : Outcome::Failed; };
     const QVariantMap before = valuesOf(copy.settings());
-    if (shared.isBehind(before)) {
-        // QSettings that reads a file which has lost something would forget it as well.
-        if (copy.mustBeWritten())
-            return put() == Outcome::Failed ? Outcome::Failed : Outcome::Outdated;
-        lock.release();
-        return shared.catchUp(reason) ? Outcome::Outdated : Outcome::Failed;
-    }
+    shared.carryPending(copy);
     // The change may take long, or let the shared settings write, which then wait for the lock.
     lock.release();
     const bool isMade = deadline.pauseFor([&] {
@@ -97,9 +100,15 @@ Outcome tryWrite(const QString& path, SharedSettings& shared, const ZelSettingsF
         return Outcome::Failed;
     }
     shared.carryOver(copy.settings());
-    if (valuesOf(copy.settings()) == before && !copy.mustBeWritten())
-        return Outcome::InPlace;
-    return keepLists(copy, before, reason) && lock.take(reason) ? put() : Outcome::Failed;
+    const QVariantMap after = valuesOf(copy.settings());
+    Outcome outcome = Outcome::InPlace;
+    if (after != before || copy.mustBeWritten())
+        outcome = keepLists(copy, before, reason) && lock.take(reason) && copy.write(reason)
+                      ? copy.put(reason)
+                      : Outcome::Failed;
+    lock.release();
+    return outcome != Outcome::InPlace || shared.readWritten(after, copy.content(), reason) ? outcome
+                                                                                            : Outcome::Failed;
 }
 
 /// ZelSettingsFile::Write() within a time.
@@ -117,24 +126,21 @@ bool write(QSettings& settings, const ZelSettingsFile::Change& change, Deadline&
         return refuseWriting(path, reason, error);
     SharedSettings shared(settings, deadline);
     Outcome outcome = Outcome::Outdated;
-    while (outcome == Outcome::Outdated) {
+    for (int tries = 0; outcome == Outcome::Outdated && tries < MaximumTries && deadline.remaining() > 0;
+         ++tries)
         outcome = tryWrite(path, shared, change, deadline, reason, error);
-        if (outcome == Outcome::Outdated && deadline.remaining() == 0) {
-            reason = lockedReason();
-            outcome = Outcome::Failed;
-        }
-    }
-    const bool isWritten = outcome == Outcome::InPlace && shared.readWritten(reason);
-    return isWritten || (!reason.isEmpty() && refuseWriting(path, reason, error));
+    if (outcome == Outcome::Outdated)
+        reason = lockedReason();
+    return outcome == Outcome::InPlace || (!reason.isEmpty() && refuseWriting(path, reason, error));
 }
 
 /// ZelSettingsFile::ReadAgain() of a usable file within a time.
-bool readSafely(QSettings& settings, Deadline& deadline, QString& error)
+bool readSafely(QSettings& settings, const QByteArray& content, Deadline& deadline, QString& error)
 {
     const auto nothing = [](QSettings&, QString&) { return true; };
-    if (hasPending(settings) && !WorkingCopy::Changing)
+    if (hasPending(settings))
         return write(settings, nothing, deadline, error);
-    readAgain(settings);
+    readAgain(settings, content);
     return true;
 }
 
@@ -173,8 +179,14 @@ QSettings& ZelSettingsFile::Current(QSettings& settings)
 
 bool ZelSettingsFile::ReadAgain(QSettings& settings, QString& error)
 {
+    if (WorkingCopy::Changing)
+        return true;
     Deadline deadline;
-    return IsUsable(settings.fileName(), error) && readSafely(settings, deadline, error);
+    QByteArray content;
+    QString reason;
+    const QString path = settings.fileName();
+    return makeUsable(path, deadline, content, reason) ? readSafely(settings, content, deadline, error)
+                                                       : refuseReading(path, reason, error);
 }
 
 bool ZelSettingsFile::Write(QSettings& settings, const Change& change, QString& error)
@@ -191,7 +203,7 @@ bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
     QString reason, ignored;
     if (!makeUsable(path, deadline, content, reason, &settings))
         return refuseReading(path, reason, error);
-    readSafely(settings, deadline, ignored);
+    readSafely(settings, content, deadline, ignored);
 
     std::map<QString, std::pair<QVariant, QString>> values; // What is stored, and what it becomes.
     bool needsWrite = !settingsDamage(content).isEmpty();
@@ -217,9 +229,11 @@ bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
         }
         return true;
     };
-    if ((needsWrite && !write(settings, change, deadline, error)) || !runEndChecks(settings, error))
+    if ((needsWrite && !write(settings, change, deadline, error)) ||
+        !deadline.pauseFor([&] { return runEndChecks(settings, error); }))
         return false;
-    readSafely(settings, deadline, ignored); // An end check may have set values.
+    if (hasPending(settings)) // An end check has set values.
+        readSafely(settings, content, deadline, ignored);
     return true;
 }
 

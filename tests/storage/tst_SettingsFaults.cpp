@@ -444,30 +444,50 @@ private Q_SLOTS:
         QVERIFY(ZelSettingsFile::Write(*settings, mixed, error));
         QVERIFY(contentOf(m_path).contains("[own]\nkey=1\n") &&
                 contentOf(m_path).contains("[page]\nkey=2\n"));
-        QVERIFY(holdsForeign(contentOf(m_path)) && files("*").size() == 1);
+        QVERIFY2(holdsForeign(contentOf(m_path)), contentOf(m_path));
+        QCOMPARE(files("*").join(" "), QString("Settings.ini"));
         // Nothing is pending: what another program writes stays.
         QVERIFY(change(m_path, {{"page/key", 3}}));
         settings->sync();
         QCoreApplication::sendPostedEvents(settings.get(), 0);
         QVERIFY(contentOf(m_path).contains("[page]\nkey=3\n") && settings->value("page/key").toInt() == 3);
-        // What was pending before is written, but not over the change.
+        // What was pending before is written, but not over the change, nor over what others have written.
+        int host = 0;
         for (const QByteArray general : {"[page]\nkey=4\n", "[page]\nkey=5\n", "no value\n"}) {
-            store(m_path, general + Foreign);
+            store(m_path, general + "[own]\nkey=9\n" + Foreign);
             settings->setValue("page/key", 4);
-            settings->setValue("host/key", 5);
+            settings->setValue("host/key", ++host);
             QVERIFY(write(*settings, {{"page/key", 6}}));
             settings->sync();
-            QVERIFY(holdsForeign(contentOf(m_path)) && contentOf(m_path).contains("[host]\nkey=5\n"));
-            QVERIFY2(contentOf(m_path).contains("[page]\nkey=6\n"), contentOf(m_path));
+            const QByteArray content = contentOf(m_path);
+            QVERIFY2(holdsForeign(content) && content.contains("[own]\nkey=9\n"), content);
+            QVERIFY2(content.contains("[host]\nkey=" + QByteArray::number(host) + '\n'), content);
+            QVERIFY2(content.contains("[page]\nkey=6\n"), content);
         }
+        // A change that gives up takes nothing along, not even of a group with the name of its key.
+        settings->setValue("host", "group");
+        const auto givesUp = [&](QSettings&, QString&) {
+            settings->setValue("Foreign", 1);
+            settings->setValue("page/key", 7);
+            store(m_path, contentOf(m_path) + "[late]\nkey=1\n");
+            return false;
+        };
+        QVERIFY(!ZelSettingsFile::Write(*settings, givesUp, error));
+        QVERIFY(ZelSettingsFile::ReadAgain(*settings, error));
+        QVERIFY2(holdsForeign(contentOf(m_path)) && contentOf(m_path).contains("[late]\nkey=1\n"),
+                 contentOf(m_path));
+        QVERIFY2(contentOf(m_path).contains("host=group\n") && contentOf(m_path).contains("[page]\nkey=6\n"),
+                 contentOf(m_path));
         const auto locked = [&](QSettings&, QString&) {
             settings->setValue("page/key", 7);
             return ::system("touch " + m_path.toUtf8() + ".lock") != 0;
         };
         QVERIFY(!ZelSettingsFile::Write(*settings, locked, error));
-        QVERIFY(QFile::remove(m_path + ".lock") && write(*settings, {{"page/key", 8}}));
+        QVERIFY(QFile::remove(m_path + ".lock") && change(m_path, {{"host/key", 9}}));
+        QVERIFY(write(*settings, {{"page/key", 8}}));
         settings->sync();
         QVERIFY2(contentOf(m_path).contains("[page]\nkey=8\n"), contentOf(m_path));
+        QVERIFY2(contentOf(m_path).contains("[host]\nkey=9\n"), contentOf(m_path));
     }
 
     void endCheckSetsValues()
