@@ -15,10 +15,10 @@ namespace zel {
 
 namespace {
 
-// Properties of settings: true when they hold values that they could not write, and the content of the file
-// when they read it.
+// Properties of settings: true when they hold values that they could not write, and what they have read from
+// the file: its content, or its values.
 const char* const UnwrittenProperty = "zelUnwritten";
-const char* const ContentProperty = "zelContent";
+const char* const ReadProperty = "zelRead";
 
 /// Finds out whether settings are about to write: they have posted an event to themselves.
 class PendingProbe : public QObject
@@ -76,7 +76,7 @@ void readAgain(QSettings& settings, const QByteArray& content)
 {
     settings.sync();
     ZelSettingsFile::UseFileEncoding(settings); // Reading the UTF-8 mark brings Qt's own codec back.
-    settings.setProperty(ContentProperty, content);
+    settings.setProperty(ReadProperty, content);
 }
 
 SharedSettings::SharedSettings(QSettings& settings, const Deadline& deadline)
@@ -93,7 +93,9 @@ SharedSettings::~SharedSettings()
     if (m_isWritten || valuesOf(m_settings) == m_held)
         return;
     set(m_settings, m_held);
-    stopWriting(); // The next write makes them hold what the file holds.
+    if (!m_hasPending) // Then the next write gives them what the file holds.
+        m_settings.setProperty(ReadProperty, m_held);
+    stopWriting();
 }
 
 void SharedSettings::carryPending(WorkingCopy& copy) const
@@ -102,12 +104,13 @@ void SharedSettings::carryPending(WorkingCopy& copy) const
         return;
     // Where they have not been read by us, a value that others have changed since cannot be told from one
     // that was set here.
-    const QVariant content = m_settings.property(ContentProperty);
-    QVariantMap former;
-    if (!content.isValid() || !copy.parse(content.toByteArray(), former))
+    const QVariant read = m_settings.property(ReadProperty);
+    QVariantMap former = read.toMap();
+    const bool isKnown = read.type() == QVariant::Map || copy.parse(read.toByteArray(), former);
+    if (!isKnown)
         former = valuesOf(copy.settings());
     QVariantMap present = m_held;
-    if (!content.isValid())
+    if (!isKnown)
         for (auto value = former.constBegin(); value != former.constEnd(); ++value)
             if (!present.contains(value.key()))
                 present.insert(value.key(), *value);

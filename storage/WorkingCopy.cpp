@@ -178,7 +178,7 @@ bool WorkingCopy::parse(const QByteArray& content, QVariantMap& values) const
 {
     const QString name = nextName();
     QString ignored;
-    if (!writeFile(name, withoutMark(content), ignored))
+    if (content.isNull() || !writeFile(name, withoutMark(content), ignored))
         return false;
     values = valuesOf(*ZelSettingsFile::Open(name));
     return true;
