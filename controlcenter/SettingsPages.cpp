@@ -204,7 +204,8 @@ void SettingsPages::discard()
         m_discarded = discarded;
     const QList<ZelSettingsPanel*> modified = pages.modified();
     pages.forEach([&](ZelSettingsPanel* page) {
-        if (modified.contains(page))
+        // Also edits that have no effect yet.
+        if (modified.contains(page) || discarded.contains(page))
             page->initializeWidget();
     });
     if (self)
