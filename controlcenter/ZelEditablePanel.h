@@ -343,7 +343,7 @@ private:
 
     /// The widget that shows how two models differ in a row, or another one of it; null when none takes the
     /// focus.
-    QWidget* widgetToEdit(const Row& row, const Model& left, const Model& right) const
+    QWidget* widgetToEdit(const Row& row, const Model& left, const Model& right)
     {
         QWidget* other = nullptr;
         for (const Field& field : row.fields) {
