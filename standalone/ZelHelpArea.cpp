@@ -237,15 +237,31 @@ void ZelHelpArea::reserveHeight()
 
 int ZelHelpArea::heightOfLongestHelp(int width) const
 {
+    // One card with the longest of all texts, because a screen reader is told of each text that is set.
     ZelHelpCard card(m_cardArea->widget());
     card.setCompact(m_card->isCompact());
-    int longest = MinimumCardHeight;
-    for (const QPointer<ZelPageHelp>& page : m_pages)
-        if (page)
-            for (QWidget* field : static_cast<QWidget*>(page->parent())->findChildren<QWidget*>())
-                if (page->setting(field))
-                    longest = qMax(longest, card.largestHeight(field, width));
-    return longest;
+    ZelSettingHelp longest = ZelSettingHelp();
+    QString byDefault, stored;
+    const auto keepLonger = [&](QString& kept, const QString& text, int room) {
+        if (kept.isEmpty() || card.textHeight(text, room) > card.textHeight(kept, room))
+            kept = text;
+    };
+    for (const QPointer<ZelPageHelp>& page : m_pages) {
+        for (QWidget* field : page ? page->parent()->findChildren<QWidget*>() : QList<QWidget*>()) {
+            const ZelSettingHelp* help = page->setting(field);
+            if (!help)
+                continue;
+            keepLonger(longest.description, help->description, width - 2 * Margin);
+            keepLonger(longest.range, help->range, width / 2);
+            keepLonger(longest.effect, help->effect, width / 2);
+            keepLonger(byDefault, help->byDefault(), width / 2);
+            keepLonger(stored, help->stored(), width / 2);
+        }
+    }
+    longest.byDefault = [&] { return byDefault; };
+    longest.stored = [&] { return stored; };
+    longest.differsFromDefault = longest.differsFromStored = [] { return true; };
+    return card.heightOf(longest, width);
 }
 
 int ZelHelpArea::freeHeightOfColumn() const
