@@ -30,6 +30,21 @@ struct NoticeCounter : QObject
     int count = 0;
 };
 
+/// A page of the product, registered while it lives.
+struct FoldersPage : zel::ZelGeneralSettingsPanel
+{
+    FoldersPage(ZelControlCenter& owner, FakeApplication& application)
+        : ZelGeneralSettingsPanel(&application, application.getSettings(), nullptr, Qt::WindowFlags())
+        , controlCenter(owner)
+    {
+        controlCenter.registerSettingsPanel(this);
+    }
+    ~FoldersPage() override { controlCenter.unregisterSettingsPanel(this, true); }
+
+    ZelControlCenter& controlCenter;
+    QSpinBox* const size = findChild<QSpinBox*>("databaseSpinBox");
+};
+
 /// A window with a view and a control center, as a viewer has them.
 class tst_ZelControlCenter : public QObject
 {
@@ -141,9 +156,8 @@ private Q_SLOTS:
         const QString file = settings.fileName(), folder = QFileInfo(file).path(), aside = folder + ".aside";
         settings.setValue("DBCache/cacheSize", 1000);
         settings.sync();
-        zel::ZelGeneralSettingsPanel page(m_application.get(), settings, nullptr, Qt::WindowFlags());
-        m_controlCenter->registerSettingsPanel(&page);
-        auto* size = page.findChild<QSpinBox*>("databaseSpinBox");
+        const FoldersPage page(*m_controlCenter, *m_application);
+        auto* size = page.size;
         auto* error = m_controlCenter->findChild<QLabel*>("writeErrorLabel");
         for (const bool locked : {true, false}) { // What cannot be written is told when the drawer opens.
             QVERIFY(locked ? QDir().mkpath(file + ".lock") : QDir().rmdir(file + ".lock"));
@@ -175,7 +189,6 @@ private Q_SLOTS:
             QVERIFY(!canApply() && error->isHidden() && error->text().isEmpty());
             QVERIFY(contentOf(file).contains("cacheSize=" + QByteArray::number(size->value()) + '\n'));
         }
-        m_controlCenter->unregisterSettingsPanel(&page, true);
     }
 
     void tellsAndAsksInsideTheViewerOnly()
@@ -206,18 +219,16 @@ private Q_SLOTS:
 
     void mayBeDeletedAtAnyTime_data()
     {
-        QTest::addColumn<QString>("when");
         QTest::addColumn<bool>("agree");
         for (const char* when : {"closing the menu", "clicking outside", "telling of a restart", "sliding"})
             for (const bool agree : {true, false})
-                QTest::newRow(qPrintable(QString("while %1, then %2").arg(when, agree ? "Ok" : "Escape")))
-                    << when << agree;
+                QTest::newRow(when) << agree;
     }
 
     void mayBeDeletedAtAnyTime()
     {
-        QFETCH(QString, when);
         QFETCH(bool, agree);
+        const QString when = QTest::currentDataTag();
         addPages(1);
         m_application->guiPlugin = &m_guiPlugin;
         openEverything();
@@ -269,32 +280,27 @@ private Q_SLOTS:
     void discardedEditsCanBeMadeAgain()
     {
         addPages(1);
-        zel::ZelGeneralSettingsPanel page(m_application.get(), m_application->getSettings(), nullptr, {});
-        m_controlCenter->registerSettingsPanel(&page);
-        auto* size = page.findChild<QSpinBox*>("databaseSpinBox");
+        const FoldersPage page(*m_controlCenter, *m_application);
+        auto* size = page.size;
         size->setValue(1000);
-        QVERIFY(!m_controlCenter->applyModifications() && !page.hasModifications());
         const int stored = size->value();
+        QVERIFY(!m_controlCenter->applyModifications());
         size->setValue(stored + 1);
         m_pages[0]->edit(); // Cannot make its edits again.
         auto* discard = m_controlCenter->findChild<QAction*>("discard");
         auto* restore = m_controlCenter->findChild<QAction*>("restore");
         QVERIFY(discard->isEnabled() && !restore->isEnabled());
         discard->trigger();
-        QVERIFY(size->value() == stored && !m_pages[0]->modified);
-        QVERIFY(!page.hasModifications());
-        QVERIFY(!canApply() && !discard->isEnabled());
+        QVERIFY(size->value() == stored && !m_pages[0]->modified && !canApply() && !discard->isEnabled());
         restore->trigger();
         QVERIFY(size->value() == stored + 1 && canApply() && !restore->isEnabled());
-        m_controlCenter->unregisterSettingsPanel(&page, true);
     }
 
     void openPagesFollowTheFile()
     {
-        zel::ZelGeneralSettingsPanel page(m_application.get(), m_application->getSettings(), nullptr, {});
-        m_controlCenter->registerSettingsPanel(&page);
+        const FoldersPage page(*m_controlCenter, *m_application);
+        auto* size = page.size;
         openEverything();
-        auto* size = page.findChild<QSpinBox*>("databaseSpinBox");
         const auto write = [this](int value) {
             const auto other = zel::ZelSettingsFile::Open(m_application->getSettings().fileName());
             other->setValue("DBCache/cacheSize", value);
@@ -309,7 +315,12 @@ private Q_SLOTS:
         QVERIFY(size->value() == 77 && canApply());
         write(77); // It is stored.
         QTRY_VERIFY(!canApply());
-        m_controlCenter->unregisterSettingsPanel(&page, true);
+        // Without the file, the next start would take the default.
+        zel::ZelSettingsRegistry::RegisterSetting("DBCache/cacheSize", "99", &ZelControlCenter::noOp);
+        QVERIFY(QFile::remove(m_application->getSettings().fileName()));
+        QTRY_COMPARE(size->value(), 99);
+        QVERIFY(!canApply());
+        zel::ZelSettingsRegistry::ClearSettingsValues();
     }
 
     void refusedCloseKeepsTheEdits()
@@ -587,18 +598,16 @@ private Q_SLOTS:
     {
         QPushButton external;
         m_controlCenter->setControlCenterButton(&external);
-        const QString picture = ":/controlCenter/controlCenter/controlCenter%1.png";
-        const QString on = picture.arg("On"), off = picture.arg("Off");
+        const QString on = ":/controlCenter/controlCenter/controlCenterOn.png",
+                      off = QString(on).replace("On.", "Off.");
         m_controlCenter->setInterfaceColor(QColor(10, 20, 30, 128), on, off);
         m_controlCenter->show();
         const QImage column = pictureOf(m_controlCenter.get());
         QCOMPARE(QColor(column.pixel(100, column.height() - 10)), QColor(10, 20, 30));
         QCOMPARE(external.iconSize(), QSize(40, 40));
-        const auto look = [](const QIcon& icon, QIcon::State state) {
-            return icon.pixmap(40, QIcon::Normal, state).toImage();
-        };
-        QCOMPARE(look(external.icon(), QIcon::On), look(QIcon(on), QIcon::On));
-        QCOMPARE(look(external.icon(), QIcon::Off), look(QIcon(off), QIcon::Off));
+        for (const auto& [picture, state] : {std::make_pair(on, QIcon::On), {off, QIcon::Off}})
+            QCOMPARE(external.icon().pixmap(40, QIcon::Normal, state).toImage(),
+                     QIcon(picture).pixmap(40).toImage());
     }
 
 private:
