@@ -309,8 +309,6 @@ private Q_SLOTS:
 
     void tellsOfEdits()
     {
-        find<QRadioButton>("deferredButton")->click();
-        find<QCheckBox>("deferredSSAOCheckBox")->setChecked(true);
         auto* list = find<QComboBox>("sceneUnitComboBox");
         auto* page = m_window->findChild<ZelRendererSettingsPanel*>();
         QSignalSpy edits(page->findChild<ZelPageHelp*>(), SIGNAL(edited()));
