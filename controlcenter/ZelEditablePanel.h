@@ -362,9 +362,12 @@ private:
     void replace(const Row& row, const Model& source)
     {
         std::vector<const Field*> fields;
-        for (const Field& field : row.fields)
+        Model model = currentModel(); // The other widgets keep what they show.
+        for (const Field& field : row.fields) {
+            field.copy(model, source);
             fields.push_back(&field);
-        fill(source, fields);
+        }
+        fill(model, fields);
         onEdited();
     }
 
