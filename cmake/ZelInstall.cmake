@@ -1,4 +1,4 @@
-# What `install` makes below one folder: the runnable tree (components "runtime" and "qt"), and what those need who build
+# What `install` makes below one folder: the runnable tree (components "runtime", "defaults" and "qt"), and what those need who build
 # on the library (component "development"). The tree is one because the program looks for Qt's plug-ins in "bin" and for the
 # translations in "resources" beside it, so the names of its folders are fixed.
 
@@ -29,7 +29,7 @@ if(EXISTS ${ZEL_STAGE}/resources/fonts)
     install(DIRECTORY ${ZEL_STAGE}/resources/fonts DESTINATION resources)
 endif()
 set(ZEL_DEFAULTS resources/Defaults.ini)
-install(FILES ${ZEL_STAGE}/${ZEL_DEFAULTS} DESTINATION resources)
+install(FILES ${ZEL_STAGE}/${ZEL_DEFAULTS} DESTINATION resources COMPONENT defaults)
 
 # Headers and CMake package.
 set(zel_package_dir lib/cmake/ZelControlCenter)

@@ -18,6 +18,7 @@ string(REGEX MATCH "\n -- [^\n]*>  ([^\n]*)" ZEL_RELEASE_DATE "${text}")
 execute_process(COMMAND date --utc --iso-8601 --date ${CMAKE_MATCH_1} OUTPUT_VARIABLE ZEL_RELEASE_DATE
                 OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 
+include(${CMAKE_CURRENT_LIST_DIR}/ZelSourcePackage.cmake)
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME torvane-settings)
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
@@ -25,7 +26,10 @@ set(CPACK_PACKAGE_VENDOR Torvane)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # Each package has its own.
 set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
 set(CPACK_PACKAGE_CONTACT "Torvane <support@torvane.invalid>")
-set(CPACK_PACKAGING_INSTALL_PREFIX ${ZEL_PACKAGE_PREFIX})
+# Not that of the sources.
+set(CPACK_PROJECT_CONFIG_FILE ${PROJECT_BINARY_DIR}/debian/prefix.cmake)
+file(WRITE ${CPACK_PROJECT_CONFIG_FILE}
+     "if(CPACK_GENERATOR STREQUAL \"DEB\")\n    set(CPACK_PACKAGING_INSTALL_PREFIX ${ZEL_PACKAGE_PREFIX})\nendif()\n")
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/ZelDebianFiles.cmake)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_ALL runtime desktop development debian_development)
@@ -66,7 +70,8 @@ foreach(library IN LISTS ZEL_LIBRARIES)
 endforeach()
 set(CPACK_ZEL_SYMBOLS ${PROJECT_BINARY_DIR}/debian/symbols)
 set(CPACK_ZEL_SYMBOLS_TEMPLATE ${zel_debian}/torvane-settings.symbols)
-set(CPACK_DEBIAN_EDITOR_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/debian/shlibs ${CPACK_ZEL_SYMBOLS})
+set(CPACK_DEBIAN_EDITOR_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/debian/shlibs ${CPACK_ZEL_SYMBOLS}
+                                               ${PROJECT_BINARY_DIR}/debian/conffiles)
 
 # zel_debian_file(<component> <file> <folder> <name>): one that `install` does not make elsewhere.
 function(zel_debian_file component file folder name)
@@ -87,6 +92,13 @@ foreach(pair IN ITEMS desktop=torvane-settings debian_development=libzelcontrolc
 endforeach()
 
 zel_debian_file(desktop ${PROJECT_SOURCE_DIR}/docs/administrators.md /usr/share/doc/torvane-settings administrators.md)
+
+# Administrators edit it, and keep what they wrote when the package is upgraded.
+set(defaults /etc/torvane-settings/Defaults.ini)
+file(WRITE ${PROJECT_BINARY_DIR}/debian/conffiles ${defaults}\n)
+file(CREATE_LINK ${defaults} ${PROJECT_BINARY_DIR}/debian/Defaults.ini SYMBOLIC)
+zel_debian_file(desktop ${ZEL_STAGE}/${ZEL_DEFAULTS} /etc/torvane-settings Defaults.ini)
+zel_debian_file(desktop ${PROJECT_BINARY_DIR}/debian/Defaults.ini ${ZEL_PACKAGE_PREFIX}/resources Defaults.ini)
 
 # The plug-ins and the texts of Qt are where its packages put them. A folder of plug-ins may appear later, with a package
 # that the user installs.
@@ -137,14 +149,6 @@ zel_write_pkgconfig(debian/zelcontrolcenter.pc ${ZEL_PACKAGE_PREFIX})
 zel_debian_file(debian_development ${PROJECT_BINARY_DIR}/debian/zelcontrolcenter.pc
                 /usr/lib/${CMAKE_LIBRARY_ARCHITECTURE}/pkgconfig zelcontrolcenter.pc)
 zel_install_guide(/usr/share/doc/libzelcontrolcenter-dev COMPONENT debian_development EXCLUDE_FROM_ALL)
-
-# `package_source` takes neither what is built nor the history.
-set(CPACK_VERBATIM_VARIABLES ON)
-string(REGEX REPLACE "([][+.*?^()])" "\\\\\\1" source_dir ${PROJECT_SOURCE_DIR})
-set(CPACK_SOURCE_GENERATOR TXZ)
-set(CPACK_SOURCE_PACKAGE_FILE_NAME torvane-settings-${PROJECT_VERSION})
-string(REGEX REPLACE "([][+.*?^()])" "\\\\\\1" build_dir ${PROJECT_BINARY_DIR})
-set(CPACK_SOURCE_IGNORE_FILES "^${source_dir}/(build|install|obj-[^/]*)/" "^${build_dir}/" "^${source_dir}/\\.git")
 
 include(CPack)
 cpack_add_component_group(editor)

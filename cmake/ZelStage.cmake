@@ -49,13 +49,13 @@ endforeach()
 
 # On Linux the system has the font of the interface; on Windows the editor brings it.
 if(WIN32)
-    file(GLOB zel_fonts /usr/share/fonts/truetype/open-sans/OpenSans-Regular.ttf
-                        /usr/share/fonts/truetype/open-sans/OpenSans-Italic.ttf
-                        /usr/share/fonts/truetype/open-sans/OpenSans-Bold.ttf
-                        /usr/share/fonts/truetype/open-sans/OpenSans-Semibold.ttf)
-    if(zel_fonts)
-        file(COPY ${zel_fonts} DESTINATION ${ZEL_STAGE}/resources/fonts)
-    else()
-        message(STATUS "Fonts: left out, fonts-open-sans is not installed")
-    endif()
+    set(ZEL_FONT_DIR /usr/share/fonts/truetype/open-sans CACHE PATH "Where the font of the interface is")
+    set(ZEL_FONTS OpenSans-Regular.ttf OpenSans-Italic.ttf OpenSans-Bold.ttf OpenSans-Semibold.ttf)
+    foreach(font IN LISTS ZEL_FONTS)
+        if(EXISTS ${ZEL_FONT_DIR}/${font})
+            file(COPY ${ZEL_FONT_DIR}/${font} DESTINATION ${ZEL_STAGE}/resources/fonts)
+        else()
+            message(STATUS "Fonts: ${font} is left out, it is not in ZEL_FONT_DIR; cpack will fail")
+        endif()
+    endforeach()
 endif()

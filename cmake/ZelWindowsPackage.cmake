@@ -1,6 +1,7 @@
 # What `cpack` makes for Windows: a zip that runs where it is unpacked, and an installer. The installer knows "/S" (asks
 # nothing) and "/D=<folder>"; the uninstaller removes what has been installed, and never the user's settings.
 
+include(${CMAKE_CURRENT_LIST_DIR}/ZelSourcePackage.cmake)
 set(CPACK_GENERATOR ZIP NSIS)
 set(CPACK_PACKAGE_NAME torvane-settings)
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
@@ -12,8 +13,11 @@ set(CPACK_STRIP_FILES ON)
 
 # Only what a user needs: headers and the CMake package stay with the developers.
 set(CPACK_MONOLITHIC_INSTALL ON)
-set(CPACK_INSTALL_CMAKE_PROJECTS "${PROJECT_BINARY_DIR};${PROJECT_NAME};runtime;/"
-                                 "${PROJECT_BINARY_DIR};${PROJECT_NAME};qt;/")
+foreach(component IN ITEMS runtime defaults qt)
+    list(APPEND CPACK_INSTALL_CMAKE_PROJECTS "${PROJECT_BINARY_DIR};${PROJECT_NAME};${component};/")
+endforeach()
+set(CPACK_ZEL_FONTS ${ZEL_FONTS})
+set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/ZelWindowsFiles.cmake)
 
 # They contain Qt and the compiler's libraries, so the licences of these go with them.
 install(FILES ${PROJECT_SOURCE_DIR}/docs/third-party.md DESTINATION licences)

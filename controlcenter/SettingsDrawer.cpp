@@ -103,6 +103,14 @@ void SettingsDrawer::setWidth(int width)
     area()->widget()->setFixedWidth(std::max(width - barWidth, 0));
 }
 
+void SettingsDrawer::makeRoom(const QWidget& column, int columnWidth)
+{
+    const int distance = columnWidth - column.width();
+    if (isVisible() && distance > 0 && area()->parentWidget() == column.parentWidget() &&
+        area()->x() == column.geometry().right() + 1)
+        area()->move(area()->x() + distance, area()->y());
+}
+
 void SettingsDrawer::showWithoutNewPages()
 {
     for (int index = 0; index < m_pageLayout->count(); ++index) {

@@ -43,6 +43,9 @@ public:
     int width() const;
     /// Shows the drawer with this width; 0 hides it.
     void setWidth(int width);
+    /// Moves a drawer that stands right of a growing column, before the layout does. Once the column has
+    /// covered a part of it, Qt would have to paint all of it again.
+    void makeRoom(const QWidget& column, int columnWidth);
     /// Shows the drawer, but the pages that have not been seen yet only by showNextPage().
     void showWithoutNewPages();
     void showNextPage();

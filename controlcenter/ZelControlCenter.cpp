@@ -201,6 +201,7 @@ int ZelControlCenter::controlCenterWidth() const
 
 void ZelControlCenter::setControlCenterWidth(int width)
 {
+    m_parts->drawer.makeRoom(*this, width);
     setVisible(width >= 1);
     setFixedWidth(width);
 }

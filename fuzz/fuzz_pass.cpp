@@ -110,13 +110,13 @@ QByteArray comparable(const QVariant& value)
     return result;
 }
 
-/// The values of all keys that are not registered.
+/// The values of all keys that are not registered. QSettings keeps "a//b", but looks for "a/b" in its place.
 Content unknownContent(const QSettings& settings)
 {
     Content content;
     for (const QString& key : settings.allKeys()) {
         if (!ZelSettingsRegistry::GetDefaultSettingsValues().count(key))
-            content[key] = comparable(settings.value(key));
+            content[key] = key.contains("//") ? QByteArray() : comparable(settings.value(key));
     }
     return content;
 }

@@ -23,7 +23,9 @@ const int LeastHeightOfLines = 60;   // pixels, for two lines
 const int CompactHeightOfLines = 88; // pixels, for three
 const int LineInset = 4;             // pixels, padding and border of a line
 
+// An application's own sheet may give all widgets a background.
 const char* const Style =
+    "QFrame, .QWidget { background: transparent; }"
     "#pendingList { background: rgb(237,237,237); border-radius: 4px; }"
     "QLabel { font: bold 14px \"Open Sans\"; color: rgb(34,34,34); }"
     "QPushButton { background: transparent; border: 1px solid transparent; padding: 3px;"

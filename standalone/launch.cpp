@@ -147,7 +147,6 @@ bool chooseEngine(const QString& settingsFile, const char*& chosenEngine)
 void installLog(ZelSettingsApplication& application)
 {
     QSettings& settings = application.getSettings();
-    settings.sync(); // An end check may have changed the settings.
     MTLogger::InstallFileHandler(settings.value(keys::LogFile).toString().toUtf8().constData(),
                                  application.isDiagModeEnable(),
                                  settings.value(keys::LogTypeBlackList).toString().toUtf8().constData());

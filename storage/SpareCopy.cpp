@@ -25,16 +25,21 @@ bool SpareCopy::make(QString& reason) const
 {
     const QString incomplete = m_path + ".new";
     QByteArray content;
-    if (!readFile(m_target, content, reason) || !writeFile(incomplete, content, reason))
-        return false;
-    if (copyRights(m_target, incomplete))
-        return keep(incomplete, reason);
-    reason = systemError();
+    // Nobody else may read it, not even before it has the rights of the file.
+    bool isMade = readFile(m_target, content, reason) && writeFile(incomplete, QByteArray(), reason) &&
+                  QFile::setPermissions(incomplete, QFile::ReadOwner | QFile::WriteOwner) &&
+                  writeFile(incomplete, content, reason);
+    if (isMade && !copyRights(m_target, incomplete)) {
+        reason = systemError();
+        isMade = false;
+    }
+    if (isMade && adopt(incomplete, reason))
+        return true;
     QFile::remove(incomplete);
     return false;
 }
 
-bool SpareCopy::keep(const QString& file, QString& reason) const
+bool SpareCopy::adopt(const QString& file, QString& reason) const
 {
     // A file that still has this time has not been written since.
     if (setTime(file, stampOf(m_target).time) && replaceFile(file, m_path))
@@ -74,16 +79,24 @@ bool SpareCopy::finish(const Deadline& deadline, QString& reason) const
     QByteArray wanted, present;
     if (!readFile(m_path, wanted, reason, deadline) || !readFile(m_target, present, reason, deadline))
         return false;
+    const bool isForeign = !wanted.startsWith(present) && stampOf(m_target).time != stampOf(m_path).time;
+    if (isForeign &&
+        !keepBackup(m_target, wanted, "its writing was cut short, and another program has written it",
+                    m_path + ".new", reason))
+        return false;
+    return restoreIfCut(deadline, reason);
+}
+
+bool SpareCopy::restoreIfCut(const Deadline& deadline, QString& reason) const
+{
+    QByteArray wanted, present;
+    if (!readFile(m_path, wanted, reason, deadline) || !readFile(m_target, present, reason, deadline))
+        return false;
     const bool isCut = present != wanted && wanted.startsWith(present);
-    if (isCut) {
-        if (!(SettingsFilesAreReplaced && copyRights(m_target, m_path) && replaceFile(m_path, m_target)) &&
-            overwrite(present, wanted, deadline, reason) != Outcome::InPlace)
-            return false;
-    } else if (present != wanted && stampOf(m_target).time != stampOf(m_path).time) {
-        if (!keepBackup(m_target, wanted, "its writing was cut short, and another program has written it",
-                        m_path + ".new", reason))
-            return false;
-    }
+    if (isCut &&
+        !(SettingsFilesAreReplaced && copyRights(m_target, m_path) && replaceFile(m_path, m_target)) &&
+        overwrite(present, wanted, deadline, reason) != Outcome::InPlace)
+        return false;
     remove();
     return true;
 }

@@ -32,7 +32,7 @@ public:
     bool make(QString& reason) const;
 
     /// Makes another file the spare copy. False, with the reason, when that is not possible.
-    bool keep(const QString& file, QString& reason) const;
+    bool adopt(const QString& file, QString& reason) const;
 
     /// Writes over the file, which other programs may have opened already, waiting to write to it.
     /// @param expected  what the file holds unless another program has written it
@@ -40,9 +40,13 @@ public:
     Outcome overwrite(const QByteArray& expected, const QByteArray& content, const Deadline& deadline,
                       QString& reason) const;
 
-    /// Brings the file to its end if it is cut, and removes the spare copy. If another program has written
-    /// the file since, the spare copy becomes a dated one. False, with the reason, when that is not possible.
+    /// As restoreIfCut(), after a write that was killed. If another program has written the file since, the
+    /// spare copy becomes a dated one.
     bool finish(const Deadline& deadline, QString& reason) const;
+
+    /// Brings the file to its end if it is cut, and removes the spare copy. False, with the reason, when that
+    /// is not possible.
+    bool restoreIfCut(const Deadline& deadline, QString& reason) const;
 
     /// Gives the file the rights that it had when the spare copy was made.
     void giveRights() const;

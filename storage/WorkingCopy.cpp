@@ -49,6 +49,12 @@ bool lacksRegistered(const QVariantMap& values, const QVariantMap& held)
     });
 }
 
+/// It would make QSettings use Qt's own codec.
+QByteArray withoutMark(const QByteArray& text)
+{
+    return text.startsWith(Utf8Mark) ? text.mid(static_cast<int>(qstrlen(Utf8Mark))) : text;
+}
+
 /// Removes the folder of a copy, and nothing that is not ours.
 void removeFolder(const QString& path)
 {
@@ -91,13 +97,12 @@ QVariantMap valuesOf(const QSettings& settings)
 
 WorkingCopy* WorkingCopy::Changing = nullptr;
 
-WorkingCopy::WorkingCopy(const QString& path, const Deadline& deadline)
-    : m_path(path)
-    , m_target(resolvedPath(path))
+WorkingCopy::WorkingCopy(const SettingsLock& lock)
+    : m_lock(lock)
+    , m_target(lock.target())
     , m_folder(m_target + FolderMark + QString::number(QCoreApplication::applicationPid()))
-    , m_deadline(deadline)
     , m_exists(false)
-    , m_damaged(false)
+    , m_mustBeWritten(false)
 {
 }
 
@@ -122,7 +127,7 @@ bool WorkingCopy::make(const QVariantMap& held, QString& reason)
         reason = SettingsFileText::tr("it belongs to another user, who would lose it");
         return false;
     }
-    if (!readFile(m_target, m_content, reason, m_deadline, QIODevice::ReadWrite))
+    if (!readFile(m_target, m_content, reason, m_lock.deadline(), QIODevice::ReadWrite))
         return false;
     removeOrphans(m_target);
     if (!createPrivateFolder(m_folder)) {
@@ -132,30 +137,28 @@ bool WorkingCopy::make(const QVariantMap& held, QString& reason)
     m_copy = nextName();
     const QString damage = settingsDamage(m_content);
     const QString loss = damage.isEmpty() ? droppedComment(m_content) : damage;
-    m_damaged = !damage.isEmpty();
+    m_mustBeWritten = !damage.isEmpty();
     if (!loss.isEmpty() && !keepContent(loss, reason))
         return false;
-    QByteArray text = m_damaged ? withoutObjects(m_content) : m_content + EndText;
-    if (text.startsWith(Utf8Mark)) // It would make QSettings use Qt's own codec.
-        text.remove(0, static_cast<int>(qstrlen(Utf8Mark)));
-    if (!writeFile(m_copy, text, reason))
+    const QByteArray text = m_mustBeWritten ? withoutObjects(m_content) : m_content + EndText;
+    if (!writeFile(m_copy, withoutMark(text), reason))
         return false;
     m_settings = ZelSettingsFile::Open(m_copy);
-    if (!m_damaged && !m_settings->contains(EndKey)) {
+    if (!m_mustBeWritten && !m_settings->contains(EndKey)) {
         reason = SettingsFileText::tr("it cannot be read to its end");
         return false;
     }
     m_settings->remove(EndKey);
     QVariantMap values = valuesOf(*m_settings);
-    if (m_damaged || m_content.isEmpty() || lacksRegistered(values, held)) {
+    if (m_mustBeWritten || m_content.isEmpty() || lacksRegistered(values, held)) {
         for (auto value = held.constBegin(); value != held.constEnd(); ++value) {
             if (!values.contains(value.key())) {
                 values.insert(value.key(), *value);
-                m_damaged = true;
+                m_mustBeWritten = true;
             }
         }
     }
-    return !m_damaged || makeOf(values, reason);
+    return !m_mustBeWritten || makeOf(values, reason);
 }
 
 bool WorkingCopy::makeOf(const QVariantMap& values, QString& reason)
@@ -171,10 +174,20 @@ bool WorkingCopy::makeOf(const QVariantMap& values, QString& reason)
     return true;
 }
 
+bool WorkingCopy::parse(const QByteArray& content, QVariantMap& values) const
+{
+    const QString name = nextName();
+    QString ignored;
+    if (!writeFile(name, withoutMark(content), ignored))
+        return false;
+    values = valuesOf(*ZelSettingsFile::Open(name));
+    return true;
+}
+
 bool WorkingCopy::keepContent(const QString& loss, QString& reason) const
 {
     // A link may lead to another file system, from which the copy could not be renamed.
-    return keepBackup(m_path, m_content, loss, m_path == m_target ? nextName() : m_path + ".bak.new", reason);
+    return keepBackup(path(), m_content, loss, path() == m_target ? nextName() : path() + ".bak.new", reason);
 }
 
 bool WorkingCopy::readAgain(bool isExact, QString& reason)
@@ -221,14 +234,14 @@ Outcome WorkingCopy::put(QString& reason)
     if (!hasRights)
         QFile::setPermissions(m_copy, QFile::ReadOwner | QFile::WriteOwner);
     const SpareCopy spare(m_target);
-    if (!spare.keep(m_copy, reason))
+    if (!spare.adopt(m_copy, reason))
         return Outcome::Failed;
-    const Outcome outcome = spare.overwrite(m_content, m_result, m_deadline, reason);
+    const Outcome outcome = spare.overwrite(m_content, m_result, m_lock.deadline(), reason);
     // A file that was cut still needs it.
     QByteArray present;
     QString ignored;
     if (outcome != Outcome::Failed ||
-        (readFile(m_target, present, ignored, m_deadline) && present == m_content))
+        (readFile(m_target, present, ignored, m_lock.deadline()) && present == m_content))
         spare.remove();
     return outcome;
 }
@@ -237,7 +250,7 @@ Outcome WorkingCopy::replace(QString& reason) const
 {
     QFile target(m_target);
     QtSettingsLock lock(target, QtSettingsLock::Write); // On Windows it needs no open file.
-    if (!lock.take(m_deadline.remaining())) {
+    if (!lock.take(m_lock.deadline().remaining())) {
         reason = lockedReason();
         return Outcome::Failed;
     }

@@ -1,6 +1,7 @@
 #ifndef ZEL_WORKINGCOPY_H
 #define ZEL_WORKINGCOPY_H
 
+#include "SettingsLock.h"
 #include "SpareCopy.h"
 
 #include <QByteArray>
@@ -18,14 +19,13 @@ namespace zel {
 QVariantMap valuesOf(const QSettings& settings);
 
 /// A complete file beside the settings file, in a folder that only its user can enter. It is changed in place
-/// of the settings file, and takes its place when it is known to be good. Its maker holds the lock of the
-/// settings file, except while it is changed.
+/// of the settings file, and takes its place when it is known to be good. Its maker holds the lock, except
+/// while the copy is changed.
 class WorkingCopy
 {
 public:
-    /// @param path  of the settings file, which may be a link
-    /// @param deadline  ends all waits; outlives the copy
-    WorkingCopy(const QString& path, const Deadline& deadline);
+    /// @param lock  of the settings file; outlives the copy
+    explicit WorkingCopy(const SettingsLock& lock);
     /// Removes the copy, unless it has taken its place.
     ~WorkingCopy();
 
@@ -42,10 +42,16 @@ public:
     QSettings& settings() const { return *m_settings; }
 
     /// Of the settings file, as it was given.
-    const QString& path() const { return m_path; }
+    const QString& path() const { return m_lock.path(); }
     /// True when the file must be written even if the change sets nothing: QSettings could not write its
     /// content again without a loss, or has lost some.
-    bool isDamaged() const { return m_damaged; }
+    bool mustBeWritten() const { return m_mustBeWritten; }
+
+    /// Of the settings file, when it was copied; once the copy is written, of that.
+    const QByteArray& content() const { return m_result.isNull() ? m_content : m_result; }
+
+    /// Reads the values of a content of the settings file. False when there is no room for that.
+    bool parse(const QByteArray& content, QVariantMap& values) const;
 
     /// Keeps the content of the settings file as a dated copy; see keepBackup().
     bool keepContent(const QString& loss, QString& reason) const;
@@ -68,15 +74,14 @@ private:
     bool readAgain(bool isExact, QString& reason);
     Outcome replace(QString& reason) const;
 
-    const QString m_path;
+    const SettingsLock& m_lock;
     const QString m_target; ///< The settings file behind all links.
     const QString m_folder; ///< Of the copy.
-    const Deadline& m_deadline;
     QString m_copy;
     QByteArray m_content; ///< Of the settings file, when it was copied.
     QByteArray m_result;  ///< Of the copy, once it is written.
     bool m_exists;
-    bool m_damaged;
+    bool m_mustBeWritten;
     std::unique_ptr<QSettings> m_settings;
 };
 

@@ -3,23 +3,23 @@
 #include "FileAccess.h"
 #include "IniCodec.h"
 #include "Log.h"
-#include "SettingsBackup.h"
 #include "SettingsDamage.h"
+#include "SettingsLock.h"
 #include "SettingsValidation.h"
+#include "SharedSettings.h"
+#include "SpareCopy.h"
 #include "WorkingCopy.h"
-#include "base/FileLock.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QSettings>
 
 #include <algorithm>
 #include <map>
-#include <vector>
 
 namespace zel {
 
 namespace {
+
+const int MaximumTries = 50; // Of a write, while others write the file.
 
 /// Lets pages see the copy while a change runs, also if it ends with an exception.
 class Visible
@@ -30,128 +30,6 @@ public:
 
 private:
     Q_DISABLE_COPY(Visible)
-};
-
-/// Keeps other programs from writing a file.
-class SettingsLock
-{
-public:
-    SettingsLock(const QString& path, const Deadline& deadline)
-        : m_names(namesOf(path))
-        , m_deadline(deadline)
-    {
-        QDir().mkpath(QFileInfo(path).path());
-        for (const QString& name : m_names)
-            m_locks.push_back(std::make_unique<FileLock>(name + ".lock"));
-    }
-
-    /// Waits for others, and ends a write that was killed. False, with the reason, when that fails.
-    bool take(QString& reason)
-    {
-        for (const auto& lock : m_locks) {
-            const FileLock::State state = lock->take(m_deadline.remaining());
-            if (state != FileLock::Free) {
-                reason = lockReason(*lock, state == FileLock::Held);
-                release();
-                return false;
-            }
-        }
-        const SpareCopy spare(m_names.first());
-        return !spare.exists() || spare.finish(m_deadline, reason);
-    }
-
-    void release()
-    {
-        for (const auto& lock : m_locks)
-            lock->release();
-    }
-
-private:
-    const QStringList m_names;
-    const Deadline& m_deadline;
-    std::vector<std::unique_ptr<FileLock>> m_locks;
-};
-
-void set(QSettings& settings, const QVariantMap& before, const QVariantMap& after)
-{
-    for (auto value = before.constBegin(); value != before.constEnd(); ++value)
-        if (!after.contains(value.key()))
-            settings.remove(value.key());
-    for (auto value = after.constBegin(); value != after.constEnd(); ++value)
-        if (!before.contains(value.key()) || before.value(value.key()) != *value)
-            settings.setValue(value.key(), *value);
-}
-
-/// The settings that a write is asked for. They only read the file. A change may set values in them all the
-/// same, as many a page does: QSettings cannot forget these, and has to write them.
-class SharedSettings
-{
-public:
-    SharedSettings(QSettings& settings, const Deadline& deadline)
-        : m_settings(settings)
-        , m_held(valuesOf(settings))
-        , m_deadline(deadline)
-    {
-    }
-
-    /// Unless the file has been written, they hold again what they held.
-    ~SharedSettings()
-    {
-        const QVariantMap shown = valuesOf(m_settings);
-        if (m_isWritten || shown == m_held)
-            return;
-        set(m_settings, shown, m_held);
-        QString ignored;
-        writePending(ignored);
-    }
-
-    const QVariantMap& held() const { return m_held; }
-
-    /// Sets in a copy of the file what the change has set here.
-    void carryOver(QSettings& copy) const { set(copy, m_held, valuesOf(m_settings)); }
-
-    /// To be called when the file is written, and not under its lock. False, with the reason, when it has not
-    /// stayed whole.
-    bool readWritten(QString& reason)
-    {
-        m_isWritten = true;
-        if (valuesOf(m_settings) != m_held)
-            return writePending(reason);
-        readAgain();
-        return true;
-    }
-
-private:
-    Q_DISABLE_COPY(SharedSettings)
-
-    void readAgain()
-    {
-        m_settings.sync();
-        ZelSettingsFile::UseFileEncoding(m_settings); // Reading the UTF-8 mark brings Qt's own codec back.
-    }
-
-    /// Lets them write, so that nothing is pending. They hold what the file holds, but QSettings of Qt 4 may
-    /// cut it all the same, and that of Qt 5 changes its rights.
-    bool writePending(QString& reason)
-    {
-        const QString target = resolvedPath(m_settings.fileName());
-        const SpareCopy spare(target);
-        SettingsLock lock(m_settings.fileName(), m_deadline);
-        if (!lock.take(reason) || (exists(target) && !spare.make(reason))) {
-            // They would wait without end, or write without protection.
-            QCoreApplication::removePostedEvents(&m_settings, QEvent::UpdateRequest);
-            return true;
-        }
-        lock.release();
-        readAgain();
-        spare.giveRights();
-        return lock.take(reason);
-    }
-
-    QSettings& m_settings;
-    const QVariantMap m_held;
-    const Deadline& m_deadline;
-    bool m_isWritten = false;
 };
 
 /// Keeps a dated copy of a file in which a list stands in place of a registered text, and now the text.
@@ -168,10 +46,16 @@ bool keepLists(const WorkingCopy& copy, const QVariantMap& before, QString& reas
 /// Drops the serialised objects of a file. False, with the reason, when that is not possible.
 bool dropObjects(const QString& path, const Deadline& deadline, QString& reason)
 {
-    SettingsLock lock(path, deadline);
-    WorkingCopy copy(path, deadline);
-    return lock.take(reason) && copy.make(QVariantMap(), reason) && copy.write(reason) &&
-           copy.put(reason) == Outcome::InPlace;
+    Outcome outcome = Outcome::Outdated;
+    while (outcome == Outcome::Outdated && deadline.remaining() > 0) {
+        SettingsLock lock(path, deadline);
+        WorkingCopy copy(lock);
+        const bool isMade = lock.take(reason) && copy.make(QVariantMap(), reason) && copy.write(reason);
+        outcome = isMade ? copy.put(reason) : Outcome::Failed;
+    }
+    if (outcome == Outcome::Outdated)
+        reason = lockedReason();
+    return outcome == Outcome::InPlace;
 }
 
 /// Makes a file one that QSettings can read, and reads it. False, with the reason, when that is not possible.
@@ -187,9 +71,44 @@ bool makeUsable(const QString& path, const Deadline& deadline, QByteArray& conte
         return true;
     if (!dropObjects(path, deadline, reason))
         return false;
+    if (!readFile(path, content, reason, deadline))
+        return false;
     if (shared)
-        shared->sync();
-    return readFile(path, content, reason, deadline);
+        readAgain(*shared, content);
+    return true;
+}
+
+/// One attempt of write(). Outdated when another one has to follow. Failed without a reason when the change
+/// gave up.
+Outcome tryWrite(const QString& path, SharedSettings& shared, const ZelSettingsFile::Change& change,
+                 Deadline& deadline, QString& reason, QString& error)
+{
+    SettingsLock lock(path, deadline);
+    WorkingCopy copy(lock);
+    if (!lock.take(reason) || !copy.make(shared.held(), reason))
+        return Outcome::Failed;
+    const QVariantMap before = valuesOf(copy.settings());
+    shared.carryPending(copy);
+    // The change may take long, or let the shared settings write, which then wait for the lock.
+    lock.release();
+    const bool isMade = deadline.pauseFor([&] {
+        const Visible visible(copy);
+        return change(copy.settings(), error);
+    });
+    if (!isMade) {
+        reason.clear();
+        return Outcome::Failed;
+    }
+    shared.carryOver(copy.settings());
+    const QVariantMap after = valuesOf(copy.settings());
+    Outcome outcome = Outcome::InPlace;
+    if (after != before || copy.mustBeWritten())
+        outcome = keepLists(copy, before, reason) && lock.take(reason) && copy.write(reason)
+                      ? copy.put(reason)
+                      : Outcome::Failed;
+    lock.release();
+    return outcome != Outcome::InPlace || shared.readWritten(after, copy.content(), reason) ? outcome
+                                                                                            : Outcome::Failed;
 }
 
 /// ZelSettingsFile::Write() within a time.
@@ -198,43 +117,31 @@ bool write(QSettings& settings, const ZelSettingsFile::Change& change, Deadline&
     const QString path = settings.fileName();
     QByteArray content;
     QString reason;
-    const auto refuse = [&] { return refuseWriting(path, reason, error); };
     if (WorkingCopy::Changing) {
         reason = SettingsFileText::tr("it is being written already");
-        return refuse();
+        return refuseWriting(path, reason, error);
     }
     ZelSettingsFile::UseFileEncoding(settings);
     if (!makeUsable(path, deadline, content, reason, &settings))
-        return refuse();
+        return refuseWriting(path, reason, error);
     SharedSettings shared(settings, deadline);
-    for (Outcome outcome = Outcome::Outdated; outcome == Outcome::Outdated;) {
-        SettingsLock lock(path, deadline);
-        WorkingCopy copy(path, deadline);
-        if (!lock.take(reason) || !copy.make(shared.held(), reason))
-            return refuse();
-        const QVariantMap before = valuesOf(copy.settings());
-        // The change may take long, or let the shared settings write, which then wait for the lock.
-        lock.release();
-        const bool isMade = deadline.pauseFor([&] {
-            const Visible visible(copy);
-            return change(copy.settings(), error);
-        });
-        if (!isMade)
-            return false;
-        shared.carryOver(copy.settings());
-        if (valuesOf(copy.settings()) == before && !copy.isDamaged())
-            break;
-        if (!keepLists(copy, before, reason) || !lock.take(reason) || !copy.write(reason))
-            return refuse();
-        outcome = copy.put(reason);
-        if (outcome == Outcome::Outdated && deadline.remaining() == 0) {
-            reason = lockedReason();
-            outcome = Outcome::Failed;
-        }
-        if (outcome == Outcome::Failed)
-            return refuse();
-    }
-    return shared.readWritten(reason) || refuse();
+    Outcome outcome = Outcome::Outdated;
+    for (int tries = 0; outcome == Outcome::Outdated && tries < MaximumTries && deadline.remaining() > 0;
+         ++tries)
+        outcome = tryWrite(path, shared, change, deadline, reason, error);
+    if (outcome == Outcome::Outdated)
+        reason = lockedReason();
+    return outcome == Outcome::InPlace || (!reason.isEmpty() && refuseWriting(path, reason, error));
+}
+
+/// ZelSettingsFile::ReadAgain() of a usable file within a time.
+bool readSafely(QSettings& settings, const QByteArray& content, Deadline& deadline, QString& error)
+{
+    const auto nothing = [](QSettings&, QString&) { return true; };
+    if (hasPending(settings))
+        return write(settings, nothing, deadline, error);
+    readAgain(settings, content);
+    return true;
 }
 
 } // namespace
@@ -272,11 +179,14 @@ QSettings& ZelSettingsFile::Current(QSettings& settings)
 
 bool ZelSettingsFile::ReadAgain(QSettings& settings, QString& error)
 {
-    if (!IsUsable(settings.fileName(), error))
-        return false;
-    settings.sync();
-    UseFileEncoding(settings);
-    return true;
+    if (WorkingCopy::Changing)
+        return true;
+    Deadline deadline;
+    QByteArray content;
+    QString reason;
+    const QString path = settings.fileName();
+    return makeUsable(path, deadline, content, reason) ? readSafely(settings, content, deadline, error)
+                                                       : refuseReading(path, reason, error);
 }
 
 bool ZelSettingsFile::Write(QSettings& settings, const Change& change, QString& error)
@@ -290,11 +200,10 @@ bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
     Deadline deadline;
     const QString path = settings.fileName();
     QByteArray content;
-    QString reason;
+    QString reason, ignored;
     if (!makeUsable(path, deadline, content, reason, &settings))
         return refuseReading(path, reason, error);
-    settings.sync();
-    UseFileEncoding(settings);
+    readSafely(settings, content, deadline, ignored);
 
     std::map<QString, std::pair<QVariant, QString>> values; // What is stored, and what it becomes.
     bool needsWrite = !settingsDamage(content).isEmpty();
@@ -320,7 +229,12 @@ bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
         }
         return true;
     };
-    return (!needsWrite || write(settings, change, deadline, error)) && runEndChecks(settings, error);
+    if ((needsWrite && !write(settings, change, deadline, error)) ||
+        !deadline.pauseFor([&] { return runEndChecks(settings, error); }))
+        return false;
+    if (hasPending(settings)) // An end check has set values.
+        readSafely(settings, content, deadline, ignored);
+    return true;
 }
 
 } // namespace zel

@@ -55,7 +55,9 @@ public:
     /// themselves.
     static QSettings& Current(QSettings& settings);
 
-    /// Reads the file again if others have changed it. False, and nothing is read, when it is not usable.
+    /// Reads the file again if others have changed it. What has been set in the settings is written first, as
+    /// Write() does. Does nothing within a change. False, and nothing is read, when the file is not usable,
+    /// or that fails.
     static bool ReadAgain(QSettings& settings, QString& error);
 
     /// Brings the file into the form that the registry asks for, as ZelSettingsRegistry::EnsureSettings does,

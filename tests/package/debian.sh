@@ -22,7 +22,7 @@ cleanup() {
 trap cleanup EXIT
 
 (cd "$1" && umask 027 && cpack -G DEB -B "$work") >/dev/null
-lintian --allow-root --fail-on error,warning --tag-display-limit 0 "$work"/*.deb || fail "lintian objects"
+lintian --allow-root -EIL +pedantic --fail-on error,warning,info,pedantic,experimental --tag-display-limit 0 "$work"/*.deb || fail "lintian objects"
 dpkg --install --force-depends "$work"/*.deb >/dev/null
 
 tree=/usr/lib/torvane-settings
@@ -62,6 +62,10 @@ icon=$(sed -n 's/^Icon=//p' $entry)
 export XDG_CONFIG_HOME=$work/config XDG_CACHE_HOME=$work/cache XDG_RUNTIME_DIR=$work/run QT_QPA_PLATFORM=offscreen
 mkdir -p -m 700 "$XDG_RUNTIME_DIR" "$XDG_CONFIG_HOME/TorvaneBoundlessX64"
 printf '[General]\nsettingsVersion=2\nengine=software\nlanguage=fr\n' >"$XDG_CONFIG_HOME/TorvaneBoundlessX64/Settings.ini"
+# An upgrade keeps what an administrator wrote.
+defaults=/etc/torvane-settings/Defaults.ini
+printf '[raytracer]\nquality=Ultra\n' >$defaults
+dpkg --install --force-depends "$work"/torvane-settings_*.deb >/dev/null </dev/null
 cd /
 "${command[@]}" >"$work/output" 2>&1 </dev/null &
 editor=$!
@@ -72,12 +76,13 @@ for ((i = 0; i < 100; ++i)); do
     sleep 0.1
 done
 grep -q "Applied the settings" "$log" || fail "the editor did not come up: $(cat "$work/output")"
+grep -q "^quality=Ultra" "$XDG_CONFIG_HOME/TorvaneBoundlessX64/Settings.ini" || fail "$defaults does not count"
 pkill -P "$editor" || fail "the editor was gone"
 wait "$editor" 2>/dev/null || true
 editor=
 
-dpkg --remove libzelcontrolcenter-dev torvane-settings >/dev/null
-for left in /usr/lib/torvane-settings /usr/include/zel "$entry" "/usr/bin/${command[0]}"; do
+dpkg --purge libzelcontrolcenter-dev torvane-settings >/dev/null
+for left in ${defaults%/*} /usr/lib/torvane-settings /usr/include/zel "$entry" "/usr/bin/${command[0]}"; do
     [ ! -e "$left" ] || fail "$left was left behind"
 done
 echo "Installed, started and removed."

@@ -4,7 +4,7 @@
 #         -DLIBRARY_FLAGS=<flags> -P package.cmake
 
 function(run what)
-    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output TIMEOUT 500)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output TIMEOUT 900)
     if(NOT result EQUAL 0)
         message(FATAL_ERROR "${what}: ${result}\n${output}")
     endif()

@@ -25,6 +25,7 @@ class tst_Viewer : public QObject
 private Q_SLOTS:
     void init()
     {
+        m_viewer.reset();
         m_home = std::make_unique<QTemporaryDir>();
         m_viewer = std::make_unique<Editor>(m_home->path());
         QSettings settings(file("Settings.ini"), QSettings::IniFormat);
@@ -32,8 +33,6 @@ private Q_SLOTS:
         settings.setValue("turntable/enabled", "false");
         settings.setValue("Resources/LODTrianglesCap", "100000");
     }
-
-    void cleanup() { m_viewer.reset(); }
 
     void closingAsksBeforeItDiscards()
     {
@@ -55,8 +54,7 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(qAbs(paintedFacets() - before / 2) < before / 20, Patience);
 
         m_viewer->act("key F12");
-        const QDir pictures(file("Screenshots"));
-        QTRY_COMPARE_WITH_TIMEOUT(pictures.entryList({"*.png"}).size(), 1, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(QDir(file("Screenshots")).entryList({"*.png"}).size(), 1, Patience);
     }
 
 private:
@@ -64,8 +62,7 @@ private:
 
     int paintedFacets() const
     {
-        const QString log = contentOf(file("log.txt"));
-        return log.section("painting ", -1).section(' ', 0, 0).toInt();
+        return QString(contentOf(file("log.txt"))).section("painting ", -1).section(' ', 0, 0).toInt();
     }
 
     /// What is open once nothing moves any more, by the colour of the place where the menu column is.

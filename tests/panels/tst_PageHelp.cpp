@@ -208,6 +208,23 @@ private Q_SLOTS:
         QCOMPARE(marked(), QString("Simplification"));
     }
 
+    void aHostsBackgroundCoversNoBox()
+    {
+        qApp->setStyleSheet("QWidget { background: #ff0000; }");
+        type("databaseSpinBox", "512");
+        ZelRendererSelector selector(nullptr, Qt::WindowFlags());
+        QMessageBox question(QMessageBox::Question, "Title", "Text", QMessageBox::Ok);
+        question.setStyleSheet(kqDMIApplication::GetStylesheet("kqMessageBox"));
+        for (QWidget* box : {find("helpFrame"), find("pendingList"), find("ZelGeneralSettingsPanel"),
+                             static_cast<QWidget*>(&selector), static_cast<QWidget*>(&question)}) {
+            const QImage picture = pictureOf(box);
+            for (QWidget* in : box->findChildren<QWidget*>())
+                if (in->isVisibleTo(box) && picture.pixel(in->mapTo(box, {1, 1})) == qRgb(255, 0, 0))
+                    QFAIL(qPrintable(in->objectName()));
+        }
+        qApp->setStyleSheet(QString());
+    }
+
     void listsAllThatApplyWouldStore()
     {
         find<QCheckBox>("deferredFXAACheckBox")->click();

@@ -195,7 +195,7 @@ private Q_SLOTS:
     }
 #endif
 
-#if !defined(_WIN32)
+#if !defined(ZEL_LEAVE_OUT_clientWaitsUntilTheInstanceListens)
     void clientWaitsUntilTheInstanceListens()
     {
         QCOMPARE(start()->part(), QByteArray("instance"));
@@ -214,7 +214,9 @@ private Q_SLOTS:
         QCOMPARE(QProcess::execute("kill", QStringList() << "-STOP" << QString::number(idOf(*instance))), 0);
         QCOMPARE(send("unheard", {"300"}), QByteArray("failed"));
     }
+#endif
 
+#if !defined(ZEL_LEAVE_OUT_placeIsPrivate)
     void placeIsPrivate()
     {
         const QString own = m_folder->filePath("single-instance-%1").arg(geteuid());
@@ -227,7 +229,9 @@ private Q_SLOTS:
             QVERIFY(removeTree(own));
         }
     }
+#endif
 
+#if !defined(ZEL_LEAVE_OUT_otherUserStaysOutside)
     void otherUserStaysOutside()
     {
         if (::geteuid() != 0)

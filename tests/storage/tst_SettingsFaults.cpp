@@ -444,12 +444,71 @@ private Q_SLOTS:
         QVERIFY(ZelSettingsFile::Write(*settings, mixed, error));
         QVERIFY(contentOf(m_path).contains("[own]\nkey=1\n") &&
                 contentOf(m_path).contains("[page]\nkey=2\n"));
-        QVERIFY(holdsForeign(contentOf(m_path)) && files("*").size() == 1);
+        QVERIFY2(holdsForeign(contentOf(m_path)), contentOf(m_path));
+        QCOMPARE(files("*").join(" "), QString("Settings.ini"));
         // Nothing is pending: what another program writes stays.
         QVERIFY(change(m_path, {{"page/key", 3}}));
         settings->sync();
         QCoreApplication::sendPostedEvents(settings.get(), 0);
         QVERIFY(contentOf(m_path).contains("[page]\nkey=3\n") && settings->value("page/key").toInt() == 3);
+        // What was pending before is written, but not over the change, nor over what others have written.
+        int host = 0;
+        for (const QByteArray general : {"[page]\nkey=4\n", "[page]\nkey=5\n", "no value\n"}) {
+            store(m_path, general + "[own]\nkey=9\n" + Foreign);
+            settings->setValue("page/key", 4);
+            settings->setValue("host/key", ++host);
+            QVERIFY(write(*settings, {{"page/key", 6}}));
+            settings->sync();
+            const QByteArray content = contentOf(m_path);
+            QVERIFY2(holdsForeign(content) && content.contains("[own]\nkey=9\n"), content);
+            QVERIFY2(content.contains("[host]\nkey=" + QByteArray::number(host) + '\n'), content);
+            QVERIFY2(content.contains("[page]\nkey=6\n"), content);
+        }
+        // A change that gives up takes nothing along, not even of a group with the name of its key.
+        settings->setValue("host", "group");
+        const auto givesUp = [&](QSettings&, QString&) {
+            settings->setValue("Foreign", 1);
+            settings->setValue("page/key", 7);
+            store(m_path, contentOf(m_path) + "[late]\nkey=1\n");
+            return false;
+        };
+        QVERIFY(!ZelSettingsFile::Write(*settings, givesUp, error));
+        QVERIFY(ZelSettingsFile::ReadAgain(*settings, error));
+        QVERIFY2(holdsForeign(contentOf(m_path)) && contentOf(m_path).contains("[late]\nkey=1\n"),
+                 contentOf(m_path));
+        QVERIFY2(contentOf(m_path).contains("host=group\n") && contentOf(m_path).contains("[page]\nkey=6\n"),
+                 contentOf(m_path));
+        const auto locked = [&](QSettings&, QString&) {
+            settings->setValue("page/key", 7);
+            return ::system("touch " + m_path.toUtf8() + ".lock") != 0;
+        };
+        QVERIFY(!ZelSettingsFile::Write(*settings, locked, error));
+        QVERIFY(QFile::remove(m_path + ".lock") && change(m_path, {{"host/key", 9}}));
+        QVERIFY(write(*settings, {{"page/key", 8}}));
+        settings->sync();
+        QVERIFY2(contentOf(m_path).contains("[page]\nkey=8\n"), contentOf(m_path));
+        QVERIFY2(contentOf(m_path).contains("[host]\nkey=9\n"), contentOf(m_path));
+    }
+
+    void endCheckSetsValues()
+    {
+        static bool isMine;
+        isMine = true;
+        const auto check = [](QSettings& settings, QString&) {
+            if (isMine) // It stays registered.
+                settings.setValue("checked/key", 1);
+            return true;
+        };
+        ZelSettingsRegistry::RegisterEndCheckFunction(check);
+        const auto settings = ZelSettingsFile::Open(m_path);
+        QVERIFY(ZelSettingsFile::Repair(*settings, error) &&
+                contentOf(m_path).contains("[checked]\nkey=1\n"));
+        store(m_path, "junk\n" + contentOf(m_path));
+        settings->setValue("checked/key", 2);
+        QVERIFY2(ZelSettingsFile::ReadAgain(*settings, error), qPrintable(error));
+        QVERIFY2(copies().size() == 1, contentOf(m_path));
+        QVERIFY(contentOf(m_path).contains("[checked]\nkey=2\n"));
+        isMine = false;
     }
 
     void othersWriteWithoutALock()
@@ -563,6 +622,18 @@ private Q_SLOTS:
             written += isWritten;
         }
         QVERIFY(written > 0 && written < 16);
+        // What a host has set is too large for QSettings, which cuts the file.
+        for (const int freePages : {5, 8}) {
+            store(m_path, Foreign);
+            fillDisk(filler, freePages);
+            const auto settings = ZelSettingsFile::Open(m_path);
+            settings->setValue("host/key", QString(30000, 'z'));
+            QVERIFY(!write(*settings, {{"new/key", 1}}));
+            QCOMPARE(contentOf(m_path), Foreign);
+            QVERIFY(filler.remove());
+            QVERIFY2(write(*settings, {{"new/key", 1}}), qPrintable(error));
+            QVERIFY(contentOf(m_path).contains("zzz") && contentOf(m_path).contains("[new]\nkey=1\n"));
+        }
         store(m_path, Foreign);
         fillDisk(filler, 16);
         const QByteArray path = m_path.toUtf8(), other = path + ".other";

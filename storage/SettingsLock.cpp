@@ -1,0 +1,48 @@
+#include "SettingsLock.h"
+
+#include "FileAccess.h"
+#include "SpareCopy.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace zel {
+
+SettingsLock::SettingsLock(const QString& path, const Deadline& deadline)
+    : m_path(path)
+    , m_names(namesOf(path))
+    , m_deadline(deadline)
+{
+    const QString folder = QFileInfo(path).path();
+    if (!exists(folder))
+        QDir().mkpath(folder);
+    for (const QString& name : m_names)
+        m_locks.push_back(std::make_unique<FileLock>(name + ".lock"));
+}
+
+FileLock::State SettingsLock::wait(QString& reason)
+{
+    for (const auto& lock : m_locks) {
+        const FileLock::State state = lock->take(m_deadline.remaining());
+        if (state != FileLock::Free) {
+            reason = lockReason(*lock, state == FileLock::Held);
+            release();
+            return state;
+        }
+    }
+    return FileLock::Free;
+}
+
+bool SettingsLock::take(QString& reason)
+{
+    const SpareCopy spare(target());
+    return wait(reason) == FileLock::Free && (!spare.exists() || spare.finish(m_deadline, reason));
+}
+
+void SettingsLock::release()
+{
+    for (const auto& lock : m_locks)
+        lock->release();
+}
+
+} // namespace zel

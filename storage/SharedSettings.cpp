@@ -1,0 +1,161 @@
+#include "SharedSettings.h"
+
+#include "FileAccess.h"
+#include "SettingsLock.h"
+#include "SpareCopy.h"
+#include "WorkingCopy.h"
+#include "ZelSettingsFile.h"
+#include "base/SystemFiles.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QSettings>
+
+namespace zel {
+
+namespace {
+
+// Properties of settings: true when they hold values that they could not write, and the content of the file
+// when they read it.
+const char* const UnwrittenProperty = "zelUnwritten";
+const char* const ContentProperty = "zelContent";
+
+/// Finds out whether settings are about to write: they have posted an event to themselves.
+class PendingProbe : public QObject
+{
+public:
+    bool isFound = false;
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        isFound = isFound || event->type() == QEvent::UpdateRequest;
+        return true;
+    }
+};
+
+/// Makes settings hold these values, and no others.
+void set(QSettings& settings, const QVariantMap& wanted)
+{
+    const QVariantMap present = valuesOf(settings);
+    for (auto value = present.constBegin(); value != present.constEnd(); ++value)
+        if (!wanted.contains(value.key()))
+            settings.remove(value.key());
+    const QVariantMap left = valuesOf(settings); // A group goes with the key of its name.
+    for (auto value = wanted.constBegin(); value != wanted.constEnd(); ++value)
+        if (!left.contains(value.key()) || left.value(value.key()) != *value)
+            settings.setValue(value.key(), *value);
+}
+
+/// Makes the same changes in settings that lead from some values to others.
+void change(QSettings& settings, const QVariantMap& from, const QVariantMap& to)
+{
+    QVariantMap wanted = valuesOf(settings);
+    for (auto value = from.constBegin(); value != from.constEnd(); ++value)
+        if (!to.contains(value.key()))
+            wanted.remove(value.key());
+    for (auto value = to.constBegin(); value != to.constEnd(); ++value)
+        if (!from.contains(value.key()) || from.value(value.key()) != *value)
+            wanted.insert(value.key(), *value);
+    set(settings, wanted);
+}
+
+} // namespace
+
+bool hasPending(QSettings& settings)
+{
+    PendingProbe probe;
+    settings.installEventFilter(&probe);
+    QCoreApplication::sendPostedEvents(&settings, QEvent::UpdateRequest);
+    settings.removeEventFilter(&probe);
+    if (probe.isFound) // Without it they would never post one again.
+        QCoreApplication::postEvent(&settings, new QEvent(QEvent::UpdateRequest));
+    return probe.isFound || settings.property(UnwrittenProperty).toBool();
+}
+
+void readAgain(QSettings& settings, const QByteArray& content)
+{
+    settings.sync();
+    ZelSettingsFile::UseFileEncoding(settings); // Reading the UTF-8 mark brings Qt's own codec back.
+    settings.setProperty(ContentProperty, content);
+}
+
+SharedSettings::SharedSettings(QSettings& settings, const Deadline& deadline)
+    : m_settings(settings)
+    , m_held(valuesOf(settings))
+    , m_hasPending(hasPending(settings))
+    , m_deadline(deadline)
+    , m_isWritten(false)
+{
+}
+
+SharedSettings::~SharedSettings()
+{
+    if (m_isWritten || valuesOf(m_settings) == m_held)
+        return;
+    set(m_settings, m_held);
+    stopWriting(); // The next write makes them hold what the file holds.
+}
+
+void SharedSettings::carryPending(WorkingCopy& copy) const
+{
+    if (!m_hasPending)
+        return;
+    // Where they have not been read by us, a value that others have changed since cannot be told from one
+    // that was set here.
+    const QVariant content = m_settings.property(ContentProperty);
+    QVariantMap former;
+    if (!content.isValid() || !copy.parse(content.toByteArray(), former))
+        former = valuesOf(copy.settings());
+    QVariantMap present = m_held;
+    if (!content.isValid())
+        for (auto value = former.constBegin(); value != former.constEnd(); ++value)
+            if (!present.contains(value.key()))
+                present.insert(value.key(), *value);
+    change(copy.settings(), former, present);
+}
+
+void SharedSettings::carryOver(QSettings& copy) const
+{
+    change(copy, m_held, valuesOf(m_settings));
+}
+
+bool SharedSettings::readWritten(const QVariantMap& values, const QByteArray& content, QString& reason)
+{
+    m_isWritten = true;
+    if (!m_hasPending && valuesOf(m_settings) == m_held) {
+        readAgain(m_settings, content);
+        return true;
+    }
+    set(m_settings, values);
+    return writePending(content, reason) || !SpareCopy(resolvedPath(m_settings.fileName())).exists();
+}
+
+/// They would wait without end, or write without protection.
+void SharedSettings::stopWriting()
+{
+    QCoreApplication::removePostedEvents(&m_settings, QEvent::UpdateRequest);
+    m_settings.setProperty(UnwrittenProperty, true);
+}
+
+/// Lets them write, so that nothing is pending. They hold what the file holds, but QSettings may cut it all
+/// the same, and that of Qt 5 changes its rights, so a spare copy stands beside it meanwhile. False, with the
+/// reason, when they have not written. There is still a spare copy then if the file is not whole.
+bool SharedSettings::writePending(const QByteArray& content, QString& reason)
+{
+    SettingsLock lock(m_settings.fileName(), m_deadline);
+    const SpareCopy spare(lock.target());
+    if (!lock.take(reason) || (exists(lock.target()) && !spare.make(reason))) {
+        stopWriting();
+        return false;
+    }
+    const FileStamp former = stampOf(lock.target());
+    lock.release();
+    readAgain(m_settings, content);
+    spare.giveRights();
+    const FileStamp present = stampOf(lock.target()); // QSettings does not tell of every failure.
+    m_settings.setProperty(UnwrittenProperty, present.size == former.size && present.time == former.time);
+    // Whoever else holds the lock now brings the file to its end. A full disk has no room for a lock.
+    return lock.wait(reason) == FileLock::Held || !spare.exists() || spare.restoreIfCut(m_deadline, reason);
+}
+
+} // namespace zel

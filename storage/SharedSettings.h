@@ -1,0 +1,62 @@
+#ifndef ZEL_SHAREDSETTINGS_H
+#define ZEL_SHAREDSETTINGS_H
+
+#include <QByteArray>
+#include <QString>
+#include <QVariant>
+
+class QSettings;
+
+namespace zel {
+
+class Deadline;
+class WorkingCopy;
+
+/// True when settings hold values that they have not written.
+bool hasPending(QSettings& settings);
+
+/// Reads the file again. QSettings writes what is pending, without protection.
+/// @param content  of the file, as it was just read
+void readAgain(QSettings& settings, const QByteArray& content);
+
+/// The settings that a write is asked for. They only read the file. Hosts and pages set values in them all
+/// the same: these are carried into the copy of the file. QSettings cannot forget them, so it is given what
+/// the file then holds, and writes that once more.
+class SharedSettings
+{
+public:
+    /// @param deadline  ends all waits; outlives this object, as the settings do
+    SharedSettings(QSettings& settings, const Deadline& deadline);
+    /// Unless the file has been written, they hold again what they held.
+    ~SharedSettings();
+
+    /// What they held before the change.
+    const QVariantMap& held() const { return m_held; }
+
+    /// Sets in a copy of the file what has been set here before the change.
+    void carryPending(WorkingCopy& copy) const;
+
+    /// Sets in a copy of the file what the change has set here.
+    void carryOver(QSettings& copy) const;
+
+    /// To be called when the file is written, and not under its lock. False, with the reason, when it has not
+    /// stayed whole.
+    /// @param values, content  what the file holds now
+    bool readWritten(const QVariantMap& values, const QByteArray& content, QString& reason);
+
+private:
+    Q_DISABLE_COPY(SharedSettings)
+
+    void stopWriting();
+    bool writePending(const QByteArray& content, QString& reason);
+
+    QSettings& m_settings;
+    const QVariantMap m_held;
+    const bool m_hasPending;
+    const Deadline& m_deadline;
+    bool m_isWritten;
+};
+
+} // namespace zel
+
+#endif
