@@ -122,15 +122,24 @@ public:
             return edits;
         const Model stored = storedModel(), current = currentModel();
         for (const Row& row : m_rows) {
-            if (!row.differs(current, stored))
+            // Apply also stores edits that have no effect now, such as those of another engine.
+            const auto edited = std::find_if(row.fields.begin(), row.fields.end(), [&](const Field& field) {
+                return !field.isSame(current, stored) &&
+                       (field.counts(current) || !field.isSame(current, m_loaded));
+            });
+            if (edited == row.fields.end())
                 continue;
             const ZelSettingHelp* help = m_help->setting(row.fields.front().widgets.first());
-            ZelPendingEdit edit = {help->name, row.text(stored), row.text(current), nullptr, help->putBack};
+            ZelPendingEdit edit = {help->name, row.text(stored), row.text(current),
+                                   widgetToEdit(row, current, stored), nullptr};
+            if (!row.fixed)
+                edit.putBack = help->putBack;
+            if (edit.stored == edit.shown && edited->text) {
+                edit.stored = edited->text(stored);
+                edit.shown = edited->text(current);
+            }
             if (edit.stored == edit.shown) // The field cannot show what is stored.
-                edit.stored = settings().value(row.fields.front().key).toString();
-            for (QWidget* field : help->fields)
-                if (!edit.field && field->isEnabled() && field->isVisibleTo(this))
-                    edit.field = field;
+                edit.stored = settings().value(edited->key).toString();
             edits.push_back(edit);
         }
         return edits;
@@ -332,12 +341,33 @@ private:
         onFilled(model);
     }
 
+    /// The widget that shows how two models differ in a row, or another one of it; null when none takes the
+    /// focus.
+    QWidget* widgetToEdit(const Row& row, const Model& left, const Model& right)
+    {
+        QWidget* other = nullptr;
+        for (const Field& field : row.fields) {
+            for (QWidget* widget : field.widgets) {
+                const auto* choice = qobject_cast<const QRadioButton*>(widget);
+                if (!widget->isEnabled() || !widget->isVisibleTo(this) || (choice && !choice->isChecked()))
+                    continue;
+                if (!field.isSame(left, right))
+                    return widget;
+                other = other ? other : widget;
+            }
+        }
+        return other;
+    }
+
     void replace(const Row& row, const Model& source)
     {
         std::vector<const Field*> fields;
-        for (const Field& field : row.fields)
+        Model model = currentModel(); // The other widgets keep what they show.
+        for (const Field& field : row.fields) {
+            field.copy(model, source);
             fields.push_back(&field);
-        fill(source, fields);
+        }
+        fill(model, fields);
         onEdited();
     }
 

@@ -3,6 +3,7 @@
 #include "base/AccessibleCompat.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QCoreApplication>
@@ -37,6 +38,13 @@ QString withoutColon(const QString& label)
     return text.simplified();
 }
 
+/// Makes a number that is being typed the value of its field, so that it counts as an edit.
+void takeTypedText(QWidget* field)
+{
+    if (auto* box = qobject_cast<QAbstractSpinBox*>(field))
+        box->interpretText();
+}
+
 } // namespace
 
 QString ZelSettingHelp::summary() const
@@ -62,8 +70,11 @@ void ZelPageHelp::add(const ZelSettingHelp& setting)
         std::find_if(m_settings.begin(), m_settings.end(),
                      [first](const ZelSettingHelp& each) { return each.fields.first() == first; });
     const bool isNew = former == m_settings.end();
-    const auto place = isNew ? m_settings.insert(former, setting) : former;
-    ZelSettingHelp& added = *place = setting;
+    if (isNew)
+        m_settings.push_back(setting);
+    else
+        *former = setting;
+    ZelSettingHelp& added = isNew ? m_settings.back() : *former;
     if (added.name.isEmpty())
         added.name = nameOf(*added.fields.first());
     const QString text = added.summary();
@@ -144,6 +155,7 @@ const ZelPageHelp::Command ZelPageHelp::Commands[] = {
 void ZelPageHelp::run(const Command& command, QWidget* field)
 {
     const ZelSettingHelp& help = *setting(field);
+    takeTypedText(field);
     if (command.action && (help.*command.enabled)())
         (help.*command.action)();
     if (command.action)
@@ -156,6 +168,7 @@ void ZelPageHelp::run(const Command& command, QWidget* field)
 
 void ZelPageHelp::showMenu(QWidget* field, const QPoint& position)
 {
+    takeTypedText(field);
     auto* editor = field->findChild<QLineEdit*>();
     const QPointer<QMenu> menu = editor ? editor->createStandardContextMenu() : new QMenu(field);
     if (!menu->isEmpty())
@@ -231,7 +244,10 @@ void ZelPageHelp::watch(QWidget* widget, QWidget* field)
 
 void ZelPageHelp::describeItem()
 {
-    describeItemOf(static_cast<QWidget*>(sender()));
+    auto* box = static_cast<QComboBox*>(sender());
+    if (box->hasFocus())
+        tellAccessibleItem(*box);
+    describeItemOf(box);
 }
 
 void ZelPageHelp::describeItemOf(QWidget* field)

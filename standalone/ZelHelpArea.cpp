@@ -1,7 +1,9 @@
 #include "ZelHelpArea.h"
 
+#include "LanguageFollower.h"
 #include "PendingList.h"
 #include "ReturnKey.h"
+#include "VerticalArea.h"
 #include "ZelHelpCard.h"
 #include "ZelPageHelp.h"
 #include "ZelSettingsPanel.h"
@@ -11,7 +13,8 @@
 #include <QDesktopWidget>
 #include <QEvent>
 #include <QLabel>
-#include <QScrollArea>
+#include <QScrollBar>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace zel {
@@ -26,6 +29,8 @@ const int MinimumHeight = 220;
 const int Margin = 12;
 const int ColumnMargin = 8;
 const int OpenedWidth = 340;
+const int MaximumWidth = 520;
+const int MinimumCardHeight = 100;
 
 /// Independent of its scroll bar: else the help and the bar that it needs could hide each other in turns.
 int roomOf(const QWidget& area)
@@ -40,8 +45,24 @@ QVBoxLayout* newLayout(QWidget* widget, int margin)
 {
     auto* layout = new QVBoxLayout(widget);
     layout->setContentsMargins(margin, margin, margin, margin);
-    layout->addStretch();
     return layout;
+}
+
+QScrollArea* newCardArea(QWidget* parent)
+{
+    auto* area = new VerticalArea(new QWidget, MinimumCardHeight, parent);
+    newLayout(area->widget(), 0)->addStretch();
+    area->setMinimumHeight(MinimumCardHeight);
+    area->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
+    return area;
+}
+
+/// From the top, so that name and buttons stand where they were.
+void showHelpOn(QWidget* field, ZelHelpCard& card, QScrollArea& area)
+{
+    if (field != card.field())
+        area.verticalScrollBar()->setValue(0);
+    card.setField(field);
 }
 
 bool isOver(const QWidget& field, const QPoint& globalPosition)
@@ -57,18 +78,29 @@ bool isOver(const QWidget& field, const QPoint& globalPosition)
 ZelHelpArea::ZelHelpArea(QWidget* parent)
     : QWidget(parent)
     , m_help(new QWidget(this))
-    , m_card(new ZelHelpCard(m_help))
+    , m_cardArea(newCardArea(m_help))
+    , m_card(new ZelHelpCard(m_cardArea->widget())) // To move it there later would style it twice.
     , m_pending(new PendingList(m_help))
     , m_areaLayout(newLayout(this, Margin))
+    , m_rest(new QTimer(this))
 {
-    auto* layout = new QVBoxLayout(m_help);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_card);
+    m_help->setMaximumWidth(MaximumWidth);
+    static_cast<QBoxLayout*>(m_cardArea->widget()->layout())->insertWidget(0, m_card);
+    auto* layout = newLayout(m_help, 0);
+    layout->addWidget(m_cardArea, 1);
     layout->addWidget(m_pending);
-    m_areaLayout->insertWidget(0, m_help);
-    m_rest.setSingleShot(true);
-    m_rest.setInterval(RestTime);
-    connect(&m_rest, SIGNAL(timeout()), this, SLOT(onRest()));
+    layout->addStretch();
+    m_areaLayout->addWidget(m_help);
+    m_cardArea->installEventFilter(this);
+    connect(m_pending, SIGNAL(discardRequested()), this, SIGNAL(discardRequested()));
+    new LanguageFollower(this, [this] {
+        m_reservedWidth = 0;
+        reserveHeight();
+    });
+    m_rest->setObjectName("rest");
+    m_rest->setSingleShot(true);
+    m_rest->setInterval(RestTime);
+    connect(m_rest, SIGNAL(timeout()), this, SLOT(onRest()));
     connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
 }
 
@@ -90,28 +122,22 @@ void ZelHelpArea::watchPages(QWidget* tree)
 void ZelHelpArea::useColumn(QWidget* column, QWidget* above)
 {
     m_above = above;
-    auto* host = new QScrollArea(column);
-    m_columnHost = host;
-    host->setObjectName("helpColumn");
-    host->setFrameShape(QFrame::NoFrame);
-    host->setFocusPolicy(Qt::NoFocus);
-    host->setWidgetResizable(true);
-    host->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    auto* content = new QWidget;
-    content->setObjectName("helpColumnContent");
-    m_columnLayout = newLayout(content, ColumnMargin);
-    host->setWidget(content);
-    for (QWidget* clear : {content, host->viewport()})
-        clear->setAutoFillBackground(false);
+    m_columnHost = new QWidget(column);
+    m_columnLayout = newLayout(m_columnHost, ColumnMargin);
     m_columnHost->hide();
     column->installEventFilter(this);
     above->installEventFilter(this);
     place();
 }
 
-bool ZelHelpArea::eventFilter(QObject*, QEvent* event)
+bool ZelHelpArea::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
+    if (watched == m_cardArea) {
+        if (type == QEvent::Resize)
+            reserveHeight();
+        return false;
+    }
     // Queued, because the layout of the column is still at work.
     if (type == QEvent::Resize || type == QEvent::Move || type == QEvent::Show || type == QEvent::Hide)
         QMetaObject::invokeMethod(this, "place", Qt::QueuedConnection);
@@ -123,8 +149,8 @@ bool ZelHelpArea::eventFilter(QObject*, QEvent* event)
 
 void ZelHelpArea::showHelp(QWidget* field)
 {
-    m_rest.stop();
-    m_card->setField(field);
+    m_rest->stop();
+    showHelpOn(field, *m_card, *m_cardArea);
     if (field && m_help->isHidden())
         openAt(*field);
 }
@@ -138,6 +164,7 @@ void ZelHelpArea::refresh()
 {
     m_card->refresh();
     m_pending->refresh();
+    reserveHeight();
 }
 
 void ZelHelpArea::resizeEvent(QResizeEvent* event)
@@ -150,15 +177,15 @@ void ZelHelpArea::onReached(QWidget* field)
 {
     m_hovered = field;
     m_pointer = QCursor::pos();
-    m_rest.start();
+    m_rest->start();
 }
 
 void ZelHelpArea::onFocusChanged(QWidget*, QWidget* current)
 {
     if (!ZelHelpCard::HelpOn(current))
         return;
-    m_rest.stop();
-    m_card->setField(current);
+    m_rest->stop();
+    showHelpOn(current, *m_card, *m_cardArea);
 }
 
 void ZelHelpArea::onRest()
@@ -167,7 +194,7 @@ void ZelHelpArea::onRest()
     if (!m_hovered || !isOver(*m_hovered, pointer))
         return;
     if (pointer == m_pointer)
-        m_card->setField(m_hovered);
+        showHelpOn(m_hovered, *m_card, *m_cardArea);
     else
         onReached(m_hovered); // Still moving.
 }
@@ -203,8 +230,47 @@ void ZelHelpArea::moveToColumn()
 void ZelHelpArea::put(QBoxLayout* layout, bool compact)
 {
     if (layout->indexOf(m_help) < 0)
-        layout->insertWidget(0, m_help);
+        layout->addWidget(m_help);
     m_card->setCompact(compact);
+    m_pending->setCompact(compact);
+}
+
+void ZelHelpArea::reserveHeight()
+{
+    const int width = m_pending->isHidden() ? 0 : m_cardArea->width();
+    if (width == m_reservedWidth)
+        return;
+    m_reservedWidth = width;
+    m_cardArea->setMaximumHeight(width ? heightOfLongestHelp(width) : QWIDGETSIZE_MAX);
+}
+
+int ZelHelpArea::heightOfLongestHelp(int width) const
+{
+    // One card with the longest of all texts, because a screen reader is told of each text that is set.
+    ZelHelpCard card(m_cardArea->widget());
+    card.setCompact(m_card->isCompact());
+    ZelSettingHelp longest = ZelSettingHelp();
+    QString byDefault, stored;
+    const auto keepLonger = [&](QString& kept, const QString& text, int room) {
+        if (kept.isEmpty() || card.textHeight(text, room) > card.textHeight(kept, room))
+            kept = text;
+    };
+    for (const QPointer<ZelPageHelp>& page : m_pages) {
+        for (QWidget* field : page ? page->parent()->findChildren<QWidget*>() : QList<QWidget*>()) {
+            const ZelSettingHelp* help = page->setting(field);
+            if (!help)
+                continue;
+            keepLonger(longest.description, help->description, width - 2 * Margin);
+            keepLonger(longest.range, help->range, width / 2);
+            keepLonger(longest.effect, help->effect, width / 2);
+            keepLonger(byDefault, help->byDefault(), width / 2);
+            keepLonger(stored, help->stored(), width / 2);
+        }
+    }
+    longest.byDefault = [&] { return byDefault; };
+    longest.stored = [&] { return stored; };
+    longest.differsFromDefault = longest.differsFromStored = [] { return true; };
+    return card.heightOf(longest, width);
 }
 
 int ZelHelpArea::freeHeightOfColumn() const

@@ -30,6 +30,8 @@ QString breakable(const QString& text)
     return words.join(" ");
 }
 
+const char* const CompactProperty = "compact"; // A selector of the style sheet.
+
 QString stateText(const ZelSettingHelp& help)
 {
     QStringList parts;
@@ -38,6 +40,12 @@ QString stateText(const ZelSettingHelp& help)
     if (help.differsFromDefault())
         parts << QCoreApplication::translate("ZelHelpCard", "Not the default.");
     return parts.join(" ");
+}
+
+/// False for what no user can ever edit.
+bool isEditable(const ZelSettingHelp& help)
+{
+    return !help.byDefault().isEmpty() || help.fields.first()->isEnabled();
 }
 
 } // namespace
@@ -65,12 +73,35 @@ void ZelHelpCard::setField(QWidget* field)
 
 void ZelHelpCard::setCompact(bool compact)
 {
-    const char* const property = "compact"; // A selector of the style sheet.
-    if (this->property(property).toBool() == compact)
+    if (isCompact() == compact)
         return;
-    setProperty(property, compact);
+    setProperty(CompactProperty, compact);
     setStyleSheet(styleSheet());
     showName();
+}
+
+bool ZelHelpCard::isCompact() const
+{
+    return property(CompactProperty).toBool();
+}
+
+int ZelHelpCard::heightOf(const ZelSettingHelp& help, int width)
+{
+    showHelp(help);
+    m_ui->factsFrame->show();
+    m_ui->actionsFrame->show();
+    for (QWidget* child : findChildren<QWidget*>())
+        child->ensurePolished();
+    return layout()->totalHeightForWidth(width);
+}
+
+int ZelHelpCard::textHeight(const QString& text, int width) const
+{
+    m_ui->descriptionLabel->ensurePolished();
+    const QRect room(0, 0, width, 0);
+    return m_ui->descriptionLabel->fontMetrics()
+        .boundingRect(room, Qt::TextWordWrap, breakable(text))
+        .height();
 }
 
 const ZelSettingHelp* ZelHelpCard::HelpOn(const QWidget* field)
@@ -87,28 +118,34 @@ const ZelSettingHelp* ZelHelpCard::HelpOn(const QWidget* field)
 void ZelHelpCard::refresh()
 {
     const ZelSettingHelp* help = HelpOn(m_field);
-    m_name = help ? help->name : QCoreApplication::translate("ZelHelpCard", "Help");
+    m_ui->factsFrame->setVisible(help);
+    m_ui->actionsFrame->setVisible(help && isEditable(*help));
+    if (help) {
+        showHelp(*help);
+        return;
+    }
+    m_name = QCoreApplication::translate("ZelHelpCard", "Help");
     showName();
     m_ui->descriptionLabel->setText(
-        help ? help->description
-             : QCoreApplication::translate("ZelHelpCard",
-                                           "Point at a setting, or move to it with the Tab key, "
-                                           "to read here what it does."));
-    m_ui->factsFrame->setVisible(help);
-    m_ui->actionsFrame->setVisible(help);
-    if (!help)
-        return;
+        QCoreApplication::translate("ZelHelpCard", "Point at a setting, or move to it with the Tab key, "
+                                                   "to read here what it does."));
+}
 
+void ZelHelpCard::showHelp(const ZelSettingHelp& help)
+{
+    m_name = help.name;
+    showName();
+    m_ui->descriptionLabel->setText(help.description);
     const struct
     {
         QLabel* title;
         QLabel* fact;
         QString text;
     } facts[] = {
-        {m_ui->rangeTitle, m_ui->rangeLabel, help->range},
-        {m_ui->defaultTitle, m_ui->defaultLabel, help->byDefault()},
-        {m_ui->storedTitle, m_ui->storedLabel, help->stored()},
-        {m_ui->effectTitle, m_ui->effectLabel, help->effect},
+        {m_ui->rangeTitle, m_ui->rangeLabel, help.range},
+        {m_ui->defaultTitle, m_ui->defaultLabel, help.byDefault()},
+        {m_ui->storedTitle, m_ui->storedLabel, help.stored()},
+        {m_ui->effectTitle, m_ui->effectLabel, help.effect},
     };
     for (const auto& each : facts) {
         each.fact->setText(breakable(each.text));
@@ -116,12 +153,11 @@ void ZelHelpCard::refresh()
         each.title->setVisible(!each.text.isEmpty());
         each.fact->setVisible(!each.text.isEmpty());
     }
-    m_ui->stateLabel->setText(stateText(*help));
-    m_ui->stateLabel->setVisible(!m_ui->stateLabel->text().isEmpty());
-    const bool hasDefault = !help->byDefault().isEmpty();
-    m_ui->actionsFrame->setVisible(hasDefault || !help->range.isEmpty() || help->differsFromStored());
-    enableButton(*m_ui->putBackButton, help->differsFromStored());
-    enableButton(*m_ui->defaultButton, help->differsFromDefault());
+    const QString state = stateText(help);
+    m_ui->stateLabel->setText(state);
+    m_ui->stateLabel->setVisible(!state.isEmpty());
+    enableButton(*m_ui->putBackButton, help.differsFromStored());
+    enableButton(*m_ui->defaultButton, help.differsFromDefault());
 }
 
 void ZelHelpCard::resizeEvent(QResizeEvent* event)

@@ -32,6 +32,12 @@ public:
 
     /// Makes texts and buttons smaller, for a narrow place.
     void setCompact(bool compact);
+    bool isCompact() const;
+
+    /// Shows a help. Returns the height that it takes.
+    int heightOf(const ZelSettingHelp& help, int width);
+    /// The height of a wrapped text of the card.
+    int textHeight(const QString& text, int width) const;
 
     /// The help on a field of a page. Null for any other widget.
     static const ZelSettingHelp* HelpOn(const QWidget* field);
@@ -50,6 +56,7 @@ private Q_SLOTS:
 
 private:
     void showName();
+    void showHelp(const ZelSettingHelp& help);
 
     const std::unique_ptr<Ui::ZelHelpCard> m_ui;
     QPointer<QWidget> m_field;

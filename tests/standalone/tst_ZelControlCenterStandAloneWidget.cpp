@@ -61,7 +61,7 @@ private Q_SLOTS:
                     drawer->ensureWidgetVisible(field);
                     const QVariant shown = field->property(value);
                     const int place = bar->value();
-                    turnWheelOver(*field);
+                    turnWheel(m_window, field->mapTo(&m_window, field->rect().center()));
                     const QByteArray name = field->objectName().toUtf8();
                     QVERIFY2((bar->value() > place) != focused, name);
                     QVERIFY2((field->property(value) != shown) == focused, name);
@@ -150,6 +150,11 @@ private Q_SLOTS:
         QTest::keyClicks(size, "1"); // Less than the minimum.
         press(Qt::Key_C, Qt::ControlModifier);
         QVERIFY(size->text().startsWith("1 "));
+        check->setChecked(true);
+        for (const bool typed : {true, false}) { // Undoes what is typed, then discards.
+            press(Qt::Key_Z, Qt::ControlModifier);
+            QVERIFY(!size->text().startsWith("1 ") && check->isChecked() == typed && size->hasFocus());
+        }
         size->selectAll();
         QTest::keyClicks(size, "9999"); // What is being typed counts, and is brought into the range.
         press(Qt::Key_S, Qt::ControlModifier);
@@ -253,6 +258,7 @@ private Q_SLOTS:
     void headerMovesAndMaximizes()
     {
         const QPoint onHeader(300, 15), way(30, 20);
+        m_window.setGeometry(0, 0, 720, 500);
         const QRect moved = m_window.geometry().translated(way);
         drag(onHeader, way, onHeader);
         QCOMPARE(m_window.geometry(), moved);
@@ -260,8 +266,15 @@ private Q_SLOTS:
             QTest::mouseDClick(m_window.findChild<QWidget*>("headerFrame"), button);
             QCOMPARE(m_window.isMaximized(), button == Qt::LeftButton);
         }
-        QTest::mouseClick(m_window.findChild<QPushButton*>("maximizeButton"), Qt::LeftButton);
-        QTRY_COMPARE(m_window.geometry(), moved);
+        QTRY_COMPARE(m_window.pos(), QPoint());
+        // Dragged off, it keeps the place below the pointer as a part of its width.
+        const QPoint grip(onHeader.x() * moved.width() / m_window.width(), onHeader.y());
+        drag(onHeader, way, grip);
+        QTRY_COMPARE(m_window.geometry(), QRect(onHeader + way - grip, moved.size()));
+        for (const bool maximized : {true, false}) {
+            QTest::mouseClick(m_window.findChild<QPushButton*>("maximizeButton"), Qt::LeftButton);
+            QTRY_COMPARE(m_window.isMaximized(), maximized);
+        }
     }
 
 private:
@@ -271,11 +284,6 @@ private:
         QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, press);
         QTest::mouseMove(window, press + way);
         QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, release);
-    }
-
-    void turnWheelOver(const QWidget& field)
-    {
-        turnWheel(m_window, field.mapTo(&m_window, field.rect().center()));
     }
 
     FakeApplication m_application;
