@@ -158,11 +158,12 @@ void SettingsPages::timerEvent(QTimerEvent*)
 {
     const FileStamp present = stampOf(m_followed->fileName());
     const bool isWriting = &ZelSettingsFile::Current(*m_followed) != m_followed;
-    QString error;
-    if (isWriting || (present.size == m_stamp.size && present.time == m_stamp.time) ||
-        !ZelSettingsFile::ReadAgain(*m_followed, error))
+    if (isWriting || (present.size == m_stamp.size && present.time == m_stamp.time))
         return;
-    m_stamp = present;
+    m_stamp = present; // Also when it cannot be read: each attempt may wait for a lock.
+    QString error;
+    if (!ZelSettingsFile::ReadAgain(*m_followed, error))
+        return;
     // A setting that is gone gets its default at the next start; without it, the fields would show a minimum.
     if (lacksRegisteredKey(*m_followed) && !ZelSettingsFile::Repair(*m_followed, error))
         return;
