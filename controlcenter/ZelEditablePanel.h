@@ -329,6 +329,10 @@ private:
         const SignalBlock block(widgets);
         for (const Field* field : fields)
             field->show(model);
+        // QAbstractButton does so when the focus moves among the buttons, but not when they are filled.
+        for (QWidget* widget : widgets)
+            if (const auto* button = qobject_cast<QRadioButton*>(widget))
+                widget->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
         onFilled(model);
     }
 
@@ -338,7 +342,7 @@ private:
         for (const Field& field : row.fields)
             fields.push_back(&field);
         fill(source, fields);
-        onEdited();
+        row.finish ? row.finish() : onEdited();
     }
 
     ZelSettingHelp helpOn(const Row& row)

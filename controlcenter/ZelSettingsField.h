@@ -254,7 +254,9 @@ struct ZelSettingsRow
     QString range;                               ///< Empty without one.
     std::function<QString(const Model&)> text;   ///< As the widgets show the setting.
     bool tipIsValue = false; ///< The tool tips of the widgets are their values, so help must not use them.
-    bool fixed = false;      ///< It never changes, so the help offers neither default nor stored value.
+    /// What follows when the setting alone has got its default or its stored value; null for onEdited().
+    std::function<void()> finish;
+    bool fixed = false; ///< It never changes, so the help offers neither default nor stored value.
 };
 
 } // namespace zel

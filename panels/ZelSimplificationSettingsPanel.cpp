@@ -138,7 +138,7 @@ void ZelSimplificationSettingsPanel::pushToApplication(const SimplificationModel
         manager->setSimplificationRatios(ratios);
 }
 
-ZelSimplificationSettingsPanel::Row ZelSimplificationSettingsPanel::levelRow(int level) const
+ZelSimplificationSettingsPanel::Row ZelSimplificationSettingsPanel::levelRow(int level)
 {
     zelDoubleSpinBox* box = percentage(level);
     const auto percent = [box](double number) { return box->shownText(number) + " %"; };
@@ -164,6 +164,7 @@ ZelSimplificationSettingsPanel::Row ZelSimplificationSettingsPanel::levelRow(int
                     LevelRatio{static_cast<std::size_t>(level - 1)}, widgets},
                    range, EffectAtOnce, description);
     made.fixed = fixed;
+    made.finish = [this, level] { finishEditing(level); };
     return made;
 }
 

@@ -60,9 +60,10 @@ protected:
 private:
     /// Sets the texts that are not in the form.
     void setTexts();
-    /// Brings an edited level and its two neighbours into descending order; other levels stay as they are.
+    /// Brings a level with a new value and its two neighbours into descending order; other levels stay as
+    /// they are.
     void finishEditing(int level);
-    Row levelRow(int level) const;
+    Row levelRow(int level);
     zelDoubleSpinBox* percentage(int level) const
     {
         return m_percentages[static_cast<std::size_t>(level - 1)];

@@ -186,6 +186,11 @@ private Q_SLOTS:
         QCOMPARE(find<QDoubleSpinBox>("ratio2")->value(), 75.0);
         QCOMPARE(find<QDoubleSpinBox>("ratio3")->value(), 20.0);
         QCOMPARE(marked(), QString("Simplification"));
+        // The levels stay in order, as after an edit.
+        type("ratio2", "90");
+        type("ratio3", "80");
+        QTest::keyClick(find("ratio2"), Qt::Key_Backspace, Qt::AltModifier);
+        QCOMPARE(find<QDoubleSpinBox>("ratio3")->value(), 30.0);
     }
 
     void fieldsHaveCommandsOfTheirOwn()
@@ -250,6 +255,13 @@ private Q_SLOTS:
         ZelRendererSelector selector(nullptr, Qt::WindowFlags());
         selector.show();
         QCOMPARE(poorlyAnnounced(QAccessible::queryAccessibleInterface(&selector), controls), QString());
+        const auto chosen = [&selector](const char* name) {
+            return bool(
+                QAccessible::queryAccessibleInterface(selector.findChild<QWidget*>(name))->state().checked);
+        };
+        QVERIFY(chosen("deferredButton") && !chosen("raytracerButton"));
+        pressByReader(selector.findChild<QWidget*>("raytracerButton"));
+        QVERIFY(chosen("raytracerButton") && !chosen("deferredButton"));
     }
 #endif
 
