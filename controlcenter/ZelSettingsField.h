@@ -7,6 +7,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
 #include <QVariant>
@@ -117,6 +118,16 @@ struct ZelFieldWidgets
     {
     }
 
+    /// A button that chooses a folder, which is its tool tip.
+    ZelFieldWidgets(QPushButton* folder)
+        : widgets{folder}
+        , read([folder] { return folder->toolTip(); })
+        , show([folder](const QString& path) { folder->setToolTip(path); })
+        , text([](const QString& path) { return path; })
+        , tipIsValue(true)
+    {
+    }
+
     /// A floating-point number.
     ZelFieldWidgets(zelDoubleSpinBox* box)
         : widgets{box}
@@ -132,6 +143,7 @@ struct ZelFieldWidgets
     std::function<void(const T& value)> show;    ///< Shows a value, as near as they can.
     std::function<QString(const T& value)> text; ///< The text that they show for a value.
     QString range;                               ///< Empty without one.
+    bool tipIsValue = false;                     ///< The tool tips are the value, so help must not use them.
 };
 
 /// A number of bytes, in a box that shows mebibytes.
@@ -205,6 +217,7 @@ struct ZelSettingsRow
                          const typename std::common_type<ZelFieldWidgets<T>>::type& widgets)
     {
         fields.push_back({key, member, widgets, plainConversion<T>()});
+        help.fields += widgets.widgets;
         return *this;
     }
 
@@ -219,24 +232,16 @@ struct ZelSettingsRow
     /// Names the setting, where no label, group or button on the page does.
     ZelSettingsRow& named(const QString& settingName)
     {
-        name = settingName;
+        help.name = settingName;
         return *this;
     }
 
     /// Replaces the text and the range that follow from the widgets of the first value.
-    ZelSettingsRow& shownAs(const std::function<QString(const Model&)>& textOf, const QString& rangeText)
+    ZelSettingsRow& shownAs(const std::function<QString(const Model&)>& textOf, const QString& range)
     {
         text = textOf;
-        range = rangeText;
+        help.range = range;
         return *this;
-    }
-
-    /// Takes what a language decides from the same row in another language.
-    void takeTexts(const ZelSettingsRow& translated)
-    {
-        name = translated.name;
-        description = translated.description;
-        range = translated.range;
     }
 
     /// True when a value that counts in the first model differs.
@@ -248,12 +253,8 @@ struct ZelSettingsRow
     }
 
     std::vector<ZelSettingsField<Model>> fields; ///< One for each key.
-    QString name;                                ///< Empty for the name or the label of the first widget.
-    QString description;                         ///< What the setting does, in a few sentences.
-    ZelSettingEffect effect;                     ///< When an applied edit takes effect.
-    QString range;                               ///< Empty without one.
+    ZelSettingHelp help;                         ///< Its texts; the page adds the functions.
     std::function<QString(const Model&)> text;   ///< As the widgets show the setting.
-    bool tipIsValue = false; ///< The tool tips of the widgets are their values, so help must not use them.
     /// What follows when the setting alone has got its default or its stored value; null for onEdited().
     std::function<void()> finish;
     bool fixed = false; ///< It never changes, so the help offers neither default nor stored value.

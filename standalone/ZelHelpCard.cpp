@@ -33,9 +33,9 @@ QString breakable(const QString& text)
 QString stateText(const ZelSettingHelp& help)
 {
     QStringList parts;
-    if (help.differsFromStored())
+    if (help.differs(StoredValue))
         parts << QCoreApplication::translate("ZelHelpCard", "Changed, and not applied yet.");
-    if (help.differsFromDefault())
+    if (help.differs(DefaultValue))
         parts << QCoreApplication::translate("ZelHelpCard", "Not the default.");
     return parts.join(" ");
 }
@@ -106,8 +106,8 @@ void ZelHelpCard::refresh()
         QString text;
     } facts[] = {
         {m_ui->rangeTitle, m_ui->rangeLabel, help->range},
-        {m_ui->defaultTitle, m_ui->defaultLabel, help->byDefault()},
-        {m_ui->storedTitle, m_ui->storedLabel, help->stored()},
+        {m_ui->defaultTitle, m_ui->defaultLabel, help->text(DefaultValue)},
+        {m_ui->storedTitle, m_ui->storedLabel, help->text(StoredValue)},
         {m_ui->effectTitle, m_ui->effectLabel, help->effect},
     };
     for (const auto& each : facts) {
@@ -118,10 +118,10 @@ void ZelHelpCard::refresh()
     }
     m_ui->stateLabel->setText(stateText(*help));
     m_ui->stateLabel->setVisible(!m_ui->stateLabel->text().isEmpty());
-    const bool hasDefault = !help->byDefault().isEmpty();
-    m_ui->actionsFrame->setVisible(hasDefault || !help->range.isEmpty() || help->differsFromStored());
-    enableButton(*m_ui->putBackButton, help->differsFromStored());
-    enableButton(*m_ui->defaultButton, help->differsFromDefault());
+    const bool hasDefault = !help->text(DefaultValue).isEmpty();
+    m_ui->actionsFrame->setVisible(hasDefault || !help->range.isEmpty() || help->differs(StoredValue));
+    enableButton(*m_ui->putBackButton, help->differs(StoredValue));
+    enableButton(*m_ui->defaultButton, help->differs(DefaultValue));
 }
 
 void ZelHelpCard::resizeEvent(QResizeEvent* event)
@@ -133,13 +133,13 @@ void ZelHelpCard::resizeEvent(QResizeEvent* event)
 void ZelHelpCard::on_putBackButton_clicked()
 {
     if (const ZelSettingHelp* help = HelpOn(m_field))
-        help->putBack();
+        help->take(StoredValue);
 }
 
 void ZelHelpCard::on_defaultButton_clicked()
 {
     if (const ZelSettingHelp* help = HelpOn(m_field))
-        help->useDefault();
+        help->take(DefaultValue);
 }
 
 void ZelHelpCard::showName()
