@@ -71,13 +71,16 @@ struct ZelFieldWidgets
     {
     }
 
-    /// Two radio buttons, of which one is checked: the first for false.
-    ZelFieldWidgets(QRadioButton* off, QRadioButton* on)
+    /// Two radio buttons, of which one is checked: the first for false. A further widget, if any, is enabled
+    /// for true.
+    ZelFieldWidgets(QRadioButton* off, QRadioButton* on, QWidget* enabledByOn = nullptr)
         : widgets{off, on}
         , read([off] { return !off->isChecked(); })
-        , show([off, on](bool value) {
+        , show([=](bool value) {
             on->setChecked(value);
             off->setChecked(!value);
+            if (enabledByOn)
+                enabledByOn->setEnabled(value);
         })
         , text([off, on](bool value) { return (value ? on : off)->text(); })
         , range(ZelPageHelp::choiceText(widgets))

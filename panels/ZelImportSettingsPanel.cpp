@@ -29,9 +29,9 @@ ZelImportSettingsPanel::ZelImportSettingsPanel(kqDMIApplication* application, QS
     , m_ui(new Ui::ZelImportSettingsPanel)
 {
     m_ui->setupUi(this);
-    m_limits[Sag] = {m_ui->defaultSag, m_ui->sag, m_ui->faceSagSpin};
-    m_limits[Length] = {m_ui->defaultLength, m_ui->length, m_ui->faceLengthSpin};
-    m_limits[Angle] = {m_ui->defaultAngle, m_ui->angle, m_ui->faceAngleSpin};
+    m_limits = {{{m_ui->defaultSag, m_ui->sag, m_ui->faceSagSpin},
+                 {m_ui->defaultLength, m_ui->length, m_ui->faceLengthSpin},
+                 {m_ui->defaultAngle, m_ui->angle, m_ui->faceAngleSpin}}};
     m_ui->faceAngleSpin->setRange(0, MaximumFaceAngle);
     setNamedStyleSheet("ZelImportSettingsPanel");
     setPanelCategory(AdvancedCategory);
@@ -95,10 +95,8 @@ ZelImportSettingsPanel::Row ZelImportSettingsPanel::limitRow(LimitIndex index, c
                                                              Value ImportModel::*value, Box* box,
                                                              const QString& description)
 {
-    ZelFieldWidgets<bool> choice(m_limits[index].byDefault, m_limits[index].byValue);
-    choice.show = [this, index](bool isSet) { setLimitSet(index, isSet); };
     const ZelFieldWidgets<Value> number(box);
-    return row(setKey, set, choice, EffectWithNextImport, description)
+    return row(setKey, set, m_limits[index], EffectWithNextImport, description)
         .with(valueKey, value, number)
         .onlyWhile(set)
         .shownAs(
@@ -118,11 +116,8 @@ void ZelImportSettingsPanel::setQuality(bool set, bool high)
 
 void ZelImportSettingsPanel::setLimitSet(LimitIndex index, bool set)
 {
-    const Limit& limit = m_limits[index];
-    const SignalBlock block{limit.byDefault, limit.byValue};
-    limit.byDefault->setChecked(!set);
-    limit.value->setEnabled(set);
-    limit.byValue->setChecked(set);
+    const SignalBlock block(m_limits[index].widgets);
+    m_limits[index].show(set);
 }
 
 } // namespace zel

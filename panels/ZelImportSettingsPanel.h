@@ -7,9 +7,6 @@
 #include <array>
 #include <memory>
 
-class QRadioButton;
-class QWidget;
-
 namespace Ui {
 class ZelImportSettingsPanel;
 }
@@ -62,13 +59,6 @@ protected Q_SLOTS:
     /// @}
 
 private:
-    /// A limit: the importer chooses it (byDefault), or the user sets it in a spin box (byValue).
-    struct Limit
-    {
-        QRadioButton* byDefault;
-        QRadioButton* byValue;
-        QWidget* value;
-    };
     enum LimitIndex { Sag, Length, Angle };
 
     /// Sets the texts that are not in the form.
@@ -84,7 +74,7 @@ private:
     void setLimitSet(LimitIndex index, bool set);
 
     const std::unique_ptr<Ui::ZelImportSettingsPanel> m_ui;
-    std::array<Limit, 3> m_limits;
+    std::array<ZelFieldWidgets<bool>, 3> m_limits; ///< Whether each limit is set.
 };
 
 } // namespace zel

@@ -28,6 +28,7 @@ using Ratios = std::vector<float>;
 
 const int FirstEditableLevel = 2;
 const int LastLevel = 5;
+const char* const Images[LastLevel] = {"High", "Medium High", "Medium", "Medium-Low-Quality", "Low-Quality"};
 const int ImageSize = 64; // pixels
 
 /// Unlike the validator, reads a part that is no number as 0, so that every level keeps its place.
@@ -83,21 +84,6 @@ struct LevelRatio
     }
 };
 
-void showLevelImages(const Ui::ZelSimplificationSettingsPanel& form)
-{
-    const struct
-    {
-        QLabel* label;
-        const char* image;
-    } levels[] = {
-        {form.icon1, "High"},        {form.icon2, "Medium High"},
-        {form.icon3, "Medium"},      {form.icon4, "Medium-Low-Quality"},
-        {form.icon5, "Low-Quality"},
-    };
-    for (const auto& level : levels)
-        showImage(*level.label, QString(":/controlCenter/controlCenter/%1.png").arg(level.image), ImageSize);
-}
-
 } // namespace
 
 ZelSimplificationSettingsPanel::ZelSimplificationSettingsPanel(kqDMIApplication* application,
@@ -108,8 +94,9 @@ ZelSimplificationSettingsPanel::ZelSimplificationSettingsPanel(kqDMIApplication*
     , m_editing(false)
 {
     m_ui->setupUi(this);
-    showLevelImages(*m_ui);
-    m_percentages = {m_ui->ratio1, m_ui->ratio2, m_ui->ratio3, m_ui->ratio4, m_ui->ratio5};
+    for (int level = 1; level <= LastLevel; ++level)
+        showImage(*findChild<QLabel*>(QString("icon%1").arg(level)),
+                  QString(":/controlCenter/controlCenter/%1.png").arg(Images[level - 1]), ImageSize);
     setNamedStyleSheet("ZelSimplificationSettingsPanel");
     setPanelCategory(ProjectCategory);
     followLanguage(*m_ui, [this] { setTexts(); });
@@ -166,6 +153,11 @@ ZelSimplificationSettingsPanel::Row ZelSimplificationSettingsPanel::levelRow(int
     made.fixed = fixed;
     made.finish = [this, level] { finishEditing(level); };
     return made;
+}
+
+zelDoubleSpinBox* ZelSimplificationSettingsPanel::percentage(int level) const
+{
+    return findChild<zelDoubleSpinBox*>(QString("ratio%1").arg(level));
 }
 
 void ZelSimplificationSettingsPanel::finishEditing(int level)

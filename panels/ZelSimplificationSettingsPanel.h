@@ -56,6 +56,8 @@ protected:
 
     /// Passes the ratios to the running simplifier.
     void setRatios() { pushToApplication(currentModel()); }
+    /// Writes the ratios.
+    void saveRatios() { saveSettingsInternal(); }
 
 private:
     /// Sets the texts that are not in the form.
@@ -64,13 +66,9 @@ private:
     /// they are.
     void finishEditing(int level);
     Row levelRow(int level);
-    zelDoubleSpinBox* percentage(int level) const
-    {
-        return m_percentages[static_cast<std::size_t>(level - 1)];
-    }
+    zelDoubleSpinBox* percentage(int level) const;
 
     const std::unique_ptr<Ui::ZelSimplificationSettingsPanel> m_ui;
-    std::vector<zelDoubleSpinBox*> m_percentages; ///< The form's spin boxes, level 1 first.
     bool m_editing;
 };
 
