@@ -167,22 +167,24 @@ protected:
                    ZelSettingEffect effect, const QString& description,
                    const ZelFieldConversion<T>& conversion = plainConversion<T>())
     {
-        Row made = row(Field(key, member, widgets, conversion), widgets.range, effect, description);
-        made.help.tipIsValue = widgets.tipIsValue;
-        return made;
+        return row(key, member, widgets, effect, description, conversion, std::mem_fn(member));
     }
 
-    /// Makes a row of a value that differs from the usual ones.
-    static Row row(const ZelSettingsField<Model>& field, const QString& range, ZelSettingEffect effect,
-                   const QString& description)
+    /// Makes a row whose widgets show a part of the member: what place(model) returns, a reference that can
+    /// be assigned unless the model is const.
+    template <class T, class Part, class Place>
+    static Row row(const char* key, T Model::*member, const ZelFieldWidgets<Part>& widgets,
+                   ZelSettingEffect effect, const QString& description,
+                   const ZelFieldConversion<T>& conversion, const Place& place)
     {
         Row made;
-        made.fields = {field};
-        made.help.fields = field.widgets;
+        made.fields = {{key, member, widgets, conversion, place}};
+        made.help.fields = widgets.widgets;
         made.help.description = description;
-        made.help.range = range;
+        made.help.range = widgets.range;
         made.help.effect = ZelPageHelp::effectText(effect);
-        made.text = field.text;
+        made.help.tipIsValue = widgets.tipIsValue;
+        made.text = made.fields.front().text;
         return made;
     }
 

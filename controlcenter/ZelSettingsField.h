@@ -159,20 +159,11 @@ inline ZelFieldWidgets<quint64> inMebibytes(zelSpinBox* box)
 template <class Model>
 struct ZelSettingsField
 {
-    /// The place of the value is the member of a model that also has the widgets' value.
-    template <class T>
-    ZelSettingsField(const char* settingsKey, T Model::*member, const ZelFieldWidgets<T>& in,
-                     const ZelFieldConversion<T>& conversion)
-        : ZelSettingsField(settingsKey, member, conversion, std::mem_fn(member), in)
-    {
-    }
-
-    /// For widgets that show a part of the member.
-    /// @param place  returns the part of a model, as a reference that can be assigned unless the model is
-    /// const
-    template <class T, class Place, class Part>
-    ZelSettingsField(const char* settingsKey, T Model::*member, const ZelFieldConversion<T>& conversion,
-                     const Place& place, const ZelFieldWidgets<Part>& in)
+    /// @param place  returns what the widgets show of the member: a reference into a model, which can be
+    /// assigned unless the model is const
+    template <class T, class Part, class Place>
+    ZelSettingsField(const char* settingsKey, T Model::*member, const ZelFieldWidgets<Part>& in,
+                     const ZelFieldConversion<T>& conversion, const Place& place)
         : key(QLatin1String(settingsKey))
         , widgets(in.widgets)
         , readStored([=](Model& to, const QVariant& value) { to.*member = conversion.fromStored(value); })
@@ -219,7 +210,7 @@ struct ZelSettingsRow
     ZelSettingsRow& with(const char* key, T Model::*member,
                          const typename std::common_type<ZelFieldWidgets<T>>::type& widgets)
     {
-        fields.push_back({key, member, widgets, plainConversion<T>()});
+        fields.push_back({key, member, widgets, plainConversion<T>(), std::mem_fn(member)});
         help.fields += widgets.widgets;
         return *this;
     }

@@ -144,12 +144,11 @@ ZelSimplificationSettingsPanel::Row ZelSimplificationSettingsPanel::levelRow(int
         fixed ? Text::tr("This level keeps every triangle of the model. It cannot be changed.")
               : Text::tr("How many of the model's triangles an export at this level keeps, in percent. A "
                          "level never keeps more than the one above it.");
-    const QString range =
-        fixed ? QString() : ZelPageHelp::rangeText(percent(box->minimum()), percent(box->maximum()));
-    Row made = row({keys::SimplificationRatios, &SimplificationModel::ratios,
-                    ZelFieldConversion<Ratios>{storedRatios, defaultRatios, ratiosText},
-                    LevelRatio{static_cast<std::size_t>(level - 1)}, widgets},
-                   range, EffectAtOnce, description);
+    if (!fixed)
+        widgets.range = ZelPageHelp::rangeText(percent(box->minimum()), percent(box->maximum()));
+    Row made = row(keys::SimplificationRatios, &SimplificationModel::ratios, widgets, EffectAtOnce,
+                   description, ZelFieldConversion<Ratios>{storedRatios, defaultRatios, ratiosText},
+                   LevelRatio{static_cast<std::size_t>(level - 1)});
     made.fixed = fixed;
     made.finish = [this, level] { finishEditing(level); };
     return made;
