@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -94,7 +95,7 @@ ControlCenterActions::ControlCenterActions(QWidget* column, QScrollArea* drawer,
 
     add("apply", new ButtonAction(apply));
     add("reset", new ButtonAction(reset));
-    // The focus may stay in a field; Escape must not restore what it showed before the click.
+    // The focus may stay in a field; Escape must not restore what it showed before the command.
     connect(apply, SIGNAL(clicked()), this, SLOT(rememberField()));
     connect(reset, SIGNAL(clicked()), this, SLOT(rememberField()));
     for (const Command& command : Commands) {
@@ -102,6 +103,8 @@ ControlCenterActions::ControlCenterActions(QWidget* column, QScrollArea* drawer,
         action->setData(command.scrolling);
         connect(action, SIGNAL(triggered()), this, command.receiver);
     }
+    for (const char* name : {"discard", "restore"})
+        connect(findChild<QAction*>(name), SIGNAL(triggered()), this, SLOT(rememberField()));
     setTexts();
     new LanguageFollower(column, [this] { setTexts(); });
     m_putBack = findChild<QAction*>("putBack");
@@ -134,7 +137,9 @@ bool ControlCenterActions::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
         return false;
-    const auto* key = static_cast<QKeyEvent*>(event);
+    auto* key = static_cast<QKeyEvent*>(event);
+    if (watched == m_field)
+        return event->type() == QEvent::ShortcutOverride && leavesToCommand(*key);
     if (event->type() == QEvent::KeyPress)
         return press(*key, watched == m_column);
     // Reads a half-typed number before Qt looks up the shortcut: only an edit enables "Apply". Other keys,
@@ -142,6 +147,20 @@ bool ControlCenterActions::eventFilter(QObject* watched, QEvent* event)
     if (m_field && triggersCommand(QKeySequence(key->key() | static_cast<int>(key->modifiers()))))
         m_field->interpretText();
     return false;
+}
+
+bool ControlCenterActions::leavesToCommand(QKeyEvent& event) const
+{
+    const QKeySequence keys(event.key() | static_cast<int>(event.modifiers()));
+    const auto* editor = m_field->findChild<QLineEdit*>();
+    const bool typing = m_field->text() != m_text && (editor->isUndoAvailable() || editor->isRedoAvailable());
+    const auto triggers = [&](const char* name) {
+        return findChild<QAction*>(name)->shortcuts().contains(keys);
+    };
+    const bool leaves = !typing && (triggers("discard") || triggers("restore"));
+    if (leaves)
+        event.ignore();
+    return leaves;
 }
 
 bool ControlCenterActions::triggersCommand(const QKeySequence& keys) const
@@ -176,9 +195,13 @@ bool ControlCenterActions::press(const QKeyEvent& event, bool inColumn)
 
 void ControlCenterActions::onFocusChanged(QWidget*, QWidget* current)
 {
+    if (m_field)
+        m_field->removeEventFilter(this);
     m_field =
         m_drawer && m_drawer->isAncestorOf(current) ? qobject_cast<QAbstractSpinBox*>(current) : nullptr;
     m_putBack->setEnabled(m_field);
+    if (m_field)
+        m_field->installEventFilter(this);
     rememberField();
 }
 

@@ -32,6 +32,13 @@ void logUnregisteredKeys(const ZelSettingsPanel& page)
                        .arg(page.getPanelName(), keys.join(", ")));
 }
 
+bool lacksRegisteredKey(const QSettings& settings)
+{
+    const auto& registered = ZelSettingsRegistry::GetDefaultSettingsValues();
+    return std::any_of(registered.begin(), registered.end(),
+                       [&](const auto& entry) { return !settings.contains(entry.first); });
+}
+
 /// Without pending edits a transparent icon takes the same space.
 void markButton(QPushButton& button, bool pending)
 {
@@ -156,6 +163,9 @@ void SettingsPages::timerEvent(QTimerEvent*)
         !ZelSettingsFile::ReadAgain(*m_followed, error))
         return;
     m_stamp = present;
+    // A setting that is gone gets its default at the next start; without it, the fields would show a minimum.
+    if (lacksRegisteredKey(*m_followed) && !ZelSettingsFile::Repair(*m_followed, error))
+        return;
     const QPointer<SettingsPages> self(this);
     m_pages.forEach([](ZelSettingsPanel* page) {
         if (auto* edits = dynamic_cast<ZelPageEdits*>(page))
@@ -204,7 +214,8 @@ void SettingsPages::discard()
         m_discarded = discarded;
     const QList<ZelSettingsPanel*> modified = pages.modified();
     pages.forEach([&](ZelSettingsPanel* page) {
-        if (modified.contains(page))
+        // Also edits that have no effect yet.
+        if (modified.contains(page) || discarded.contains(page))
             page->initializeWidget();
     });
     if (self)

@@ -119,16 +119,24 @@ public:
             return edits;
         const Model stored = storedModel(), current = currentModel();
         for (const Row& row : m_rows) {
-            if (!row.differs(current, stored))
+            // Apply also stores edits that have no effect now, such as those of another engine.
+            const auto edited = std::find_if(row.fields.begin(), row.fields.end(), [&](const Field& field) {
+                return !field.isSame(current, stored) &&
+                       (field.counts(current) || !field.isSame(current, m_loaded));
+            });
+            if (edited == row.fields.end())
                 continue;
             const ZelSettingHelp* help = m_help->setting(row.help.fields.first());
-            ZelPendingEdit edit = {help->name, row.text(stored), row.text(current), nullptr,
-                                   std::bind(help->take, StoredValue)};
+            ZelPendingEdit edit = {help->name, row.text(stored), row.text(current),
+                                   widgetToEdit(row, current, stored), nullptr};
+            if (!row.fixed)
+                edit.putBack = std::bind(help->take, StoredValue);
+            if (edit.stored == edit.shown) {
+                edit.stored = edited->text(stored);
+                edit.shown = edited->text(current);
+            }
             if (edit.stored == edit.shown) // The field cannot show what is stored.
-                edit.stored = settings().value(row.fields.front().key).toString();
-            for (QWidget* field : row.help.fields)
-                if (!edit.field && field->isEnabled() && field->isVisibleTo(this))
-                    edit.field = field;
+                edit.stored = settings().value(edited->key).toString();
             edits.push_back(edit);
         }
         return edits;
@@ -162,8 +170,7 @@ protected:
     /// @param description  what the setting does, in a few translated sentences
     /// @param conversion   how the value is stored
     template <class T>
-    static Row row(const char* key, T Model::*member,
-                   const typename std::common_type<ZelFieldWidgets<T>>::type& widgets,
+    static Row row(const char* key, T Model::*member, const ZelFieldWidgetsOf<T>& widgets,
                    ZelSettingEffect effect, const QString& description,
                    const ZelFieldConversion<T>& conversion = plainConversion<T>())
     {
@@ -319,6 +326,24 @@ private:
             if (const auto* button = qobject_cast<QRadioButton*>(widget))
                 widget->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
         onFilled(model);
+    }
+
+    /// The widget that shows how two models differ in a row, or another one of it; null when none takes the
+    /// focus.
+    QWidget* widgetToEdit(const Row& row, const Model& left, const Model& right)
+    {
+        QWidget* other = nullptr;
+        for (const Field& field : row.fields) {
+            for (QWidget* widget : field.widgets) {
+                const auto* choice = qobject_cast<const QRadioButton*>(widget);
+                if (!widget->isEnabled() || !widget->isVisibleTo(this) || (choice && !choice->isChecked()))
+                    continue;
+                if (!field.isSame(left, right))
+                    return widget;
+                other = other ? other : widget;
+            }
+        }
+        return other;
     }
 
     void takeRows(const std::vector<Row>& rows)

@@ -12,14 +12,14 @@ class QWidget;
 
 namespace zel {
 
-/// A setting that the user has edited, and not applied yet.
+/// A setting that the user has edited, and not applied yet. Valid while its page lives.
 struct ZelPendingEdit
 {
     QString name;                  ///< As the page names it, in the language of the interface.
     QString stored;                ///< The stored value, as a field shows it.
     QString shown;                 ///< The value that Apply would store, as a field shows it.
-    QWidget* field;                ///< The first field that can take the focus, or null. The page owns it.
-    std::function<void()> putBack; ///< Puts the stored value into the fields. Valid while the page lives.
+    QWidget* field;                ///< Where it was made, or null if that is hidden. The page owns it.
+    std::function<void()> putBack; ///< Puts the stored value into the fields. Null for what no field shows.
 };
 
 /// The pending edits of a page, for the control center and the window around it: a page with rows, which
@@ -42,7 +42,8 @@ public:
     /// edited ones by an Apply whose write failed.
     virtual void pushStored() = 0;
 
-    /// What Apply would store, in the order of the page's rows; empty while hasModifications() is false.
+    /// What Apply would change in the file, in the order of the page's rows; empty while hasModifications()
+    /// is false. Also has what takes effect only with another setting.
     virtual std::vector<ZelPendingEdit> pendingEdits() = 0;
 
     /// A function that makes the pending edits again after they were discarded, and emits stateChanged().

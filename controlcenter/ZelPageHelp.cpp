@@ -3,6 +3,7 @@
 #include "base/AccessibleCompat.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QCoreApplication>
@@ -49,6 +50,13 @@ const struct
 };
 const int WhatIsThis = 2;
 
+/// Makes a number that is being typed the value of its field, so that it counts as an edit.
+void takeTypedText(QWidget* field)
+{
+    if (auto* box = qobject_cast<QAbstractSpinBox*>(field))
+        box->interpretText();
+}
+
 } // namespace
 
 QString ZelSettingHelp::summary() const
@@ -74,8 +82,11 @@ void ZelPageHelp::add(const ZelSettingHelp& setting)
         std::find_if(m_settings.begin(), m_settings.end(),
                      [first](const ZelSettingHelp& each) { return each.fields.first() == first; });
     const bool isNew = former == m_settings.end();
-    const auto place = isNew ? m_settings.insert(former, setting) : former;
-    ZelSettingHelp& added = *place = setting;
+    if (isNew)
+        m_settings.push_back(setting);
+    else
+        *former = setting;
+    ZelSettingHelp& added = isNew ? m_settings.back() : *former;
     if (added.name.isEmpty())
         added.name = nameOf(*added.fields.first());
     const QString text = added.summary();
@@ -140,6 +151,7 @@ QString ZelPageHelp::choiceText(const QList<QWidget*>& buttons)
 void ZelPageHelp::run(int command, QWidget* field)
 {
     const ZelSettingHelp& help = *setting(field);
+    takeTypedText(field);
     if (command != WhatIsThis) {
         const auto source = static_cast<ZelSettingSource>(command);
         if (help.differs(source))
@@ -153,6 +165,7 @@ void ZelPageHelp::run(int command, QWidget* field)
 
 void ZelPageHelp::showMenu(QWidget* field, const QPoint& position)
 {
+    takeTypedText(field);
     auto* editor = field->findChild<QLineEdit*>();
     const QPointer<QMenu> menu = editor ? editor->createStandardContextMenu() : new QMenu(field);
     if (!menu->isEmpty())

@@ -149,6 +149,10 @@ struct ZelFieldWidgets
     bool tipIsValue = false;                     ///< The tool tips are the value, so help must not use them.
 };
 
+/// As an argument: it takes a widget too, because the compiler does not deduce T from it.
+template <class T>
+using ZelFieldWidgetsOf = typename std::common_type<ZelFieldWidgets<T>>::type;
+
 /// A number of bytes, in a box that shows mebibytes.
 inline ZelFieldWidgets<quint64> inMebibytes(zelSpinBox* box)
 {
@@ -207,8 +211,7 @@ struct ZelSettingsRow
 {
     /// A further value that belongs to the setting.
     template <class T>
-    ZelSettingsRow& with(const char* key, T Model::*member,
-                         const typename std::common_type<ZelFieldWidgets<T>>::type& widgets)
+    ZelSettingsRow& with(const char* key, T Model::*member, const ZelFieldWidgetsOf<T>& widgets)
     {
         fields.push_back({key, member, widgets, plainConversion<T>(), std::mem_fn(member)});
         help.fields += widgets.widgets;

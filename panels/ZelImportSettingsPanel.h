@@ -63,10 +63,12 @@ private:
 
     /// Sets the texts that are not in the form.
     void setTexts();
-    template <class Box, class Value>
-    Row limitRow(LimitIndex index, const char* setKey, bool ImportModel::*set, const char* valueKey,
-                 Value ImportModel::*value, Box* box, const QString& description);
     Row qualityRow();
+    /// A row of a value that counts only while the user has set it; else the importer chooses it.
+    template <class Value>
+    Row choiceRow(const char* setKey, bool ImportModel::*set, const ZelFieldWidgets<bool>& choice,
+                  const char* valueKey, Value ImportModel::*value, const ZelFieldWidgetsOf<Value>& widgets,
+                  const QString& description);
     void setQuality(bool set, bool high);
     void setFaceSagSet(bool set) { setLimitSet(Sag, set); }
     void setFaceLengthSet(bool set) { setLimitSet(Length, set); }

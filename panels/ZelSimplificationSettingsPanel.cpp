@@ -117,6 +117,16 @@ bool ZelSimplificationSettingsPanel::hasModifications() const
            ZelEditablePanel<SimplificationModel>::hasModifications();
 }
 
+std::vector<ZelPendingEdit> ZelSimplificationSettingsPanel::pendingEdits()
+{
+    auto edits = ZelEditablePanel<SimplificationModel>::pendingEdits();
+    const QVariant stored = settings().value(keys::SimplificationRatios);
+    if (isMalformed(stored))
+        edits.insert(edits.begin(), {getPanelName(), stored.toString(), ratiosText(currentModel().ratios),
+                                     nullptr, nullptr});
+    return edits;
+}
+
 void ZelSimplificationSettingsPanel::pushToApplication(const SimplificationModel& model)
 {
     kqDMManager* manager = application() ? application()->getDMManager() : nullptr;

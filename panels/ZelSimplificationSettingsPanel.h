@@ -37,6 +37,9 @@ public:
     /// Also true while the stored text does not have five ratios; the page then shows the defaults.
     bool hasModifications() const override;
 
+    /// Begins with such a text.
+    std::vector<ZelPendingEdit> pendingEdits() override;
+
 Q_SIGNALS:
     /// Emitted after every edit.
     void stateChanged();

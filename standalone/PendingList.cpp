@@ -1,6 +1,7 @@
 #include "PendingList.h"
 
 #include "LanguageFollower.h"
+#include "VerticalArea.h"
 #include "ZelPageEdits.h"
 #include "ZelSettingsPanel.h"
 
@@ -10,12 +11,17 @@
 #include <QSignalMapper>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
 namespace zel {
 
 namespace {
+
+const int LeastHeightOfLines = 60;   // pixels, for two lines
+const int CompactHeightOfLines = 88; // pixels, for three
+const int LineInset = 4;             // pixels, padding and border of a line
 
 const char* const Style =
     "#pendingList { background: rgb(237,237,237); border-radius: 4px; }"
@@ -24,9 +30,29 @@ const char* const Style =
     "              color: rgb(34,34,34); font: 14px \"Open Sans\"; text-align: left; outline: none; }"
     "QPushButton:hover { background: rgb(215,215,235); }"
     "QPushButton:focus { border-color: rgb(52,51,180); }"
+    "#discardButton { padding: 1px 7px; border-color: rgb(120,120,120); border-radius: 3px;"
+    "                 color: rgb(52,51,180); font: 13px \"Open Sans\"; }"
+    "#discardButton:focus { border-color: rgb(52,51,180); background: rgb(215,215,235); }"
     "#takeBack { padding: 0px; text-align: center; color: rgb(52,51,180); font: bold 14px \"Open Sans\"; }";
 
-/// A button that elides its text in the middle.
+const QChar Arrow = 0x2192;
+
+QString changeText(const QString& stored, const QString& shown)
+{
+    return stored + ' ' + Arrow + ' ' + shown;
+}
+
+QString lineText(const QString& name, const QString& change)
+{
+    return QCoreApplication::translate("PendingList", "%1: %2").arg(name, change);
+}
+
+QString textOf(const ZelPendingEdit& edit)
+{
+    return lineText(edit.name, changeText(edit.stored, edit.shown));
+}
+
+/// An edit, as a button: in one line, or in several where that is too long.
 class Line : public QPushButton
 {
 public:
@@ -36,30 +62,45 @@ public:
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     }
 
-    void show(const QString& text)
+    void show(const ZelPendingEdit& edit)
     {
-        m_text = text;
-        setAccessibleName(text);
-        elide();
+        m_edit = edit;
+        setAccessibleName(textOf(edit));
+        fit();
     }
 
 protected:
     void resizeEvent(QResizeEvent* event) override
     {
         QPushButton::resizeEvent(event);
-        elide();
+        fit();
     }
 
 private:
-    void elide()
+    int widthOf(const QString& text) const { return fontMetrics().size(Qt::TextSingleLine, text).width(); }
+
+    QString shortened(const QString& text, int room) const
     {
-        const int margins = 8; // Padding and borders.
-        const QString shown = fontMetrics().elidedText(m_text, Qt::ElideMiddle, width() - margins);
-        setToolTip(shown == m_text ? QString() : m_text);
-        setText(QString(shown).replace('&', "&&"));
+        // Folders often differ at their ends.
+        return fontMetrics().elidedText(text, text.contains('/') ? Qt::ElideMiddle : Qt::ElideRight, room);
     }
 
-    QString m_text;
+    void fit()
+    {
+        const int width = this->width() - 2 * LineInset;
+        const QString whole = accessibleName();
+        QString text = whole;
+        if (widthOf(whole) > width) {
+            const bool apart = widthOf(changeText(m_edit.stored, m_edit.shown)) > width;
+            const QString stored = shortened(m_edit.stored, width - widthOf(changeText("", "")));
+            const QString change = changeText(stored, (apart ? "\n" : "") + shortened(m_edit.shown, width));
+            text = lineText(shortened(m_edit.name, width), '\n' + change).replace(" \n", "\n");
+        }
+        setToolTip(QString(text).replace('\n', ' ') == whole ? QString() : whole);
+        setText(text.replace('&', "&&"));
+    }
+
+    ZelPendingEdit m_edit;
 };
 
 std::vector<ZelPendingEdit> editsOf(const QList<QPointer<ZelSettingsPanel>>& pages)
@@ -73,31 +114,38 @@ std::vector<ZelPendingEdit> editsOf(const QList<QPointer<ZelSettingsPanel>>& pag
     return all;
 }
 
-QString textOf(const ZelPendingEdit& edit)
-{
-    const QString change = edit.stored + ' ' + QChar(0x2192) + ' ' + edit.shown; // An arrow.
-    return QCoreApplication::translate("PendingList", "%1: %2").arg(edit.name, change);
-}
-
 } // namespace
 
 PendingList::PendingList(QWidget* parent)
     : QFrame(parent)
     , m_title(new QLabel(this))
+    , m_discard(new QPushButton(this))
+    , m_lines(new QVBoxLayout)
     , m_goTo(new QSignalMapper(this))
     , m_putBack(new QSignalMapper(this))
 {
     setObjectName("pendingList");
     setStyleSheet(Style);
-    setMaximumWidth(520);
+    const int inset = 12;
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(12, 10, 8, 10);
-    layout->setSpacing(4);
+    layout->setContentsMargins(0, 8, 0, 8);
+    layout->setSpacing(2);
+    auto* heading = new QHBoxLayout;
+    heading->setContentsMargins(inset, 0, inset, 0);
     m_title->setTextFormat(Qt::PlainText);
-    layout->addWidget(m_title);
-    m_lines = new QVBoxLayout;
+    m_title->setWordWrap(true);
+    m_discard->setObjectName("discardButton");
+    heading->addWidget(m_title, 1);
+    heading->addWidget(m_discard);
+    layout->addLayout(heading);
+    auto* lines = new QWidget;
+    lines->setLayout(m_lines);
+    m_lines->setContentsMargins(inset - LineInset, 0, inset - LineInset, 0);
     m_lines->setSpacing(0);
-    layout->addLayout(m_lines);
+    m_area = new VerticalArea(lines, LeastHeightOfLines, this);
+    m_area->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    layout->addWidget(m_area);
+    connect(m_discard, SIGNAL(clicked()), this, SLOT(discard()));
     connect(m_goTo, SIGNAL(mapped(int)), this, SLOT(goToField(int)));
     connect(m_putBack, SIGNAL(mapped(int)), this, SLOT(putBack(int)));
     hide();
@@ -112,9 +160,18 @@ void PendingList::setPages(const QList<ZelSettingsPanel*>& pages)
     refresh();
 }
 
+void PendingList::setCompact(bool compact)
+{
+    m_area->setMaximumHeight(compact ? CompactHeightOfLines : QWIDGETSIZE_MAX);
+}
+
 void PendingList::setTexts()
 {
     m_title->setText(QCoreApplication::translate("PendingList", "Not applied yet"));
+    m_discard->setText(QCoreApplication::translate("PendingList", "Discard"));
+    m_discard->setToolTip(QCoreApplication::translate("ZelControlCenter", "Discard changes"));
+    m_discard->setAccessibleName(m_discard->toolTip());
+    m_discard->setAccessibleDescription(m_title->text());
     m_shown.clear();
     refresh();
 }
@@ -128,26 +185,35 @@ void PendingList::refresh()
     if (texts == m_shown)
         return;
     m_shown = texts;
-    setVisible(!texts.isEmpty());
-    while (m_lines->count() > texts.size()) {
+    const int count = texts.size();
+    while (m_lines->count() > count) {
         // Later, because the line may be sending the click that has led here.
         const std::unique_ptr<QLayoutItem> item(m_lines->takeAt(m_lines->count() - 1));
         item->widget()->hide();
         item->widget()->deleteLater();
     }
-    while (m_lines->count() < texts.size())
+    while (m_lines->count() < count)
         addRow();
-    for (int i = 0; i < texts.size(); ++i) {
-        const auto* row = m_lines->itemAt(i)->widget()->layout();
-        auto* line = static_cast<Line*>(row->itemAt(0)->widget());
-        line->show(texts[i]);
-        line->parentWidget()->setEnabled(edits[i].field);
-        line->setAccessibleDescription(QCoreApplication::translate("PendingList", "Goes to the setting."));
-        QWidget* takeBack = row->itemAt(1)->widget();
-        takeBack->setToolTip(QCoreApplication::translate("ZelHelpCard", "Puts back what is stored"));
-        takeBack->setAccessibleName(takeBack->toolTip());
-        takeBack->setAccessibleDescription(texts[i]);
-    }
+    for (int i = 0; i < count; ++i)
+        showEdit(i, edits[static_cast<std::size_t>(i)]);
+    m_discard->setVisible(std::any_of(edits.begin(), edits.end(), [](const ZelPendingEdit& edit) {
+        return static_cast<bool>(edit.putBack);
+    }));
+    setVisible(count > 0);
+}
+
+void PendingList::showEdit(int row, const ZelPendingEdit& edit)
+{
+    const auto* layout = m_lines->itemAt(row)->widget()->layout();
+    auto* line = static_cast<Line*>(layout->itemAt(0)->widget());
+    line->show(edit);
+    line->setEnabled(edit.field);
+    line->setAccessibleDescription(QCoreApplication::translate("PendingList", "Goes to the setting."));
+    QWidget* takeBack = layout->itemAt(1)->widget();
+    takeBack->setEnabled(static_cast<bool>(edit.putBack));
+    takeBack->setToolTip(QCoreApplication::translate("ZelHelpCard", "Puts back what is stored"));
+    takeBack->setAccessibleName(takeBack->toolTip());
+    takeBack->setAccessibleDescription(line->accessibleName());
 }
 
 void PendingList::addRow()
@@ -161,29 +227,38 @@ void PendingList::addRow()
     takeBack->setFixedSize(26, 26);
     layout->addWidget(line);
     layout->addWidget(takeBack);
+    const auto* above = m_lines->isEmpty() ? nullptr : m_lines->itemAt(m_lines->count() - 1)->widget();
+    setTabOrder(above ? above->layout()->itemAt(1)->widget() : m_discard, line);
+    setTabOrder(line, takeBack);
     m_goTo->setMapping(line, m_lines->count());
     connect(line, SIGNAL(clicked()), m_goTo, SLOT(map()));
     m_putBack->setMapping(takeBack, m_lines->count());
     connect(takeBack, SIGNAL(clicked()), m_putBack, SLOT(map()));
     m_lines->addWidget(row);
-    row->show();
 }
 
-void PendingList::goToField(int line)
+bool PendingList::goToField(int line)
 {
     const auto edits = editsOf(m_pages);
-    if (line < static_cast<int>(edits.size()) && edits[line].field)
-        edits[line].field->setFocus(Qt::OtherFocusReason);
+    QWidget* field = line < static_cast<int>(edits.size()) ? edits[line].field : nullptr;
+    if (field)
+        field->setFocus(Qt::OtherFocusReason);
+    return field;
 }
 
 void PendingList::putBack(int line)
 {
+    goToField(line); // The line goes away, and the focus with it.
     const auto edits = editsOf(m_pages);
-    if (line >= static_cast<int>(edits.size()) || !edits[line].field)
-        return;
-    // The line goes away, and the focus with it.
-    edits[line].field->setFocus(Qt::OtherFocusReason);
-    edits[line].putBack();
+    if (line < static_cast<int>(edits.size()) && edits[line].putBack)
+        edits[line].putBack();
+}
+
+void PendingList::discard()
+{
+    for (int line = 0; line < m_lines->count() && !goToField(line); ++line)
+        ;
+    Q_EMIT discardRequested();
 }
 
 } // namespace zel

@@ -97,6 +97,8 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
     connect(m_controlCenter.get(), SIGNAL(pagesChanged()), m_ui->helpArea, SLOT(refresh()));
     connect(m_controlCenter.get(), SIGNAL(helpRequested(QWidget*)), m_ui->helpArea,
             SLOT(showHelpOfFocusedField()));
+    connect(m_ui->helpArea, SIGNAL(discardRequested()), m_controlCenter->findChild<QAction*>("discard"),
+            SLOT(trigger()));
 
     addWindowShortcuts(*this, *m_controlCenter);
     setTexts(*application);
@@ -150,8 +152,8 @@ void ZelControlCenterStandAloneWidget::orderFocus()
     m_controlCenter->installEventFilter(this);
     // The Tab key reaches those of the help after the pages, and the buttons of the window last.
     QWidget* last = previousInFocusChain();
-    for (const char* name :
-         {"putBackButton", "defaultButton", "minimizeButton", "maximizeButton", "closeButton"}) {
+    for (const char* name : {"putBackButton", "defaultButton", "discardButton", "minimizeButton",
+                             "maximizeButton", "closeButton"}) {
         auto* button = findChild<QPushButton*>(name);
         setTabOrder(last, button);
         last = button;

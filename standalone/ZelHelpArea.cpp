@@ -1,7 +1,9 @@
 #include "ZelHelpArea.h"
 
+#include "LanguageFollower.h"
 #include "PendingList.h"
 #include "ReturnKey.h"
+#include "VerticalArea.h"
 #include "ZelHelpCard.h"
 #include "ZelPageHelp.h"
 #include "ZelSettingsPanel.h"
@@ -11,7 +13,7 @@
 #include <QDesktopWidget>
 #include <QEvent>
 #include <QLabel>
-#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace zel {
@@ -26,6 +28,8 @@ const int MinimumHeight = 220;
 const int Margin = 12;
 const int ColumnMargin = 8;
 const int OpenedWidth = 340;
+const int MaximumWidth = 520;
+const int MinimumCardHeight = 100;
 
 /// Independent of its scroll bar: else the help and the bar that it needs could hide each other in turns.
 int roomOf(const QWidget& area)
@@ -40,8 +44,19 @@ QVBoxLayout* newLayout(QWidget* widget, int margin)
 {
     auto* layout = new QVBoxLayout(widget);
     layout->setContentsMargins(margin, margin, margin, margin);
-    layout->addStretch();
     return layout;
+}
+
+QScrollArea* newCardArea(QWidget* card, QWidget* parent)
+{
+    auto* content = new QWidget;
+    auto* layout = newLayout(content, 0);
+    layout->addWidget(card);
+    layout->addStretch();
+    auto* area = new VerticalArea(content, MinimumCardHeight, parent);
+    area->setMinimumHeight(MinimumCardHeight);
+    area->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
+    return area;
 }
 
 bool isOver(const QWidget& field, const QPoint& globalPosition)
@@ -58,14 +73,22 @@ ZelHelpArea::ZelHelpArea(QWidget* parent)
     : QWidget(parent)
     , m_help(new QWidget(this))
     , m_card(new ZelHelpCard(m_help))
+    , m_cardArea(newCardArea(m_card, m_help))
     , m_pending(new PendingList(m_help))
     , m_areaLayout(newLayout(this, Margin))
 {
-    auto* layout = new QVBoxLayout(m_help);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_card);
+    m_help->setMaximumWidth(MaximumWidth);
+    auto* layout = newLayout(m_help, 0);
+    layout->addWidget(m_cardArea, 1);
     layout->addWidget(m_pending);
-    m_areaLayout->insertWidget(0, m_help);
+    layout->addStretch();
+    m_areaLayout->addWidget(m_help);
+    m_cardArea->installEventFilter(this);
+    connect(m_pending, SIGNAL(discardRequested()), this, SIGNAL(discardRequested()));
+    new LanguageFollower(this, [this] {
+        m_reservedWidth = 0;
+        reserveHeight();
+    });
     m_rest.setSingleShot(true);
     m_rest.setInterval(RestTime);
     connect(&m_rest, SIGNAL(timeout()), this, SLOT(onRest()));
@@ -90,28 +113,22 @@ void ZelHelpArea::watchPages(QWidget* tree)
 void ZelHelpArea::useColumn(QWidget* column, QWidget* above)
 {
     m_above = above;
-    auto* host = new QScrollArea(column);
-    m_columnHost = host;
-    host->setObjectName("helpColumn");
-    host->setFrameShape(QFrame::NoFrame);
-    host->setFocusPolicy(Qt::NoFocus);
-    host->setWidgetResizable(true);
-    host->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    auto* content = new QWidget;
-    content->setObjectName("helpColumnContent");
-    m_columnLayout = newLayout(content, ColumnMargin);
-    host->setWidget(content);
-    for (QWidget* clear : {content, host->viewport()})
-        clear->setAutoFillBackground(false);
+    m_columnHost = new QWidget(column);
+    m_columnLayout = newLayout(m_columnHost, ColumnMargin);
     m_columnHost->hide();
     column->installEventFilter(this);
     above->installEventFilter(this);
     place();
 }
 
-bool ZelHelpArea::eventFilter(QObject*, QEvent* event)
+bool ZelHelpArea::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
+    if (watched == m_cardArea) {
+        if (type == QEvent::Resize)
+            reserveHeight();
+        return false;
+    }
     // Queued, because the layout of the column is still at work.
     if (type == QEvent::Resize || type == QEvent::Move || type == QEvent::Show || type == QEvent::Hide)
         QMetaObject::invokeMethod(this, "place", Qt::QueuedConnection);
@@ -138,6 +155,7 @@ void ZelHelpArea::refresh()
 {
     m_card->refresh();
     m_pending->refresh();
+    reserveHeight();
 }
 
 void ZelHelpArea::resizeEvent(QResizeEvent* event)
@@ -203,8 +221,31 @@ void ZelHelpArea::moveToColumn()
 void ZelHelpArea::put(QBoxLayout* layout, bool compact)
 {
     if (layout->indexOf(m_help) < 0)
-        layout->insertWidget(0, m_help);
+        layout->addWidget(m_help);
     m_card->setCompact(compact);
+    m_pending->setCompact(compact);
+}
+
+void ZelHelpArea::reserveHeight()
+{
+    const int width = m_pending->isHidden() ? 0 : m_cardArea->width();
+    if (width == m_reservedWidth)
+        return;
+    m_reservedWidth = width;
+    m_cardArea->setMaximumHeight(width ? heightOfLongestHelp(width) : QWIDGETSIZE_MAX);
+}
+
+int ZelHelpArea::heightOfLongestHelp(int width) const
+{
+    ZelHelpCard card(m_cardArea->widget());
+    card.setCompact(m_card->isCompact());
+    int longest = MinimumCardHeight;
+    for (const QPointer<ZelPageHelp>& page : m_pages)
+        if (page)
+            for (QWidget* field : static_cast<QWidget*>(page->parent())->findChildren<QWidget*>())
+                if (page->setting(field))
+                    longest = qMax(longest, card.largestHeight(field, width));
+    return longest;
 }
 
 int ZelHelpArea::freeHeightOfColumn() const

@@ -20,7 +20,7 @@ class ZelPageHelp;
 
 /// The area beside the pages with the help on one setting, and below it what Apply would store. The setting
 /// is that of the field which has got the keyboard focus last, or on which the pointer rests. A pointer on
-/// its way to the help changes nothing.
+/// its way to the help changes nothing. What would be stored stands still while the help changes.
 ///
 /// While the area is too narrow, the help stands in the column of the pages' list instead. Where that is too
 /// low as well, showHelp() opens it at the field.
@@ -41,7 +41,7 @@ public:
     /// Uses the empty space of a column below one of its widgets while the area is too narrow.
     void useColumn(QWidget* column, QWidget* above);
 
-    /// Places the help again when the column changes. Consumes nothing.
+    /// Places the help again when the column changes, or its own width. Consumes nothing.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 public Q_SLOTS:
@@ -52,6 +52,10 @@ public Q_SLOTS:
     void showHelpOfFocusedField();
     /// Updates the area. Call it after edits are applied or discarded.
     void refresh();
+
+Q_SIGNALS:
+    /// The user wants all pending edits to be discarded.
+    void discardRequested();
 
 protected:
     /// Places the help where there is room.
@@ -68,16 +72,21 @@ private Q_SLOTS:
 private:
     void put(QBoxLayout* layout, bool compact);
     int freeHeightOfColumn() const;
+    /// Keeps the height of the longest help free above what would be stored.
+    void reserveHeight();
+    int heightOfLongestHelp(int width) const;
     void openAt(QWidget& field);
 
     QWidget* const m_help; ///< What is placed: the card and the list below it.
     ZelHelpCard* const m_card;
+    QScrollArea* const m_cardArea;
     PendingList* const m_pending;
     QBoxLayout* m_areaLayout;
     QBoxLayout* m_columnLayout = nullptr;
     QPointer<QWidget> m_columnHost; ///< A child of the column, over its empty space.
     QPointer<QWidget> m_above;
     QList<QPointer<ZelPageHelp>> m_pages;
+    int m_reservedWidth = 0; ///< The width for which a height is reserved; 0 for none.
     QPointer<QWidget> m_hovered;
     QPoint m_pointer; ///< Where it was when the rest began.
     QTimer m_rest;

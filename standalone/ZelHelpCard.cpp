@@ -30,14 +30,12 @@ QString breakable(const QString& text)
     return words.join(" ");
 }
 
-QString stateText(const ZelSettingHelp& help)
+const char* const CompactProperty = "compact"; // A selector of the style sheet.
+
+/// False for what no user can ever edit.
+bool isEditable(const ZelSettingHelp& help)
 {
-    QStringList parts;
-    if (help.differs(StoredValue))
-        parts << QCoreApplication::translate("ZelHelpCard", "Changed, and not applied yet.");
-    if (help.differs(DefaultValue))
-        parts << QCoreApplication::translate("ZelHelpCard", "Not the default.");
-    return parts.join(" ");
+    return !help.text(DefaultValue).isEmpty() || help.fields.first()->isEnabled();
 }
 
 } // namespace
@@ -65,12 +63,27 @@ void ZelHelpCard::setField(QWidget* field)
 
 void ZelHelpCard::setCompact(bool compact)
 {
-    const char* const property = "compact"; // A selector of the style sheet.
-    if (this->property(property).toBool() == compact)
+    if (isCompact() == compact)
         return;
-    setProperty(property, compact);
+    setProperty(CompactProperty, compact);
     setStyleSheet(styleSheet());
     showName();
+}
+
+bool ZelHelpCard::isCompact() const
+{
+    return property(CompactProperty).toBool();
+}
+
+int ZelHelpCard::largestHeight(QWidget* field, int width)
+{
+    setField(field);
+    m_ui->actionsFrame->show();
+    showState(true, true);
+    ensurePolished();
+    for (QWidget* child : findChildren<QWidget*>())
+        child->ensurePolished();
+    return layout()->totalHeightForWidth(width);
 }
 
 const ZelSettingHelp* ZelHelpCard::HelpOn(const QWidget* field)
@@ -116,10 +129,8 @@ void ZelHelpCard::refresh()
         each.title->setVisible(!each.text.isEmpty());
         each.fact->setVisible(!each.text.isEmpty());
     }
-    m_ui->stateLabel->setText(stateText(*help));
-    m_ui->stateLabel->setVisible(!m_ui->stateLabel->text().isEmpty());
-    const bool hasDefault = !help->text(DefaultValue).isEmpty();
-    m_ui->actionsFrame->setVisible(hasDefault || !help->range.isEmpty() || help->differs(StoredValue));
+    showState(help->differs(StoredValue), help->differs(DefaultValue));
+    m_ui->actionsFrame->setVisible(isEditable(*help));
     enableButton(*m_ui->putBackButton, help->differs(StoredValue));
     enableButton(*m_ui->defaultButton, help->differs(DefaultValue));
 }
@@ -151,6 +162,17 @@ void ZelHelpCard::showName()
     label.setText(shown);
     label.setAccessibleName(m_name);
     label.setToolTip(shown == m_name ? QString() : m_name);
+}
+
+void ZelHelpCard::showState(bool changed, bool notDefault)
+{
+    QStringList parts;
+    if (changed)
+        parts << QCoreApplication::translate("ZelHelpCard", "Changed, and not applied yet.");
+    if (notDefault)
+        parts << QCoreApplication::translate("ZelHelpCard", "Not the default.");
+    m_ui->stateLabel->setText(parts.join(" "));
+    m_ui->stateLabel->setVisible(!parts.isEmpty());
 }
 
 } // namespace zel

@@ -32,6 +32,11 @@ public:
 
     /// Makes texts and buttons smaller, for a narrow place.
     void setCompact(bool compact);
+    bool isCompact() const;
+
+    /// Shows the help on a field. Returns the largest height that it may take, whatever the value of the
+    /// field.
+    int largestHeight(QWidget* field, int width);
 
     /// The help on a field of a page. Null for any other widget.
     static const ZelSettingHelp* HelpOn(const QWidget* field);
@@ -50,6 +55,7 @@ private Q_SLOTS:
 
 private:
     void showName();
+    void showState(bool changed, bool notDefault);
 
     const std::unique_ptr<Ui::ZelHelpCard> m_ui;
     QPointer<QWidget> m_field;

@@ -74,6 +74,10 @@
         <source>Goes to the setting.</source>
         <translation>Springt zur Einstellung.</translation>
     </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
 </context>
 <context>
     <name>TurntableSettingsPanel</name>

@@ -74,6 +74,10 @@
         <source>Goes to the setting.</source>
         <translation>Goes to the setting.</translation>
     </message>
+    <message>
+        <source>Discard</source>
+        <translation>Discard</translation>
+    </message>
 </context>
 <context>
     <name>TurntableSettingsPanel</name>

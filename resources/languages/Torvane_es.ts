@@ -74,6 +74,10 @@
         <source>Goes to the setting.</source>
         <translation>Va al ajuste.</translation>
     </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
 </context>
 <context>
     <name>TurntableSettingsPanel</name>

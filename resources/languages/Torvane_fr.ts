@@ -74,6 +74,10 @@
         <source>Goes to the setting.</source>
         <translation>Va au paramètre.</translation>
     </message>
+    <message>
+        <source>Discard</source>
+        <translation>Abandonner</translation>
+    </message>
 </context>
 <context>
     <name>TurntableSettingsPanel</name>

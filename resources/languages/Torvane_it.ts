@@ -74,6 +74,10 @@
         <source>Goes to the setting.</source>
         <translation>Va all’impostazione.</translation>
     </message>
+    <message>
+        <source>Discard</source>
+        <translation>Annulla</translation>
+    </message>
 </context>
 <context>
     <name>TurntableSettingsPanel</name>

@@ -74,6 +74,10 @@
         <source>Goes to the setting.</source>
         <translation>設定に移動します。</translation>
     </message>
+    <message>
+        <source>Discard</source>
+        <translation>破棄</translation>
+    </message>
 </context>
 <context>
     <name>TurntableSettingsPanel</name>

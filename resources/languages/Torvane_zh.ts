@@ -74,6 +74,10 @@
         <source>Goes to the setting.</source>
         <translation>转到该设置。</translation>
     </message>
+    <message>
+        <source>Discard</source>
+        <translation>放弃</translation>
+    </message>
 </context>
 <context>
     <name>TurntableSettingsPanel</name>

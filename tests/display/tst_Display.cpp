@@ -152,6 +152,9 @@ private Q_SLOTS:
             }
             for (const bool gpu : {started, !started, started}) {
                 display.click(gpu ? "deferredButton" : "raytracerButton");
+                display.type("maxTrianglesSpinBox", "70000"); // Putting it back is not to show other frames.
+                QTest::keyClick(display.find("maxTrianglesSpinBox"), Qt::Key_Backspace, Qt::AltModifier);
+                QCOMPARE(display.find<QSpinBox>("maxTrianglesSpinBox")->value(), 1000000);
                 for (const char* name : {"hardwareFrame", "SSAOFrame", "GPUMemoryFrame", "GPUMemory"})
                     QVERIFY2(display.find(name)->isVisible() == gpu, name);
                 for (const char* name : {"softwareFrame", "basicOptionFrame", "CPUMemoryFrame"})
