@@ -42,14 +42,6 @@ Ratios ratiosToShow(const QString& text)
     return ratios;
 }
 
-Ratios defaultRatios(const QString& text)
-{
-    Ratios ratios = ratiosToShow(text);
-    if (ratios.size() > LastLevel)
-        ratios.resize(LastLevel);
-    return ratios;
-}
-
 bool isWellFormed(const Ratios& ratios)
 {
     return ratios.size() == LastLevel;
@@ -60,6 +52,16 @@ bool isMalformed(const QVariant& stored)
     return stored.isValid() && !isWellFormed(ratiosToShow(stored.toString()));
 }
 
+/// Without a default for each level there is none.
+Ratios defaultRatios(const QString& text)
+{
+    Ratios ratios = ratiosToShow(text);
+    if (ratios.size() < LastLevel)
+        return SimplificationModel().ratios;
+    ratios.resize(LastLevel);
+    return ratios;
+}
+
 Ratios storedRatios(const QVariant& stored)
 {
     const Ratios ratios = ratiosToShow(stored.toString());
@@ -67,22 +69,6 @@ Ratios storedRatios(const QVariant& stored)
         return ratios;
     return defaultRatios(ZelSettingsRegistry::GetDefaultSettingsValue(keys::SimplificationRatios));
 }
-
-/// The place of a level's ratio. A model that is not well-formed has none: NaN.
-struct LevelRatio
-{
-    std::size_t index;
-
-    float& operator()(SimplificationModel& model) const
-    {
-        model.ratios.resize(LastLevel);
-        return model.ratios[index];
-    }
-    float operator()(const SimplificationModel& model) const
-    {
-        return isWellFormed(model.ratios) ? model.ratios[index] : std::nanf("");
-    }
-};
 
 } // namespace
 
@@ -156,9 +142,12 @@ ZelSimplificationSettingsPanel::Row ZelSimplificationSettingsPanel::levelRow(int
                          "level never keeps more than the one above it.");
     if (!fixed)
         widgets.range = ZelPageHelp::rangeText(percent(box->minimum()), percent(box->maximum()));
+    const auto place = [level](auto& model) -> auto&
+    {
+        return model.ratios[level - 1];
+    };
     Row made = row(keys::SimplificationRatios, &SimplificationModel::ratios, widgets, EffectAtOnce,
-                   description, ZelFieldConversion<Ratios>{storedRatios, defaultRatios, ratiosText},
-                   LevelRatio{static_cast<std::size_t>(level - 1)});
+                   description, ZelFieldConversion<Ratios>{storedRatios, defaultRatios, ratiosText}, place);
     made.fixed = fixed;
     made.finish = [this, level] { finishEditing(level); };
     return made;

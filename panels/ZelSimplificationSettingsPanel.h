@@ -4,6 +4,7 @@
 #include "ZelEditablePanel.h"
 #include "base/ZelExport.h"
 
+#include <limits>
 #include <memory>
 #include <vector>
 
@@ -18,8 +19,8 @@ class zelDoubleSpinBox;
 /// The settings of the page "Simplification".
 struct SimplificationModel
 {
-    /// The kept fractions of triangles, each from 0.01 to 1, of levels 1 to 5. Valid only with five elements.
-    std::vector<float> ratios;
+    /// The kept fractions of triangles, each from 0.01 to 1, of levels 1 to 5. NaN where a level has none.
+    std::vector<float> ratios = std::vector<float>(5, std::numeric_limits<float>::quiet_NaN());
 };
 
 /// The page "Simplification": the percentage of triangles that a scene keeps when it is exported at each of

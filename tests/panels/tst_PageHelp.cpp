@@ -255,13 +255,12 @@ private Q_SLOTS:
         ZelRendererSelector selector(nullptr, Qt::WindowFlags());
         selector.show();
         QCOMPARE(poorlyAnnounced(QAccessible::queryAccessibleInterface(&selector), controls), QString());
-        const auto chosen = [&selector](const char* name) {
-            return bool(
-                QAccessible::queryAccessibleInterface(selector.findChild<QWidget*>(name))->state().checked);
-        };
-        QVERIFY(chosen("deferredButton") && !chosen("raytracerButton"));
-        pressByReader(selector.findChild<QWidget*>("raytracerButton"));
-        QVERIFY(chosen("raytracerButton") && !chosen("deferredButton"));
+        for (const char* name : {"raytracerButton", "deferredButton"}) {
+            auto* tile = selector.findChild<QWidget*>(name);
+            QVERIFY(!QAccessible::queryAccessibleInterface(tile)->state().checked);
+            pressByReader(tile);
+            QVERIFY(QAccessible::queryAccessibleInterface(tile)->state().checked);
+        }
     }
 #endif
 
