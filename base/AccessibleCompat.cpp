@@ -1,6 +1,8 @@
 #include "AccessibleCompat.h"
 
+#include <QAbstractItemView>
 #include <QAccessibleWidget>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QSlider>
@@ -99,6 +101,19 @@ void notify(QWidget& widget, QAccessible::Event type)
     QAccessible::updateAccessibility(&event);
 }
 
+void notifyItem(QComboBox& box)
+{
+    // Over AT-SPI, a reader is silent about the value of a combo box. It reads an item that gets the focus.
+    if (!accessibleValuesAreNumbers() || !QAccessible::isActive())
+        return;
+    QAccessibleInterface* list = QAccessible::queryAccessibleInterface(box.view());
+    QAccessibleInterface* item = list ? list->child(box.currentIndex()) : nullptr;
+    if (!item)
+        return;
+    QAccessibleEvent event(item, QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
+}
+
 void notifyStateChanged(QWidget& widget)
 {
     QAccessible::State changed;
@@ -151,6 +166,11 @@ const QAccessible::Event ValueTextChanged = QAccessible::ValueChanged;
 void notify(QWidget& widget, QAccessible::Event type)
 {
     QAccessible::updateAccessibility(&widget, 0, type);
+}
+
+void notifyItem(QComboBox& box)
+{
+    notify(box, QAccessible::ValueChanged);
 }
 
 void notifyStateChanged(QWidget& widget)
@@ -208,6 +228,11 @@ void tellAccessibleState(QWidget& widget)
 void tellAccessibleAlert(QWidget& widget)
 {
     notify(widget, QAccessible::Alert);
+}
+
+void tellAccessibleItem(QComboBox& box)
+{
+    notifyItem(box);
 }
 
 } // namespace zel

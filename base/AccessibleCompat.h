@@ -5,6 +5,7 @@
 #include <QString>
 #include <QVariant>
 
+class QComboBox;
 class QWidget;
 
 namespace zel {
@@ -48,6 +49,7 @@ void forgetAccessible(QWidget& widget);
 void tellAccessibleValue(QWidget& widget);
 void tellAccessibleState(QWidget& widget);
 void tellAccessibleAlert(QWidget& widget);
+void tellAccessibleItem(QComboBox& box);
 /// @}
 
 } // namespace zel

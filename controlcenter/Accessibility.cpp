@@ -2,6 +2,8 @@
 
 #include "base/AccessibleCompat.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QLabel>
 #include <QSlider>
 
@@ -45,6 +47,41 @@ void announce(QWidget& widget, const char* property, const QVariant& value)
     widget.setProperty(property, value);
 }
 
+/// Shows the focused link of a label as a notice, which has no text to see. The label owns it.
+class LinkNotice : public QLabel
+{
+public:
+    explicit LinkNotice(QLabel* label)
+        : QLabel(label)
+        , m_label(label)
+    {
+        setFixedSize(1, 1);
+        hide();
+        label->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        // Later, when the key has moved the focus.
+        if (event->type() == QEvent::KeyPress || event->type() == QEvent::FocusIn)
+            QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+        return false;
+    }
+
+protected:
+    void customEvent(QEvent*) override
+    {
+        const QString link = m_label->hasFocus() ? m_label->selectedText() : QString();
+        if (link == accessibleName())
+            return;
+        setAccessibleName(link);
+        link.isEmpty() ? hide() : zel::showNotice(*this);
+    }
+
+private:
+    QLabel* const m_label;
+};
+
 } // namespace
 
 void zel::announceValue(QSlider& slider, const QString& text)
@@ -71,6 +108,11 @@ void zel::showNotice(QLabel& label)
     announce(label, RoleProperty, static_cast<int>(NoticeRole));
     label.show();
     tellAccessibleAlert(label);
+}
+
+void zel::announceLinks(QLabel& label)
+{
+    new LinkNotice(&label);
 }
 
 void zel::keepSilent(QWidget& widget)

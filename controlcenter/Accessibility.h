@@ -25,6 +25,9 @@ void announceWindow(QWidget& window);
 /// Shows a label, and announces it as a notice that appears by itself, which is read out at once.
 void showNotice(QLabel& label);
 
+/// Reads out the link of a label that the keyboard reaches. Qt tells only of the label.
+void announceLinks(QLabel& label);
+
 /// Hides a widget from screen readers, because another widget already says the same.
 void keepSilent(QWidget& widget);
 

@@ -244,7 +244,10 @@ void ZelPageHelp::watch(QWidget* widget, QWidget* field)
 
 void ZelPageHelp::describeItem()
 {
-    describeItemOf(static_cast<QWidget*>(sender()));
+    auto* box = static_cast<QComboBox*>(sender());
+    if (box->hasFocus())
+        tellAccessibleItem(*box);
+    describeItemOf(box);
 }
 
 void ZelPageHelp::describeItemOf(QWidget* field)

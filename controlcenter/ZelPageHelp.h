@@ -96,8 +96,8 @@ Q_SIGNALS:
     void helpRequested(QWidget* field);
 
 private Q_SLOTS:
-    /// Brings the current item of a combo box into its description, where screen readers find no other text
-    /// of it.
+    /// Tells screen readers of the new item of a combo box. Brings it into the description, where they find
+    /// no other text of it.
     void describeItem();
 
 private:

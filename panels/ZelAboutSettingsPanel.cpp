@@ -2,6 +2,7 @@
 
 #include "ui_ZelAboutSettingsPanel.h"
 
+#include "Accessibility.h"
 #include "LabelImage.h"
 #include "SettingsKeys.h"
 #include "base/VersionNumbers.h"
@@ -83,6 +84,7 @@ ZelAboutSettingsPanel::ZelAboutSettingsPanel(kqDMIApplication* application, QSet
     setNamedStyleSheet("ZelAboutSettingsPanel");
     m_ui->platform->setText("X64");
     m_ui->pluginsFrame->hide();
+    announceLinks(*m_ui->libUseLabel_2);
     connect(m_ui->libUseLabel_2, SIGNAL(linkActivated(const QString&)), this,
             SLOT(onLinkActivated(const QString&)));
     setPanelCategory(ApplicationCategory);

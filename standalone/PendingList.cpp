@@ -222,6 +222,7 @@ void PendingList::addRow()
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     auto* line = new Line(row);
+    line->setObjectName("editButton");
     auto* takeBack = new QPushButton(QString(QChar(0x00D7)), row); // A cross.
     takeBack->setObjectName("takeBack");
     takeBack->setFixedSize(26, 26);

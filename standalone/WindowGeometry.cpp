@@ -67,13 +67,17 @@ WindowGeometry::WindowGeometry(QWidget* window, const QSize& minimumSize, const 
 
 void WindowGeometry::restore()
 {
+    const QSize preferred = m_window->size();
     fitToScreen();
+    // On a screen that is too small, the window system fills it to the pixel, also at a fractional scale.
+    bool maximized = m_window->size() != preferred;
     const Place place = parse(contentOfSmallFile(m_file, SizeLimit));
-    if (!place.geometry.isValid() || place.desktop != QApplication::desktop()->geometry())
-        return;
-    m_window->setGeometry(place.geometry);
-    fitToScreen();
-    if (place.maximized)
+    if (place.geometry.isValid() && place.desktop == QApplication::desktop()->geometry()) {
+        m_window->setGeometry(place.geometry);
+        fitToScreen();
+        maximized = place.maximized;
+    }
+    if (maximized)
         m_window->setWindowState(m_window->windowState() | Qt::WindowMaximized);
 }
 
@@ -86,10 +90,13 @@ void WindowGeometry::save() const
 
 bool WindowGeometry::eventFilter(QObject*, QEvent* event)
 {
-    // A window that was maximised while its screen went away is restored to where that screen was.
-    // Queued, because the window is still being moved.
-    if (event->type() == QEvent::Move &&
-        !QApplication::desktop()->geometry().intersects(m_window->geometry()))
+    const QEvent::Type type = event->type();
+    if (type == QEvent::Show || type == QEvent::Paint)
+        m_isBeingPlaced = type == QEvent::Show;
+    // A window that was maximised while its screen went away is restored to where that screen was, and a new
+    // one may be put where a part of it cannot be seen. Queued, because the window is still being moved.
+    if (type == QEvent::Move &&
+        (m_isBeingPlaced || !QApplication::desktop()->geometry().intersects(m_window->geometry())))
         QMetaObject::invokeMethod(this, "fitToScreen", Qt::QueuedConnection);
     return false;
 }
@@ -97,7 +104,8 @@ bool WindowGeometry::eventFilter(QObject*, QEvent* event)
 void WindowGeometry::fitToScreen()
 {
     const QRect area = QApplication::desktop()->availableGeometry(m_window);
-    m_window->setMinimumSize(m_minimumSize.boundedTo(area.size()));
+    // A pixel less, because a fractional scale may have rounded the area up.
+    m_window->setMinimumSize(m_minimumSize.boundedTo(area.size() - QSize(1, 1)));
     if (m_window->isMaximized() || m_window->isFullScreen())
         return;
     const QSize size = m_window->size().boundedTo(area.size());

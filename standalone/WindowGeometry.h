@@ -9,9 +9,9 @@ class QWidget;
 
 namespace zel {
 
-/// Saves the position and size of a frameless window and restores them, unless the screens have changed. Also
-/// keeps the window within the available area of its screen, and brings it back when its screen goes away.
-/// The window owns this object.
+/// Saves the position and size of a frameless window and restores them, unless the screens have changed.
+/// Opens it maximised on a screen that is too small for it. Also keeps the window within the available area
+/// of its screen, and brings it back when its screen goes away. The window owns this object.
 class WindowGeometry : public QObject
 {
     Q_OBJECT
@@ -37,6 +37,7 @@ private:
     QWidget* const m_window;
     const QSize m_minimumSize;
     const QString m_file;
+    bool m_isBeingPlaced = false; ///< It has been shown, but not painted yet.
 };
 
 } // namespace zel

@@ -14,6 +14,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QScrollBar>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace zel {
@@ -76,6 +77,7 @@ ZelHelpArea::ZelHelpArea(QWidget* parent)
     , m_cardArea(newCardArea(m_card, m_help))
     , m_pending(new PendingList(m_help))
     , m_areaLayout(newLayout(this, Margin))
+    , m_rest(new QTimer(this))
 {
     m_help->setMaximumWidth(MaximumWidth);
     auto* layout = newLayout(m_help, 0);
@@ -89,9 +91,10 @@ ZelHelpArea::ZelHelpArea(QWidget* parent)
         m_reservedWidth = 0;
         reserveHeight();
     });
-    m_rest.setSingleShot(true);
-    m_rest.setInterval(RestTime);
-    connect(&m_rest, SIGNAL(timeout()), this, SLOT(onRest()));
+    m_rest->setObjectName("rest");
+    m_rest->setSingleShot(true);
+    m_rest->setInterval(RestTime);
+    connect(m_rest, SIGNAL(timeout()), this, SLOT(onRest()));
     connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
 }
 
@@ -140,7 +143,7 @@ bool ZelHelpArea::eventFilter(QObject* watched, QEvent* event)
 
 void ZelHelpArea::showHelp(QWidget* field)
 {
-    m_rest.stop();
+    m_rest->stop();
     m_card->setField(field);
     if (field && m_help->isHidden())
         openAt(*field);
@@ -168,14 +171,14 @@ void ZelHelpArea::onReached(QWidget* field)
 {
     m_hovered = field;
     m_pointer = QCursor::pos();
-    m_rest.start();
+    m_rest->start();
 }
 
 void ZelHelpArea::onFocusChanged(QWidget*, QWidget* current)
 {
     if (!ZelHelpCard::HelpOn(current))
         return;
-    m_rest.stop();
+    m_rest->stop();
     m_card->setField(current);
 }
 
@@ -237,15 +240,30 @@ void ZelHelpArea::reserveHeight()
 
 int ZelHelpArea::heightOfLongestHelp(int width) const
 {
+    // One card with the longest of all texts, because a screen reader is told of each text that is set.
     ZelHelpCard card(m_cardArea->widget());
     card.setCompact(m_card->isCompact());
-    int longest = MinimumCardHeight;
-    for (const QPointer<ZelPageHelp>& page : m_pages)
-        if (page)
-            for (QWidget* field : static_cast<QWidget*>(page->parent())->findChildren<QWidget*>())
-                if (page->setting(field))
-                    longest = qMax(longest, card.largestHeight(field, width));
-    return longest;
+    ZelSettingHelp longest = ZelSettingHelp();
+    QString byDefault, stored;
+    const auto keepLonger = [&](QString& kept, const QString& text, int room) {
+        if (kept.isEmpty() || card.textHeight(text, room) > card.textHeight(kept, room))
+            kept = text;
+    };
+    for (const QPointer<ZelPageHelp>& page : m_pages) {
+        for (QWidget* field : page ? page->parent()->findChildren<QWidget*>() : QList<QWidget*>()) {
+            const ZelSettingHelp* help = page->setting(field);
+            if (!help)
+                continue;
+            keepLonger(longest.description, help->description, width - 2 * Margin);
+            keepLonger(longest.range, help->range, width / 2);
+            keepLonger(longest.effect, help->effect, width / 2);
+            keepLonger(byDefault, help->text(DefaultValue), width / 2);
+            keepLonger(stored, help->text(StoredValue), width / 2);
+        }
+    }
+    longest.text = [&](ZelSettingSource source) { return source == DefaultValue ? byDefault : stored; };
+    longest.differs = [](ZelSettingSource) { return true; };
+    return card.heightOf(longest, width);
 }
 
 int ZelHelpArea::freeHeightOfColumn() const

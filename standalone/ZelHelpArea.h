@@ -6,11 +6,11 @@
 #include <QList>
 #include <QPoint>
 #include <QPointer>
-#include <QTimer>
 #include <QWidget>
 
 class QBoxLayout;
 class QScrollArea;
+class QTimer;
 
 namespace zel {
 
@@ -89,7 +89,7 @@ private:
     int m_reservedWidth = 0; ///< The width for which a height is reserved; 0 for none.
     QPointer<QWidget> m_hovered;
     QPoint m_pointer; ///< Where it was when the rest began.
-    QTimer m_rest;
+    QTimer* const m_rest;
 };
 
 } // namespace zel

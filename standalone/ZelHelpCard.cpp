@@ -32,6 +32,16 @@ QString breakable(const QString& text)
 
 const char* const CompactProperty = "compact"; // A selector of the style sheet.
 
+QString stateText(const ZelSettingHelp& help)
+{
+    QStringList parts;
+    if (help.differs(StoredValue))
+        parts << QCoreApplication::translate("ZelHelpCard", "Changed, and not applied yet.");
+    if (help.differs(DefaultValue))
+        parts << QCoreApplication::translate("ZelHelpCard", "Not the default.");
+    return parts.join(" ");
+}
+
 /// False for what no user can ever edit.
 bool isEditable(const ZelSettingHelp& help)
 {
@@ -75,15 +85,23 @@ bool ZelHelpCard::isCompact() const
     return property(CompactProperty).toBool();
 }
 
-int ZelHelpCard::largestHeight(QWidget* field, int width)
+int ZelHelpCard::heightOf(const ZelSettingHelp& help, int width)
 {
-    setField(field);
+    showHelp(help);
+    m_ui->factsFrame->show();
     m_ui->actionsFrame->show();
-    showState(true, true);
-    ensurePolished();
     for (QWidget* child : findChildren<QWidget*>())
         child->ensurePolished();
     return layout()->totalHeightForWidth(width);
+}
+
+int ZelHelpCard::textHeight(const QString& text, int width) const
+{
+    m_ui->descriptionLabel->ensurePolished();
+    const QRect room(0, 0, width, 0);
+    return m_ui->descriptionLabel->fontMetrics()
+        .boundingRect(room, Qt::TextWordWrap, breakable(text))
+        .height();
 }
 
 const ZelSettingHelp* ZelHelpCard::HelpOn(const QWidget* field)
@@ -100,28 +118,34 @@ const ZelSettingHelp* ZelHelpCard::HelpOn(const QWidget* field)
 void ZelHelpCard::refresh()
 {
     const ZelSettingHelp* help = HelpOn(m_field);
-    m_name = help ? help->name : QCoreApplication::translate("ZelHelpCard", "Help");
+    m_ui->factsFrame->setVisible(help);
+    m_ui->actionsFrame->setVisible(help && isEditable(*help));
+    if (help) {
+        showHelp(*help);
+        return;
+    }
+    m_name = QCoreApplication::translate("ZelHelpCard", "Help");
     showName();
     m_ui->descriptionLabel->setText(
-        help ? help->description
-             : QCoreApplication::translate("ZelHelpCard",
-                                           "Point at a setting, or move to it with the Tab key, "
-                                           "to read here what it does."));
-    m_ui->factsFrame->setVisible(help);
-    m_ui->actionsFrame->setVisible(help);
-    if (!help)
-        return;
+        QCoreApplication::translate("ZelHelpCard", "Point at a setting, or move to it with the Tab key, "
+                                                   "to read here what it does."));
+}
 
+void ZelHelpCard::showHelp(const ZelSettingHelp& help)
+{
+    m_name = help.name;
+    showName();
+    m_ui->descriptionLabel->setText(help.description);
     const struct
     {
         QLabel* title;
         QLabel* fact;
         QString text;
     } facts[] = {
-        {m_ui->rangeTitle, m_ui->rangeLabel, help->range},
-        {m_ui->defaultTitle, m_ui->defaultLabel, help->text(DefaultValue)},
-        {m_ui->storedTitle, m_ui->storedLabel, help->text(StoredValue)},
-        {m_ui->effectTitle, m_ui->effectLabel, help->effect},
+        {m_ui->rangeTitle, m_ui->rangeLabel, help.range},
+        {m_ui->defaultTitle, m_ui->defaultLabel, help.text(DefaultValue)},
+        {m_ui->storedTitle, m_ui->storedLabel, help.text(StoredValue)},
+        {m_ui->effectTitle, m_ui->effectLabel, help.effect},
     };
     for (const auto& each : facts) {
         each.fact->setText(breakable(each.text));
@@ -129,10 +153,11 @@ void ZelHelpCard::refresh()
         each.title->setVisible(!each.text.isEmpty());
         each.fact->setVisible(!each.text.isEmpty());
     }
-    showState(help->differs(StoredValue), help->differs(DefaultValue));
-    m_ui->actionsFrame->setVisible(isEditable(*help));
-    enableButton(*m_ui->putBackButton, help->differs(StoredValue));
-    enableButton(*m_ui->defaultButton, help->differs(DefaultValue));
+    const QString state = stateText(help);
+    m_ui->stateLabel->setText(state);
+    m_ui->stateLabel->setVisible(!state.isEmpty());
+    enableButton(*m_ui->putBackButton, help.differs(StoredValue));
+    enableButton(*m_ui->defaultButton, help.differs(DefaultValue));
 }
 
 void ZelHelpCard::resizeEvent(QResizeEvent* event)
@@ -162,17 +187,6 @@ void ZelHelpCard::showName()
     label.setText(shown);
     label.setAccessibleName(m_name);
     label.setToolTip(shown == m_name ? QString() : m_name);
-}
-
-void ZelHelpCard::showState(bool changed, bool notDefault)
-{
-    QStringList parts;
-    if (changed)
-        parts << QCoreApplication::translate("ZelHelpCard", "Changed, and not applied yet.");
-    if (notDefault)
-        parts << QCoreApplication::translate("ZelHelpCard", "Not the default.");
-    m_ui->stateLabel->setText(parts.join(" "));
-    m_ui->stateLabel->setVisible(!parts.isEmpty());
 }
 
 } // namespace zel

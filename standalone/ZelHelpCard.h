@@ -34,9 +34,10 @@ public:
     void setCompact(bool compact);
     bool isCompact() const;
 
-    /// Shows the help on a field. Returns the largest height that it may take, whatever the value of the
-    /// field.
-    int largestHeight(QWidget* field, int width);
+    /// Shows a help. Returns the height that it takes.
+    int heightOf(const ZelSettingHelp& help, int width);
+    /// The height of a wrapped text of the card.
+    int textHeight(const QString& text, int width) const;
 
     /// The help on a field of a page. Null for any other widget.
     static const ZelSettingHelp* HelpOn(const QWidget* field);
@@ -55,7 +56,7 @@ private Q_SLOTS:
 
 private:
     void showName();
-    void showState(bool changed, bool notDefault);
+    void showHelp(const ZelSettingHelp& help);
 
     const std::unique_ptr<Ui::ZelHelpCard> m_ui;
     QPointer<QWidget> m_field;

@@ -168,6 +168,7 @@ private Q_SLOTS:
             QCOMPARE(notices.count, 2);
             QVERIFY(canApply() && page.hasModifications() && m_controlCenter->hasModifications());
             QVERIFY2(error->isVisible() && error->text().contains(file), qPrintable(error->text()));
+            QVERIFY(error->toolTip().contains(QFileInfo(file).fileName()));
             QCOMPARE(int(m_application->manager.cacheSizes.last()), size->value() - 1); // The stored one.
             QVERIFY(clear());
             QTest::mouseClick(button("applyButton"), Qt::LeftButton);

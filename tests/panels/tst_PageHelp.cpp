@@ -47,7 +47,19 @@ class tst_PageHelp : public QObject, private User
 private:
     QString said(const char* label) { return find<QLabel>(label)->text(); }
     void point(const char* name) { QTest::mouseMove(find(name)); }
+    /// The pointer rests where it is.
+    void rest() { QMetaObject::invokeMethod(find<QTimer>("rest"), "timeout"); }
     QSettings& settings() { return m_application->getSettings(); }
+
+    /// The lines of the list.
+    QStringList pending()
+    {
+        QStringList lines;
+        for (const QAbstractButton* line : find("pendingList")->findChildren<QAbstractButton*>("editButton"))
+            if (line->isVisible())
+                lines << line->accessibleName();
+        return lines;
+    }
 
     void open(const char* language)
     {
@@ -93,19 +105,19 @@ private Q_SLOTS:
         m_window->move(0, -120); // So that the pointer finds the field on a screen of 600 pixels.
         point("label_29");       // A label stands for its field, once the pointer rests on it.
         QCOMPARE(said("nameLabel"), QString("Cache size"));
-        for (int tries = 0; tries < 10 && said("nameLabel") != "Screenshot folder"; ++tries) { // It may move.
-            point("helpFrame");
+        const auto restOnLabel = [this] {
+            point("helpFrame"); // Again, because the label may still move.
             point("label_29");
-            QTest::qWait(600);
-        }
-        QCOMPARE(said("nameLabel"), QString("Screenshot folder"));
-        QVERIFY(find("screenshotFolderButton")->toolTip().isEmpty());
+            rest();
+            return said("nameLabel");
+        };
+        QTRY_COMPARE(restOnLabel(), QString("Screenshot folder"));
+        QVERIFY(find("screenshotFolderButton")->toolTip().isEmpty() && find("actionsFrame")->isVisible());
 
-        // On its way to the help the pointer crosses other fields.
-        point("databaseSpinBox");
-        QTest::qWait(100);
+        point("databaseSpinBox"); // On its way to the help the pointer crosses other fields.
+        QTRY_VERIFY(find<QTimer>("rest")->isActive());
         point("helpFrame");
-        QTest::qWait(600);
+        rest();
         QCOMPARE(said("nameLabel"), QString("Screenshot folder"));
     }
 
@@ -130,6 +142,10 @@ private Q_SLOTS:
         }
         QToolTip::hideText();
         auto* opened = QApplication::activePopupWidget();
+        find<QSpinBox>("databaseSpinBox")->setValue(512);
+        QVERIFY(!opened->findChild<QLabel*>("stateLabel")->text().isEmpty());
+        opened->findChild<QPushButton*>("putBackButton")->click();
+        QVERIFY(opened->findChild<QLabel*>("stateLabel")->text().isEmpty());
         QCOMPARE(opened->findChild<QLabel*>("rangeLabel")->text(), QString("10 Mo to 4,096 Mo"));
         QTest::keyClick(opened, Qt::Key_Escape);
         QVERIFY(!QApplication::activePopupWidget());
@@ -154,14 +170,17 @@ private Q_SLOTS:
         QVERIFY(marked().isEmpty() && find("pendingList")->isHidden() && find("databaseSpinBox")->hasFocus());
         // What no field can change is listed too, and leads nowhere.
         const QString ratios = settings().value("Simplification/Ratios").toString();
-        for (const QString& stored : {ratios.mid(2).prepend("0.9/"), ratios}) {
+        for (const QString& stored : {ratios.mid(2).prepend("0.9/"), QString("1/0.5"), ratios}) {
             settings().setValue("Simplification/Ratios", stored);
             settings().sync();
             for (auto* page : m_window->findChildren<ZelSettingsPanel*>())
                 page->initializeWidget();
+            for (auto* help : m_window->findChildren<ZelPageHelp*>())
+                if (const auto* fixed = help->setting(find("ratio1")))
+                    QVERIFY(!fixed->differs(StoredValue)); // It offers nothing.
             type("databaseSpinBox", "512");
             QCOMPARE(marked(), QString(stored == ratios ? "Folders" : "Folders Simplification"));
-            QTRY_VERIFY(!find("pendingList")->isHidden());
+            QTRY_COMPARE(pending().size(), stored == ratios ? 1 : 2);
             for (auto* button : find("pendingList")->findChildren<QAbstractButton*>())
                 button->click();
         }
@@ -176,6 +195,10 @@ private Q_SLOTS:
         find("databaseSpinBox")->setFocus();
         QTest::mouseClick(find("frame_4")->findChild<QWidget*>("resetButton"), Qt::LeftButton);
         QVERIFY(said("stateLabel").isEmpty());
+        type("databaseSpinBox", "512");
+        find("databaseSpinBox")->setFocus();
+        QTest::mouseClick(find("applyButton"), Qt::LeftButton);
+        QCOMPARE(said("storedLabel") + said("stateLabel"), QString("512 MoNot the default."));
 
         QCOMPARE(type("ratio3", "20"), QString("20"));
         QCOMPARE(type("ratio2", "30"), QString("30"));
@@ -193,6 +216,27 @@ private Q_SLOTS:
         QCOMPARE(find<QDoubleSpinBox>("ratio3")->value(), 30.0);
     }
 
+    void listsAllThatApplyWouldStore()
+    {
+        find<QCheckBox>("deferredFXAACheckBox")->click();
+        find<QRadioButton>("raytracerButton")->click();
+        const QStringList texts = {"Rendering engine: High Mode (Discrete Graphic Card) \342\206\222 "
+                                   "Low Mode (Run everywhere)",
+                                   "Antialiasing: on \342\206\222 off"};
+        QTRY_COMPARE(pending(), texts);
+        find("pendingList")->findChild<QAbstractButton*>("editButton")->click();
+        QVERIFY(find("raytracerButton")->hasFocus());
+        const auto place = [this] {
+            QCoreApplication::processEvents();
+            return find("pendingList")->mapTo(window, QPoint());
+        };
+        const QPoint still = place();
+        find("maxTrianglesSpinBox")->setFocus(); // Has a shorter help.
+        QCOMPARE(place(), still);
+        find<QPushButton>("discardButton")->click();
+        QVERIFY(find("pendingList")->isHidden() && find<QCheckBox>("deferredFXAACheckBox")->isChecked());
+    }
+
     void fieldsHaveCommandsOfTheirOwn()
     {
         auto* box = find<QSpinBox>("databaseSpinBox");
@@ -200,7 +244,9 @@ private Q_SLOTS:
         for (const bool byKeys : {true, false}) {
             for (const auto& [command, key, value] : {std::make_tuple("Put back", Qt::Key_Backspace, 300),
                                                       std::make_tuple("Default", Qt::Key_Delete, 1024)}) {
-                box->setValue(512);
+                box->setFocus();
+                box->selectAll();
+                QTest::keyClicks(box, "5"); // Less than the minimum.
                 const Later choose(0, [name = QString(command)] {
                     if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget()))
                         for (QAction* action : menu->actions())

@@ -253,6 +253,7 @@ private Q_SLOTS:
     void headerMovesAndMaximizes()
     {
         const QPoint onHeader(300, 15), way(30, 20);
+        m_window.setGeometry(0, 0, 720, 500);
         const QRect moved = m_window.geometry().translated(way);
         drag(onHeader, way, onHeader);
         QCOMPARE(m_window.geometry(), moved);
@@ -260,8 +261,15 @@ private Q_SLOTS:
             QTest::mouseDClick(m_window.findChild<QWidget*>("headerFrame"), button);
             QCOMPARE(m_window.isMaximized(), button == Qt::LeftButton);
         }
-        QTest::mouseClick(m_window.findChild<QPushButton*>("maximizeButton"), Qt::LeftButton);
-        QTRY_COMPARE(m_window.geometry(), moved);
+        QTRY_COMPARE(m_window.pos(), QPoint());
+        // Dragged off, it keeps the place below the pointer as a part of its width.
+        const QPoint grip(onHeader.x() * moved.width() / m_window.width(), onHeader.y());
+        drag(onHeader, way, grip);
+        QTRY_COMPARE(m_window.geometry(), QRect(onHeader + way - grip, moved.size()));
+        for (const bool maximized : {true, false}) {
+            QTest::mouseClick(m_window.findChild<QPushButton*>("maximizeButton"), Qt::LeftButton);
+            QTRY_COMPARE(m_window.isMaximized(), maximized);
+        }
     }
 
 private:
