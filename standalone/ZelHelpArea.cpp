@@ -48,13 +48,10 @@ QVBoxLayout* newLayout(QWidget* widget, int margin)
     return layout;
 }
 
-QScrollArea* newCardArea(QWidget* card, QWidget* parent)
+QScrollArea* newCardArea(QWidget* parent)
 {
-    auto* content = new QWidget;
-    auto* layout = newLayout(content, 0);
-    layout->addWidget(card);
-    layout->addStretch();
-    auto* area = new VerticalArea(content, MinimumCardHeight, parent);
+    auto* area = new VerticalArea(new QWidget, MinimumCardHeight, parent);
+    newLayout(area->widget(), 0)->addStretch();
     area->setMinimumHeight(MinimumCardHeight);
     area->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
     return area;
@@ -73,13 +70,14 @@ bool isOver(const QWidget& field, const QPoint& globalPosition)
 ZelHelpArea::ZelHelpArea(QWidget* parent)
     : QWidget(parent)
     , m_help(new QWidget(this))
-    , m_card(new ZelHelpCard(m_help))
-    , m_cardArea(newCardArea(m_card, m_help))
+    , m_cardArea(newCardArea(m_help))
+    , m_card(new ZelHelpCard(m_cardArea->widget())) // To move it there later would style it twice.
     , m_pending(new PendingList(m_help))
     , m_areaLayout(newLayout(this, Margin))
     , m_rest(new QTimer(this))
 {
     m_help->setMaximumWidth(MaximumWidth);
+    static_cast<QBoxLayout*>(m_cardArea->widget()->layout())->insertWidget(0, m_card);
     auto* layout = newLayout(m_help, 0);
     layout->addWidget(m_cardArea, 1);
     layout->addWidget(m_pending);

@@ -78,8 +78,8 @@ private:
     void openAt(QWidget& field);
 
     QWidget* const m_help; ///< What is placed: the card and the list below it.
-    ZelHelpCard* const m_card;
     QScrollArea* const m_cardArea;
+    ZelHelpCard* const m_card;
     PendingList* const m_pending;
     QBoxLayout* m_areaLayout;
     QBoxLayout* m_columnLayout = nullptr;

@@ -61,7 +61,7 @@ private Q_SLOTS:
                     drawer->ensureWidgetVisible(field);
                     const QVariant shown = field->property(value);
                     const int place = bar->value();
-                    turnWheelOver(*field);
+                    turnWheel(m_window, field->mapTo(&m_window, field->rect().center()));
                     const QByteArray name = field->objectName().toUtf8();
                     QVERIFY2((bar->value() > place) != focused, name);
                     QVERIFY2((field->property(value) != shown) == focused, name);
@@ -150,6 +150,11 @@ private Q_SLOTS:
         QTest::keyClicks(size, "1"); // Less than the minimum.
         press(Qt::Key_C, Qt::ControlModifier);
         QVERIFY(size->text().startsWith("1 "));
+        check->setChecked(true);
+        for (const bool typed : {true, false}) { // Undoes what is typed, then discards.
+            press(Qt::Key_Z, Qt::ControlModifier);
+            QVERIFY(!size->text().startsWith("1 ") && check->isChecked() == typed && size->hasFocus());
+        }
         size->selectAll();
         QTest::keyClicks(size, "9999"); // What is being typed counts, and is brought into the range.
         press(Qt::Key_S, Qt::ControlModifier);
@@ -279,11 +284,6 @@ private:
         QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, press);
         QTest::mouseMove(window, press + way);
         QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, release);
-    }
-
-    void turnWheelOver(const QWidget& field)
-    {
-        turnWheel(m_window, field.mapTo(&m_window, field.rect().center()));
     }
 
     FakeApplication m_application;
