@@ -57,6 +57,14 @@ QScrollArea* newCardArea(QWidget* parent)
     return area;
 }
 
+/// From the top, so that name and buttons stand where they were.
+void showHelpOn(QWidget* field, ZelHelpCard& card, QScrollArea& area)
+{
+    if (field != card.field())
+        area.verticalScrollBar()->setValue(0);
+    card.setField(field);
+}
+
 bool isOver(const QWidget& field, const QPoint& globalPosition)
 {
     const QWidget* window = field.window();
@@ -142,7 +150,7 @@ bool ZelHelpArea::eventFilter(QObject* watched, QEvent* event)
 void ZelHelpArea::showHelp(QWidget* field)
 {
     m_rest->stop();
-    m_card->setField(field);
+    showHelpOn(field, *m_card, *m_cardArea);
     if (field && m_help->isHidden())
         openAt(*field);
 }
@@ -177,7 +185,7 @@ void ZelHelpArea::onFocusChanged(QWidget*, QWidget* current)
     if (!ZelHelpCard::HelpOn(current))
         return;
     m_rest->stop();
-    m_card->setField(current);
+    showHelpOn(current, *m_card, *m_cardArea);
 }
 
 void ZelHelpArea::onRest()
@@ -186,7 +194,7 @@ void ZelHelpArea::onRest()
     if (!m_hovered || !isOver(*m_hovered, pointer))
         return;
     if (pointer == m_pointer)
-        m_card->setField(m_hovered);
+        showHelpOn(m_hovered, *m_card, *m_cardArea);
     else
         onReached(m_hovered); // Still moving.
 }

@@ -233,6 +233,9 @@ private Q_SLOTS:
         const QPoint still = place();
         find("maxTrianglesSpinBox")->setFocus(); // Has a shorter help.
         QCOMPARE(place(), still);
+        find("pendingList")->findChildren<QAbstractButton*>("takeBack").last()->click();
+        QCOMPARE(pending().size(), 1);
+        QVERIFY(find("softwareFrame")->isVisible()); // The other engine is still chosen.
         find<QPushButton>("discardButton")->click();
         QVERIFY(find("pendingList")->isHidden() && find<QCheckBox>("deferredFXAACheckBox")->isChecked());
     }
