@@ -41,7 +41,7 @@ public:
     }
 
     /// True when the widgets differ from the stored values.
-    bool hasModifications() const override { return differ(storedModel(), currentModel()); }
+    bool hasModifications() const override { return differsFrom(storedModel()); }
 
     /// Takes what others have stored, passes the edits to the running application, then stores them. Returns
     /// shouldRestart().
@@ -60,7 +60,7 @@ public:
     }
 
     /// True when the widgets differ from the defaults.
-    bool canResetContent() const override { return differ(defaultModel(), currentModel()); }
+    bool canResetContent() const override { return differsFrom(defaultModel()); }
 
     /// Puts the defaults into the widgets, as a pending edit.
     void resetContent() override
@@ -83,22 +83,19 @@ public:
         if (!m_isLoaded)
             return;
         const Model stored = storedModel(), current = currentModel();
-        Model merged = current;
-        std::vector<const Field*> changed;
-        forEachField([&](const Field& field) {
-            if (field.isSame(stored, m_applied)) // The last Apply has been written.
-                field.copy(m_loaded, m_applied);
-            if (field.isSame(stored, current))
-                field.copy(m_loaded, current);
-            if (!field.isSame(current, m_loaded) || field.isSame(stored, m_stored))
-                return;
-            field.copy(merged, stored);
-            changed.push_back(&field);
-        });
+        Fields changed;
+        for (const Field* field : m_fields) {
+            if (field->isSame(stored, m_applied)) // The last Apply has been written.
+                field->copy(m_loaded, m_applied);
+            if (field->isSame(stored, current))
+                field->copy(m_loaded, current);
+            if (field->isSame(current, m_loaded) && !field->isSame(stored, m_stored))
+                changed.push_back(field);
+        }
         m_stored = stored;
         if (changed.empty())
             return;
-        fill(merged, changed);
+        fill(stored, changed);
         const Model shown = currentModel();
         for (const Field* field : changed) {
             field->copy(m_loaded, shown);
@@ -129,12 +126,12 @@ public:
             });
             if (edited == row.fields.end())
                 continue;
-            const ZelSettingHelp* help = m_help->setting(row.fields.front().widgets.first());
+            const ZelSettingHelp* help = m_help->setting(row.help.fields.first());
             ZelPendingEdit edit = {help->name, row.text(stored), row.text(current),
                                    widgetToEdit(row, current, stored), nullptr};
             if (!row.fixed)
-                edit.putBack = help->putBack;
-            if (edit.stored == edit.shown && edited->text) {
+                edit.putBack = std::bind(help->take, StoredValue);
+            if (edit.stored == edit.shown) {
                 edit.stored = edited->text(stored);
                 edit.shown = edited->text(current);
             }
@@ -148,19 +145,15 @@ public:
     /// See ZelPageEdits.
     std::function<void()> copyOfEdits() override
     {
-        std::vector<const Field*> edited;
         const Model current = currentModel();
-        forEachField([&](const Field& field) {
-            if (!field.isSame(current, m_loaded))
-                edited.push_back(&field);
-        });
+        Fields edited;
+        for (const Field* field : m_fields)
+            if (!field->isSame(current, m_loaded))
+                edited.push_back(field);
         if (edited.empty())
             return nullptr;
         return [this, current, edited] {
-            Model model = currentModel();
-            for (const Field* field : edited)
-                field->copy(model, current);
-            fill(model, edited);
+            fill(current, edited);
             onEdited();
         };
     }
@@ -177,24 +170,28 @@ protected:
     /// @param description  what the setting does, in a few translated sentences
     /// @param conversion   how the value is stored
     template <class T>
-    static Row row(const char* key, T Model::*member,
-                   const typename std::common_type<ZelFieldWidgets<T>>::type& widgets,
+    static Row row(const char* key, T Model::*member, const ZelFieldWidgetsOf<T>& widgets,
                    ZelSettingEffect effect, const QString& description,
                    const ZelFieldConversion<T>& conversion = plainConversion<T>())
     {
-        return row(Field(key, member, widgets, conversion), widgets.range, effect, description);
+        return row(key, member, widgets, effect, description, conversion, std::mem_fn(member));
     }
 
-    /// Makes a row of a value that differs from the usual ones.
-    static Row row(const ZelSettingsField<Model>& field, const QString& range, ZelSettingEffect effect,
-                   const QString& description)
+    /// Makes a row whose widgets show a part of the member: what place(model) returns, a reference that can
+    /// be assigned unless the model is const.
+    template <class T, class Part, class Place>
+    static Row row(const char* key, T Model::*member, const ZelFieldWidgets<Part>& widgets,
+                   ZelSettingEffect effect, const QString& description,
+                   const ZelFieldConversion<T>& conversion, const Place& place)
     {
         Row made;
-        made.fields = {field};
-        made.description = description;
-        made.effect = effect;
-        made.range = range;
-        made.text = field.text;
+        made.fields = {{key, member, widgets, conversion, place}};
+        made.help.fields = widgets.widgets;
+        made.help.description = description;
+        made.help.range = widgets.range;
+        made.help.effect = ZelPageHelp::effectText(effect);
+        made.help.tipIsValue = widgets.tipIsValue;
+        made.text = made.fields.front().text;
         return made;
     }
 
@@ -207,17 +204,11 @@ protected:
     void setRows(const std::vector<Row>& rows)
     {
         const bool again = m_help;
-        if (!again) {
-            m_rows = rows;
-            m_help = new ZelPageHelp(this);
-            QStringList keys;
-            forEachField([&](const Field& field) { keys.append(field.key); });
-            keys.removeDuplicates();
-            setSettingsKeys(keys);
-        }
+        if (!again)
+            takeRows(rows);
         for (std::size_t i = 0; i < m_rows.size(); ++i) {
-            m_rows[i].takeTexts(rows[i]);
-            m_help->add(helpOn(m_rows[i]));
+            m_rows[i].help = rows[i].help;
+            addHelp(m_rows[i]);
         }
         if (!again)
             return;
@@ -228,21 +219,22 @@ protected:
     /// Reads the stored values.
     void readSettings(Model& model) const
     {
-        forEachField([&](const Field& field) { field.readStored(model, settings().value(field.key)); });
+        for (const Field* field : m_fields)
+            field->readStored(model, settings().value(field->key));
     }
 
     /// Reads the registered defaults.
     void getDefaultSettings(Model& model) const
     {
-        forEachField([&](const Field& field) {
-            field.readDefault(model, ZelSettingsRegistry::GetDefaultSettingsValue(field.key));
-        });
+        for (const Field* field : m_fields)
+            field->readDefault(model, ZelSettingsRegistry::GetDefaultSettingsValue(field->key));
     }
 
     /// Reads the widgets.
     void getCurrentModel(Model& model) const
     {
-        forEachField([&](const Field& field) { field.read(model); });
+        for (const Field* field : m_fields)
+            field->read(model);
     }
 
     /// The stored values.
@@ -253,12 +245,7 @@ protected:
     Model currentModel() const { return read(&ZelEditablePanel::getCurrentModel); }
 
     /// Fills the widgets, with their signals blocked, so that it does not count as an edit.
-    void applyModel(const Model& model)
-    {
-        std::vector<const Field*> all;
-        forEachField([&](const Field& field) { all.push_back(&field); });
-        fill(model, all);
-    }
+    void applyModel(const Model& model) { fill(model, m_fields); }
 
     /// The widgets have been filled from a model, while their signals were blocked: brings what follows from
     /// their values up to date.
@@ -268,14 +255,8 @@ protected:
     virtual void saveSettingsInternal()
     {
         const Model current = currentModel();
-        for (std::size_t index = 0, further = 1; further > 0; ++index) {
-            further = 0;
-            for (const Row& row : m_rows) {
-                if (index < row.fields.size())
-                    settings().setValue(row.fields[index].key, row.fields[index].stored(current));
-                further += index + 1 < row.fields.size();
-            }
-        }
+        for (const Field* field : m_fields)
+            settings().setValue(field->key, field->stored(current));
     }
 
     /// Passes to the running application what it can use at once: the current values, or the stored ones
@@ -304,6 +285,7 @@ protected:
 
 private:
     using Field = ZelSettingsField<Model>;
+    using Fields = std::vector<const Field*>;
 
     void changeState() { QMetaObject::invokeMethod(this, "stateChanged", Qt::DirectConnection); }
 
@@ -314,30 +296,35 @@ private:
         return model;
     }
 
-    template <class Action>
-    void forEachField(const Action& action) const
+    Model valuesOf(ZelSettingSource source) const
     {
-        for (const Row& row : m_rows)
-            std::for_each(row.fields.begin(), row.fields.end(), action);
+        return source == StoredValue ? storedModel() : defaultModel();
     }
 
-    /// True when a value that counts in both models differs.
-    bool differ(const Model& left, const Model& right) const
+    /// True when a value of the page that counts in the widgets differs.
+    bool differsFrom(const Model& other) const
     {
-        bool differs = false;
-        forEachField([&](const Field& field) {
-            differs = differs || (field.counts(left) && field.counts(right) && !field.isSame(left, right));
-        });
-        return differs;
+        const Model current = currentModel();
+        return std::any_of(m_rows.begin(), m_rows.end(),
+                           [&](const Row& row) { return row.differs(current, other); });
     }
 
-    void fill(const Model& model, const std::vector<const Field*>& fields)
+    /// Fills the widgets of some fields.
+    void fill(const Model& from, const Fields& fields)
     {
         QList<QWidget*> widgets;
-        forEachField([&](const Field& field) { widgets += field.widgets; });
+        for (const Row& row : m_rows)
+            widgets += row.help.fields;
         const SignalBlock block(widgets);
-        for (const Field* field : fields)
-            field->show(model);
+        Model model = currentModel();
+        for (const Field* field : fields) {
+            field->copy(model, from);
+            field->show(from);
+        }
+        // QAbstractButton does so when the focus moves among the buttons, but not when they are filled.
+        for (QWidget* widget : widgets)
+            if (const auto* button = qobject_cast<QRadioButton*>(widget))
+                widget->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
         onFilled(model);
     }
 
@@ -359,49 +346,49 @@ private:
         return other;
     }
 
-    void replace(const Row& row, const Model& source)
+    void takeRows(const std::vector<Row>& rows)
     {
-        std::vector<const Field*> fields;
-        Model model = currentModel(); // The other widgets keep what they show.
-        for (const Field& field : row.fields) {
-            field.copy(model, source);
-            fields.push_back(&field);
-        }
-        fill(model, fields);
-        onEdited();
+        m_rows = rows;
+        m_help = new ZelPageHelp(this);
+        for (const Row& row : m_rows)
+            m_fields.push_back(&row.fields.front());
+        for (const Row& row : m_rows)
+            for (std::size_t further = 1; further < row.fields.size(); ++further)
+                m_fields.push_back(&row.fields[further]);
+        QStringList keys;
+        for (const Field* field : m_fields)
+            keys.append(field->key);
+        keys.removeDuplicates();
+        setSettingsKeys(keys);
     }
 
-    ZelSettingHelp helpOn(const Row& row)
+    void addHelp(Row& row)
     {
-        const auto hasDefault = [&row] {
-            return !row.fixed && std::none_of(row.fields.begin(), row.fields.end(), [](const Field& field) {
+        const auto has = [&row](ZelSettingSource source) {
+            const auto isMissing = [](const Field& field) {
                 return ZelSettingsRegistry::GetDefaultSettingsValue(field.key).isNull();
-            });
+            };
+            return source == StoredValue ||
+                   (!row.fixed && std::none_of(row.fields.begin(), row.fields.end(), isMissing));
         };
-        ZelSettingHelp help;
-        for (const Field& field : row.fields)
-            help.fields += field.widgets;
-        help.name = row.name;
-        help.description = row.description;
-        help.range = row.range;
-        help.effect = ZelPageHelp::effectText(row.effect);
-        help.tipIsValue = row.tipIsValue;
-        help.byDefault = [this, &row, hasDefault] {
-            return hasDefault() ? row.text(defaultModel()) : QString();
+        row.help.text = [this, &row, has](ZelSettingSource source) {
+            return has(source) ? row.text(valuesOf(source)) : QString();
         };
-        help.stored = [this, &row] { return row.text(storedModel()); };
-        help.differsFromDefault = [this, &row, hasDefault] {
-            return hasDefault() && row.differs(currentModel(), defaultModel());
+        row.help.differs = [this, &row, has](ZelSettingSource source) {
+            return !row.fixed && has(source) && row.differs(currentModel(), valuesOf(source));
         };
-        help.differsFromStored = [this, &row] {
-            return !row.fixed && row.differs(currentModel(), storedModel());
+        row.help.take = [this, &row](ZelSettingSource source) {
+            Fields fields;
+            for (const Field& field : row.fields)
+                fields.push_back(&field);
+            fill(valuesOf(source), fields);
+            row.finish ? row.finish() : onEdited();
         };
-        help.useDefault = [this, &row] { replace(row, defaultModel()); };
-        help.putBack = [this, &row] { replace(row, storedModel()); };
-        return help;
+        m_help->add(row.help);
     }
 
     std::vector<Row> m_rows; ///< Stays where it is after setRows(), so that the help can refer to it.
+    Fields m_fields;         ///< Of all rows, in the order in which they are stored.
     ZelPageHelp* m_help = nullptr;
     Model m_stored;  ///< What was stored when the widgets were last filled from it.
     Model m_loaded;  ///< What the widgets have shown then.

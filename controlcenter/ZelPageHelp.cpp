@@ -38,6 +38,18 @@ QString withoutColon(const QString& label)
     return text.simplified();
 }
 
+/// On a field: the values of ZelSettingSource, in their order, and WhatIsThis.
+const struct
+{
+    const char* text;
+    int key;
+} Commands[] = {
+    {QT_TRANSLATE_NOOP("ZelPageHelp", "Put back"), Qt::ALT + Qt::Key_Backspace},
+    {QT_TRANSLATE_NOOP("ZelPageHelp", "Default"), Qt::ALT + Qt::Key_Delete},
+    {QT_TRANSLATE_NOOP("ZelPageHelp", "What is this?"), Qt::SHIFT + Qt::Key_F1},
+};
+const int WhatIsThis = 2;
+
 /// Makes a number that is being typed the value of its field, so that it counts as an edit.
 void takeTypedText(QWidget* field)
 {
@@ -52,8 +64,8 @@ QString ZelSettingHelp::summary() const
     QStringList parts(description);
     if (!range.isEmpty())
         parts << translated(QT_TRANSLATE_NOOP("ZelPageHelp", "Range: %1.")).arg(range);
-    if (!byDefault().isEmpty())
-        parts << translated(QT_TRANSLATE_NOOP("ZelPageHelp", "Default: %1.")).arg(byDefault());
+    if (!text(DefaultValue).isEmpty())
+        parts << translated(QT_TRANSLATE_NOOP("ZelPageHelp", "Default: %1.")).arg(text(DefaultValue));
     parts << translated(QT_TRANSLATE_NOOP("ZelPageHelp", "Takes effect: %1.")).arg(effect);
     return parts.join(" ");
 }
@@ -136,34 +148,19 @@ QString ZelPageHelp::choiceText(const QList<QWidget*>& buttons)
     return texts.join(" / ");
 }
 
-struct ZelPageHelp::Command
-{
-    const char* text;
-    int key;
-    std::function<bool()> ZelSettingHelp::*enabled; ///< Null for always.
-    std::function<void()> ZelSettingHelp::*action;  ///< Null for helpRequested().
-};
-
-const ZelPageHelp::Command ZelPageHelp::Commands[] = {
-    {QT_TRANSLATE_NOOP("ZelPageHelp", "Put back"), Qt::ALT + Qt::Key_Backspace,
-     &ZelSettingHelp::differsFromStored, &ZelSettingHelp::putBack},
-    {QT_TRANSLATE_NOOP("ZelPageHelp", "Default"), Qt::ALT + Qt::Key_Delete,
-     &ZelSettingHelp::differsFromDefault, &ZelSettingHelp::useDefault},
-    {QT_TRANSLATE_NOOP("ZelPageHelp", "What is this?"), Qt::SHIFT + Qt::Key_F1, nullptr, nullptr},
-};
-
-void ZelPageHelp::run(const Command& command, QWidget* field)
+void ZelPageHelp::run(int command, QWidget* field)
 {
     const ZelSettingHelp& help = *setting(field);
     takeTypedText(field);
-    if (command.action && (help.*command.enabled)())
-        (help.*command.action)();
-    if (command.action)
-        return;
-    if (receivers(SIGNAL(helpRequested(QWidget*))) > 0)
+    if (command != WhatIsThis) {
+        const auto source = static_cast<ZelSettingSource>(command);
+        if (help.differs(source))
+            help.take(source);
+    } else if (receivers(SIGNAL(helpRequested(QWidget*))) > 0) {
         Q_EMIT helpRequested(field);
-    else
+    } else {
         QWhatsThis::showText(field->mapToGlobal(field->rect().bottomLeft()), help.summary(), field);
+    }
 }
 
 void ZelPageHelp::showMenu(QWidget* field, const QPoint& position)
@@ -173,17 +170,19 @@ void ZelPageHelp::showMenu(QWidget* field, const QPoint& position)
     const QPointer<QMenu> menu = editor ? editor->createStandardContextMenu() : new QMenu(field);
     if (!menu->isEmpty())
         menu->addSeparator();
-    for (const Command& command : Commands) {
+    for (int command = 0; command <= WhatIsThis; ++command) {
         // Not a shortcut, which could clash with those of the application: the text after the tabulator.
-        QAction* action = menu->addAction(translated(command.text) + '\t' +
-                                          QKeySequence(command.key).toString(QKeySequence::NativeText));
-        action->setData(static_cast<int>(&command - Commands));
-        action->setEnabled(!command.enabled || (setting(field)->*command.enabled)());
+        const QKeySequence keys(Commands[command].key);
+        QAction* action = menu->addAction(translated(Commands[command].text) + '\t' +
+                                          keys.toString(QKeySequence::NativeText));
+        action->setData(command);
+        action->setEnabled(command == WhatIsThis ||
+                           setting(field)->differs(static_cast<ZelSettingSource>(command)));
     }
     const QPointer<QWidget> guarded = field;
     const QAction* chosen = menu->exec(position);
     if (chosen && guarded && chosen->data().isValid())
-        run(Commands[chosen->data().toInt()], field);
+        run(chosen->data().toInt(), field);
     delete menu;
 }
 
@@ -197,8 +196,9 @@ bool ZelPageHelp::eventFilter(QObject* watched, QEvent* event)
     }
     if (type == QEvent::KeyPress) {
         const auto* key = static_cast<QKeyEvent*>(event);
-        for (const Command& command : Commands) {
-            if (static_cast<int>(key->key() | (key->modifiers() & ~Qt::KeypadModifier)) == command.key) {
+        for (int command = 0; command <= WhatIsThis; ++command) {
+            if (static_cast<int>(key->key() | (key->modifiers() & ~Qt::KeypadModifier)) ==
+                Commands[command].key) {
                 run(command, field);
                 return true;
             }

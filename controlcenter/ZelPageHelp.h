@@ -20,21 +20,24 @@ namespace zel {
 /// When an applied edit of a setting takes effect.
 enum ZelSettingEffect { EffectAtOnce, EffectWithNextImport, EffectAfterRestart };
 
+/// A value of a setting that a page can put into its fields.
+enum ZelSettingSource { StoredValue, DefaultValue };
+
 /// The help on one setting of a page, in the language of the interface. Every function is set.
 struct ZEL_EXPORT ZelSettingHelp
 {
-    QList<QWidget*> fields;                   ///< The widgets that edit it.
-    QString name;                             ///< As the page names it.
-    QString description;                      ///< What it does, in a few sentences.
-    QString range;                            ///< Empty for a setting without a range.
-    QString effect;                           ///< When an applied edit takes effect.
-    bool tipIsValue;                          ///< The fields' tool tips are their values.
-    std::function<QString()> byDefault;       ///< Its default, as a field shows it; empty without one.
-    std::function<QString()> stored;          ///< Its stored value, as a field shows it.
-    std::function<bool()> differsFromDefault; ///< Also false without a default.
-    std::function<bool()> differsFromStored;  ///< True while an edit is pending.
-    std::function<void()> useDefault;         ///< Puts the default into the fields, as a pending edit.
-    std::function<void()> putBack;            ///< Puts the stored value into the fields.
+    QList<QWidget*> fields;  ///< The widgets that edit it.
+    QString name;            ///< As the page names it.
+    QString description;     ///< What it does, in a few sentences.
+    QString range;           ///< Empty for a setting without a range.
+    QString effect;          ///< When an applied edit takes effect.
+    bool tipIsValue = false; ///< The fields' tool tips are their values.
+    /// The value as a field shows it; empty for a missing default.
+    std::function<QString(ZelSettingSource)> text;
+    /// True while the fields show another value; false for a missing default.
+    std::function<bool(ZelSettingSource)> differs;
+    /// Puts the value into the fields, as an edit.
+    std::function<void(ZelSettingSource)> take;
 
     /// Description, range, default and effect in one paragraph.
     QString summary() const;
@@ -98,11 +101,7 @@ private Q_SLOTS:
     void describeItem();
 
 private:
-    /// A command on the setting of a field: "Put back", "Default" or "What is this?".
-    struct Command;
-    static const Command Commands[];
-
-    void run(const Command& command, QWidget* field);
+    void run(int command, QWidget* field);
     void showMenu(QWidget* field, const QPoint& position);
     QString nameOf(const QWidget& field) const;
     void watch(QWidget* widget, QWidget* field);

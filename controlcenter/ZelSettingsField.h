@@ -7,6 +7,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
 #include <QVariant>
@@ -70,13 +71,16 @@ struct ZelFieldWidgets
     {
     }
 
-    /// Two radio buttons, of which one is checked: the first for false.
-    ZelFieldWidgets(QRadioButton* off, QRadioButton* on)
+    /// Two radio buttons, of which one is checked: the first for false. A further widget, if any, is enabled
+    /// for true.
+    ZelFieldWidgets(QRadioButton* off, QRadioButton* on, QWidget* enabledByOn = nullptr)
         : widgets{off, on}
         , read([off] { return !off->isChecked(); })
-        , show([off, on](bool value) {
+        , show([=](bool value) {
             on->setChecked(value);
             off->setChecked(!value);
+            if (enabledByOn)
+                enabledByOn->setEnabled(value);
         })
         , text([off, on](bool value) { return (value ? on : off)->text(); })
         , range(ZelPageHelp::choiceText(widgets))
@@ -117,6 +121,16 @@ struct ZelFieldWidgets
     {
     }
 
+    /// A button that chooses a folder, which is its tool tip.
+    ZelFieldWidgets(QPushButton* folder)
+        : widgets{folder}
+        , read([folder] { return folder->toolTip(); })
+        , show([folder](const QString& path) { folder->setToolTip(path); })
+        , text([](const QString& path) { return path; })
+        , tipIsValue(true)
+    {
+    }
+
     /// A floating-point number.
     ZelFieldWidgets(zelDoubleSpinBox* box)
         : widgets{box}
@@ -132,7 +146,12 @@ struct ZelFieldWidgets
     std::function<void(const T& value)> show;    ///< Shows a value, as near as they can.
     std::function<QString(const T& value)> text; ///< The text that they show for a value.
     QString range;                               ///< Empty without one.
+    bool tipIsValue = false;                     ///< The tool tips are the value, so help must not use them.
 };
+
+/// As an argument: it takes a widget too, because the compiler does not deduce T from it.
+template <class T>
+using ZelFieldWidgetsOf = typename std::common_type<ZelFieldWidgets<T>>::type;
 
 /// A number of bytes, in a box that shows mebibytes.
 inline ZelFieldWidgets<quint64> inMebibytes(zelSpinBox* box)
@@ -144,20 +163,11 @@ inline ZelFieldWidgets<quint64> inMebibytes(zelSpinBox* box)
 template <class Model>
 struct ZelSettingsField
 {
-    /// The place of the value is the member of a model that also has the widgets' value.
-    template <class T>
-    ZelSettingsField(const char* settingsKey, T Model::*member, const ZelFieldWidgets<T>& in,
-                     const ZelFieldConversion<T>& conversion)
-        : ZelSettingsField(settingsKey, member, conversion, std::mem_fn(member), in)
-    {
-    }
-
-    /// For widgets that show a part of the member.
-    /// @param place  returns the part of a model, as a reference that can be assigned unless the model is
-    /// const
-    template <class T, class Place, class Part>
-    ZelSettingsField(const char* settingsKey, T Model::*member, const ZelFieldConversion<T>& conversion,
-                     const Place& place, const ZelFieldWidgets<Part>& in)
+    /// @param place  returns what the widgets show of the member: a reference into a model, which can be
+    /// assigned unless the model is const
+    template <class T, class Part, class Place>
+    ZelSettingsField(const char* settingsKey, T Model::*member, const ZelFieldWidgets<Part>& in,
+                     const ZelFieldConversion<T>& conversion, const Place& place)
         : key(QLatin1String(settingsKey))
         , widgets(in.widgets)
         , readStored([=](Model& to, const QVariant& value) { to.*member = conversion.fromStored(value); })
@@ -201,10 +211,10 @@ struct ZelSettingsRow
 {
     /// A further value that belongs to the setting.
     template <class T>
-    ZelSettingsRow& with(const char* key, T Model::*member,
-                         const typename std::common_type<ZelFieldWidgets<T>>::type& widgets)
+    ZelSettingsRow& with(const char* key, T Model::*member, const ZelFieldWidgetsOf<T>& widgets)
     {
-        fields.push_back({key, member, widgets, plainConversion<T>()});
+        fields.push_back({key, member, widgets, plainConversion<T>(), std::mem_fn(member)});
+        help.fields += widgets.widgets;
         return *this;
     }
 
@@ -219,24 +229,16 @@ struct ZelSettingsRow
     /// Names the setting, where no label, group or button on the page does.
     ZelSettingsRow& named(const QString& settingName)
     {
-        name = settingName;
+        help.name = settingName;
         return *this;
     }
 
     /// Replaces the text and the range that follow from the widgets of the first value.
-    ZelSettingsRow& shownAs(const std::function<QString(const Model&)>& textOf, const QString& rangeText)
+    ZelSettingsRow& shownAs(const std::function<QString(const Model&)>& textOf, const QString& range)
     {
         text = textOf;
-        range = rangeText;
+        help.range = range;
         return *this;
-    }
-
-    /// Takes what a language decides from the same row in another language.
-    void takeTexts(const ZelSettingsRow& translated)
-    {
-        name = translated.name;
-        description = translated.description;
-        range = translated.range;
     }
 
     /// True when a value that counts in the first model differs.
@@ -248,13 +250,11 @@ struct ZelSettingsRow
     }
 
     std::vector<ZelSettingsField<Model>> fields; ///< One for each key.
-    QString name;                                ///< Empty for the name or the label of the first widget.
-    QString description;                         ///< What the setting does, in a few sentences.
-    ZelSettingEffect effect;                     ///< When an applied edit takes effect.
-    QString range;                               ///< Empty without one.
+    ZelSettingHelp help;                         ///< Its texts; the page adds the functions.
     std::function<QString(const Model&)> text;   ///< As the widgets show the setting.
-    bool tipIsValue = false; ///< The tool tips of the widgets are their values, so help must not use them.
-    bool fixed = false;      ///< It never changes, so the help offers neither default nor stored value.
+    /// What follows when the setting alone has got its default or its stored value; null for onEdited().
+    std::function<void()> finish;
+    bool fixed = false; ///< It never changes, so the help offers neither default nor stored value.
 };
 
 } // namespace zel

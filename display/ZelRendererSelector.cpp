@@ -10,6 +10,7 @@
 
 #include <QEvent>
 #include <QKeyEvent>
+#include <QMap>
 #include <QTextDocumentFragment>
 #include <QVariant>
 
@@ -34,12 +35,11 @@ ZelRendererSelector::ZelRendererSelector(QWidget* parent, Qt::WindowFlags flags)
 
     for (QLabel* engine : {m_ui->raytracerButton, m_ui->deferredButton})
         engine->installEventFilter(this);
-    nameEngines();
+    announceEngines();
     new LanguageFollower(this, [this] {
         m_ui->retranslateUi(this);
-        nameEngines();
+        announceEngines();
     });
-    announceChosen();
     m_ui->okButton->setFocus();
 }
 
@@ -62,25 +62,15 @@ void ZelRendererSelector::keyPressEvent(QKeyEvent* event)
 {
     QWidget* const low = m_ui->raytracerButton;
     QWidget* const high = m_ui->deferredButton;
-    const QWidget* focused = focusWidget();
-    QWidget* engine = nullptr;
-    switch (event->key()) {
-    case Qt::Key_Space:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        engine = focused == low ? low : high;
-        break;
-    case Qt::Key_Left:
-    case Qt::Key_Up:
-        engine = low;
-        break;
-    case Qt::Key_Right:
-    case Qt::Key_Down:
-        engine = high;
-        break;
-    default:
-        break;
-    }
+    QWidget* const focused = focusWidget();
+    QMap<int, QWidget*> engines;
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter})
+        engines[key] = focused;
+    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Up})
+        engines[key] = low;
+    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Down})
+        engines[key] = high;
+    QWidget* engine = engines.value(event->key());
     if (!engine || (focused != low && focused != high)) {
         QDialog::keyPressEvent(event);
         return;
@@ -97,32 +87,17 @@ bool ZelRendererSelector::choose(const QObject* engine)
     setProperty(SoftwareProperty, software);
     // QStyleSheetStyle evaluates selectors on properties only when the style sheet is set.
     setStyleSheet(styleSheet());
-    announceChosen();
+    announceEngines();
     return true;
 }
 
-void ZelRendererSelector::announceChosen()
-{
-    announceChoice(*m_ui->raytracerButton, !useGPURenderer());
-    announceChoice(*m_ui->deferredButton, useGPURenderer());
-}
-
-void ZelRendererSelector::nameEngines()
+void ZelRendererSelector::announceEngines()
 {
     for (QLabel* engine : {m_ui->raytracerButton, m_ui->deferredButton}) {
         const auto text = QTextDocumentFragment::fromHtml(engine->text());
         engine->setAccessibleName(text.toPlainText().simplified());
+        announceChoice(*engine, useGPURenderer() == (engine == m_ui->deferredButton));
     }
-}
-
-void ZelRendererSelector::on_okButton_clicked()
-{
-    accept();
-}
-
-void ZelRendererSelector::on_closeButton_clicked()
-{
-    reject();
 }
 
 } // namespace zel

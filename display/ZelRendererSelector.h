@@ -38,8 +38,8 @@ public:
 protected Q_SLOTS:
     /// @{
     /// Connected to the buttons of the form by their names; they accept and reject the dialog.
-    void on_okButton_clicked();
-    void on_closeButton_clicked();
+    void on_okButton_clicked() { accept(); }
+    void on_closeButton_clicked() { reject(); }
     /// @}
 
 protected:
@@ -49,8 +49,7 @@ protected:
 private:
     /// True when the choice has changed.
     bool choose(const QObject* engine);
-    void announceChosen();
-    void nameEngines();
+    void announceEngines();
 
     std::unique_ptr<Ui::ZelRendererSelector> m_ui;
 };

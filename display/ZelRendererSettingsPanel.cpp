@@ -2,6 +2,7 @@
 
 #include "ui_ZelRendererSettingsPanel.h"
 
+#include "Accessibility.h"
 #include "SettingsKeys.h"
 #include "SettingsNumbers.h"
 
@@ -217,13 +218,13 @@ void ZelRendererSettingsPanel::forceGPUMode(bool gpu)
 void ZelRendererSettingsPanel::setNbCoresTxt(int cores)
 {
     m_ui->coreUsedLabel->setText(coresText(cores));
-    m_ui->coreUsedSlider->setValueText(coresText(cores));
+    announceValue(*m_ui->coreUsedSlider, coresText(cores));
 }
 
 void ZelRendererSettingsPanel::setRaytracerQuality(int quality)
 {
     m_ui->qualityLabel->setText(qualityText(quality));
-    m_ui->qualitySlider->setValueText(qualityText(quality));
+    announceValue(*m_ui->qualitySlider, qualityText(quality));
 }
 
 void ZelRendererSettingsPanel::enableSceneUnit()

@@ -1,7 +1,5 @@
 #include "zelTickSlider.h"
 
-#include "Accessibility.h"
-
 #include <QPainter>
 #include <QStyleOptionSlider>
 
@@ -15,16 +13,6 @@ const int TickLength = 4;
 const int MinimumTickSpacing = 4;
 
 } // namespace
-
-zelTickSlider::zelTickSlider(QWidget* parent)
-    : WheelGuard<QSlider>(parent)
-{
-}
-
-void zelTickSlider::setValueText(const QString& text)
-{
-    announceValue(*this, text);
-}
 
 void zelTickSlider::paintEvent(QPaintEvent* event)
 {

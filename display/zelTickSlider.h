@@ -14,10 +14,7 @@ class zelTickSlider : public WheelGuard<QSlider>
     Q_OBJECT
 
 public:
-    explicit zelTickSlider(QWidget* parent = nullptr);
-
-    /// Sets the text that screen readers say for the value.
-    void setValueText(const QString& text);
+    using WheelGuard<QSlider>::WheelGuard;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

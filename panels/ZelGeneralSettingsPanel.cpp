@@ -43,15 +43,14 @@ void ZelGeneralSettingsPanel::setTexts()
 {
     setPanelName(Text::tr("Folders"));
     setRows({
-        folderRow(keys::CacheDirectory, &GeneralModel::cacheDirectory, m_ui->databaseButton,
-                  EffectAfterRestart,
-                  Text::tr("Where parts of loaded models are kept on the disk. Choose a fast disk with "
-                           "enough free space. A click chooses a folder.")),
+        row(keys::CacheDirectory, &GeneralModel::cacheDirectory, m_ui->databaseButton, EffectAfterRestart,
+            Text::tr("Where parts of loaded models are kept on the disk. Choose a fast disk with "
+                     "enough free space. A click chooses a folder.")),
         row(keys::CacheSize, &GeneralModel::cacheSize, m_ui->databaseSpinBox, EffectAtOnce,
             Text::tr("How large the cache may grow on the disk. With a larger one, models that you "
                      "have opened before load faster.")),
-        folderRow(keys::ScreenshotFolder, &GeneralModel::screenshotFolder, m_ui->screenshotFolderButton,
-                  EffectAtOnce, Text::tr("Where your screenshots are saved. A click chooses a folder.")),
+        row(keys::ScreenshotFolder, &GeneralModel::screenshotFolder, m_ui->screenshotFolderButton,
+            EffectAtOnce, Text::tr("Where your screenshots are saved. A click chooses a folder.")),
     });
 }
 
@@ -98,21 +97,6 @@ bool ZelGeneralSettingsPanel::shouldRestart() const
 {
     const QString current = m_ui->databaseButton->toolTip();
     return current != settings().value(keys::CacheDirectory).toString() && current != m_initialCacheDirectory;
-}
-
-ZelGeneralSettingsPanel::Row ZelGeneralSettingsPanel::folderRow(const char* key,
-                                                                QString GeneralModel::*folder,
-                                                                QPushButton* button, ZelSettingEffect effect,
-                                                                const QString& description)
-{
-    ZelFieldWidgets<QString> widgets;
-    widgets.widgets << button;
-    widgets.read = [button] { return button->toolTip(); };
-    widgets.show = [button](const QString& path) { button->setToolTip(path); };
-    widgets.text = [](const QString& path) { return path; };
-    Row made = row(key, folder, widgets, effect, description);
-    made.tipIsValue = true;
-    return made;
 }
 
 void ZelGeneralSettingsPanel::elideText()

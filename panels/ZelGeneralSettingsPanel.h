@@ -75,8 +75,6 @@ protected:
 private:
     /// Sets the texts that are not in the form.
     void setTexts();
-    static Row folderRow(const char* key, QString GeneralModel::*folder, QPushButton* button,
-                         ZelSettingEffect effect, const QString& description);
     void setScreenshotFolder(const GeneralModel& model);
     void setMaxCacheSize(const GeneralModel& model);
     void chooseFolder(QPushButton* button, const QString& title);

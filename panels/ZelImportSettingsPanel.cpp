@@ -16,11 +16,6 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(ZelImportSettingsPanel)
 };
 
-QString automaticText()
-{
-    return Text::tr("chosen by Torvane");
-}
-
 } // namespace
 
 ZelImportSettingsPanel::ZelImportSettingsPanel(kqDMIApplication* application, QSettings& settings,
@@ -29,9 +24,9 @@ ZelImportSettingsPanel::ZelImportSettingsPanel(kqDMIApplication* application, QS
     , m_ui(new Ui::ZelImportSettingsPanel)
 {
     m_ui->setupUi(this);
-    m_limits[Sag] = {m_ui->defaultSag, m_ui->sag, m_ui->faceSagSpin};
-    m_limits[Length] = {m_ui->defaultLength, m_ui->length, m_ui->faceLengthSpin};
-    m_limits[Angle] = {m_ui->defaultAngle, m_ui->angle, m_ui->faceAngleSpin};
+    m_limits = {{{m_ui->defaultSag, m_ui->sag, m_ui->faceSagSpin},
+                 {m_ui->defaultLength, m_ui->length, m_ui->faceLengthSpin},
+                 {m_ui->defaultAngle, m_ui->angle, m_ui->faceAngleSpin}}};
     m_ui->faceAngleSpin->setRange(0, MaximumFaceAngle);
     setNamedStyleSheet("ZelImportSettingsPanel");
     setPanelCategory(AdvancedCategory);
@@ -45,18 +40,18 @@ void ZelImportSettingsPanel::setTexts()
     setPanelName(Text::tr("Tessellation"));
     setRows({
         qualityRow(),
-        limitRow(Sag, keys::MaxFaceSagSet, &ImportModel::maxFaceSagSet, keys::MaxFaceSag,
-                 &ImportModel::maxFaceSag, m_ui->faceSagSpin,
-                 Text::tr("How far a triangle may lie from the curved face that it stands for, in the unit "
-                          "of the model. A smaller value looks rounder and makes more triangles.")),
-        limitRow(Length, keys::MaxFaceLengthSet, &ImportModel::maxFaceLengthSet, keys::MaxFaceLength,
-                 &ImportModel::maxFaceLength, m_ui->faceLengthSpin,
-                 Text::tr("How long the edges of a triangle may be, in the unit of the model. A smaller "
-                          "value makes more triangles of more even sizes.")),
-        limitRow(Angle, keys::MaxFaceAngleSet, &ImportModel::maxFaceAngleSet, keys::MaxFaceAngle,
-                 &ImportModel::maxFaceAngle, m_ui->faceAngleSpin,
-                 Text::tr("How far a curved face may turn from one triangle to the next. A smaller value "
-                          "looks rounder and makes more triangles.")),
+        choiceRow(keys::MaxFaceSagSet, &ImportModel::maxFaceSagSet, m_limits[Sag], keys::MaxFaceSag,
+                  &ImportModel::maxFaceSag, m_ui->faceSagSpin,
+                  Text::tr("How far a triangle may lie from the curved face that it stands for, in the unit "
+                           "of the model. A smaller value looks rounder and makes more triangles.")),
+        choiceRow(keys::MaxFaceLengthSet, &ImportModel::maxFaceLengthSet, m_limits[Length],
+                  keys::MaxFaceLength, &ImportModel::maxFaceLength, m_ui->faceLengthSpin,
+                  Text::tr("How long the edges of a triangle may be, in the unit of the model. A smaller "
+                           "value makes more triangles of more even sizes.")),
+        choiceRow(keys::MaxFaceAngleSet, &ImportModel::maxFaceAngleSet, m_limits[Angle], keys::MaxFaceAngle,
+                  &ImportModel::maxFaceAngle, m_ui->faceAngleSpin,
+                  Text::tr("How far a curved face may turn from one triangle to the next. A smaller value "
+                           "looks rounder and makes more triangles.")),
     });
 }
 
@@ -71,41 +66,34 @@ ZelImportSettingsPanel::Row ZelImportSettingsPanel::qualityRow()
 {
     ZelFieldWidgets<bool> set, high;
     set.widgets << m_ui->defaultQuality << m_ui->highQuality << m_ui->lowQuality;
-    set.range = ZelPageHelp::choiceText(set.widgets);
     set.read = [this] { return !m_ui->defaultQuality->isChecked(); };
     set.show = [this](bool isSet) { setQuality(isSet, !m_ui->lowQuality->isChecked()); };
+    high.range = ZelPageHelp::choiceText(set.widgets);
     high.read = [this] { return !m_ui->lowQuality->isChecked(); };
     high.show = [this](bool isHigh) { setQuality(!m_ui->defaultQuality->isChecked(), isHigh); };
-    return row(keys::TessellationQualitySet, &ImportModel::qualitySet, set, EffectWithNextImport,
-               Text::tr("How finely curved faces are cut into triangles when a CAD file is imported. High "
-                        "quality looks rounder and makes larger models. By default, Torvane decides."))
-        .with(keys::TessellationHighQuality, &ImportModel::isHighQuality, high)
-        .onlyWhile(&ImportModel::qualitySet)
-        .shownAs(
-            [this](const ImportModel& model) {
-                const QRadioButton* chosen = model.isHighQuality ? m_ui->highQuality : m_ui->lowQuality;
-                return model.qualitySet ? chosen->text() : automaticText();
-            },
-            set.range);
+    high.text = [this](bool isHigh) { return (isHigh ? m_ui->highQuality : m_ui->lowQuality)->text(); };
+    return choiceRow(keys::TessellationQualitySet, &ImportModel::qualitySet, set,
+                     keys::TessellationHighQuality, &ImportModel::isHighQuality, high,
+                     Text::tr("How finely curved faces are cut into triangles when a CAD file is imported. "
+                              "High quality looks rounder and makes larger models. By default, Torvane "
+                              "decides."));
 }
 
-template <class Box, class Value>
-ZelImportSettingsPanel::Row ZelImportSettingsPanel::limitRow(LimitIndex index, const char* setKey,
-                                                             bool ImportModel::*set, const char* valueKey,
-                                                             Value ImportModel::*value, Box* box,
-                                                             const QString& description)
+template <class Value>
+ZelImportSettingsPanel::Row ZelImportSettingsPanel::choiceRow(const char* setKey, bool ImportModel::*set,
+                                                              const ZelFieldWidgets<bool>& choice,
+                                                              const char* valueKey, Value ImportModel::*value,
+                                                              const ZelFieldWidgetsOf<Value>& widgets,
+                                                              const QString& description)
 {
-    ZelFieldWidgets<bool> choice(m_limits[index].byDefault, m_limits[index].byValue);
-    choice.show = [this, index](bool isSet) { setLimitSet(index, isSet); };
-    const ZelFieldWidgets<Value> number(box);
     return row(setKey, set, choice, EffectWithNextImport, description)
-        .with(valueKey, value, number)
+        .with(valueKey, value, widgets)
         .onlyWhile(set)
         .shownAs(
             [=](const ImportModel& model) {
-                return model.*set ? number.text(model.*value) : automaticText();
+                return model.*set ? widgets.text(model.*value) : Text::tr("chosen by Torvane");
             },
-            number.range);
+            widgets.range);
 }
 
 void ZelImportSettingsPanel::setQuality(bool set, bool high)
@@ -118,11 +106,8 @@ void ZelImportSettingsPanel::setQuality(bool set, bool high)
 
 void ZelImportSettingsPanel::setLimitSet(LimitIndex index, bool set)
 {
-    const Limit& limit = m_limits[index];
-    const SignalBlock block{limit.byDefault, limit.byValue};
-    limit.byDefault->setChecked(!set);
-    limit.value->setEnabled(set);
-    limit.byValue->setChecked(set);
+    const SignalBlock block(m_limits[index].widgets);
+    m_limits[index].show(set);
 }
 
 } // namespace zel

@@ -7,9 +7,6 @@
 #include <array>
 #include <memory>
 
-class QRadioButton;
-class QWidget;
-
 namespace Ui {
 class ZelImportSettingsPanel;
 }
@@ -62,21 +59,16 @@ protected Q_SLOTS:
     /// @}
 
 private:
-    /// A limit: the importer chooses it (byDefault), or the user sets it in a spin box (byValue).
-    struct Limit
-    {
-        QRadioButton* byDefault;
-        QRadioButton* byValue;
-        QWidget* value;
-    };
     enum LimitIndex { Sag, Length, Angle };
 
     /// Sets the texts that are not in the form.
     void setTexts();
-    template <class Box, class Value>
-    Row limitRow(LimitIndex index, const char* setKey, bool ImportModel::*set, const char* valueKey,
-                 Value ImportModel::*value, Box* box, const QString& description);
     Row qualityRow();
+    /// A row of a value that counts only while the user has set it; else the importer chooses it.
+    template <class Value>
+    Row choiceRow(const char* setKey, bool ImportModel::*set, const ZelFieldWidgets<bool>& choice,
+                  const char* valueKey, Value ImportModel::*value, const ZelFieldWidgetsOf<Value>& widgets,
+                  const QString& description);
     void setQuality(bool set, bool high);
     void setFaceSagSet(bool set) { setLimitSet(Sag, set); }
     void setFaceLengthSet(bool set) { setLimitSet(Length, set); }
@@ -84,7 +76,7 @@ private:
     void setLimitSet(LimitIndex index, bool set);
 
     const std::unique_ptr<Ui::ZelImportSettingsPanel> m_ui;
-    std::array<Limit, 3> m_limits;
+    std::array<ZelFieldWidgets<bool>, 3> m_limits; ///< Whether each limit is set.
 };
 
 } // namespace zel

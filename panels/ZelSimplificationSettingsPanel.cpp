@@ -28,6 +28,7 @@ using Ratios = std::vector<float>;
 
 const int FirstEditableLevel = 2;
 const int LastLevel = 5;
+const char* const Images[LastLevel] = {"High", "Medium High", "Medium", "Medium-Low-Quality", "Low-Quality"};
 const int ImageSize = 64; // pixels
 
 /// Unlike the validator, reads a part that is no number as 0, so that every level keeps its place.
@@ -41,14 +42,6 @@ Ratios ratiosToShow(const QString& text)
     return ratios;
 }
 
-Ratios defaultRatios(const QString& text)
-{
-    Ratios ratios = ratiosToShow(text);
-    if (ratios.size() > LastLevel)
-        ratios.resize(LastLevel);
-    return ratios;
-}
-
 bool isWellFormed(const Ratios& ratios)
 {
     return ratios.size() == LastLevel;
@@ -59,43 +52,22 @@ bool isMalformed(const QVariant& stored)
     return stored.isValid() && !isWellFormed(ratiosToShow(stored.toString()));
 }
 
+/// Without a default for each level there is none.
+Ratios defaultRatios(const QString& text)
+{
+    Ratios ratios = ratiosToShow(text);
+    if (ratios.size() < LastLevel)
+        return SimplificationModel().ratios;
+    ratios.resize(LastLevel);
+    return ratios;
+}
+
 Ratios storedRatios(const QVariant& stored)
 {
     const Ratios ratios = ratiosToShow(stored.toString());
     if (isWellFormed(ratios))
         return ratios;
     return defaultRatios(ZelSettingsRegistry::GetDefaultSettingsValue(keys::SimplificationRatios));
-}
-
-/// The place of a level's ratio. A model that is not well-formed has none: NaN.
-struct LevelRatio
-{
-    std::size_t index;
-
-    float& operator()(SimplificationModel& model) const
-    {
-        model.ratios.resize(LastLevel);
-        return model.ratios[index];
-    }
-    float operator()(const SimplificationModel& model) const
-    {
-        return isWellFormed(model.ratios) ? model.ratios[index] : std::nanf("");
-    }
-};
-
-void showLevelImages(const Ui::ZelSimplificationSettingsPanel& form)
-{
-    const struct
-    {
-        QLabel* label;
-        const char* image;
-    } levels[] = {
-        {form.icon1, "High"},        {form.icon2, "Medium High"},
-        {form.icon3, "Medium"},      {form.icon4, "Medium-Low-Quality"},
-        {form.icon5, "Low-Quality"},
-    };
-    for (const auto& level : levels)
-        showImage(*level.label, QString(":/controlCenter/controlCenter/%1.png").arg(level.image), ImageSize);
 }
 
 } // namespace
@@ -108,8 +80,9 @@ ZelSimplificationSettingsPanel::ZelSimplificationSettingsPanel(kqDMIApplication*
     , m_editing(false)
 {
     m_ui->setupUi(this);
-    showLevelImages(*m_ui);
-    m_percentages = {m_ui->ratio1, m_ui->ratio2, m_ui->ratio3, m_ui->ratio4, m_ui->ratio5};
+    for (int level = 1; level <= LastLevel; ++level)
+        showImage(*findChild<QLabel*>(QString("icon%1").arg(level)),
+                  QString(":/controlCenter/controlCenter/%1.png").arg(Images[level - 1]), ImageSize);
     setNamedStyleSheet("ZelSimplificationSettingsPanel");
     setPanelCategory(ProjectCategory);
     followLanguage(*m_ui, [this] { setTexts(); });
@@ -148,7 +121,7 @@ void ZelSimplificationSettingsPanel::pushToApplication(const SimplificationModel
         manager->setSimplificationRatios(ratios);
 }
 
-ZelSimplificationSettingsPanel::Row ZelSimplificationSettingsPanel::levelRow(int level) const
+ZelSimplificationSettingsPanel::Row ZelSimplificationSettingsPanel::levelRow(int level)
 {
     zelDoubleSpinBox* box = percentage(level);
     const auto percent = [box](double number) { return box->shownText(number) + " %"; };
@@ -167,14 +140,22 @@ ZelSimplificationSettingsPanel::Row ZelSimplificationSettingsPanel::levelRow(int
         fixed ? Text::tr("This level keeps every triangle of the model. It cannot be changed.")
               : Text::tr("How many of the model's triangles an export at this level keeps, in percent. A "
                          "level never keeps more than the one above it.");
-    const QString range =
-        fixed ? QString() : ZelPageHelp::rangeText(percent(box->minimum()), percent(box->maximum()));
-    Row made = row({keys::SimplificationRatios, &SimplificationModel::ratios,
-                    ZelFieldConversion<Ratios>{storedRatios, defaultRatios, ratiosText},
-                    LevelRatio{static_cast<std::size_t>(level - 1)}, widgets},
-                   range, EffectAtOnce, description);
+    if (!fixed)
+        widgets.range = ZelPageHelp::rangeText(percent(box->minimum()), percent(box->maximum()));
+    const auto place = [level](auto& model) -> auto&
+    {
+        return model.ratios[level - 1];
+    };
+    Row made = row(keys::SimplificationRatios, &SimplificationModel::ratios, widgets, EffectAtOnce,
+                   description, ZelFieldConversion<Ratios>{storedRatios, defaultRatios, ratiosText}, place);
     made.fixed = fixed;
+    made.finish = [this, level] { finishEditing(level); };
     return made;
+}
+
+zelDoubleSpinBox* ZelSimplificationSettingsPanel::percentage(int level) const
+{
+    return findChild<zelDoubleSpinBox*>(QString("ratio%1").arg(level));
 }
 
 void ZelSimplificationSettingsPanel::finishEditing(int level)

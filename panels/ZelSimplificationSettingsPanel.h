@@ -4,6 +4,7 @@
 #include "ZelEditablePanel.h"
 #include "base/ZelExport.h"
 
+#include <limits>
 #include <memory>
 #include <vector>
 
@@ -18,8 +19,8 @@ class zelDoubleSpinBox;
 /// The settings of the page "Simplification".
 struct SimplificationModel
 {
-    /// The kept fractions of triangles, each from 0.01 to 1, of levels 1 to 5. Valid only with five elements.
-    std::vector<float> ratios;
+    /// The kept fractions of triangles, each from 0.01 to 1, of levels 1 to 5. NaN where a level has none.
+    std::vector<float> ratios = std::vector<float>(5, std::numeric_limits<float>::quiet_NaN());
 };
 
 /// The page "Simplification": the percentage of triangles that a scene keeps when it is exported at each of
@@ -59,20 +60,19 @@ protected:
 
     /// Passes the ratios to the running simplifier.
     void setRatios() { pushToApplication(currentModel()); }
+    /// Writes the ratios.
+    void saveRatios() { saveSettingsInternal(); }
 
 private:
     /// Sets the texts that are not in the form.
     void setTexts();
-    /// Brings an edited level and its two neighbours into descending order; other levels stay as they are.
+    /// Brings a level with a new value and its two neighbours into descending order; other levels stay as
+    /// they are.
     void finishEditing(int level);
-    Row levelRow(int level) const;
-    zelDoubleSpinBox* percentage(int level) const
-    {
-        return m_percentages[static_cast<std::size_t>(level - 1)];
-    }
+    Row levelRow(int level);
+    zelDoubleSpinBox* percentage(int level) const;
 
     const std::unique_ptr<Ui::ZelSimplificationSettingsPanel> m_ui;
-    std::vector<zelDoubleSpinBox*> m_percentages; ///< The form's spin boxes, level 1 first.
     bool m_editing;
 };
 

@@ -263,13 +263,12 @@ int ZelHelpArea::heightOfLongestHelp(int width) const
             keepLonger(longest.description, help->description, width - 2 * Margin);
             keepLonger(longest.range, help->range, width / 2);
             keepLonger(longest.effect, help->effect, width / 2);
-            keepLonger(byDefault, help->byDefault(), width / 2);
-            keepLonger(stored, help->stored(), width / 2);
+            keepLonger(byDefault, help->text(DefaultValue), width / 2);
+            keepLonger(stored, help->text(StoredValue), width / 2);
         }
     }
-    longest.byDefault = [&] { return byDefault; };
-    longest.stored = [&] { return stored; };
-    longest.differsFromDefault = longest.differsFromStored = [] { return true; };
+    longest.text = [&](ZelSettingSource source) { return source == DefaultValue ? byDefault : stored; };
+    longest.differs = [](ZelSettingSource) { return true; };
     return card.heightOf(longest, width);
 }
 

@@ -35,9 +35,9 @@ const char* const CompactProperty = "compact"; // A selector of the style sheet.
 QString stateText(const ZelSettingHelp& help)
 {
     QStringList parts;
-    if (help.differsFromStored())
+    if (help.differs(StoredValue))
         parts << QCoreApplication::translate("ZelHelpCard", "Changed, and not applied yet.");
-    if (help.differsFromDefault())
+    if (help.differs(DefaultValue))
         parts << QCoreApplication::translate("ZelHelpCard", "Not the default.");
     return parts.join(" ");
 }
@@ -45,7 +45,7 @@ QString stateText(const ZelSettingHelp& help)
 /// False for what no user can ever edit.
 bool isEditable(const ZelSettingHelp& help)
 {
-    return !help.byDefault().isEmpty() || help.fields.first()->isEnabled();
+    return !help.text(DefaultValue).isEmpty() || help.fields.first()->isEnabled();
 }
 
 } // namespace
@@ -143,8 +143,8 @@ void ZelHelpCard::showHelp(const ZelSettingHelp& help)
         QString text;
     } facts[] = {
         {m_ui->rangeTitle, m_ui->rangeLabel, help.range},
-        {m_ui->defaultTitle, m_ui->defaultLabel, help.byDefault()},
-        {m_ui->storedTitle, m_ui->storedLabel, help.stored()},
+        {m_ui->defaultTitle, m_ui->defaultLabel, help.text(DefaultValue)},
+        {m_ui->storedTitle, m_ui->storedLabel, help.text(StoredValue)},
         {m_ui->effectTitle, m_ui->effectLabel, help.effect},
     };
     for (const auto& each : facts) {
@@ -156,8 +156,8 @@ void ZelHelpCard::showHelp(const ZelSettingHelp& help)
     const QString state = stateText(help);
     m_ui->stateLabel->setText(state);
     m_ui->stateLabel->setVisible(!state.isEmpty());
-    enableButton(*m_ui->putBackButton, help.differsFromStored());
-    enableButton(*m_ui->defaultButton, help.differsFromDefault());
+    enableButton(*m_ui->putBackButton, help.differs(StoredValue));
+    enableButton(*m_ui->defaultButton, help.differs(DefaultValue));
 }
 
 void ZelHelpCard::resizeEvent(QResizeEvent* event)
@@ -169,13 +169,13 @@ void ZelHelpCard::resizeEvent(QResizeEvent* event)
 void ZelHelpCard::on_putBackButton_clicked()
 {
     if (const ZelSettingHelp* help = HelpOn(m_field))
-        help->putBack();
+        help->take(StoredValue);
 }
 
 void ZelHelpCard::on_defaultButton_clicked()
 {
     if (const ZelSettingHelp* help = HelpOn(m_field))
-        help->useDefault();
+        help->take(DefaultValue);
 }
 
 void ZelHelpCard::showName()

@@ -141,6 +141,9 @@ private Q_SLOTS:
             renderingMode->setEnabled(!started);
             viewer.actionManager = &actions;
             DisplayPage display(viewer);
+            display.find("resetButton")->setFocus();
+            QTest::keyClick(display.find("resetButton"), Qt::Key_Tab);
+            QVERIFY(display.find(started ? "deferredButton" : "raytracerButton")->hasFocus());
             display.find<QComboBox>("sceneUnitComboBox")->setCurrentIndex(0);
             for (const bool used : {true, false}) { // The unit counts only while SSAO is used.
                 display.find<QCheckBox>("deferredSSAOCheckBox")->setChecked(used);
@@ -149,6 +152,9 @@ private Q_SLOTS:
             }
             for (const bool gpu : {started, !started, started}) {
                 display.click(gpu ? "deferredButton" : "raytracerButton");
+                display.type("maxTrianglesSpinBox", "70000"); // Putting it back is not to show other frames.
+                QTest::keyClick(display.find("maxTrianglesSpinBox"), Qt::Key_Backspace, Qt::AltModifier);
+                QCOMPARE(display.find<QSpinBox>("maxTrianglesSpinBox")->value(), 1000000);
                 for (const char* name : {"hardwareFrame", "SSAOFrame", "GPUMemoryFrame", "GPUMemory"})
                     QVERIFY2(display.find(name)->isVisible() == gpu, name);
                 for (const char* name : {"softwareFrame", "basicOptionFrame", "CPUMemoryFrame"})
@@ -170,6 +176,7 @@ private Q_SLOTS:
         QCOMPARE(display.reset(), 1);
         QVERIFY(!display.canClickReset() && !QApplication::focusWidget());
         QCOMPARE(display.text("qualityLabel"), QString("Ultra"));
+        QVERIFY(display.find("qualitySlider")->toolTip().contains("Range: Low to Ultra. Default: Ultra."));
         QVERIFY(display.page.applyModifications());
         QCOMPARE(viewer.renderer.triangles, QList<quint64>{50000});
 
@@ -194,7 +201,10 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(&selector));
         const std::pair<const char*, bool> clicks[] = {
             {"label_2", true}, {"raytracerButton", false}, {"label_2", false}, {"deferredButton", true}};
-        const QImage window = pictureOf(&selector);
+        // The ring follows the choice, the colour does not.
+        const auto pixel = [&](const char* name, int y) { return pictureOf(child(name)).pixel(75, y); };
+        const QRgb ring = qRgb(47, 86, 127), low = pixel("raytracerButton", 9),
+                   high = pixel("deferredButton", 9);
         for (const auto& [name, gpu] : clicks) {
             const bool before = selector.useGPURenderer();
             QTest::mousePress(child(name), Qt::LeftButton);
@@ -203,7 +213,9 @@ private Q_SLOTS:
             QCOMPARE(selector.useGPURenderer(), gpu);
             QCOMPARE(child(name)->hasFocus(), name != std::string("label_2"));
             child("okButton")->setFocus();
-            QVERIFY2(pictureOf(&selector) == window, "a choice is not to be highlighted");
+            QCOMPARE(pixel("deferredButton", 1) == ring, gpu);
+            QCOMPARE(pixel("raytracerButton", 1) == ring, !gpu);
+            QVERIFY(pixel("raytracerButton", 9) == low && pixel("deferredButton", 9) == high);
         }
         const std::pair<const char*, Qt::Key> keys[] = {{"raytracerButton", Qt::Key_Return},
                                                         {"deferredButton", Qt::Key_Space},

@@ -175,6 +175,9 @@ private Q_SLOTS:
             settings().sync();
             for (auto* page : m_window->findChildren<ZelSettingsPanel*>())
                 page->initializeWidget();
+            for (auto* help : m_window->findChildren<ZelPageHelp*>())
+                if (const auto* fixed = help->setting(find("ratio1")))
+                    QVERIFY(!fixed->differs(StoredValue)); // It offers nothing.
             type("databaseSpinBox", "512");
             QCOMPARE(marked(), QString(stored == ratios ? "Folders" : "Folders Simplification"));
             QTRY_COMPARE(pending().size(), stored == ratios ? 1 : 2);
@@ -206,6 +209,11 @@ private Q_SLOTS:
         QCOMPARE(find<QDoubleSpinBox>("ratio2")->value(), 75.0);
         QCOMPARE(find<QDoubleSpinBox>("ratio3")->value(), 20.0);
         QCOMPARE(marked(), QString("Simplification"));
+        // The levels stay in order, as after an edit.
+        type("ratio2", "90");
+        type("ratio3", "80");
+        QTest::keyClick(find("ratio2"), Qt::Key_Backspace, Qt::AltModifier);
+        QCOMPARE(find<QDoubleSpinBox>("ratio3")->value(), 30.0);
     }
 
     void aHostsBackgroundCoversNoBox()
@@ -313,6 +321,12 @@ private Q_SLOTS:
         ZelRendererSelector selector(nullptr, Qt::WindowFlags());
         selector.show();
         QCOMPARE(poorlyAnnounced(QAccessible::queryAccessibleInterface(&selector), controls), QString());
+        for (const char* name : {"raytracerButton", "deferredButton"}) {
+            auto* tile = selector.findChild<QWidget*>(name);
+            QVERIFY(!QAccessible::queryAccessibleInterface(tile)->state().checked);
+            pressByReader(tile);
+            QVERIFY(QAccessible::queryAccessibleInterface(tile)->state().checked);
+        }
     }
 #endif
 

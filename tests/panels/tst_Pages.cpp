@@ -231,6 +231,12 @@ private Q_SLOTS:
                 QCOMPARE(stored(keys::SimplificationRatios), QString(ratios));
             }
             QCOMPARE(m_application->manager.ratios.first(), (std::vector<float>{1.f, .7f, .6f, .6f, .1f}));
+            page.type("ratio5", "70"); // Above level 3: what is made again is as it was.
+            const auto makeAgain = page.page.copyOfEdits();
+            page.page.initializeWidget();
+            makeAgain();
+            page.page.applyModifications();
+            QCOMPARE(stored(keys::SimplificationRatios), QString("1/0.2/0.2/0.7/0.7"));
         }
         registerDefaults({}); // Without them the page keeps what it shows.
         settings().remove(keys::SimplificationRatios);
