@@ -165,8 +165,8 @@ void SettingsPages::timerEvent(QTimerEvent*)
     if (!ZelSettingsFile::ReadAgain(*m_followed, error))
         return;
     // A setting that is gone gets its default at the next start; without it, the fields would show a minimum.
-    if (lacksRegisteredKey(*m_followed) && !ZelSettingsFile::Repair(*m_followed, error))
-        return;
+    if (lacksRegisteredKey(*m_followed))
+        ZelSettingsFile::Repair(*m_followed, error); // The log has the error.
     const QPointer<SettingsPages> self(this);
     m_pages.forEach([](ZelSettingsPanel* page) {
         if (auto* edits = dynamic_cast<ZelPageEdits*>(page))

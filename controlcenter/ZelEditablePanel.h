@@ -130,7 +130,7 @@ public:
             ZelPendingEdit edit = {help->name, row.text(stored), row.text(current),
                                    widgetToEdit(row, current, stored), nullptr};
             if (!row.fixed)
-                edit.putBack = std::bind(help->take, StoredValue);
+                edit.putBack = [take = help->take] { take(StoredValue); };
             if (edit.stored == edit.shown) {
                 edit.stored = edited->text(stored);
                 edit.shown = edited->text(current);

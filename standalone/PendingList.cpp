@@ -64,7 +64,7 @@ public:
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     }
 
-    void show(const ZelPendingEdit& edit)
+    void setEdit(const ZelPendingEdit& edit)
     {
         m_edit = edit;
         setAccessibleName(textOf(edit));
@@ -208,7 +208,7 @@ void PendingList::showEdit(int row, const ZelPendingEdit& edit)
 {
     const auto* layout = m_lines->itemAt(row)->widget()->layout();
     auto* line = static_cast<Line*>(layout->itemAt(0)->widget());
-    line->show(edit);
+    line->setEdit(edit);
     line->setEnabled(edit.field);
     line->setAccessibleDescription(QCoreApplication::translate("PendingList", "Goes to the setting."));
     QWidget* takeBack = layout->itemAt(1)->widget();

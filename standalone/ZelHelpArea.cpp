@@ -94,8 +94,8 @@ ZelHelpArea::ZelHelpArea(QWidget* parent)
     m_cardArea->installEventFilter(this);
     connect(m_pending, SIGNAL(discardRequested()), this, SIGNAL(discardRequested()));
     new LanguageFollower(this, [this] {
-        m_reservedWidth = 0;
-        reserveHeight();
+        m_reservedWidth = -1;
+        QMetaObject::invokeMethod(this, "refresh", Qt::QueuedConnection); // When the pages have followed.
     });
     m_rest->setObjectName("rest");
     m_rest->setSingleShot(true);

@@ -130,6 +130,8 @@ bool SharedSettings::readWritten(const QVariantMap& values, const QByteArray& co
         return true;
     }
     set(m_settings, values);
+    if (!values.isEmpty()) // So that it is known whether QSettings has written.
+        m_settings.setValue(values.begin().key(), values.begin().value());
     return writePending(content, reason) || !SpareCopy(resolvedPath(m_settings.fileName())).exists();
 }
 
@@ -156,9 +158,17 @@ bool SharedSettings::writePending(const QByteArray& content, QString& reason)
     readAgain(m_settings, content);
     spare.giveRights();
     const FileStamp present = stampOf(lock.target()); // QSettings does not tell of every failure.
-    m_settings.setProperty(UnwrittenProperty, present.size == former.size && present.time == former.time);
-    // Whoever else holds the lock now brings the file to its end. A full disk has no room for a lock.
-    return lock.wait(reason) == FileLock::Held || !spare.exists() || spare.restoreIfCut(m_deadline, reason);
+    const bool isWritten = present.size != former.size || present.time != former.time;
+    m_settings.setProperty(UnwrittenProperty, !isWritten);
+    // If another program has taken the lock, the next of us brings the file to its end. A full disk has no
+    // room for a lock.
+    if (lock.wait(reason) == FileLock::Held || !spare.exists())
+        return true;
+    const bool isWhole = spare.restoreIfCut(m_deadline, reason);
+    const FileStamp last = stampOf(lock.target());
+    if (!isWhole || last.size != present.size)
+        m_settings.setProperty(UnwrittenProperty, true);
+    return isWhole;
 }
 
 } // namespace zel

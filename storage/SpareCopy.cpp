@@ -25,7 +25,7 @@ bool SpareCopy::make(QString& reason) const
 {
     const QString incomplete = m_path + ".new";
     QByteArray content;
-    // Nobody else may read it, not even before it has the rights of the file.
+    // Other users must not read it, not even before it has the rights of the file.
     bool isMade = readFile(m_target, content, reason) && writeFile(incomplete, QByteArray(), reason) &&
                   QFile::setPermissions(incomplete, QFile::ReadOwner | QFile::WriteOwner) &&
                   writeFile(incomplete, content, reason);
@@ -94,9 +94,13 @@ bool SpareCopy::restoreIfCut(const Deadline& deadline, QString& reason) const
         return false;
     const bool isCut = present != wanted && wanted.startsWith(present);
     if (isCut &&
-        !(SettingsFilesAreReplaced && copyRights(m_target, m_path) && replaceFile(m_path, m_target)) &&
-        overwrite(present, wanted, deadline, reason) != Outcome::InPlace)
-        return false;
+        !(SettingsFilesAreReplaced && copyRights(m_target, m_path) && replaceFile(m_path, m_target))) {
+        const Outcome outcome = overwrite(present, wanted, deadline, reason);
+        if (outcome == Outcome::Outdated)
+            reason = lockedReason();
+        if (outcome != Outcome::InPlace)
+            return false;
+    }
     remove();
     return true;
 }

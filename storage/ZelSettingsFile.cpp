@@ -46,13 +46,13 @@ bool keepLists(const WorkingCopy& copy, const QVariantMap& before, QString& reas
 /// Drops the serialised objects of a file. False, with the reason, when that is not possible.
 bool dropObjects(const QString& path, const Deadline& deadline, QString& reason)
 {
-    Outcome outcome = Outcome::Outdated;
-    while (outcome == Outcome::Outdated && deadline.remaining() > 0) {
+    Outcome outcome;
+    do {
         SettingsLock lock(path, deadline);
         WorkingCopy copy(lock);
         const bool isMade = lock.take(reason) && copy.make(QVariantMap(), reason) && copy.write(reason);
         outcome = isMade ? copy.put(reason) : Outcome::Failed;
-    }
+    } while (outcome == Outcome::Outdated && deadline.remaining() > 0);
     if (outcome == Outcome::Outdated)
         reason = lockedReason();
     return outcome == Outcome::InPlace;
@@ -73,7 +73,7 @@ bool makeUsable(const QString& path, const Deadline& deadline, QByteArray& conte
         return false;
     if (!readFile(path, content, reason, deadline))
         return false;
-    if (shared)
+    if (shared && !hasPending(*shared))
         readAgain(*shared, content);
     return true;
 }
@@ -125,10 +125,11 @@ bool write(QSettings& settings, const ZelSettingsFile::Change& change, Deadline&
     if (!makeUsable(path, deadline, content, reason, &settings))
         return refuseWriting(path, reason, error);
     SharedSettings shared(settings, deadline);
-    Outcome outcome = Outcome::Outdated;
-    for (int tries = 0; outcome == Outcome::Outdated && tries < MaximumTries && deadline.remaining() > 0;
-         ++tries)
+    int tries = 0;
+    Outcome outcome;
+    do
         outcome = tryWrite(path, shared, change, deadline, reason, error);
+    while (outcome == Outcome::Outdated && ++tries < MaximumTries && deadline.remaining() > 0);
     if (outcome == Outcome::Outdated)
         reason = lockedReason();
     return outcome == Outcome::InPlace || (!reason.isEmpty() && refuseWriting(path, reason, error));

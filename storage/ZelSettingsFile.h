@@ -43,12 +43,12 @@ public:
     static bool IsWritable(const QString& path, QString& error);
 
     /// How the library writes the file: lets the change set and remove values of the copy that will take the
-    /// place of the file. The given settings only read the file again; what the change sets in them is
-    /// carried over. What others have written in the meantime stays: the change is called again if another
-    /// program writes the file while it runs. What a damaged, empty or cut file has lost comes back from
-    /// memory; one that lacks a registered key counts as cut. False when the change gave up, the file could
-    /// not be read or written, or the change itself writes the file; the file and the settings then hold what
-    /// they held before.
+    /// place of the file. What is set in the given settings, before the change or by it, is carried over,
+    /// and never replaces what the change sets in the copy; then they read the file again. What others have
+    /// written in the meantime stays: the change is called again if another program writes the file while it
+    /// runs. What a damaged, empty or cut file has lost comes back from memory; one that lacks a registered
+    /// key counts as cut. False when the change gave up, the file could not be read or written, or the change
+    /// itself writes the file; the file and the settings then hold what they held before.
     static bool Write(QSettings& settings, const Change& change, QString& error);
 
     /// What a page reads and changes: while Write() runs, the copy of the file of these settings; else
