@@ -25,6 +25,7 @@ set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_VENDOR Torvane)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # Each package has its own.
 set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON) # Whatever the umask was at configuration.
 set(CPACK_PACKAGE_CONTACT "Torvane <support@torvane.invalid>")
 # Not that of the sources.
 set(CPACK_PROJECT_CONFIG_FILE ${PROJECT_BINARY_DIR}/debian/prefix.cmake)

@@ -103,8 +103,11 @@ ControlCenterActions::ControlCenterActions(QWidget* column, QScrollArea* drawer,
         action->setData(command.scrolling);
         connect(action, SIGNAL(triggered()), this, command.receiver);
     }
-    for (const char* name : {"discard", "restore"})
-        connect(findChild<QAction*>(name), SIGNAL(triggered()), this, SLOT(rememberField()));
+    for (const char* name : {"discard", "restore"}) {
+        auto* action = findChild<QAction*>(name);
+        action->setAutoRepeat(false); // A held Ctrl+Z undoes what is typed, and no more.
+        connect(action, SIGNAL(triggered()), this, SLOT(rememberField()));
+    }
     setTexts();
     new LanguageFollower(column, [this] { setTexts(); });
     m_putBack = findChild<QAction*>("putBack");

@@ -162,6 +162,9 @@ void SettingsPages::timerEvent(QTimerEvent*)
         return;
     m_stamp = present; // Also when it cannot be read: each attempt may wait for a lock.
     QString error;
+    const auto nothing = [](QSettings&, QString&) { return true; };
+    if (present.size <= 0) // What the file has lost comes back from memory.
+        ZelSettingsFile::Write(*m_followed, nothing, error);
     if (!ZelSettingsFile::ReadAgain(*m_followed, error))
         return;
     // A setting that is gone gets its default at the next start; without it, the fields would show a minimum.

@@ -89,8 +89,16 @@ public:
                 field->copy(m_loaded, m_applied);
             if (field->isSame(stored, current))
                 field->copy(m_loaded, current);
-            if (field->isSame(current, m_loaded) && !field->isSame(stored, m_stored))
-                changed.push_back(field);
+        }
+        for (const Row& row : m_rows) {
+            const auto isUnedited = [&](const Field& field) { return field.isSame(current, m_loaded); };
+            const bool isChanged = std::any_of(row.fields.begin(), row.fields.end(), [&](const Field& field) {
+                return isUnedited(field) && !field.isSame(stored, m_stored);
+            });
+            // What one field shows may depend on the others of its row.
+            for (const Field& field : row.fields)
+                if (isChanged && isUnedited(field))
+                    changed.push_back(&field);
         }
         m_stored = stored;
         if (changed.empty())
@@ -321,10 +329,21 @@ private:
             field->copy(model, from);
             field->show(from);
         }
-        // QAbstractButton does so when the focus moves among the buttons, but not when they are filled.
-        for (QWidget* widget : widgets)
-            if (const auto* button = qobject_cast<QRadioButton*>(widget))
+        // QAbstractButton lets only the checked button of a choice take the focus, but not when it is filled.
+        for (const Row& row : m_rows) {
+            QWidget* checked = nullptr;
+            bool hasFocus = false;
+            for (QWidget* widget : row.help.fields) {
+                const auto* button = qobject_cast<QRadioButton*>(widget);
+                if (!button)
+                    continue;
                 widget->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+                checked = button->isChecked() ? widget : checked;
+                hasFocus = hasFocus || button->hasFocus();
+            }
+            if (hasFocus && checked)
+                checked->setFocus();
+        }
         onFilled(model);
     }
 
@@ -382,6 +401,10 @@ private:
             for (const Field& field : row.fields)
                 fields.push_back(&field);
             fill(valuesOf(source), fields);
+            const Model shown = currentModel();
+            for (const Field* field : fields)
+                if (source == StoredValue) // No edit is left.
+                    field->copy(m_loaded, shown);
             row.finish ? row.finish() : onEdited();
         };
         m_help->add(row.help);

@@ -225,8 +225,10 @@ void PendingList::addRow()
     layout->setContentsMargins(0, 0, 0, 0);
     auto* line = new Line(row);
     line->setObjectName("editButton");
+    line->setFocusPolicy(Qt::TabFocus); // A click must not take in what is typed, which may add a line.
     auto* takeBack = new QPushButton(QString(QChar(0x00D7)), row); // A cross.
     takeBack->setObjectName("takeBack");
+    takeBack->setFocusPolicy(Qt::TabFocus);
     takeBack->setFixedSize(26, 26);
     layout->addWidget(line);
     layout->addWidget(takeBack);
@@ -251,8 +253,8 @@ bool PendingList::goToField(int line)
 
 void PendingList::putBack(int line)
 {
-    goToField(line); // The line goes away, and the focus with it.
-    const auto edits = editsOf(m_pages);
+    const auto edits = editsOf(m_pages); // The focus may take in what is typed, and so add a line.
+    goToField(line);                     // The line goes away, and the focus with it.
     if (line < static_cast<int>(edits.size()) && edits[line].putBack)
         edits[line].putBack();
 }

@@ -104,6 +104,11 @@ ZelHelpArea::ZelHelpArea(QWidget* parent)
     connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
 }
 
+ZelHelpArea::~ZelHelpArea()
+{
+    delete m_columnHost;
+}
+
 void ZelHelpArea::watchPages(QWidget* tree)
 {
     m_pending->setPages(tree->findChildren<ZelSettingsPanel*>());
@@ -133,6 +138,8 @@ void ZelHelpArea::useColumn(QWidget* column, QWidget* above)
 bool ZelHelpArea::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
+    if (!m_help)
+        return false;
     if (watched == m_cardArea) {
         if (type == QEvent::Resize)
             reserveHeight();
@@ -150,6 +157,8 @@ bool ZelHelpArea::eventFilter(QObject* watched, QEvent* event)
 void ZelHelpArea::showHelp(QWidget* field)
 {
     m_rest->stop();
+    if (!m_help)
+        return;
     showHelpOn(field, *m_card, *m_cardArea);
     if (field && m_help->isHidden())
         openAt(*field);
@@ -162,6 +171,8 @@ void ZelHelpArea::showHelpOfFocusedField()
 
 void ZelHelpArea::refresh()
 {
+    if (!m_help)
+        return;
     m_card->refresh();
     m_pending->refresh();
     reserveHeight();
@@ -182,7 +193,7 @@ void ZelHelpArea::onReached(QWidget* field)
 
 void ZelHelpArea::onFocusChanged(QWidget*, QWidget* current)
 {
-    if (!ZelHelpCard::HelpOn(current))
+    if (!m_help || !ZelHelpCard::HelpOn(current))
         return;
     m_rest->stop();
     showHelpOn(current, *m_card, *m_cardArea);
@@ -191,7 +202,7 @@ void ZelHelpArea::onFocusChanged(QWidget*, QWidget* current)
 void ZelHelpArea::onRest()
 {
     const QPoint pointer = QCursor::pos();
-    if (!m_hovered || !isOver(*m_hovered, pointer))
+    if (!m_help || !m_hovered || !isOver(*m_hovered, pointer))
         return;
     if (pointer == m_pointer)
         showHelpOn(m_hovered, *m_card, *m_cardArea);
@@ -201,6 +212,8 @@ void ZelHelpArea::onRest()
 
 void ZelHelpArea::place()
 {
+    if (!m_help)
+        return;
     const bool beside = roomOf(*this) >= MinimumWidth;
     const bool inColumn = !beside && freeHeightOfColumn() >= MinimumHeight;
     if (m_columnHost && inColumn) {
@@ -221,7 +234,7 @@ void ZelHelpArea::place()
 
 void ZelHelpArea::moveToColumn()
 {
-    if (roomOf(*this) >= MinimumWidth)
+    if (!m_help || !m_columnHost || roomOf(*this) >= MinimumWidth)
         return;
     put(m_columnLayout, true);
     place();

@@ -33,12 +33,14 @@ class ZEL_EXPORT ZelHelpArea : public QWidget
 public:
     /// Shows no setting until watchPages() is called.
     explicit ZelHelpArea(QWidget* parent = nullptr);
+    ~ZelHelpArea() override;
 
     /// Shows the help of the pages among the descendants of a widget. Call it once, after they are
     /// registered.
     void watchPages(QWidget* tree);
 
-    /// Uses the empty space of a column below one of its widgets while the area is too narrow.
+    /// Uses the empty space of a column below one of its widgets while the area is too narrow. The help is
+    /// gone when the column is deleted.
     void useColumn(QWidget* column, QWidget* above);
 
     /// Places the help again when the column changes, or its own width. Consumes nothing.
@@ -77,7 +79,7 @@ private:
     int heightOfLongestHelp(int width) const;
     void openAt(QWidget& field);
 
-    QWidget* const m_help; ///< What is placed: the card and the list below it.
+    const QPointer<QWidget> m_help; ///< What is placed: the card and the list below it.
     QScrollArea* const m_cardArea;
     ZelHelpCard* const m_card;
     PendingList* const m_pending;

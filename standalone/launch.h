@@ -3,7 +3,7 @@
 
 #include "base/ZelExport.h"
 
-/* Also for hosts in C. */
+/* Also for hosts in C99. */
 #if defined(__cplusplus)
 extern "C" {
 #endif

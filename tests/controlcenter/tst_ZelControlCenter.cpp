@@ -328,9 +328,15 @@ private Q_SLOTS:
         QVERIFY(size->value() == 77 && canApply());
         write(77); // It is stored.
         QTRY_VERIFY(!canApply());
-        // Without the file, the next start would take the default.
+        const QString file = m_application->getSettings().fileName();
+        QVERIFY(QFile::remove(file)); // It comes back, with what it held.
+        QTRY_VERIFY(QFile::exists(file));
+        QTRY_VERIFY(size->value() == 77 && !canApply());
+        // Without the key, the next start would take the default.
         zel::ZelSettingsRegistry::RegisterSetting("DBCache/cacheSize", "99", &ZelControlCenter::noOp);
-        QVERIFY(QFile::remove(m_application->getSettings().fileName()));
+        const auto other = zel::ZelSettingsFile::Open(file);
+        other->remove("DBCache/cacheSize");
+        other->sync();
         QTRY_COMPARE(size->value(), 99);
         QVERIFY(!canApply());
         zel::ZelSettingsRegistry::ClearSettingsValues();
