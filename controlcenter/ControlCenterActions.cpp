@@ -147,8 +147,8 @@ bool ControlCenterActions::eventFilter(QObject* watched, QEvent* event)
         return press(*key, watched == m_column);
     // Reads a half-typed number before Qt looks up the shortcut: only an edit enables "Apply". Other keys,
     // such as those that copy and undo, leave what is being typed alone.
-    if (m_field && triggersCommand(QKeySequence(key->key() | static_cast<int>(key->modifiers()))))
-        m_field->interpretText();
+    if (field() && triggersCommand(QKeySequence(key->key() | static_cast<int>(key->modifiers()))))
+        field()->interpretText();
     return false;
 }
 
@@ -156,7 +156,7 @@ bool ControlCenterActions::leavesToCommand(QKeyEvent& event) const
 {
     const QKeySequence keys(event.key() | static_cast<int>(event.modifiers()));
     const auto* editor = m_field->findChild<QLineEdit*>();
-    const bool typing = m_field->text() != m_text && (editor->isUndoAvailable() || editor->isRedoAvailable());
+    const bool typing = field()->text() != m_text && (editor->isUndoAvailable() || editor->isRedoAvailable());
     const auto triggers = [&](const char* name) {
         return findChild<QAction*>(name)->shortcuts().contains(keys);
     };
@@ -176,6 +176,11 @@ bool ControlCenterActions::triggersCommand(const QKeySequence& keys) const
                        [&](const QPushButton* button) { return button->shortcut() == keys; });
 }
 
+QAbstractSpinBox* ControlCenterActions::field() const
+{
+    return qobject_cast<QAbstractSpinBox*>(m_field.data());
+}
+
 bool ControlCenterActions::press(const QKeyEvent& event, bool inColumn)
 {
     const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
@@ -183,7 +188,7 @@ bool ControlCenterActions::press(const QKeyEvent& event, bool inColumn)
         return false;
     if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
         rememberField(); // QAbstractSpinBox takes the typed value and passes the key on.
-    if (event.key() == Qt::Key_Escape && m_field && m_field->text() != m_text) {
+    if (event.key() == Qt::Key_Escape && field() && field()->text() != m_text) {
         m_putBack->trigger();
         return true;
     }
@@ -210,18 +215,18 @@ void ControlCenterActions::onFocusChanged(QWidget*, QWidget* current)
 
 void ControlCenterActions::rememberField()
 {
-    if (!m_field)
+    if (!field())
         return;
     m_value = m_field->property(ValueProperty);
-    m_text = m_field->text();
+    m_text = field()->text();
 }
 
 void ControlCenterActions::putBack()
 {
-    if (!m_field)
+    if (!field())
         return;
     m_field->setProperty(ValueProperty, m_value);
-    m_field->selectAll();
+    field()->selectAll();
 }
 
 void ControlCenterActions::requestHelp()

@@ -58,13 +58,14 @@ private:
     bool leavesToCommand(QKeyEvent& event) const;
     /// True for the keys of an action or a button of the control center, or of an action of its window.
     bool triggersCommand(const QKeySequence& keys) const;
+    QAbstractSpinBox* field() const;
 
     QWidget* const m_column;
     const QPointer<QWidget> m_drawer;
     QAction* m_putBack;
-    QPointer<QAbstractSpinBox> m_field; ///< The spin box with the focus, if any.
-    QVariant m_value;                   ///< Its value before the user typed.
-    QString m_text;                     ///< Its text before the user typed.
+    QPointer<QWidget> m_field; ///< The spin box with the focus, if any. It may be about to be destroyed.
+    QVariant m_value;          ///< Its value before the user typed.
+    QString m_text;            ///< Its text before the user typed.
 };
 
 } // namespace zel
