@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSignalMapper>
 #include <QVBoxLayout>
 
@@ -58,8 +59,9 @@ QString textOf(const ZelPendingEdit& edit)
 class Line : public QPushButton
 {
 public:
-    explicit Line(QWidget* parent)
+    Line(QWidget* parent, const QScrollArea& area)
         : QPushButton(parent)
+        , m_area(area)
     {
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     }
@@ -89,7 +91,11 @@ private:
 
     void fit()
     {
-        const int width = this->width() - 2 * LineInset;
+        ensurePolished(); // Its sheet sets the font.
+        // As if the scroll bar was always there: a wrapped line may bring it, and wrap because of it.
+        const int barWidth = m_area.verticalScrollBar()->sizeHint().width();
+        const int reserved = barWidth + 2 * m_area.frameWidth() + m_area.widget()->width() - m_area.width();
+        const int width = this->width() - 2 * LineInset - reserved;
         const QString whole = accessibleName();
         QString text = whole;
         if (widthOf(whole) > width) {
@@ -102,6 +108,7 @@ private:
         setText(text.replace('&', "&&"));
     }
 
+    const QScrollArea& m_area; ///< Scrolls the list.
     ZelPendingEdit m_edit;
 };
 
@@ -223,7 +230,7 @@ void PendingList::addRow()
     auto* row = new QWidget(this);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* line = new Line(row);
+    auto* line = new Line(row, *m_area);
     line->setObjectName("editButton");
     line->setFocusPolicy(Qt::TabFocus); // A click must not take in what is typed, which may add a line.
     auto* takeBack = new QPushButton(QString(QChar(0x00D7)), row); // A cross.

@@ -8,6 +8,7 @@
 
 class QLabel;
 class QPushButton;
+class QScrollArea;
 class QSignalMapper;
 class QVBoxLayout;
 
@@ -55,7 +56,7 @@ private:
     QLabel* const m_title;
     QPushButton* const m_discard;
     QVBoxLayout* const m_lines;
-    QWidget* m_area; ///< In which the lines scroll.
+    QScrollArea* m_area; ///< In which the lines scroll.
     QSignalMapper* const m_goTo;
     QSignalMapper* const m_putBack;
     QStringList m_shown; ///< The texts of the lines.
