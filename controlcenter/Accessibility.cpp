@@ -63,7 +63,8 @@ public:
     bool eventFilter(QObject*, QEvent* event) override
     {
         // Later, when the key has moved the focus.
-        if (event->type() == QEvent::KeyPress || event->type() == QEvent::FocusIn)
+        const QEvent::Type type = event->type();
+        if (type == QEvent::KeyPress || type == QEvent::FocusIn || type == QEvent::FocusOut)
             QCoreApplication::postEvent(this, new QEvent(QEvent::User));
         return false;
     }

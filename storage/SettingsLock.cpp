@@ -20,7 +20,7 @@ SettingsLock::SettingsLock(const QString& path, const Deadline& deadline)
         m_locks.push_back(std::make_unique<FileLock>(name + ".lock"));
 }
 
-FileLock::State SettingsLock::wait(QString& reason)
+FileLock::State SettingsLock::take(QString& reason)
 {
     for (const auto& lock : m_locks) {
         const FileLock::State state = lock->take(m_deadline.remaining());
@@ -33,10 +33,10 @@ FileLock::State SettingsLock::wait(QString& reason)
     return FileLock::Free;
 }
 
-bool SettingsLock::take(QString& reason)
+bool SettingsLock::takeAndFinish(QString& reason)
 {
     const SpareCopy spare(target());
-    return wait(reason) == FileLock::Free && (!spare.exists() || spare.finish(m_deadline, reason));
+    return take(reason) == FileLock::Free && (!spare.exists() || spare.finish(m_deadline, reason));
 }
 
 void SettingsLock::release()

@@ -29,10 +29,10 @@ public:
     const Deadline& deadline() const { return m_deadline; }
 
     /// Waits for others. The reason is set unless the lock is taken.
-    FileLock::State wait(QString& reason);
+    FileLock::State take(QString& reason);
 
-    /// Waits for others, and ends a write that was killed. False, with the reason, when that fails.
-    bool take(QString& reason);
+    /// Takes the lock, and ends a write that was killed. False, with the reason, when that fails.
+    bool takeAndFinish(QString& reason);
 
     void release();
 

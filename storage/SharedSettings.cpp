@@ -149,7 +149,7 @@ bool SharedSettings::writePending(const QByteArray& content, QString& reason)
 {
     SettingsLock lock(m_settings.fileName(), m_deadline);
     const SpareCopy spare(lock.target());
-    if (!lock.take(reason) || (exists(lock.target()) && !spare.make(reason))) {
+    if (!lock.takeAndFinish(reason) || (exists(lock.target()) && !spare.make(reason))) {
         stopWriting();
         return false;
     }
@@ -162,11 +162,11 @@ bool SharedSettings::writePending(const QByteArray& content, QString& reason)
     m_settings.setProperty(UnwrittenProperty, !isWritten);
     // If another program has taken the lock, the next of us brings the file to its end. A full disk has no
     // room for a lock.
-    if (lock.wait(reason) == FileLock::Held || !spare.exists())
+    if (lock.take(reason) == FileLock::Held || !spare.exists())
         return true;
     const bool isWhole = spare.restoreIfCut(m_deadline, reason);
     const FileStamp last = stampOf(lock.target());
-    if (!isWhole || last.size != present.size)
+    if (!isWhole || last.size != present.size) // QSettings takes what was cut for written.
         m_settings.setProperty(UnwrittenProperty, true);
     return isWhole;
 }

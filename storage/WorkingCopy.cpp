@@ -49,7 +49,7 @@ bool lacksRegistered(const QVariantMap& values, const QVariantMap& held)
     });
 }
 
-/// It would make QSettings use Qt's own codec.
+/// The mark of the encoding would make QSettings use Qt's own codec.
 QByteArray withoutMark(const QByteArray& text)
 {
     return text.startsWith(Utf8Mark) ? text.mid(static_cast<int>(qstrlen(Utf8Mark))) : text;
@@ -168,7 +168,7 @@ bool WorkingCopy::makeOf(const QVariantMap& values, QString& reason)
     for (auto value = values.constBegin(); value != values.constEnd(); ++value)
         m_settings->setValue(value.key(), *value);
     m_settings->setValue(EndKey, true);
-    if (!writeFile(m_copy, QByteArray(), reason) || !readAgain(false, reason))
+    if (!writeFile(m_copy, QByteArray(), reason) || !writeAndCompare(false, reason))
         return false;
     m_settings->remove(EndKey); // A change: what was just read is written again, even if it lacks something.
     return true;
@@ -190,7 +190,7 @@ bool WorkingCopy::keepContent(const QString& loss, QString& reason) const
     return keepBackup(path(), m_content, loss, path() == m_target ? nextName() : path() + ".bak.new", reason);
 }
 
-bool WorkingCopy::readAgain(bool isExact, QString& reason)
+bool WorkingCopy::writeAndCompare(bool isExact, QString& reason)
 {
     const QMap<QString, QString> wanted = textsOf(*m_settings);
     m_settings->sync();
@@ -210,7 +210,7 @@ bool WorkingCopy::readAgain(bool isExact, QString& reason)
 
 bool WorkingCopy::write(QString& reason)
 {
-    if (!readAgain(true, reason))
+    if (!writeAndCompare(true, reason))
         return false;
     QFile copy(m_copy);
     if (!copy.open(QIODevice::ReadWrite | QIODevice::Unbuffered) || !syncToDisk(copy)) {

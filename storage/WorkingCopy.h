@@ -72,7 +72,7 @@ private:
     bool makeOf(const QVariantMap& values, QString& reason);
     /// Writes the values and reads them. False, with the reason, when they are not the same.
     /// @param isExact  compares more than the names
-    bool readAgain(bool isExact, QString& reason);
+    bool writeAndCompare(bool isExact, QString& reason);
     Outcome replace(QString& reason) const;
 
     const SettingsLock& m_lock;

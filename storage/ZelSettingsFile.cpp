@@ -50,7 +50,8 @@ bool dropObjects(const QString& path, const Deadline& deadline, QString& reason)
     do {
         SettingsLock lock(path, deadline);
         WorkingCopy copy(lock);
-        const bool isMade = lock.take(reason) && copy.make(QVariantMap(), reason) && copy.write(reason);
+        const bool isMade =
+            lock.takeAndFinish(reason) && copy.make(QVariantMap(), reason) && copy.write(reason);
         outcome = isMade ? copy.put(reason) : Outcome::Failed;
     } while (outcome == Outcome::Outdated && deadline.remaining() > 0);
     if (outcome == Outcome::Outdated)
@@ -63,7 +64,7 @@ bool dropObjects(const QString& path, const Deadline& deadline, QString& reason)
 bool makeUsable(const QString& path, const Deadline& deadline, QByteArray& content, QString& reason,
                 QSettings* shared = nullptr)
 {
-    if (SpareCopy(resolvedPath(path)).exists() && !SettingsLock(path, deadline).take(reason))
+    if (SpareCopy(resolvedPath(path)).exists() && !SettingsLock(path, deadline).takeAndFinish(reason))
         logWarning(QString("The write of \"%1\" that was cut short is not finished: %2").arg(path, reason));
     if (!readFile(path, content, reason, deadline))
         return false;
@@ -85,7 +86,7 @@ Outcome tryWrite(const QString& path, SharedSettings& shared, const ZelSettingsF
 {
     SettingsLock lock(path, deadline);
     WorkingCopy copy(lock);
-    if (!lock.take(reason) || !copy.make(shared.held(), reason))
+    if (!lock.takeAndFinish(reason) || !copy.make(shared.held(), reason))
         return Outcome::Failed;
     const QVariantMap before = valuesOf(copy.settings());
     shared.carryPending(copy);
@@ -103,7 +104,7 @@ Outcome tryWrite(const QString& path, SharedSettings& shared, const ZelSettingsF
     const QVariantMap after = valuesOf(copy.settings());
     Outcome outcome = Outcome::InPlace;
     if (after != before || copy.mustBeWritten())
-        outcome = keepLists(copy, before, reason) && lock.take(reason) && copy.write(reason)
+        outcome = keepLists(copy, before, reason) && lock.takeAndFinish(reason) && copy.write(reason)
                       ? copy.put(reason)
                       : Outcome::Failed;
     lock.release();
