@@ -86,7 +86,7 @@ QByteArray native(const QString& path)
 
 const bool SettingsFilesAreReplaced = IsWindows || QT_VERSION >= QT_VERSION_CHECK(5, 10, 0);
 const bool SettingsIgnoreCase = IsWindows || QT_VERSION < QT_VERSION_CHECK(5, 0, 0);
-const bool SettingsDropTabs = QT_VERSION < QT_VERSION_CHECK(5, 0, 0);
+const bool SettingsDropBlanks = QT_VERSION < QT_VERSION_CHECK(5, 0, 0);
 
 QString systemError()
 {

@@ -18,8 +18,9 @@ extern const bool SettingsFilesAreReplaced;
 /// bytes beyond ASCII there.
 extern const bool SettingsIgnoreCase;
 
-/// True where QSettings drops a tab that ends a text, once it has written it.
-extern const bool SettingsDropTabs;
+/// True where QSettings drops a tab that ends a text, once it has written it, and any other blank that ends a
+/// text as an escape.
+extern const bool SettingsDropBlanks;
 
 /// The system's text for the error of the last call.
 QString systemError();

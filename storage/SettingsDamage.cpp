@@ -153,7 +153,9 @@ private:
             if (character == ';' && !isQuoted) // QSettings takes that of "path=/a;/b" for a comment as well.
                 return isBlank(m_text.at(m_at - 1)) && readComment(line);
             const Token token = tokenAt(m_text, m_at);
-            if (!token.isKept && !(isQuoted && isLineEnd(m_text, m_at + 1)))
+            const bool isDropped =
+                SettingsDropBlanks && !isQuoted && character == '\\' && token.meaning == ' ';
+            if (isDropped || (!token.isKept && !(isQuoted && isLineEnd(m_text, m_at + 1))))
                 return false;
             if (character == '"')
                 isQuoted = !isQuoted;
@@ -250,7 +252,7 @@ void forEachObject(const QByteArray& text, Visit visit)
 bool isCut(const QString& value)
 {
     return !isText(value) ||
-           (SettingsDropTabs && (value + ElementMark).contains(QString("\t") + ElementMark));
+           (SettingsDropBlanks && (value + ElementMark).contains(QString("\t") + ElementMark));
 }
 
 /// Decodes the name of a group or a key: "a%20b" is "a b", "a\b" is "a/b".

@@ -35,8 +35,8 @@ FileLock::State SettingsLock::take(QString& reason)
 
 bool SettingsLock::takeAndFinish(QString& reason)
 {
-    const SpareCopy spare(target());
-    return take(reason) == FileLock::Free && (!spare.exists() || spare.finish(m_deadline, reason));
+    const SpareCopy spare(target(), m_deadline);
+    return take(reason) == FileLock::Free && (!spare.exists() || spare.finish(reason));
 }
 
 void SettingsLock::release()

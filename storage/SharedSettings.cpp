@@ -132,7 +132,8 @@ bool SharedSettings::readWritten(const QVariantMap& values, const QByteArray& co
     set(m_settings, values);
     if (!values.isEmpty()) // So that it is known whether QSettings has written.
         m_settings.setValue(values.begin().key(), values.begin().value());
-    return writePending(content, reason) || !SpareCopy(resolvedPath(m_settings.fileName())).exists();
+    return writePending(content, reason) ||
+           !SpareCopy(resolvedPath(m_settings.fileName()), m_deadline).exists();
 }
 
 /// They would wait without end, or write without protection.
@@ -148,7 +149,7 @@ void SharedSettings::stopWriting()
 bool SharedSettings::writePending(const QByteArray& content, QString& reason)
 {
     SettingsLock lock(m_settings.fileName(), m_deadline);
-    const SpareCopy spare(lock.target());
+    const SpareCopy spare(lock.target(), m_deadline);
     if (!lock.takeAndFinish(reason) || (exists(lock.target()) && !spare.make(reason))) {
         stopWriting();
         return false;
@@ -164,7 +165,7 @@ bool SharedSettings::writePending(const QByteArray& content, QString& reason)
     // room for a lock.
     if (lock.take(reason) == FileLock::Held || !spare.exists())
         return true;
-    const bool isWhole = spare.restoreIfCut(m_deadline, reason);
+    const bool isWhole = spare.restoreIfCut(reason);
     const FileStamp last = stampOf(lock.target());
     if (!isWhole || last.size != present.size) // QSettings takes what was cut for written.
         m_settings.setProperty(UnwrittenProperty, true);

@@ -9,9 +9,10 @@
 
 namespace zel {
 
-SpareCopy::SpareCopy(const QString& target)
+SpareCopy::SpareCopy(const QString& target, const Deadline& deadline)
     : m_target(target)
     , m_path(target + ".unfinished")
+    , m_deadline(deadline)
 {
 }
 
@@ -26,7 +27,8 @@ bool SpareCopy::make(QString& reason) const
     const QString incomplete = m_path + ".new";
     QByteArray content;
     // Other users must not read it, not even before it has the rights of the file.
-    bool isMade = readFile(m_target, content, reason) && writeFile(incomplete, QByteArray(), reason) &&
+    bool isMade = readFile(m_target, content, reason, m_deadline) &&
+                  writeFile(incomplete, QByteArray(), reason) &&
                   QFile::setPermissions(incomplete, QFile::ReadOwner | QFile::WriteOwner) &&
                   writeFile(incomplete, content, reason);
     if (isMade && !copyRights(m_target, incomplete)) {
@@ -48,15 +50,14 @@ bool SpareCopy::adopt(const QString& file, QString& reason) const
     return false;
 }
 
-Outcome SpareCopy::overwrite(const QByteArray& expected, const QByteArray& content, const Deadline& deadline,
-                             QString& reason) const
+Outcome SpareCopy::overwrite(const QByteArray& expected, const QByteArray& content, QString& reason) const
 {
     QFile file(m_target);
     QtSettingsLock lock(file, QtSettingsLock::Write);
     QByteArray present;
     if (!openWhenFree(file, QIODevice::ReadWrite | QIODevice::Unbuffered))
         reason = file.errorString();
-    else if (!lock.take(deadline.remaining()))
+    else if (!lock.take(m_deadline.remaining()))
         reason = lockedReason();
     else if (readOpenFile(file, present, reason)) {
         if (present != expected)
@@ -74,28 +75,28 @@ Outcome SpareCopy::overwrite(const QByteArray& expected, const QByteArray& conte
     return Outcome::Failed;
 }
 
-bool SpareCopy::finish(const Deadline& deadline, QString& reason) const
+bool SpareCopy::finish(QString& reason) const
 {
     QByteArray wanted, present;
-    if (!readFile(m_path, wanted, reason, deadline) || !readFile(m_target, present, reason, deadline))
+    if (!readFile(m_path, wanted, reason, m_deadline) || !readFile(m_target, present, reason, m_deadline))
         return false;
     const bool isForeign = !wanted.startsWith(present) && stampOf(m_target).time != stampOf(m_path).time;
     if (isForeign &&
         !keepBackup(m_target, wanted, "its writing was cut short, and another program has written it",
                     m_path + ".new", reason))
         return false;
-    return restoreIfCut(deadline, reason);
+    return restoreIfCut(reason);
 }
 
-bool SpareCopy::restoreIfCut(const Deadline& deadline, QString& reason) const
+bool SpareCopy::restoreIfCut(QString& reason) const
 {
     QByteArray wanted, present;
-    if (!readFile(m_path, wanted, reason, deadline) || !readFile(m_target, present, reason, deadline))
+    if (!readFile(m_path, wanted, reason, m_deadline) || !readFile(m_target, present, reason, m_deadline))
         return false;
     const bool isCut = present != wanted && wanted.startsWith(present);
     if (isCut &&
         !(SettingsFilesAreReplaced && copyRights(m_target, m_path) && replaceFile(m_path, m_target))) {
-        const Outcome outcome = overwrite(present, wanted, deadline, reason);
+        const Outcome outcome = overwrite(present, wanted, reason);
         if (outcome == Outcome::Outdated)
             reason = lockedReason();
         if (outcome != Outcome::InPlace)

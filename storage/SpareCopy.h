@@ -8,10 +8,11 @@ namespace zel {
 
 class Deadline;
 
-/// What putting a new content in place has come to.
+/// What an attempt to write the file has come to.
 enum class Outcome {
     InPlace,
     Outdated, ///< Another program has changed the file since it was copied. Nothing is changed.
+    GivenUp,  ///< The change did not succeed, and has said why. Nothing is changed.
     Failed    ///< The reason is set. Nothing is changed, or a spare copy is left for SpareCopy::finish().
 };
 
@@ -23,7 +24,8 @@ class SpareCopy
 {
 public:
     /// @param target  the file, which is no link
-    explicit SpareCopy(const QString& target);
+    /// @param deadline  ends all waits; outlives this object
+    SpareCopy(const QString& target, const Deadline& deadline);
 
     /// True while there is one: now, or because a process was killed.
     bool exists() const;
@@ -37,16 +39,15 @@ public:
     /// Writes over the file, which other programs may have opened already, waiting to write to it.
     /// @param expected  what the file holds unless another program has written it
     /// @param content  what the spare copy holds
-    Outcome overwrite(const QByteArray& expected, const QByteArray& content, const Deadline& deadline,
-                      QString& reason) const;
+    Outcome overwrite(const QByteArray& expected, const QByteArray& content, QString& reason) const;
 
     /// As restoreIfCut(), after a write that was killed. If another program has written the file since, the
     /// spare copy becomes a dated one.
-    bool finish(const Deadline& deadline, QString& reason) const;
+    bool finish(QString& reason) const;
 
     /// Brings the file to its end if it is cut, and removes the spare copy. False, with the reason, when that
     /// is not possible.
-    bool restoreIfCut(const Deadline& deadline, QString& reason) const;
+    bool restoreIfCut(QString& reason) const;
 
     /// Gives the file the rights that it had when the spare copy was made.
     void giveRights() const;
@@ -56,6 +57,7 @@ public:
 private:
     const QString m_target;
     const QString m_path;
+    const Deadline& m_deadline;
 };
 
 } // namespace zel

@@ -233,10 +233,10 @@ Outcome WorkingCopy::put(QString& reason)
         return replace(reason);
     if (!hasRights)
         QFile::setPermissions(m_copy, QFile::ReadOwner | QFile::WriteOwner);
-    const SpareCopy spare(m_target);
+    const SpareCopy spare(m_target, m_lock.deadline());
     if (!spare.adopt(m_copy, reason))
         return Outcome::Failed;
-    const Outcome outcome = spare.overwrite(m_content, m_result, m_lock.deadline(), reason);
+    const Outcome outcome = spare.overwrite(m_content, m_result, reason);
     // A file that was cut still needs it.
     QByteArray present;
     QString ignored;

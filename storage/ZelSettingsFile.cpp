@@ -64,7 +64,8 @@ bool dropObjects(const QString& path, const Deadline& deadline, QString& reason)
 bool makeUsable(const QString& path, const Deadline& deadline, QByteArray& content, QString& reason,
                 QSettings* shared = nullptr)
 {
-    if (SpareCopy(resolvedPath(path)).exists() && !SettingsLock(path, deadline).takeAndFinish(reason))
+    if (SpareCopy(resolvedPath(path), deadline).exists() &&
+        !SettingsLock(path, deadline).takeAndFinish(reason))
         logWarning(QString("The write of \"%1\" that was cut short is not finished: %2").arg(path, reason));
     if (!readFile(path, content, reason, deadline))
         return false;
@@ -79,8 +80,7 @@ bool makeUsable(const QString& path, const Deadline& deadline, QByteArray& conte
     return true;
 }
 
-/// One attempt of write(). Outdated when another one has to follow. Failed without a reason when the change
-/// gave up.
+/// One attempt of write(); another one has to follow when it is outdated.
 Outcome tryWrite(const QString& path, SharedSettings& shared, const ZelSettingsFile::Change& change,
                  Deadline& deadline, QString& reason, QString& error)
 {
@@ -96,10 +96,8 @@ Outcome tryWrite(const QString& path, SharedSettings& shared, const ZelSettingsF
         const Visible visible(copy);
         return change(copy.settings(), error);
     });
-    if (!isMade) {
-        reason.clear();
-        return Outcome::Failed;
-    }
+    if (!isMade)
+        return Outcome::GivenUp;
     shared.carryOver(copy.settings());
     const QVariantMap after = valuesOf(copy.settings());
     Outcome outcome = Outcome::InPlace;
@@ -118,10 +116,12 @@ bool write(QSettings& settings, const ZelSettingsFile::Change& change, Deadline&
     const QString path = settings.fileName();
     QByteArray content;
     QString reason;
-    if (WorkingCopy::Changing) {
+    if (WorkingCopy::Changing)
         reason = SettingsFileText::tr("it is being written already");
+    else if (!settings.group().isEmpty()) // The values outside it cannot be reached.
+        reason = SettingsFileText::tr("a group of it is open");
+    if (!reason.isEmpty())
         return refuseWriting(path, reason, error);
-    }
     ZelSettingsFile::UseFileEncoding(settings);
     if (!makeUsable(path, deadline, content, reason, &settings))
         return refuseWriting(path, reason, error);
@@ -133,7 +133,7 @@ bool write(QSettings& settings, const ZelSettingsFile::Change& change, Deadline&
     while (outcome == Outcome::Outdated && ++tries < MaximumTries && deadline.remaining() > 0);
     if (outcome == Outcome::Outdated)
         reason = lockedReason();
-    return outcome == Outcome::InPlace || (!reason.isEmpty() && refuseWriting(path, reason, error));
+    return outcome == Outcome::InPlace || (outcome != Outcome::GivenUp && refuseWriting(path, reason, error));
 }
 
 /// ZelSettingsFile::ReadAgain() of a usable file within a time.

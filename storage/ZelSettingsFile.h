@@ -47,8 +47,9 @@ public:
     /// and never replaces what the change sets in the copy; then they read the file again. What others have
     /// written in the meantime stays: the change is called again if another program writes the file while it
     /// runs. What a damaged, empty or cut file has lost comes back from memory; one that lacks a registered
-    /// key counts as cut. False when the change gave up, the file could not be read or written, or the change
-    /// itself writes the file; the file and the settings then hold what they held before.
+    /// key counts as cut. False when the change gave up, the file could not be read or written, the change
+    /// itself writes the file, or the settings are within a group; the file and the settings then hold what
+    /// they held before.
     static bool Write(QSettings& settings, const Change& change, QString& error);
 
     /// What a page reads and changes: while Write() runs, the copy of the file of these settings; else

@@ -383,6 +383,10 @@ Fortfahren und die Anwendung schließen?</translation>
         <source>it is being written already</source>
         <translation>sie wird bereits geschrieben</translation>
     </message>
+    <message>
+        <source>a group of it is open</source>
+        <translation>eine Gruppe darin ist geöffnet</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenterStandAloneWidget</name>

@@ -383,6 +383,10 @@ Continue and close the application ?</translation>
         <source>it is being written already</source>
         <translation>it is being written already</translation>
     </message>
+    <message>
+        <source>a group of it is open</source>
+        <translation>a group of it is open</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenterStandAloneWidget</name>

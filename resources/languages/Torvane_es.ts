@@ -383,6 +383,10 @@ Continue and close the application ?</source>
         <source>it is being written already</source>
         <translation>ya se está escribiendo</translation>
     </message>
+    <message>
+        <source>a group of it is open</source>
+        <translation>uno de sus grupos está abierto</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenterStandAloneWidget</name>

@@ -383,6 +383,10 @@ Continuer et fermer l’application&#xa0;?</translation>
         <source>it is being written already</source>
         <translation>il est déjà en cours d&apos;écriture</translation>
     </message>
+    <message>
+        <source>a group of it is open</source>
+        <translation>un de ses groupes est ouvert</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenterStandAloneWidget</name>

@@ -383,6 +383,10 @@ Continuare e chiudere l’applicazione?</translation>
         <source>it is being written already</source>
         <translation>è già in fase di scrittura</translation>
     </message>
+    <message>
+        <source>a group of it is open</source>
+        <translation>un suo gruppo è aperto</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenterStandAloneWidget</name>

@@ -383,6 +383,10 @@ Continue and close the application ?</source>
         <source>it is being written already</source>
         <translation>すでに書き込み中です</translation>
     </message>
+    <message>
+        <source>a group of it is open</source>
+        <translation>グループが開かれたままです</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenterStandAloneWidget</name>

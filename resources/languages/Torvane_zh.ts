@@ -383,6 +383,10 @@ Continue and close the application ?</source>
         <source>it is being written already</source>
         <translation>正在写入中</translation>
     </message>
+    <message>
+        <source>a group of it is open</source>
+        <translation>其中一个组尚未关闭</translation>
+    </message>
 </context>
 <context>
     <name>ZelControlCenterStandAloneWidget</name>

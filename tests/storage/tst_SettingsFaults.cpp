@@ -419,6 +419,9 @@ private Q_SLOTS:
             return write(*settings, {{"inner/key", 2}}) || (text = error).isNull();
         };
         QVERIFY(!ZelSettingsFile::Write(*settings, nested, error) && error.contains("being written already"));
+        settings->beginGroup("Foreign");
+        QVERIFY(!write(*settings, {{"list", "none"}}) && error.contains("a group of it is open"));
+        settings->endGroup();
         // Nothing is left that a later write would take along.
         const auto shared = [&](QSettings&, QString&) {
             settings->setValue("Foreign/list", "none");
@@ -750,8 +753,9 @@ private Q_SLOTS:
             {&apply, version2 + "gr\303\266\303\237e=5\n", SettingsIgnoreCase},
             {&validate, "a=\"\\xffff\"\n[DBCache]\ncacheSize=77\n" + version2, 1},
             {&apply, version2 + "own=\357\277\277\n", 1},
-            {&apply, version2 + "own=text\\t , b\n", SettingsDropTabs},
-            {&validate, version2 + "own=\"text\\t\"\n", SettingsDropTabs},
+            {&apply, version2 + "own=text\\t , b\n", SettingsDropBlanks},
+            {&validate, version2 + "own=\"text\\t\"\n", SettingsDropBlanks},
+            {&apply, version2 + "own=text\\x20\n", SettingsDropBlanks},
             {&migrate, "[General]\nsettingsVersion=0\n; mine\n", 1},
             {&migrate, "[General]\nengine=software\n", 1}, // Too old.
             {&migrate, "[General]\nsettingsVersion=1\n", 0},
