@@ -49,6 +49,8 @@ void set(QSettings& settings, const QVariantMap& wanted)
 /// Makes the same changes in settings that lead from some values to others.
 void change(QSettings& settings, const QVariantMap& from, const QVariantMap& to)
 {
+    if (from == to)
+        return;
     QVariantMap wanted = valuesOf(settings);
     for (auto value = from.constBegin(); value != from.constEnd(); ++value)
         if (!to.contains(value.key()))
