@@ -11,7 +11,7 @@ foreach(tool file=file dpkg-shlibdeps=dpkg-dev dpkg-gensymbols=dpkg-dev gzip=gzi
     string(REPLACE "=" ";" tool ${tool})
     list(GET tool 0 name)
     list(GET tool 1 package)
-    find_program(ZEL_${name} ${name})
+    find_program(ZEL_${name} ${name} PATHS ENV PATH NO_DEFAULT_PATH) # Where they are run from.
     if(NOT ZEL_${name})
         message(FATAL_ERROR "The Debian packages need ${name}: install ${package}")
     endif()
