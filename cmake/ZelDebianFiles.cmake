@@ -11,7 +11,7 @@ foreach(tool file=file dpkg-shlibdeps=dpkg-dev dpkg-gensymbols=dpkg-dev gzip=gzi
     string(REPLACE "=" ";" tool ${tool})
     list(GET tool 0 name)
     list(GET tool 1 package)
-    find_program(ZEL_${name} ${name})
+    find_program(ZEL_${name} ${name} PATHS ENV PATH NO_DEFAULT_PATH) # Where they are run from.
     if(NOT ZEL_${name})
         message(FATAL_ERROR "The Debian packages need ${name}: install ${package}")
     endif()
@@ -32,12 +32,14 @@ foreach(program IN LISTS programs)
     execute_process(COMMAND strip --strip-unneeded --remove-section=.comment ${program} COMMAND_ERROR_IS_FATAL ANY)
 endforeach()
 
-# Manual pages and changes are compressed, without the time.
-file(GLOB_RECURSE files ${CPACK_TEMPORARY_DIRECTORY}/*/usr/share/man/*
-                        ${CPACK_TEMPORARY_DIRECTORY}/*/usr/share/doc/*/changelog
-                        ${CPACK_TEMPORARY_DIRECTORY}/*/usr/share/doc/*/CHANGELOG.md)
+# As dh_compress does, without the time: manual pages, and documents above 4 KiB; not the examples.
+file(GLOB_RECURSE files ${CPACK_TEMPORARY_DIRECTORY}/*/usr/share/man/* ${CPACK_TEMPORARY_DIRECTORY}/*/usr/share/doc/*)
+list(FILTER files EXCLUDE REGEX "/(examples/.*|copyright)$")
 foreach(file IN LISTS files)
-    execute_process(COMMAND gzip -9 -n ${file} COMMAND_ERROR_IS_FATAL ANY)
+    file(SIZE ${file} size)
+    if(size GREATER 4096 OR file MATCHES "/(man[1-9]/[^/]*|changelog)$")
+        execute_process(COMMAND gzip -9 -n ${file} COMMAND_ERROR_IS_FATAL ANY)
+    endif()
 endforeach()
 
 list(FILTER programs INCLUDE REGEX "\\.so\\.")

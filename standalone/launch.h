@@ -3,7 +3,7 @@
 
 #include "base/ZelExport.h"
 
-/* Also for hosts in C99. */
+/* Also for hosts in C, from C99 on: the comments are those of C99. */
 #if defined(__cplusplus)
 extern "C" {
 #endif

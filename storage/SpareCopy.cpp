@@ -22,6 +22,16 @@ bool SpareCopy::exists() const
     return file.isFile() && !file.isSymLink();
 }
 
+bool SpareCopy::readFinished(QByteArray& content, QString& reason) const
+{
+    QByteArray wanted;
+    if (!readFile(m_target, content, reason) || (exists() && !readFile(m_path, wanted, reason)))
+        return false;
+    if (wanted.startsWith(content))
+        content = wanted;
+    return true;
+}
+
 bool SpareCopy::make(QString& reason) const
 {
     const QString incomplete = m_path + ".new";

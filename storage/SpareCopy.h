@@ -30,6 +30,9 @@ public:
     /// True while there is one: now, or because a process was killed.
     bool exists() const;
 
+    /// What the file holds once finish() has been called. False, with the reason, when it cannot be read.
+    bool readFinished(QByteArray& content, QString& reason) const;
+
     /// Makes one of what the file holds, with its rights. False, with the reason, when that is not possible.
     bool make(QString& reason) const;
 

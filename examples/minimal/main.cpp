@@ -9,6 +9,7 @@
 #include <zel/SettingsKeys.h>
 #include <zel/ZelControlCenter.h>
 #include <zel/ZelEditablePanel.h>
+#include <zel/ZelHelpArea.h>
 #include <zel/ZelSettingsApplication.h>
 #include <zel/ZelSettingsFile.h>
 #include <zel/platform/MTLogger.h>
@@ -98,12 +99,20 @@ int main(int argc, char** argv)
         kqDMIApplication::GetStylesheet(QLatin1String("ZelControlCenter")));
     center.registerCCAction(&about, QLatin1String("Settings"), false, false, true);
     center.registerSettingsPanel(&page);
+    zel::ZelHelpArea help;
+    help.setMinimumWidth(330);
+    help.watchPages(center.settingsWidget()); // After all pages are registered.
+    QObject::connect(&center, SIGNAL(pagesChanged()), &help, SLOT(refresh()));
+    QObject::connect(&center, SIGNAL(helpRequested(QWidget*)), &help, SLOT(showHelpOfFocusedField()));
+    const auto* discard = center.findChild<QAction*>(QLatin1String("discard"));
+    QObject::connect(&help, SIGNAL(discardRequested()), discard, SLOT(trigger()));
     QPushButton view(QLatin1String("Menu"));
     view.setCheckable(true);
     QObject::connect(&view, SIGNAL(clicked(bool)), &center, SLOT(openMenu(bool)));
     QHBoxLayout layout(&window);
     layout.addWidget(&center);
     layout.addWidget(center.settingsWidget());
+    layout.addWidget(&help);
     layout.addWidget(&view, 1);
     window.show();
     return QApplication::exec();

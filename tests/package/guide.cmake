@@ -1,4 +1,5 @@
-# Checks that the code which the guide shows stands in one of the examples, line by line; indentation aside.
+# Checks that the code which the guide shows stands in one of the examples, line by line; indentation aside. Commands for a
+# shell do not.
 #   cmake -DGUIDE=<file> -DEXAMPLES=<folder> -P guide.cmake
 
 function(read_unindented file text)
@@ -16,6 +17,16 @@ foreach(language cpp cmake)
         string(APPEND ${language}_sources "${source}")
     endforeach()
 endforeach()
+# Code that is only indented would not be found below.
+file(STRINGS ${GUIDE} lines)
+set(is_code 0)
+foreach(line IN LISTS lines)
+    if(line MATCHES "^```")
+        string(COMPARE EQUAL "${is_code}" 0 is_code)
+    elseif(NOT is_code AND line MATCHES "^(    |\t)")
+        message(FATAL_ERROR "Neither in a list nor between \"```\": ${line}")
+    endif()
+endforeach()
 read_unindented(${GUIDE} rest)
 
 set(shown 0)
@@ -27,6 +38,9 @@ while(rest MATCHES "\n```([a-z]+)(\n.*)")
     string(SUBSTRING "${rest}" 0 ${end} snippet)
     math(EXPR end "${end} + 4")
     string(SUBSTRING "${rest}" ${end} -1 rest)
+    if(language STREQUAL sh)
+        continue()
+    endif()
     math(EXPR shown "${shown} + 1")
     string(FIND "${${language}_sources}" "${snippet}\n" position)
     if(position EQUAL -1)
@@ -37,7 +51,7 @@ endwhile()
 file(READ ${EXAMPLES}/minimal/main.cpp text)
 string(REGEX MATCHALL "\n" ends "${text}")
 list(LENGTH ends length)
-if(length GREATER 120)
+if(length GREATER 125)
     message(FATAL_ERROR "The smallest host has grown to ${length} lines")
 endif()
 message("${shown} pieces of code, ${missing} of them not in the examples")

@@ -5,6 +5,7 @@
 #include "SettingsDamage.h"
 #include "SettingsKeys.h"
 #include "SettingsValidation.h"
+#include "SpareCopy.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsValidators.h"
 
@@ -34,6 +35,8 @@ const struct
     {&ZelSettingsValidators::ensureDMCacheFolder, "is not an existing folder"},
     {&ZelSettingsValidators::ensureTmpFolder, "is not an existing folder"},
 };
+
+const char* const Unfinished = "a write was cut short, and has left a file \".unfinished\"";
 
 /// As further passes leave it: each removes one slash from the end.
 QString cleanedUp(QString path)
@@ -102,11 +105,14 @@ SettingsInspection::SettingsInspection(const QString& path)
 {
     QByteArray content;
     QString reason;
-    if (!readFile(path, content, reason)) {
+    const SpareCopy spare(resolvedPath(path));
+    if (!spare.readFinished(content, reason)) {
         refuseReading(path, reason, m_error);
         return;
     }
     m_damage = settingsDamage(content);
+    if (spare.exists())
+        m_damage = m_damage.isEmpty() ? QString(Unfinished) : Unfinished + ("; " + m_damage);
     // Of what has been read, and without serialised objects, because QSettings would decode them.
     QTemporaryFile readable;
     if (readable.open() && readable.write(withoutObjects(content)) >= 0 && readable.flush())

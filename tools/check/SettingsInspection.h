@@ -37,7 +37,8 @@ public:
     /// The migration that precedes the pass. Only the editor makes a fresh start; a repair does not.
     Migration migration() const { return m_migration; }
 
-    /// What the pass would lose of the file, as from settingsDamage(); empty when nothing.
+    /// What the pass would lose of the file, as from settingsDamage(), and whether it would finish a write
+    /// that was cut short; empty when nothing.
     const QString& damage() const { return m_damage; }
     /// The values that migration and passes would change, until a further pass changes nothing.
     const std::vector<SettingsChange>& changes() const { return m_changes; }

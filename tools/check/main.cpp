@@ -2,7 +2,9 @@
 #include "FileAccess.h"
 #include "SettingsBackup.h"
 #include "SettingsKeys.h"
+#include "SettingsLock.h"
 #include "SettingsValidation.h"
+#include "SpareCopy.h"
 #include "ZelSettingsCatalogue.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsRegistry.h"
@@ -58,7 +60,7 @@ The members of the JSON object, all always there:
   file         the name, with U+FFFD for what is not UTF-8 text
   state        "clean", "needs repair", "repaired" or "not repairable"
   freshStart   true if the editor keeps only the language of the file, and a copy; a repair keeps its values
-  damage       what of the file is lost, or null
+  damage       what of the file is lost, or that a write was cut short; null if neither
   changes      for each changed value an object of texts: key, old (null if the key is missing), new, reason
   folders      the folders that are missing, or were created
   copy         the copy that holds what the file held before the repair, or null
@@ -182,6 +184,9 @@ bool repair(const QString& path, SettingsInspection inspection, CheckReport& rep
         report.error = "It belongs to another user, whose default folders are others: run this as that user";
         return false;
     }
+    QString reason;
+    if (SpareCopy(resolvedPath(path)).exists() && !SettingsLock(path, Deadline()).takeAndFinish(reason))
+        return refuseWriting(path, reason, report.error);
     // A validator that stops the pass would leave half of a repair in the file.
     if (!ZelSettingsFile::IsUsable(path, report.error) || !createFolders(path, report.error))
         return false;
