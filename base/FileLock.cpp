@@ -129,12 +129,18 @@ QByteArray hostName()
     return name;
 }
 
+/// Holds a lock file, where the file system can tell other programs of that. False when another one does.
+bool hold(int file)
+{
+    return ::flock(file, LOCK_EX | LOCK_NB) == 0 || errno == ENOLCK;
+}
+
 /// Holds a lock file and names this process in it.
 bool claim(int file)
 {
     const QByteArray process = QByteArray::number(static_cast<qlonglong>(::getpid()));
     const QByteArray text = process + '\n' + programOf(process) + '\n' + hostName() + '\n';
-    return ::flock(file, LOCK_EX | LOCK_NB) == 0 &&
+    return hold(file) &&
            ::write(file, text.constData(), static_cast<std::size_t>(text.size())) == text.size();
 }
 
@@ -212,7 +218,7 @@ public:
     }
 
     /// False while its process holds it, also if it is orphaned otherwise. Holds it from then on.
-    bool isLetGo() const { return m_file >= 0 && ::flock(m_file, LOCK_EX | LOCK_NB) == 0; }
+    bool isLetGo() const { return m_file >= 0 && hold(m_file); }
 
     /// True when the file still has this name.
     bool isInPlace() const

@@ -14,11 +14,16 @@ namespace zel {
 
 class FileLock;
 
-/// Ends all waits of one operation for other programs, three seconds after it has begun.
+/// Ends all waits of one operation for other programs, some time after it has begun.
 class Deadline
 {
 public:
-    Deadline() { m_clock.start(); }
+    /// @param time  in milliseconds
+    explicit Deadline(int time = 3000)
+        : m_time(time)
+    {
+        m_clock.start();
+    }
 
     /// In milliseconds; 0 once it is over.
     int remaining() const { return static_cast<int>(qMax<qint64>(0, m_time - m_clock.elapsed())); }
@@ -35,7 +40,7 @@ public:
 
 private:
     QElapsedTimer m_clock;
-    qint64 m_time = 3000;
+    qint64 m_time;
 };
 
 /// Translates the error texts of the settings file.

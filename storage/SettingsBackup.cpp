@@ -67,6 +67,7 @@ bool keepBackup(const QString& path, const QByteArray& content, const QString& l
         }))
         return true;
     const QString copy = newName(path);
+    QFile::remove(incomplete); // It may be a link, or a pipe.
     const bool isComplete = writeFile(incomplete, content, reason);
     if (isComplete && !copyRights(path, incomplete)) // The copy is good, but for no other user.
         QFile::setPermissions(incomplete, QFile::ReadOwner | QFile::WriteOwner);

@@ -45,4 +45,10 @@ void SettingsLock::release()
         lock->release();
 }
 
+bool finishKilledWrite(const QString& path, const Deadline& deadline, QString& reason)
+{
+    return !SpareCopy(resolvedPath(path), deadline).exists() ||
+           SettingsLock(path, deadline).takeAndFinish(reason);
+}
+
 } // namespace zel

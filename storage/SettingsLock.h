@@ -45,6 +45,9 @@ private:
     std::vector<std::unique_ptr<FileLock>> m_locks;
 };
 
+/// Ends a write that was killed, if there is one. False, with the reason, when that fails.
+bool finishKilledWrite(const QString& path, const Deadline& deadline, QString& reason);
+
 } // namespace zel
 
 #endif

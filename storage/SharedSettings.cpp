@@ -46,6 +46,13 @@ void set(QSettings& settings, const QVariantMap& wanted)
             settings.setValue(value.key(), *value);
 }
 
+/// A change may have begun a group, outside which no value can be reached.
+void leaveGroups(QSettings& settings)
+{
+    while (!settings.group().isEmpty())
+        settings.endGroup();
+}
+
 /// Makes the same changes in settings that lead from some values to others.
 void change(QSettings& settings, const QVariantMap& from, const QVariantMap& to)
 {
@@ -74,11 +81,18 @@ bool hasPending(QSettings& settings)
     return probe.isFound || settings.property(UnwrittenProperty).toBool();
 }
 
+void setRead(QSettings& settings, const QByteArray& content)
+{
+    settings.setProperty(ReadProperty, content.isNull() ? QByteArray("") : content);
+}
+
 void readAgain(QSettings& settings, const QByteArray& content)
 {
-    settings.sync();
+    // Not sync(), after which QSettings of Qt 4 posts no event any more.
+    QEvent update(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(&settings, &update);
     ZelSettingsFile::UseFileEncoding(settings); // Reading the UTF-8 mark brings Qt's own codec back.
-    settings.setProperty(ReadProperty, content);
+    setRead(settings, content);
 }
 
 SharedSettings::SharedSettings(QSettings& settings, const Deadline& deadline)
@@ -92,9 +106,13 @@ SharedSettings::SharedSettings(QSettings& settings, const Deadline& deadline)
 
 SharedSettings::~SharedSettings()
 {
-    if (m_isWritten || valuesOf(m_settings) == m_held)
+    leaveGroups(m_settings);
+    if (m_isWritten || (!m_hasPending && !hasPending(m_settings)))
         return;
     set(m_settings, m_held);
+    QString ignored;
+    if (!m_hasPending && writePending(ignored))
+        return;
     if (!m_hasPending) // Then the next write gives them what the file holds.
         m_settings.setProperty(ReadProperty, m_held);
     stopWriting();
@@ -119,23 +137,20 @@ void SharedSettings::carryPending(WorkingCopy& copy) const
     change(copy.settings(), former, present);
 }
 
-void SharedSettings::carryOver(QSettings& copy) const
+void SharedSettings::carryOver(QSettings& copy)
 {
+    leaveGroups(m_settings);
+    leaveGroups(copy);
     change(copy, m_held, valuesOf(m_settings));
 }
 
-bool SharedSettings::readWritten(const QVariantMap& values, const QByteArray& content, QString& reason)
+bool SharedSettings::readWritten(const QByteArray& content, QString& reason)
 {
     m_isWritten = true;
-    if (!m_hasPending && valuesOf(m_settings) == m_held) {
-        readAgain(m_settings, content);
-        return true;
-    }
-    set(m_settings, values);
-    if (!values.isEmpty()) // So that it is known whether QSettings has written.
-        m_settings.setValue(values.begin().key(), values.begin().value());
-    return writePending(content, reason) ||
-           !SpareCopy(resolvedPath(m_settings.fileName()), m_deadline).exists();
+    if (m_hasPending || hasPending(m_settings))
+        return writePending(reason) || !SpareCopy(resolvedPath(m_settings.fileName()), m_deadline).exists();
+    readAgain(m_settings, content);
+    return true;
 }
 
 /// They would wait without end, or write without protection.
@@ -145,20 +160,30 @@ void SharedSettings::stopWriting()
     m_settings.setProperty(UnwrittenProperty, true);
 }
 
-/// Lets them write, so that nothing is pending. They hold what the file holds, but QSettings may cut it all
-/// the same, and that of Qt 5 changes its rights, so a spare copy stands beside it meanwhile. False, with the
-/// reason, when they have not written. There is still a spare copy then if the file is not whole.
-bool SharedSettings::writePending(const QByteArray& content, QString& reason)
+/// Gives them what the file holds, and lets them write it, so that nothing is pending. QSettings may cut the
+/// file all the same, and that of Qt 5 changes its rights, so a spare copy stands beside it meanwhile. False,
+/// with the reason, when they have not written. There is still a spare copy then if the file is not whole.
+bool SharedSettings::writePending(QString& reason)
 {
     SettingsLock lock(m_settings.fileName(), m_deadline);
+    WorkingCopy copy(lock); // What QSettings will write: a part of that shows that the file is cut.
     const SpareCopy spare(lock.target(), m_deadline);
-    if (!lock.takeAndFinish(reason) || (exists(lock.target()) && !spare.make(reason))) {
+    QVariantMap values;
+    bool isReady = lock.takeAndFinish(reason) && copy.make(values, reason);
+    if (isReady) {
+        values = valuesOf(copy.settings());
+        isReady = copy.write(reason) && copy.putAside(spare, reason);
+    }
+    if (!isReady) {
         stopWriting();
         return false;
     }
+    set(m_settings, values);
+    if (!values.isEmpty()) // So that it is known whether QSettings has written.
+        m_settings.setValue(values.begin().key(), values.begin().value());
     const FileStamp former = stampOf(lock.target());
     lock.release();
-    readAgain(m_settings, content);
+    readAgain(m_settings, copy.content());
     spare.giveRights();
     const FileStamp present = stampOf(lock.target()); // QSettings does not tell of every failure.
     const bool isWritten = present.size != former.size || present.time != former.time;

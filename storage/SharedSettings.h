@@ -15,6 +15,10 @@ class WorkingCopy;
 /// True when settings hold values that they have not written.
 bool hasPending(QSettings& settings);
 
+/// Notes what settings have read from the file, so that what is set later can be told from what others have
+/// written.
+void setRead(QSettings& settings, const QByteArray& content);
+
 /// Reads the file again. QSettings writes what is pending, without protection.
 /// @param content  of the file, as it was just read
 void readAgain(QSettings& settings, const QByteArray& content);
@@ -27,7 +31,8 @@ class SharedSettings
 public:
     /// @param deadline  ends all waits; outlives this object, as the settings do
     SharedSettings(QSettings& settings, const Deadline& deadline);
-    /// Unless the file has been written, they hold again what they held.
+    /// Unless the file has been written, they hold again what they held, and what is still pending is not
+    /// written before the next write.
     ~SharedSettings();
 
     /// What they held before the change.
@@ -37,18 +42,18 @@ public:
     void carryPending(WorkingCopy& copy) const;
 
     /// Sets in a copy of the file what the change has set here.
-    void carryOver(QSettings& copy) const;
+    void carryOver(QSettings& copy);
 
     /// To be called when the file is written, and not under its lock. False, with the reason, when it has not
     /// stayed whole.
-    /// @param values, content  what the file holds now
-    bool readWritten(const QVariantMap& values, const QByteArray& content, QString& reason);
+    /// @param content  what the file holds now
+    bool readWritten(const QByteArray& content, QString& reason);
 
 private:
     Q_DISABLE_COPY(SharedSettings)
 
     void stopWriting();
-    bool writePending(const QByteArray& content, QString& reason);
+    bool writePending(QString& reason);
 
     QSettings& m_settings;
     const QVariantMap m_held;

@@ -25,30 +25,12 @@ bool SpareCopy::exists() const
 bool SpareCopy::readFinished(QByteArray& content, QString& reason) const
 {
     QByteArray wanted;
-    if (!readFile(m_target, content, reason) || (exists() && !readFile(m_path, wanted, reason)))
+    if (!readFile(m_target, content, reason, m_deadline) ||
+        (exists() && !readFile(m_path, wanted, reason, m_deadline)))
         return false;
     if (wanted.startsWith(content))
         content = wanted;
     return true;
-}
-
-bool SpareCopy::make(QString& reason) const
-{
-    const QString incomplete = m_path + ".new";
-    QByteArray content;
-    // Other users must not read it, not even before it has the rights of the file.
-    bool isMade = readFile(m_target, content, reason, m_deadline) &&
-                  writeFile(incomplete, QByteArray(), reason) &&
-                  QFile::setPermissions(incomplete, QFile::ReadOwner | QFile::WriteOwner) &&
-                  writeFile(incomplete, content, reason);
-    if (isMade && !copyRights(m_target, incomplete)) {
-        reason = systemError();
-        isMade = false;
-    }
-    if (isMade && adopt(incomplete, reason))
-        return true;
-    QFile::remove(incomplete);
-    return false;
 }
 
 bool SpareCopy::adopt(const QString& file, QString& reason) const

@@ -33,9 +33,6 @@ public:
     /// What the file holds once finish() has been called. False, with the reason, when it cannot be read.
     bool readFinished(QByteArray& content, QString& reason) const;
 
-    /// Makes one of what the file holds, with its rights. False, with the reason, when that is not possible.
-    bool make(QString& reason) const;
-
     /// Makes another file the spare copy. False, with the reason, when that is not possible.
     bool adopt(const QString& file, QString& reason) const;
 

@@ -55,6 +55,13 @@ QByteArray withoutMark(const QByteArray& text)
     return text.startsWith(Utf8Mark) ? text.mid(static_cast<int>(qstrlen(Utf8Mark))) : text;
 }
 
+std::unique_ptr<QSettings> open(const QString& copy)
+{
+    auto settings = std::make_unique<QSettings>(copy, QSettings::IniFormat);
+    ZelSettingsFile::UseFileEncoding(*settings);
+    return settings;
+}
+
 /// Removes the folder of a copy, and nothing that is not ours.
 void removeFolder(const QString& path)
 {
@@ -143,7 +150,7 @@ bool WorkingCopy::make(const QVariantMap& held, QString& reason)
     const QByteArray text = m_mustBeWritten ? withoutObjects(m_content) : m_content + EndText;
     if (!writeFile(m_copy, withoutMark(text), reason))
         return false;
-    m_settings = ZelSettingsFile::Open(m_copy);
+    m_settings = open(m_copy);
     if (!m_mustBeWritten && !m_settings->contains(EndKey)) {
         reason = SettingsFileText::tr("it cannot be read to its end");
         return false;
@@ -164,7 +171,7 @@ bool WorkingCopy::make(const QVariantMap& held, QString& reason)
 bool WorkingCopy::makeOf(const QVariantMap& values, QString& reason)
 {
     m_copy = nextName();
-    m_settings = ZelSettingsFile::Open(m_copy);
+    m_settings = open(m_copy);
     for (auto value = values.constBegin(); value != values.constEnd(); ++value)
         m_settings->setValue(value.key(), *value);
     m_settings->setValue(EndKey, true);
@@ -180,7 +187,7 @@ bool WorkingCopy::parse(const QByteArray& content, QVariantMap& values) const
     QString ignored;
     if (content.isNull() || !writeFile(name, withoutMark(content), ignored))
         return false;
-    values = valuesOf(*ZelSettingsFile::Open(name));
+    values = valuesOf(*open(name));
     return true;
 }
 
@@ -197,7 +204,7 @@ bool WorkingCopy::writeAndCompare(bool isExact, QString& reason)
     const QString former = m_copy;
     m_copy = nextName(); // QSettings answers from what it remembers of a name.
     const bool isThere = replaceFile(former, m_copy);
-    m_settings = ZelSettingsFile::Open(m_copy);
+    m_settings = open(m_copy);
     const QMap<QString, QString> present = textsOf(*m_settings);
     if (isThere && (isExact ? present == wanted : present.keys() == wanted.keys()))
         return true;
@@ -227,12 +234,9 @@ bool WorkingCopy::write(QString& reason)
 
 Outcome WorkingCopy::put(QString& reason)
 {
-    m_settings.reset();
-    const bool hasRights = !m_exists || copyRights(m_target, m_copy);
+    const bool hasRights = takeRights();
     if (!m_exists || (hasRights && SettingsFilesAreReplaced))
         return replace(reason);
-    if (!hasRights)
-        QFile::setPermissions(m_copy, QFile::ReadOwner | QFile::WriteOwner);
     const SpareCopy spare(m_target, m_lock.deadline());
     if (!spare.adopt(m_copy, reason))
         return Outcome::Failed;
@@ -244,6 +248,24 @@ Outcome WorkingCopy::put(QString& reason)
         (readFile(m_target, present, ignored, m_lock.deadline()) && present == m_content))
         spare.remove();
     return outcome;
+}
+
+bool WorkingCopy::putAside(const SpareCopy& spare, QString& reason)
+{
+    if (!m_exists || (takeRights() && spare.adopt(m_copy, reason)))
+        return true;
+    if (reason.isEmpty())
+        reason = systemError();
+    return false;
+}
+
+bool WorkingCopy::takeRights()
+{
+    m_settings.reset();
+    const bool hasRights = !m_exists || copyRights(m_target, m_copy);
+    if (!hasRights)
+        QFile::setPermissions(m_copy, QFile::ReadOwner | QFile::WriteOwner);
+    return hasRights;
 }
 
 Outcome WorkingCopy::replace(QString& reason) const

@@ -64,6 +64,10 @@ public:
     /// Lets the copy take the place of the settings file, with its rights.
     Outcome put(QString& reason);
 
+    /// Makes the copy the spare copy of the settings file, with its rights. False, with the reason, when that
+    /// is not possible. A file that does not exist needs none.
+    bool putAside(const SpareCopy& spare, QString& reason);
+
 private:
     Q_DISABLE_COPY(WorkingCopy)
 
@@ -73,6 +77,8 @@ private:
     /// Writes the values and reads them. False, with the reason, when they are not the same.
     /// @param isExact  compares more than the names
     bool writeAndCompare(bool isExact, QString& reason);
+    /// Gives the copy the rights of the settings file; if that is not possible, only its user has rights.
+    bool takeRights();
     Outcome replace(QString& reason) const;
 
     const SettingsLock& m_lock;

@@ -7,7 +7,6 @@
 #include "SettingsLock.h"
 #include "SettingsValidation.h"
 #include "SharedSettings.h"
-#include "SpareCopy.h"
 #include "WorkingCopy.h"
 
 #include <QSettings>
@@ -20,6 +19,7 @@ namespace zel {
 namespace {
 
 const int MaximumTries = 50; // Of a write, while others write the file.
+const int FinishTime = 500;  // ms; for a program that may be finishing a write just now.
 
 /// Lets pages see the copy while a change runs, also if it ends with an exception.
 class Visible
@@ -64,8 +64,7 @@ bool dropObjects(const QString& path, const Deadline& deadline, QString& reason)
 bool makeUsable(const QString& path, const Deadline& deadline, QByteArray& content, QString& reason,
                 QSettings* shared = nullptr)
 {
-    if (SpareCopy(resolvedPath(path), deadline).exists() &&
-        !SettingsLock(path, deadline).takeAndFinish(reason))
+    if (!finishKilledWrite(path, Deadline(FinishTime), reason))
         logWarning(QString("The write of \"%1\" that was cut short is not finished: %2").arg(path, reason));
     if (!readFile(path, content, reason, deadline))
         return false;
@@ -106,8 +105,8 @@ Outcome tryWrite(const QString& path, SharedSettings& shared, const ZelSettingsF
                       ? copy.put(reason)
                       : Outcome::Failed;
     lock.release();
-    return outcome != Outcome::InPlace || shared.readWritten(after, copy.content(), reason) ? outcome
-                                                                                            : Outcome::Failed;
+    return outcome != Outcome::InPlace || shared.readWritten(copy.content(), reason) ? outcome
+                                                                                     : Outcome::Failed;
 }
 
 /// ZelSettingsFile::Write() within a time.
@@ -150,8 +149,13 @@ bool readSafely(QSettings& settings, const QByteArray& content, Deadline& deadli
 
 std::unique_ptr<QSettings> ZelSettingsFile::Open(const QString& path)
 {
+    QByteArray content;
+    QString ignored;
+    const bool isRead = readFile(path, content, ignored);
     auto settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
     UseFileEncoding(*settings);
+    if (isRead)
+        setRead(*settings, content);
     return settings;
 }
 

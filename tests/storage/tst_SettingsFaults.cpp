@@ -3,6 +3,7 @@
 #include "QtTestCompat.h"
 #include "SettingsKeys.h"
 #include "SettingsMigration.h"
+#include "SharedSettings.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsRegistry.h"
 #include "ZelSettingsValidators.h"
@@ -491,6 +492,32 @@ private Q_SLOTS:
         settings->sync();
         QVERIFY2(contentOf(m_path).contains("[page]\nkey=8\n"), contentOf(m_path));
         QVERIFY2(contentOf(m_path).contains("[host]\nkey=9\n"), contentOf(m_path));
+    }
+
+    void olderValuesDoNotReplaceNewerOnes()
+    {
+        store(m_path, "[page]\na=1\nb=1\n" + Foreign);
+        auto settings = ZelSettingsFile::Open(m_path);
+        store(m_path, "[page]\na=1\nb=newer\n" + Foreign);
+        settings->setValue("page/a", 2);
+        const auto leavesGroup = [&](QSettings&, QString&) {
+            settings->beginGroup("page");
+            return true;
+        };
+        QVERIFY(ZelSettingsFile::Write(*settings, leavesGroup, error));
+        QVERIFY2(contentOf(m_path).contains("[page]\na=2\nb=newer\n"), contentOf(m_path));
+        QVERIFY2(holdsForeign(contentOf(m_path)), contentOf(m_path));
+        const auto givesUp = [&](QSettings&, QString&) {
+            settings->setValue("page/a", 3);
+            return false;
+        };
+        QVERIFY(!ZelSettingsFile::Write(*settings, givesUp, error));
+        settings->setValue("page/c", 1);
+        QVERIFY(hasPending(*settings) && write(*settings, {}) && contentOf(m_path).contains("c=1"));
+        QVERIFY(!ZelSettingsFile::Write(*settings, givesUp, error));
+        store(m_path, "[page]\na=latest\n");
+        settings.reset();
+        QCOMPARE(contentOf(m_path), QByteArray("[page]\na=latest\n"));
     }
 
     void endCheckSetsValues()

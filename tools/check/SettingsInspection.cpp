@@ -105,7 +105,8 @@ SettingsInspection::SettingsInspection(const QString& path)
 {
     QByteArray content;
     QString reason;
-    const SpareCopy spare(resolvedPath(path));
+    const Deadline deadline;
+    const SpareCopy spare(resolvedPath(path), deadline);
     if (!spare.readFinished(content, reason)) {
         refuseReading(path, reason, m_error);
         return;

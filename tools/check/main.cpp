@@ -4,7 +4,6 @@
 #include "SettingsKeys.h"
 #include "SettingsLock.h"
 #include "SettingsValidation.h"
-#include "SpareCopy.h"
 #include "ZelSettingsCatalogue.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsRegistry.h"
@@ -185,7 +184,7 @@ bool repair(const QString& path, SettingsInspection inspection, CheckReport& rep
         return false;
     }
     QString reason;
-    if (SpareCopy(resolvedPath(path)).exists() && !SettingsLock(path, Deadline()).takeAndFinish(reason))
+    if (!finishKilledWrite(path, Deadline(), reason))
         return refuseWriting(path, reason, report.error);
     // A validator that stops the pass would leave half of a repair in the file.
     if (!ZelSettingsFile::IsUsable(path, report.error) || !createFolders(path, report.error))
