@@ -35,13 +35,14 @@ public:
     {
         m_stored = storedModel();
         applyModel(m_stored);
-        m_loaded = m_applied = currentModel();
+        m_loaded = currentModel();
         m_isLoaded = true;
+        m_isDiscarded = false;
         checkContent();
     }
 
     /// True when the widgets differ from the stored values.
-    bool hasModifications() const override { return differsFrom(storedModel()); }
+    bool hasModifications() const override { return !isDiscarded() && differsFrom(storedModel()); }
 
     /// Takes what others have stored, passes the edits to the running application, then stores them. Returns
     /// shouldRestart().
@@ -54,7 +55,6 @@ public:
         // Before saving, because shouldRestart() compares with the stored values.
         const bool restart = shouldRestart();
         saveSettingsInternal();
-        m_applied = currentModel();
         checkContent();
         return restart;
     }
@@ -82,33 +82,31 @@ public:
     {
         if (!m_isLoaded)
             return;
-        const Model stored = storedModel(), current = currentModel();
+        const Model stored = storedModel();
+        const Fields edited = editedFields();
+        const auto isEdited = [&](const Field& field) { return contains(edited, field); };
+        const auto isNew = [&](const Field& field) { return !field.isSame(stored, m_stored); };
         Fields changed;
-        for (const Field* field : m_fields) {
-            if (field->isSame(stored, m_applied)) // The last Apply has been written.
-                field->copy(m_loaded, m_applied);
-            if (field->isSame(stored, current))
-                field->copy(m_loaded, current);
-        }
         for (const Row& row : m_rows) {
-            const auto isUnedited = [&](const Field& field) { return field.isSame(current, m_loaded); };
-            const bool isChanged = std::any_of(row.fields.begin(), row.fields.end(), [&](const Field& field) {
-                return isUnedited(field) && !field.isSame(stored, m_stored);
-            });
             // What one field shows may depend on the others of its row.
-            for (const Field& field : row.fields)
-                if (isChanged && isUnedited(field))
+            const bool isChanged = std::any_of(row.fields.begin(), row.fields.end(), [&](const Field& field) {
+                return isNew(field) && !isEdited(field);
+            });
+            for (const Field& field : row.fields) {
+                if (isEdited(field) && isNew(field))
+                    field.copy(m_loaded, stored); // From now on an edit of that, or none.
+                if (isChanged && !isEdited(field))
                     changed.push_back(&field);
+            }
         }
         m_stored = stored;
         if (changed.empty())
             return;
+        m_isDiscarded = false;
         fill(stored, changed);
         const Model shown = currentModel();
-        for (const Field* field : changed) {
+        for (const Field* field : changed)
             field->copy(m_loaded, shown);
-            field->copy(m_applied, shown);
-        }
         checkContent();
     }
 
@@ -137,7 +135,7 @@ public:
             const ZelSettingHelp* help = m_help->setting(row.help.fields.first());
             ZelPendingEdit edit = {help->name, row.text(stored), row.text(current),
                                    widgetToEdit(row, current, stored), nullptr};
-            if (!row.fixed)
+            if (!row.fixed && isEdited(row))
                 edit.putBack = [take = help->take] { take(StoredValue); };
             if (edit.stored == edit.shown) {
                 edit.stored = edited->text(stored);
@@ -151,17 +149,22 @@ public:
     }
 
     /// See ZelPageEdits.
-    std::function<void()> copyOfEdits() override
+    std::function<void()> discardEdits() override
     {
-        const Model current = currentModel();
-        Fields edited;
-        for (const Field* field : m_fields)
-            if (!field->isSame(current, m_loaded))
-                edited.push_back(field);
-        if (edited.empty())
+        if (!hasModifications() && editedFields().empty())
             return nullptr;
-        return [this, current, edited] {
-            fill(current, edited);
+        const Model discarded = currentModel();
+        const Fields edited = editedFields();
+        initializeWidget();
+        m_isDiscarded = true;
+        return [this, discarded, edited] {
+            m_isDiscarded = false;
+            const Fields newer = editedFields();
+            Fields again;
+            for (const Field* field : edited)
+                if (!contains(newer, *field))
+                    again.push_back(field);
+            fill(discarded, again);
             onEdited();
         };
     }
@@ -274,6 +277,10 @@ protected:
     /// True when the pending edits need a restart to take effect.
     virtual bool shouldRestart() const { return false; }
 
+    /// True after discardEdits() until the next edit: stored values that the widgets cannot show stay as they
+    /// are.
+    bool isDiscarded() const { return m_isDiscarded && editedFields().empty(); }
+
     /// Enables or disables the reset button.
     void checkContent() const
     {
@@ -307,6 +314,33 @@ private:
     Model valuesOf(ZelSettingSource source) const
     {
         return source == StoredValue ? storedModel() : defaultModel();
+    }
+
+    static bool contains(const Fields& fields, const Field& field)
+    {
+        return std::find(fields.begin(), fields.end(), &field) != fields.end();
+    }
+
+    bool isEdited(const Row& row) const
+    {
+        const Model current = currentModel();
+        return std::any_of(row.fields.begin(), row.fields.end(),
+                           [&](const Field& field) { return !field.isSame(current, m_loaded); });
+    }
+
+    /// The fields with an edit, and those of the same keys: values that are stored as one are edited as one.
+    Fields editedFields() const
+    {
+        const Model current = currentModel();
+        QStringList keys;
+        for (const Field* field : m_fields)
+            if (!field->isSame(current, m_loaded))
+                keys << field->key;
+        Fields edited;
+        for (const Field* field : m_fields)
+            if (keys.contains(field->key))
+                edited.push_back(field);
+        return edited;
     }
 
     /// True when a value of the page that counts in the widgets differs.
@@ -413,10 +447,11 @@ private:
     std::vector<Row> m_rows; ///< Stays where it is after setRows(), so that the help can refer to it.
     Fields m_fields;         ///< Of all rows, in the order in which they are stored.
     ZelPageHelp* m_help = nullptr;
-    Model m_stored;  ///< What was stored when the widgets were last filled from it.
-    Model m_loaded;  ///< What the widgets have shown then.
-    Model m_applied; ///< What they have shown at the last Apply, which may not have been written.
+    Model m_stored; ///< What was stored when that was last looked at.
+    Model
+        m_loaded; ///< What the widgets have shown of it; of what has changed under an edit, the stored value.
     bool m_isLoaded = false;
+    bool m_isDiscarded = false; ///< All edits up to now.
 };
 
 } // namespace zel

@@ -2,7 +2,6 @@
 
 #include "LanguageFollower.h"
 #include "VerticalArea.h"
-#include "ZelPageEdits.h"
 #include "ZelSettingsPanel.h"
 
 #include <QCoreApplication>
@@ -14,7 +13,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <vector>
 
 namespace zel {
 
@@ -112,17 +110,6 @@ private:
     ZelPendingEdit m_edit;
 };
 
-std::vector<ZelPendingEdit> editsOf(const QList<QPointer<ZelSettingsPanel>>& pages)
-{
-    std::vector<ZelPendingEdit> all;
-    for (const QPointer<ZelSettingsPanel>& page : pages) {
-        auto* edits = dynamic_cast<ZelPageEdits*>(page.data());
-        for (const ZelPendingEdit& edit : edits ? edits->pendingEdits() : std::vector<ZelPendingEdit>())
-            all.push_back(edit);
-    }
-    return all;
-}
-
 } // namespace
 
 PendingList::PendingList(QWidget* parent)
@@ -187,10 +174,29 @@ void PendingList::setTexts()
 
 void PendingList::refresh()
 {
-    const auto edits = editsOf(m_pages);
+    m_canApply = std::any_of(m_pages.begin(), m_pages.end(), [](const QPointer<ZelSettingsPanel>& page) {
+        return page && page->hasModifications();
+    });
+    showEdits();
+}
+
+void PendingList::onEdited()
+{
+    if (m_canApply)
+        showEdits();
+}
+
+void PendingList::showEdits()
+{
+    m_edits.clear();
     QStringList texts;
-    for (const ZelPendingEdit& edit : edits)
-        texts << textOf(edit);
+    for (const QPointer<ZelSettingsPanel>& page : m_pages) {
+        auto* edits = dynamic_cast<ZelPageEdits*>(page.data());
+        for (const ZelPendingEdit& edit : edits ? edits->pendingEdits() : std::vector<ZelPendingEdit>()) {
+            m_edits.push_back({page, edit});
+            texts << textOf(edit);
+        }
+    }
     if (texts == m_shown)
         return;
     m_shown = texts;
@@ -204,10 +210,7 @@ void PendingList::refresh()
     while (m_lines->count() < count)
         addRow();
     for (int i = 0; i < count; ++i)
-        showEdit(i, edits[static_cast<std::size_t>(i)]);
-    m_discard->setVisible(std::any_of(edits.begin(), edits.end(), [](const ZelPendingEdit& edit) {
-        return static_cast<bool>(edit.putBack);
-    }));
+        showEdit(i, m_edits[static_cast<std::size_t>(i)].second);
     setVisible(count > 0);
 }
 
@@ -251,19 +254,24 @@ void PendingList::addRow()
 
 bool PendingList::goToField(int line)
 {
-    const auto edits = editsOf(m_pages);
-    QWidget* field = line < static_cast<int>(edits.size()) ? edits[line].field : nullptr;
-    if (field)
-        field->setFocus(Qt::OtherFocusReason);
-    return field;
+    const ZelPendingEdit edit = editAt(line);
+    if (edit.field)
+        edit.field->setFocus(Qt::OtherFocusReason);
+    return edit.field;
 }
 
 void PendingList::putBack(int line)
 {
-    const auto edits = editsOf(m_pages); // The focus may take in what is typed, and so add a line.
-    goToField(line);                     // The line goes away, and the focus with it.
-    if (line < static_cast<int>(edits.size()) && edits[line].putBack)
-        edits[line].putBack();
+    const ZelPendingEdit edit = editAt(line); // The focus may take in what is typed, and so add a line.
+    goToField(line);                          // The line goes away, and the focus with it.
+    if (edit.putBack)
+        edit.putBack();
+}
+
+ZelPendingEdit PendingList::editAt(int line) const
+{
+    const bool isShown = line < static_cast<int>(m_edits.size()) && m_edits[line].first;
+    return isShown ? m_edits[line].second : ZelPendingEdit();
 }
 
 void PendingList::discard()

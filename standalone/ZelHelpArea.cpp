@@ -115,7 +115,7 @@ void ZelHelpArea::watchPages(QWidget* tree)
     const QList<ZelPageHelp*> pages = tree->findChildren<ZelPageHelp*>();
     for (ZelPageHelp* page : pages) {
         connect(page, SIGNAL(reached(QWidget*)), this, SLOT(onReached(QWidget*)));
-        connect(page, SIGNAL(edited()), this, SLOT(refresh()));
+        connect(page, SIGNAL(edited()), this, SLOT(onEdited()));
         connect(page, SIGNAL(helpRequested(QWidget*)), this, SLOT(showHelp(QWidget*)));
         m_pages << page;
         // Buttons such as Reset change a page without an edit in a field.
@@ -178,6 +178,15 @@ void ZelHelpArea::refresh()
     reserveHeight();
 }
 
+void ZelHelpArea::onEdited()
+{
+    if (!m_help)
+        return;
+    m_card->refresh();
+    m_pending->onEdited();
+    reserveHeight();
+}
+
 void ZelHelpArea::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
@@ -193,7 +202,7 @@ void ZelHelpArea::onReached(QWidget* field)
 
 void ZelHelpArea::onFocusChanged(QWidget*, QWidget* current)
 {
-    if (!m_help || !ZelHelpCard::HelpOn(current))
+    if (!m_help || !ZelPageHelp::HelpOn(current))
         return;
     m_rest->stop();
     showHelpOn(current, *m_card, *m_cardArea);

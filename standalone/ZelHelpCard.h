@@ -39,9 +39,6 @@ public:
     /// The height of a wrapped text of the card.
     int textHeight(const QString& text, int width) const;
 
-    /// The help on a field of a page. Null for any other widget.
-    static const ZelSettingHelp* HelpOn(const QWidget* field);
-
 public Q_SLOTS:
     /// Reads what the card shows again, after a value has changed.
     void refresh();

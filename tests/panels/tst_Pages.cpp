@@ -155,10 +155,9 @@ private Q_SLOTS:
                  QString("Cache size: 700 Mo, 512 Mo"));
         QCOMPARE(edits[0].field, page.find("databaseSpinBox"));
 
-        const auto makeAgain = page.page.copyOfEdits();
-        page.page.initializeWidget();
+        const auto makeAgain = page.page.discardEdits();
         QVERIFY(!page.page.hasModifications() && page.page.pendingEdits().empty() &&
-                !page.page.copyOfEdits());
+                !page.page.discardEdits());
         makeAgain();
         store(settings(), {{keys::ScreenshotFolder, "/newer"}});
         page.page.applyModifications();
@@ -232,9 +231,7 @@ private Q_SLOTS:
             }
             QCOMPARE(m_application->manager.ratios.first(), (std::vector<float>{1.f, .7f, .6f, .6f, .1f}));
             page.type("ratio5", "70"); // Above level 3: what is made again is as it was.
-            const auto makeAgain = page.page.copyOfEdits();
-            page.page.initializeWidget();
-            makeAgain();
+            page.page.discardEdits()();
             page.page.applyModifications();
             QCOMPARE(stored(keys::SimplificationRatios), QString("1/0.2/0.2/0.7/0.7"));
         }
