@@ -19,7 +19,7 @@ namespace zel {
 namespace {
 
 const int LeastHeightOfLines = 60;   // pixels, for two lines
-const int CompactHeightOfLines = 88; // pixels, for three
+const int CompactHeightOfLines = 96; // pixels, for a long line and a short one
 const int LineInset = 4;             // pixels, padding and border of a line
 
 // An application's own sheet may give all widgets a background.

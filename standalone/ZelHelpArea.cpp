@@ -26,9 +26,11 @@ const int RestTime = 400; // ms
 // In pixels.
 const int MinimumWidth = 310; // fits the longest words of all languages, also beside a scroll bar
 const int MinimumHeight = 220;
+const int MinimumListHeight = 120; // without the help
 const int Margin = 12;
 const int ColumnMargin = 8;
 const int OpenedWidth = 340;
+const int OpenedBorder = 1;
 const int MaximumWidth = 520;
 const int MinimumCardHeight = 100;
 
@@ -160,7 +162,7 @@ void ZelHelpArea::showHelp(QWidget* field)
     if (!m_help)
         return;
     showHelpOn(field, *m_card, *m_cardArea);
-    if (field && m_help->isHidden())
+    if (field && (m_help->isHidden() || m_cardArea->isHidden()))
         openAt(*field);
 }
 
@@ -224,21 +226,24 @@ void ZelHelpArea::place()
     if (!m_help)
         return;
     const bool beside = roomOf(*this) >= MinimumWidth;
-    const bool inColumn = !beside && freeHeightOfColumn() >= MinimumHeight;
+    const int height = beside ? 0 : freeHeightOfColumn();
+    const bool inColumn = height >= MinimumListHeight;
     if (m_columnHost && inColumn) {
-        const int height = freeHeightOfColumn();
         // A column that slides clips what is in it.
         m_columnHost->setGeometry(0, m_columnHost->parentWidget()->height() - height, m_above->width(),
                                   height);
     }
     if (beside)
         put(m_areaLayout, false);
+    const bool hasHelp = beside || height >= MinimumHeight;
+    m_cardArea->setVisible(hasHelp);
+    m_pending->setCompact(inColumn && hasHelp);
     m_help->setVisible(beside || (inColumn && m_columnLayout->indexOf(m_help) >= 0));
     if (m_columnHost)
         m_columnHost->setVisible(inColumn);
     for (const QPointer<ZelPageHelp>& page : m_pages)
         if (page)
-            page->setHelpAreaVisible(beside || inColumn);
+            page->setHelpAreaVisible(hasHelp);
 }
 
 void ZelHelpArea::moveToColumn()
@@ -254,7 +259,6 @@ void ZelHelpArea::put(QBoxLayout* layout, bool compact)
     if (layout->indexOf(m_help) < 0)
         layout->addWidget(m_help);
     m_card->setCompact(compact);
-    m_pending->setCompact(compact);
 }
 
 void ZelHelpArea::reserveHeight()
@@ -310,7 +314,7 @@ void ZelHelpArea::openAt(QWidget& field)
     opened->setObjectName("openedHelp");
     opened->setStyleSheet("#openedHelp { background: rgb(237,237,237); border: 1px solid rgb(69,68,229); }");
     auto* layout = new QVBoxLayout(opened);
-    layout->setContentsMargins(1, 1, 1, 1);
+    layout->setContentsMargins(OpenedBorder, OpenedBorder, OpenedBorder, OpenedBorder);
     auto* card = new ZelHelpCard(opened);
     layout->addWidget(card);
     card->setField(&field);
@@ -323,9 +327,8 @@ void ZelHelpArea::openAt(QWidget& field)
         connect(page, SIGNAL(edited()), card, SLOT(refresh()));
         connect(page->parent(), SIGNAL(stateChanged()), card, SLOT(refresh()));
     }
-    opened->setFixedWidth(OpenedWidth);
     opened->ensurePolished();
-    opened->resize(OpenedWidth, layout->heightForWidth(OpenedWidth));
+    opened->setFixedSize(OpenedWidth, card->neededHeight(OpenedWidth - 2 * OpenedBorder) + 2 * OpenedBorder);
     const QRect screen = QApplication::desktop()->availableGeometry(&field);
     const QPoint below = field.mapToGlobal(QPoint(0, field.height() + 2));
     const QPoint above = field.mapToGlobal(QPoint(0, -opened->height() - 2));

@@ -89,6 +89,11 @@ int ZelHelpCard::heightOf(const ZelSettingHelp& help, int width)
     showHelp(help);
     m_ui->factsFrame->show();
     m_ui->actionsFrame->show();
+    return neededHeight(width);
+}
+
+int ZelHelpCard::neededHeight(int width) const
+{
     for (QWidget* child : findChildren<QWidget*>())
         child->ensurePolished();
     return layout()->totalHeightForWidth(width);

@@ -34,6 +34,8 @@ public:
     void setCompact(bool compact);
     bool isCompact() const;
 
+    /// The height of what the card shows.
+    int neededHeight(int width) const;
     /// Shows a help. Returns the height that it takes.
     int heightOf(const ZelSettingHelp& help, int width);
     /// The height of a wrapped text of the card.
