@@ -30,7 +30,7 @@ const int MinimumListHeight = 120; // without the help
 const int Margin = 12;
 const int ColumnMargin = 8;
 const int OpenedWidth = 340;
-const int OpenedBorder = 1;
+const int OpenedBorder = 1; // as in its style sheet
 const int MaximumWidth = 520;
 const int MinimumCardHeight = 100;
 
@@ -314,7 +314,7 @@ void ZelHelpArea::openAt(QWidget& field)
     opened->setObjectName("openedHelp");
     opened->setStyleSheet("#openedHelp { background: rgb(237,237,237); border: 1px solid rgb(69,68,229); }");
     auto* layout = new QVBoxLayout(opened);
-    layout->setContentsMargins(OpenedBorder, OpenedBorder, OpenedBorder, OpenedBorder);
+    layout->setContentsMargins(0, 0, 0, 0);
     auto* card = new ZelHelpCard(opened);
     layout->addWidget(card);
     card->setField(&field);
