@@ -141,7 +141,7 @@ PendingList::PendingList(QWidget* parent)
     m_area = new VerticalArea(lines, LeastHeightOfLines, this);
     m_area->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     layout->addWidget(m_area);
-    connect(m_discard, SIGNAL(clicked()), this, SLOT(discard()));
+    connect(m_discard, SIGNAL(clicked()), this, SIGNAL(discardRequested()));
     connect(m_goTo, SIGNAL(mapped(int)), this, SLOT(goToField(int)));
     connect(m_putBack, SIGNAL(mapped(int)), this, SLOT(putBack(int)));
     hide();
@@ -188,19 +188,26 @@ void PendingList::onEdited()
 
 void PendingList::showEdits()
 {
-    m_edits.clear();
+    decltype(m_edits) edits;
     QStringList texts;
     for (const QPointer<ZelSettingsPanel>& page : m_pages) {
-        auto* edits = dynamic_cast<ZelPageEdits*>(page.data());
-        for (const ZelPendingEdit& edit : edits ? edits->pendingEdits() : std::vector<ZelPendingEdit>()) {
-            m_edits.push_back({page, edit});
+        auto* pending = dynamic_cast<ZelPageEdits*>(page.data());
+        for (const ZelPendingEdit& edit : pending ? pending->pendingEdits() : std::vector<ZelPendingEdit>()) {
+            edits.push_back({page, edit});
             texts << textOf(edit);
         }
     }
+    const int count = texts.size();
+    for (int line = count; line < m_lines->count(); ++line) {
+        const bool takesFocusAway =
+            m_lines->itemAt(line)->widget()->isAncestorOf(focusWidget()) || (!count && m_discard->hasFocus());
+        if (takesFocusAway && goToField(line))
+            break;
+    }
+    m_edits = edits;
     if (texts == m_shown)
         return;
     m_shown = texts;
-    const int count = texts.size();
     while (m_lines->count() > count) {
         // Later, because the line may be sending the click that has led here.
         const std::unique_ptr<QLayoutItem> item(m_lines->takeAt(m_lines->count() - 1));
@@ -272,13 +279,6 @@ ZelPendingEdit PendingList::editAt(int line) const
 {
     const bool isShown = line < static_cast<int>(m_edits.size()) && m_edits[line].first;
     return isShown ? m_edits[line].second : ZelPendingEdit();
-}
-
-void PendingList::discard()
-{
-    for (int line = 0; line < m_lines->count() && !goToField(line); ++line)
-        ;
-    Q_EMIT discardRequested();
 }
 
 } // namespace zel

@@ -50,7 +50,6 @@ private Q_SLOTS:
     /// False when the field of the line is hidden.
     bool goToField(int line);
     void putBack(int line);
-    void discard();
 
 private:
     void showEdits();
