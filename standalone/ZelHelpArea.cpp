@@ -267,7 +267,9 @@ void ZelHelpArea::reserveHeight()
     if (width == m_reservedWidth)
         return;
     m_reservedWidth = width;
-    m_cardArea->setMaximumHeight(width ? heightOfLongestHelp(width) : QWIDGETSIZE_MAX);
+    // Beside a scroll bar, which would keep itself: a text may need another line because of it.
+    const int textWidth = width - m_cardArea->verticalScrollBar()->sizeHint().width();
+    m_cardArea->setMaximumHeight(width ? heightOfLongestHelp(textWidth) : QWIDGETSIZE_MAX);
 }
 
 int ZelHelpArea::heightOfLongestHelp(int width) const
