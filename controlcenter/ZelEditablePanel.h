@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace zel {
@@ -34,9 +35,9 @@ public:
     void initializeWidget() override
     {
         m_stored = storedModel();
-        applyModel(m_stored);
+        applyModel(*m_stored);
         m_loaded = currentModel();
-        m_isLoaded = true;
+        m_applied.reset();
         m_isDiscarded = false;
         checkContent();
     }
@@ -55,6 +56,7 @@ public:
         // Before saving, because shouldRestart() compares with the stored values.
         const bool restart = shouldRestart();
         saveSettingsInternal();
+        m_applied = currentModel();
         checkContent();
         return restart;
     }
@@ -77,26 +79,30 @@ public:
     /// Does nothing: applyModifications() saves.
     virtual void saveSettings() {}
 
+    /// @{
     /// See ZelPageEdits.
     void takeStored() override
     {
-        if (!m_isLoaded)
+        if (!m_stored) // Not loaded yet.
             return;
         const Model stored = storedModel();
+        for (const Field* field : m_fields)
+            if (m_applied && field->isSame(stored, *m_applied)) // The last Apply has been written.
+                field->copy(m_loaded, *m_applied);
+        m_applied.reset();
         const Fields edited = editedFields();
-        const auto isEdited = [&](const Field& field) { return contains(edited, field); };
-        const auto isNew = [&](const Field& field) { return !field.isSame(stored, m_stored); };
+        const auto isNew = [&](const Field& field) { return !field.isSame(stored, *m_stored); };
         Fields changed;
         for (const Row& row : m_rows) {
             // What one field shows may depend on the others of its row.
             const bool isChanged = std::any_of(row.fields.begin(), row.fields.end(), [&](const Field& field) {
-                return isNew(field) && !isEdited(field);
+                return isNew(field) && !contains(edited, field);
             });
             for (const Field& field : row.fields) {
-                if (isEdited(field) && isNew(field))
-                    field.copy(m_loaded, stored); // From now on an edit of that, or none.
-                if (isChanged && !isEdited(field))
+                if (!contains(edited, field) && isChanged)
                     changed.push_back(&field);
+                else if (isNew(field))
+                    field.copy(m_loaded, stored); // From now on an edit of that, or none.
             }
         }
         m_stored = stored;
@@ -110,45 +116,32 @@ public:
         checkContent();
     }
 
-    /// See ZelPageEdits.
     void pushStored() override
     {
         if (hasModifications())
             pushToApplication(storedModel());
     }
 
-    /// See ZelPageEdits.
     std::vector<ZelPendingEdit> pendingEdits() override
     {
         std::vector<ZelPendingEdit> edits;
         if (!hasModifications())
             return edits;
         const Model stored = storedModel(), current = currentModel();
+        const Fields edited = editedFields();
         for (const Row& row : m_rows) {
-            // Apply also stores edits that have no effect now, such as those of another engine.
-            const auto edited = std::find_if(row.fields.begin(), row.fields.end(), [&](const Field& field) {
-                return !field.isSame(current, stored) &&
-                       (field.counts(current) || !field.isSame(current, m_loaded));
-            });
-            if (edited == row.fields.end())
-                continue;
-            const ZelSettingHelp* help = m_help->setting(row.help.fields.first());
-            ZelPendingEdit edit = {help->name, row.text(stored), row.text(current),
-                                   widgetToEdit(row, current, stored), nullptr};
-            if (!row.fixed && isEdited(row))
-                edit.putBack = [take = help->take] { take(StoredValue); };
-            if (edit.stored == edit.shown) {
-                edit.stored = edited->text(stored);
-                edit.shown = edited->text(current);
+            for (const Field& field : row.fields) {
+                // Apply also stores edits that have no effect now, such as those of another engine.
+                const bool isEdited = contains(edited, field);
+                if (field.isSame(current, stored) || (!isEdited && !field.counts(current)))
+                    continue;
+                edits.push_back(pendingEdit(row, field, stored, current, isEdited));
+                break; // A row is one setting.
             }
-            if (edit.stored == edit.shown) // The field cannot show what is stored.
-                edit.stored = settings().value(edited->key).toString();
-            edits.push_back(edit);
         }
         return edits;
     }
 
-    /// See ZelPageEdits.
     std::function<void()> discardEdits() override
     {
         if (!hasModifications() && editedFields().empty())
@@ -168,6 +161,7 @@ public:
             onEdited();
         };
     }
+    /// @}
 
 protected:
     /// One setting of the page.
@@ -321,13 +315,6 @@ private:
         return std::find(fields.begin(), fields.end(), &field) != fields.end();
     }
 
-    bool isEdited(const Row& row) const
-    {
-        const Model current = currentModel();
-        return std::any_of(row.fields.begin(), row.fields.end(),
-                           [&](const Field& field) { return !field.isSame(current, m_loaded); });
-    }
-
     /// The fields with an edit, and those of the same keys: values that are stored as one are edited as one.
     Fields editedFields() const
     {
@@ -363,21 +350,8 @@ private:
             field->copy(model, from);
             field->show(from);
         }
-        // QAbstractButton lets only the checked button of a choice take the focus, but not when it is filled.
-        for (const Row& row : m_rows) {
-            QWidget* checked = nullptr;
-            bool hasFocus = false;
-            for (QWidget* widget : row.help.fields) {
-                const auto* button = qobject_cast<QRadioButton*>(widget);
-                if (!button)
-                    continue;
-                widget->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
-                checked = button->isChecked() ? widget : checked;
-                hasFocus = hasFocus || button->hasFocus();
-            }
-            if (hasFocus && checked)
-                checked->setFocus();
-        }
+        for (const Row& row : m_rows)
+            letCheckedTakeFocus(row.help.fields);
         onFilled(model);
     }
 
@@ -397,6 +371,24 @@ private:
             }
         }
         return other;
+    }
+
+    /// @param field  a field of the row in which the two models differ
+    ZelPendingEdit pendingEdit(const Row& row, const Field& field, const Model& stored, const Model& current,
+                               bool isEdited)
+    {
+        const ZelSettingHelp* help = m_help->setting(row.help.fields.first());
+        ZelPendingEdit edit = {help->name, row.text(stored), row.text(current),
+                               widgetToEdit(row, current, stored), nullptr};
+        if (!row.fixed && isEdited)
+            edit.putBack = [take = help->take] { take(StoredValue); };
+        if (edit.stored == edit.shown) {
+            edit.stored = field.text(stored);
+            edit.shown = field.text(current);
+        }
+        if (edit.stored == edit.shown) // The field cannot show what is stored.
+            edit.stored = settings().value(field.key).toString();
+        return edit;
     }
 
     void takeRows(const std::vector<Row>& rows)
@@ -447,11 +439,10 @@ private:
     std::vector<Row> m_rows; ///< Stays where it is after setRows(), so that the help can refer to it.
     Fields m_fields;         ///< Of all rows, in the order in which they are stored.
     ZelPageHelp* m_help = nullptr;
-    Model m_stored; ///< What was stored when that was last looked at.
-    Model
-        m_loaded; ///< What the widgets have shown of it; of what has changed under an edit, the stored value.
-    bool m_isLoaded = false;
-    bool m_isDiscarded = false; ///< All edits up to now.
+    std::optional<Model> m_stored;  ///< What was stored when that was last looked at.
+    Model m_loaded;                 ///< What the widgets have shown of it; under an edit, the stored value.
+    std::optional<Model> m_applied; ///< What Apply has stored since, which may not have been written.
+    bool m_isDiscarded = false;     ///< All edits up to now.
 };
 
 } // namespace zel

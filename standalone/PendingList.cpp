@@ -21,6 +21,7 @@ namespace {
 const int LeastHeightOfLines = 60;   // pixels, for two lines
 const int CompactHeightOfLines = 96; // pixels, for a long line and a short one
 const int LineInset = 4;             // pixels, padding and border of a line
+const int Inset = 12;                // pixels, left and right of all texts
 
 // An application's own sheet may give all widgets a background.
 const char* const Style =
@@ -110,6 +111,18 @@ private:
     ZelPendingEdit m_edit;
 };
 
+/// In which the lines scroll.
+QScrollArea* newArea(QVBoxLayout* lines, QWidget* parent)
+{
+    auto* content = new QWidget;
+    content->setLayout(lines);
+    lines->setContentsMargins(Inset - LineInset, 0, Inset - LineInset, 0);
+    lines->setSpacing(0);
+    auto* area = new VerticalArea(content, LeastHeightOfLines, parent);
+    area->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    return area;
+}
+
 } // namespace
 
 PendingList::PendingList(QWidget* parent)
@@ -117,29 +130,23 @@ PendingList::PendingList(QWidget* parent)
     , m_title(new QLabel(this))
     , m_discard(new QPushButton(this))
     , m_lines(new QVBoxLayout)
+    , m_area(newArea(m_lines, this))
     , m_goTo(new QSignalMapper(this))
     , m_putBack(new QSignalMapper(this))
 {
     setObjectName("pendingList");
     setStyleSheet(Style);
-    const int inset = 12;
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 8, 0, 8);
-    layout->setSpacing(2);
-    auto* heading = new QHBoxLayout;
-    heading->setContentsMargins(inset, 0, inset, 0);
     m_title->setTextFormat(Qt::PlainText);
     m_title->setWordWrap(true);
     m_discard->setObjectName("discardButton");
+    auto* heading = new QHBoxLayout;
+    heading->setContentsMargins(Inset, 0, Inset, 0);
     heading->addWidget(m_title, 1);
     heading->addWidget(m_discard);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 8, 0, 8);
+    layout->setSpacing(2);
     layout->addLayout(heading);
-    auto* lines = new QWidget;
-    lines->setLayout(m_lines);
-    m_lines->setContentsMargins(inset - LineInset, 0, inset - LineInset, 0);
-    m_lines->setSpacing(0);
-    m_area = new VerticalArea(lines, LeastHeightOfLines, this);
-    m_area->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     layout->addWidget(m_area);
     connect(m_discard, SIGNAL(clicked()), this, SIGNAL(discardRequested()));
     connect(m_goTo, SIGNAL(mapped(int)), this, SLOT(goToField(int)));
@@ -197,28 +204,31 @@ void PendingList::showEdits()
             texts << textOf(edit);
         }
     }
-    const int count = texts.size();
-    for (int line = count; line < m_lines->count(); ++line) {
-        const bool takesFocusAway =
-            m_lines->itemAt(line)->widget()->isAncestorOf(focusWidget()) || (!count && m_discard->hasFocus());
-        if (takesFocusAway && goToField(line))
-            break;
-    }
+    moveFocusBefore(texts.size());
     m_edits = edits;
     if (texts == m_shown)
         return;
     m_shown = texts;
-    while (m_lines->count() > count) {
+    while (m_lines->count() > texts.size()) {
         // Later, because the line may be sending the click that has led here.
         const std::unique_ptr<QLayoutItem> item(m_lines->takeAt(m_lines->count() - 1));
         item->widget()->hide();
         item->widget()->deleteLater();
     }
-    while (m_lines->count() < count)
+    while (m_lines->count() < texts.size())
         addRow();
-    for (int i = 0; i < count; ++i)
-        showEdit(i, m_edits[static_cast<std::size_t>(i)].second);
-    setVisible(count > 0);
+    for (int line = 0; line < texts.size(); ++line)
+        showEdit(line, editAt(line));
+    setVisible(!texts.isEmpty());
+}
+
+void PendingList::moveFocusBefore(int count)
+{
+    for (int line = count; line < m_lines->count(); ++line) {
+        const bool hasFocus = m_lines->itemAt(line)->widget()->isAncestorOf(focusWidget());
+        if ((hasFocus || (!count && m_discard->hasFocus())) && goToField(line))
+            return;
+    }
 }
 
 void PendingList::showEdit(int row, const ZelPendingEdit& edit)

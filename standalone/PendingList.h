@@ -53,6 +53,8 @@ private Q_SLOTS:
 
 private:
     void showEdits();
+    /// Moves the focus from a line that goes away, because there are only so many edits, to its field.
+    void moveFocusBefore(int count);
     void addRow();
     /// An edit without field and function when its page is gone.
     ZelPendingEdit editAt(int line) const;
@@ -63,7 +65,7 @@ private:
     QLabel* const m_title;
     QPushButton* const m_discard;
     QVBoxLayout* const m_lines;
-    QScrollArea* m_area; ///< In which the lines scroll.
+    QScrollArea* const m_area; ///< In which the lines scroll.
     QSignalMapper* const m_goTo;
     QSignalMapper* const m_putBack;
     /// The lines, each with its page.

@@ -174,9 +174,14 @@ private Q_SLOTS:
         page.type("databaseSpinBox", "512");
         page.page.applyModifications();
         page.page.takeStored();
-        store(settings(), {{keys::CacheSize, "800"}});
-        page.page.takeStored();
-        QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->value(), 800);
+        for (const char* size : {"800", "512"}) { // Also what the page has stored before.
+            store(settings(), {{keys::CacheSize, size}});
+            page.page.takeStored();
+            QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->text(), size + QString(" Mo"));
+        }
+        page.type("databaseSpinBox", "600");
+        makeAgain(); // Not over a newer edit.
+        QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->value(), 600);
 
         Import import(nullptr, settings());
         import.click("sag"); // The choice is edited, but not the value.
@@ -234,6 +239,10 @@ private Q_SLOTS:
             page.page.discardEdits()();
             page.page.applyModifications();
             QCOMPARE(stored(keys::SimplificationRatios), QString("1/0.2/0.2/0.7/0.7"));
+            page.type("ratio5", "60"); // The levels are edited together.
+            store(settings(), {{keys::SimplificationRatios, "1/0.9/0.1/0.1/0.1"}});
+            page.page.applyModifications();
+            QCOMPARE(stored(keys::SimplificationRatios), QString("1/0.2/0.2/0.7/0.6"));
         }
         registerDefaults({}); // Without them the page keeps what it shows.
         settings().remove(keys::SimplificationRatios);
