@@ -94,8 +94,8 @@ bool WindowGeometry::eventFilter(QObject*, QEvent* event)
     const QEvent::Type type = event->type();
     if (type == QEvent::Show || type == QEvent::Paint)
         m_isBeingPlaced = type == QEvent::Show;
-    // At a fractional scale, X11 lets a window grow by whole steps, such as 2 pixels at 1.5, from a base size.
-    // That of Qt is odd then, which would shrink the window by a pixel.
+    // At a fractional scale, X11 lets a window grow by whole steps, such as 2 pixels at 1.5, from a base
+    // size. That of Qt is odd then, which would shrink the window by a pixel.
     if (type == QEvent::Show)
         m_window->setBaseSize(BaseSize, BaseSize);
     // A window that was maximised while its screen went away is restored to where that screen was, and a new
