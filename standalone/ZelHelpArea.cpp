@@ -33,6 +33,7 @@ const int OpenedWidth = 340;
 const int OpenedBorder = 1; // as in its style sheet
 const int MaximumWidth = 520;
 const int MinimumCardHeight = 100;
+const int LineSlack = 8; // Japanese and Chinese lines are higher than those of a path.
 
 /// Independent of its scroll bar: else the help and the bar that it needs could hide each other in turns.
 int roomOf(const QWidget& area)
@@ -297,7 +298,7 @@ int ZelHelpArea::heightOfLongestHelp(int width) const
     }
     longest.text = [&](ZelSettingSource source) { return source == DefaultValue ? byDefault : stored; };
     longest.differs = [](ZelSettingSource) { return true; };
-    return card.heightOf(longest, width);
+    return card.heightOf(longest, width) + LineSlack;
 }
 
 int ZelHelpArea::freeHeightOfColumn() const
