@@ -1,6 +1,7 @@
 #include "ControlCenterActions.h"
 
 #include "LanguageFollower.h"
+#include "ZelPageHelp.h"
 
 #include <QAbstractSpinBox>
 #include <QAction>
@@ -217,7 +218,8 @@ void ControlCenterActions::rememberField()
 {
     if (!field())
         return;
-    m_value = m_field->property(ValueProperty);
+    const ZelSettingHelp* help = ZelPageHelp::HelpOn(m_field);
+    m_value = help && !help->differs(StoredValue) ? QVariant() : m_field->property(ValueProperty);
     m_text = field()->text();
 }
 
@@ -225,7 +227,11 @@ void ControlCenterActions::putBack()
 {
     if (!field())
         return;
-    m_field->setProperty(ValueProperty, m_value);
+    const ZelSettingHelp* help = ZelPageHelp::HelpOn(m_field);
+    if (help && !m_value.isValid())
+        help->take(StoredValue);
+    else
+        m_field->setProperty(ValueProperty, m_value);
     field()->selectAll();
 }
 

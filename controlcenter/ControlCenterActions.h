@@ -64,7 +64,7 @@ private:
     const QPointer<QWidget> m_drawer;
     QAction* m_putBack;
     QPointer<QWidget> m_field; ///< The spin box with the focus, if any. It may be about to be destroyed.
-    QVariant m_value;          ///< Its value before the user typed.
+    QVariant m_value;          ///< Its value before the user typed; invalid if that is stored.
     QString m_text;            ///< Its text before the user typed.
 };
 

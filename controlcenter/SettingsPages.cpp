@@ -17,7 +17,9 @@ namespace zel {
 
 namespace {
 
-const int FollowInterval = 1000; // ms
+// In milliseconds.
+const int FollowInterval = 1000;
+const int RetryInterval = 10000;
 
 void logUnregisteredKeys(const ZelSettingsPanel& page)
 {
@@ -160,13 +162,16 @@ void SettingsPages::timerEvent(QTimerEvent*)
     const bool isWriting = &ZelSettingsFile::Current(*m_followed) != m_followed;
     if (isWriting || (present.size == m_stamp.size && present.time == m_stamp.time))
         return;
-    m_stamp = present; // Also when it cannot be read: each attempt may wait for a lock.
     QString error;
     const auto nothing = [](QSettings&, QString&) { return true; };
     if (present.size <= 0) // What the file has lost comes back from memory.
         ZelSettingsFile::Write(*m_followed, nothing, error);
-    if (!ZelSettingsFile::ReadAgain(*m_followed, error))
+    const bool isRead = ZelSettingsFile::ReadAgain(*m_followed, error);
+    // Each attempt may wait for a lock, so the next one is later.
+    m_timer.start(isRead ? FollowInterval : RetryInterval, this);
+    if (!isRead)
         return;
+    m_stamp = present;
     // A setting that is gone gets its default at the next start; without it, the fields would show a minimum.
     if (lacksRegisteredKey(*m_followed))
         ZelSettingsFile::Repair(*m_followed, error); // The log has the error.
@@ -207,23 +212,18 @@ void SettingsPages::reset()
 void SettingsPages::discard()
 {
     const QPointer<SettingsPages> self(this);
-    const PageList pages = m_pages;
     decltype(m_discarded) discarded;
-    pages.forEach([&](ZelSettingsPanel* page) {
+    m_pages.forEach([&](ZelSettingsPanel* page) {
         auto* edits = dynamic_cast<ZelPageEdits*>(page);
-        if (const auto again = edits ? edits->copyOfEdits() : nullptr)
+        if (const auto again = edits ? edits->discardEdits() : nullptr)
             discarded.insert(page, again);
-    });
-    if (self)
-        m_discarded = discarded;
-    const QList<ZelSettingsPanel*> modified = pages.modified();
-    pages.forEach([&](ZelSettingsPanel* page) {
-        // Also edits that have no effect yet.
-        if (modified.contains(page) || discarded.contains(page))
+        else if (!edits && page->hasModifications())
             page->initializeWidget();
     });
-    if (self)
-        Q_EMIT stateChanged();
+    if (!self)
+        return;
+    m_discarded = discarded;
+    Q_EMIT stateChanged();
 }
 
 void SettingsPages::restore()

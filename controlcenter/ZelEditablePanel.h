@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace zel {
@@ -34,14 +35,15 @@ public:
     void initializeWidget() override
     {
         m_stored = storedModel();
-        applyModel(m_stored);
-        m_loaded = m_applied = currentModel();
-        m_isLoaded = true;
+        applyModel(*m_stored);
+        m_loaded = currentModel();
+        m_applied.reset();
+        m_isDiscarded = false;
         checkContent();
     }
 
     /// True when the widgets differ from the stored values.
-    bool hasModifications() const override { return differsFrom(storedModel()); }
+    bool hasModifications() const override { return !isDiscarded() && differsFrom(storedModel()); }
 
     /// Takes what others have stored, passes the edits to the running application, then stores them. Returns
     /// shouldRestart().
@@ -77,94 +79,89 @@ public:
     /// Does nothing: applyModifications() saves.
     virtual void saveSettings() {}
 
+    /// @{
     /// See ZelPageEdits.
     void takeStored() override
     {
-        if (!m_isLoaded)
+        if (!m_stored) // Not loaded yet.
             return;
-        const Model stored = storedModel(), current = currentModel();
+        const Model stored = storedModel();
+        for (const Field* field : m_fields)
+            if (m_applied && field->isSame(stored, *m_applied)) // The last Apply has been written.
+                field->copy(m_loaded, *m_applied);
+        m_applied.reset();
+        const Fields edited = editedFields();
+        const auto isNew = [&](const Field& field) { return !field.isSame(stored, *m_stored); };
         Fields changed;
-        for (const Field* field : m_fields) {
-            if (field->isSame(stored, m_applied)) // The last Apply has been written.
-                field->copy(m_loaded, m_applied);
-            if (field->isSame(stored, current))
-                field->copy(m_loaded, current);
-        }
         for (const Row& row : m_rows) {
-            const auto isUnedited = [&](const Field& field) { return field.isSame(current, m_loaded); };
-            const bool isChanged = std::any_of(row.fields.begin(), row.fields.end(), [&](const Field& field) {
-                return isUnedited(field) && !field.isSame(stored, m_stored);
-            });
             // What one field shows may depend on the others of its row.
-            for (const Field& field : row.fields)
-                if (isChanged && isUnedited(field))
+            const bool isChanged = std::any_of(row.fields.begin(), row.fields.end(), [&](const Field& field) {
+                return isNew(field) && !contains(edited, field);
+            });
+            for (const Field& field : row.fields) {
+                if (!contains(edited, field) && isChanged)
                     changed.push_back(&field);
+                else if (isNew(field))
+                    field.copy(m_loaded, stored); // From now on an edit of that, or none.
+            }
         }
         m_stored = stored;
         if (changed.empty())
             return;
+        m_isDiscarded = false;
         fill(stored, changed);
         const Model shown = currentModel();
-        for (const Field* field : changed) {
+        for (const Field* field : changed)
             field->copy(m_loaded, shown);
-            field->copy(m_applied, shown);
-        }
         checkContent();
     }
 
-    /// See ZelPageEdits.
     void pushStored() override
     {
         if (hasModifications())
             pushToApplication(storedModel());
     }
 
-    /// See ZelPageEdits.
     std::vector<ZelPendingEdit> pendingEdits() override
     {
         std::vector<ZelPendingEdit> edits;
         if (!hasModifications())
             return edits;
         const Model stored = storedModel(), current = currentModel();
+        const Fields edited = editedFields();
         for (const Row& row : m_rows) {
-            // Apply also stores edits that have no effect now, such as those of another engine.
-            const auto edited = std::find_if(row.fields.begin(), row.fields.end(), [&](const Field& field) {
-                return !field.isSame(current, stored) &&
-                       (field.counts(current) || !field.isSame(current, m_loaded));
-            });
-            if (edited == row.fields.end())
-                continue;
-            const ZelSettingHelp* help = m_help->setting(row.help.fields.first());
-            ZelPendingEdit edit = {help->name, row.text(stored), row.text(current),
-                                   widgetToEdit(row, current, stored), nullptr};
-            if (!row.fixed)
-                edit.putBack = [take = help->take] { take(StoredValue); };
-            if (edit.stored == edit.shown) {
-                edit.stored = edited->text(stored);
-                edit.shown = edited->text(current);
+            for (const Field& field : row.fields) {
+                // Apply also stores edits that have no effect now, such as those of another engine.
+                const bool isEdited = contains(edited, field);
+                if (field.isSame(current, stored) || (!isEdited && !field.counts(current)))
+                    continue;
+                edits.push_back(pendingEdit(row, field, stored, current, isEdited));
+                break; // A row is one setting.
             }
-            if (edit.stored == edit.shown) // The field cannot show what is stored.
-                edit.stored = settings().value(edited->key).toString();
-            edits.push_back(edit);
         }
         return edits;
     }
 
-    /// See ZelPageEdits.
-    std::function<void()> copyOfEdits() override
+    std::function<void()> discardEdits() override
     {
-        const Model current = currentModel();
-        Fields edited;
-        for (const Field* field : m_fields)
-            if (!field->isSame(current, m_loaded))
-                edited.push_back(field);
-        if (edited.empty())
+        if (!hasModifications() && editedFields().empty())
             return nullptr;
-        return [this, current, edited] {
-            fill(current, edited);
+        const Model discarded = currentModel();
+        const Fields edited = editedFields();
+        initializeWidget();
+        m_isDiscarded = true;
+        return [this, discarded, edited] {
+            m_isDiscarded = false;
+            const Fields newer = editedFields();
+            Fields again;
+            for (const Field* field : edited)
+                if (!contains(newer, *field))
+                    again.push_back(field);
+            fill(discarded, again);
             onEdited();
         };
     }
+    /// @}
 
 protected:
     /// One setting of the page.
@@ -274,6 +271,10 @@ protected:
     /// True when the pending edits need a restart to take effect.
     virtual bool shouldRestart() const { return false; }
 
+    /// True after discardEdits() until the next edit: stored values that the widgets cannot show stay as they
+    /// are.
+    bool isDiscarded() const { return m_isDiscarded && editedFields().empty(); }
+
     /// Enables or disables the reset button.
     void checkContent() const
     {
@@ -309,6 +310,26 @@ private:
         return source == StoredValue ? storedModel() : defaultModel();
     }
 
+    static bool contains(const Fields& fields, const Field& field)
+    {
+        return std::find(fields.begin(), fields.end(), &field) != fields.end();
+    }
+
+    /// The fields with an edit, and those of the same keys: values that are stored as one are edited as one.
+    Fields editedFields() const
+    {
+        const Model current = currentModel();
+        QStringList keys;
+        for (const Field* field : m_fields)
+            if (!field->isSame(current, m_loaded))
+                keys << field->key;
+        Fields edited;
+        for (const Field* field : m_fields)
+            if (keys.contains(field->key))
+                edited.push_back(field);
+        return edited;
+    }
+
     /// True when a value of the page that counts in the widgets differs.
     bool differsFrom(const Model& other) const
     {
@@ -329,21 +350,8 @@ private:
             field->copy(model, from);
             field->show(from);
         }
-        // QAbstractButton lets only the checked button of a choice take the focus, but not when it is filled.
-        for (const Row& row : m_rows) {
-            QWidget* checked = nullptr;
-            bool hasFocus = false;
-            for (QWidget* widget : row.help.fields) {
-                const auto* button = qobject_cast<QRadioButton*>(widget);
-                if (!button)
-                    continue;
-                widget->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
-                checked = button->isChecked() ? widget : checked;
-                hasFocus = hasFocus || button->hasFocus();
-            }
-            if (hasFocus && checked)
-                checked->setFocus();
-        }
+        for (const Row& row : m_rows)
+            letCheckedTakeFocus(row.help.fields);
         onFilled(model);
     }
 
@@ -363,6 +371,24 @@ private:
             }
         }
         return other;
+    }
+
+    /// @param field  a field of the row in which the two models differ
+    ZelPendingEdit pendingEdit(const Row& row, const Field& field, const Model& stored, const Model& current,
+                               bool isEdited)
+    {
+        const ZelSettingHelp* help = m_help->setting(row.help.fields.first());
+        ZelPendingEdit edit = {help->name, row.text(stored), row.text(current),
+                               widgetToEdit(row, current, stored), nullptr};
+        if (!row.fixed && isEdited)
+            edit.putBack = [take = help->take] { take(StoredValue); };
+        if (edit.stored == edit.shown) {
+            edit.stored = field.text(stored);
+            edit.shown = field.text(current);
+        }
+        if (edit.stored == edit.shown) // The field cannot show what is stored.
+            edit.stored = settings().value(field.key).toString();
+        return edit;
     }
 
     void takeRows(const std::vector<Row>& rows)
@@ -413,10 +439,10 @@ private:
     std::vector<Row> m_rows; ///< Stays where it is after setRows(), so that the help can refer to it.
     Fields m_fields;         ///< Of all rows, in the order in which they are stored.
     ZelPageHelp* m_help = nullptr;
-    Model m_stored;  ///< What was stored when the widgets were last filled from it.
-    Model m_loaded;  ///< What the widgets have shown then.
-    Model m_applied; ///< What they have shown at the last Apply, which may not have been written.
-    bool m_isLoaded = false;
+    std::optional<Model> m_stored;  ///< What was stored when that was last looked at.
+    Model m_loaded;                 ///< What the widgets have shown of it; under an edit, the stored value.
+    std::optional<Model> m_applied; ///< What Apply has stored since, which may not have been written.
+    bool m_isDiscarded = false;     ///< All edits up to now.
 };
 
 } // namespace zel

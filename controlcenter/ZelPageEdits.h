@@ -18,15 +18,16 @@ struct ZelPendingEdit
     QString name;                  ///< As the page names it, in the language of the interface.
     QString stored;                ///< The stored value, as a field shows it.
     QString shown;                 ///< The value that Apply would store, as a field shows it.
-    QWidget* field;                ///< Where it was made, or null if that is hidden. The page owns it.
-    std::function<void()> putBack; ///< Puts the stored value into the fields. Null for what no field shows.
+    QWidget* field = nullptr;      ///< Where it was made, or null if that is hidden. The page owns it.
+    std::function<void()> putBack; ///< Puts the stored value into the fields; null where they cannot show it.
 };
 
 /// The pending edits of a page, for the control center and the window around it: a page with rows, which
 /// derives from ZelEditablePanel, has this interface too. Find it with
 /// dynamic_cast<ZelPageEdits*>(panel), which is null for a page of another kind.
 ///
-/// An edit is a field that the user has changed since a stored value was loaded into it. GUI thread only.
+/// An edit is a field that the user has changed since a stored value was loaded into it. Fields whose values
+/// are stored as one text, under the same key, are edited together. GUI thread only.
 class ZEL_EXPORT ZelPageEdits
 {
 public:
@@ -46,9 +47,11 @@ public:
     /// is false. Also has what takes effect only with another setting.
     virtual std::vector<ZelPendingEdit> pendingEdits() = 0;
 
-    /// A function that makes the pending edits again after they were discarded, and emits stateChanged().
-    /// Valid while the page lives; null without edits. The edits are discarded by initializeWidget().
-    virtual std::function<void()> copyOfEdits() = 0;
+    /// Discards the pending edits, as initializeWidget() does. Then hasModifications() is false until the
+    /// next edit, also when a field cannot show what is stored: that stays as it is. Returns a function that
+    /// makes the edits again, except where the user has made newer ones, and emits stateChanged(). It is
+    /// valid while the page lives; null when nothing was pending.
+    virtual std::function<void()> discardEdits() = 0;
 };
 
 } // namespace zel

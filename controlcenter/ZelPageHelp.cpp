@@ -1,5 +1,6 @@
 #include "ZelPageHelp.h"
 
+#include "ZelSettingsPanel.h"
 #include "base/AccessibleCompat.h"
 
 #include <QAbstractButton>
@@ -113,6 +114,17 @@ const ZelSettingHelp* ZelPageHelp::setting(const QWidget* field) const
             return each.fields.contains(const_cast<QWidget*>(field));
         });
     return found == m_settings.end() ? nullptr : &*found;
+}
+
+const ZelSettingHelp* ZelPageHelp::HelpOn(const QWidget* field)
+{
+    for (const QWidget* widget = field; widget; widget = widget->parentWidget()) {
+        if (!qobject_cast<const ZelSettingsPanel*>(widget))
+            continue;
+        const auto* page = widget->findChild<ZelPageHelp*>();
+        return page ? page->setting(field) : nullptr;
+    }
+    return nullptr;
 }
 
 QString ZelPageHelp::effectText(ZelSettingEffect effect)

@@ -63,6 +63,9 @@ public:
     /// The setting that a field of the page edits; null for any other widget. Valid until the next add().
     const ZelSettingHelp* setting(const QWidget* field) const;
 
+    /// The setting that a widget edits, on any page; null for one that edits none.
+    static const ZelSettingHelp* HelpOn(const QWidget* field);
+
     /// Switches the tool tips off (true) while a help area shows the same text, or on.
     void setHelpAreaVisible(bool visible) { m_helpAreaVisible = visible; }
 

@@ -159,6 +159,24 @@ inline ZelFieldWidgets<quint64> inMebibytes(zelSpinBox* box)
     return {box, 20};
 }
 
+/// Lets only the checked radio button of a choice take the focus, as QAbstractButton does after a click, but
+/// not when the choice is filled.
+inline void letCheckedTakeFocus(const QList<QWidget*>& choice)
+{
+    QWidget* checked = nullptr;
+    bool hasFocus = false;
+    for (QWidget* widget : choice) {
+        const auto* button = qobject_cast<QRadioButton*>(widget);
+        if (!button)
+            continue;
+        widget->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+        checked = button->isChecked() ? widget : checked;
+        hasFocus = hasFocus || button->hasFocus();
+    }
+    if (hasFocus && checked)
+        checked->setFocus();
+}
+
 /// One value of a page: the functions that move it between Settings.ini, the model and the widgets.
 template <class Model>
 struct ZelSettingsField

@@ -10,15 +10,28 @@
 
 #include <QEvent>
 #include <QKeyEvent>
-#include <QMap>
 #include <QTextDocumentFragment>
 #include <QVariant>
+
+#include <algorithm>
+#include <iterator>
 
 namespace zel {
 
 namespace {
+
 const char* const SoftwareProperty = "software";
-}
+
+enum Tile { Focused, Low, High };
+const struct
+{
+    int key;
+    Tile tile;
+} ChoiceKeys[] = {{Qt::Key_Space, Focused}, {Qt::Key_Return, Focused}, {Qt::Key_Enter, Focused},
+                  {Qt::Key_Left, Low},      {Qt::Key_Up, Low},         {Qt::Key_Right, High},
+                  {Qt::Key_Down, High}};
+
+} // namespace
 
 ZelRendererSelector::ZelRendererSelector(QWidget* parent, Qt::WindowFlags flags)
     : QDialog(parent, flags)
@@ -60,21 +73,15 @@ bool ZelRendererSelector::eventFilter(QObject* watched, QEvent* event)
 
 void ZelRendererSelector::keyPressEvent(QKeyEvent* event)
 {
-    QWidget* const low = m_ui->raytracerButton;
-    QWidget* const high = m_ui->deferredButton;
-    QWidget* const focused = focusWidget();
-    QMap<int, QWidget*> engines;
-    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter})
-        engines[key] = focused;
-    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Up})
-        engines[key] = low;
-    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Down})
-        engines[key] = high;
-    QWidget* engine = engines.value(event->key());
-    if (!engine || (focused != low && focused != high)) {
+    QWidget* const tiles[] = {focusWidget(), m_ui->raytracerButton, m_ui->deferredButton};
+    const auto* choice = std::find_if(std::begin(ChoiceKeys), std::end(ChoiceKeys),
+                                      [&](const auto& each) { return each.key == event->key(); });
+    const bool onTile = tiles[Focused] == tiles[Low] || tiles[Focused] == tiles[High];
+    if (choice == std::end(ChoiceKeys) || !onTile) {
         QDialog::keyPressEvent(event);
         return;
     }
+    QWidget* const engine = tiles[choice->tile];
     engine->setFocus();
     choose(engine);
 }

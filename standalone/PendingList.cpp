@@ -2,7 +2,6 @@
 
 #include "LanguageFollower.h"
 #include "VerticalArea.h"
-#include "ZelPageEdits.h"
 #include "ZelSettingsPanel.h"
 
 #include <QCoreApplication>
@@ -14,15 +13,15 @@
 
 #include <algorithm>
 #include <memory>
-#include <vector>
 
 namespace zel {
 
 namespace {
 
 const int LeastHeightOfLines = 60;   // pixels, for two lines
-const int CompactHeightOfLines = 88; // pixels, for three
+const int CompactHeightOfLines = 96; // pixels, for a long line and a short one
 const int LineInset = 4;             // pixels, padding and border of a line
+const int Inset = 12;                // pixels, left and right of all texts
 
 // An application's own sheet may give all widgets a background.
 const char* const Style =
@@ -112,15 +111,16 @@ private:
     ZelPendingEdit m_edit;
 };
 
-std::vector<ZelPendingEdit> editsOf(const QList<QPointer<ZelSettingsPanel>>& pages)
+/// In which the lines scroll.
+QScrollArea* newArea(QVBoxLayout* lines, QWidget* parent)
 {
-    std::vector<ZelPendingEdit> all;
-    for (const QPointer<ZelSettingsPanel>& page : pages) {
-        auto* edits = dynamic_cast<ZelPageEdits*>(page.data());
-        for (const ZelPendingEdit& edit : edits ? edits->pendingEdits() : std::vector<ZelPendingEdit>())
-            all.push_back(edit);
-    }
-    return all;
+    auto* content = new QWidget;
+    content->setLayout(lines);
+    lines->setContentsMargins(Inset - LineInset, 0, Inset - LineInset, 0);
+    lines->setSpacing(0);
+    auto* area = new VerticalArea(content, LeastHeightOfLines, parent);
+    area->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    return area;
 }
 
 } // namespace
@@ -130,31 +130,25 @@ PendingList::PendingList(QWidget* parent)
     , m_title(new QLabel(this))
     , m_discard(new QPushButton(this))
     , m_lines(new QVBoxLayout)
+    , m_area(newArea(m_lines, this))
     , m_goTo(new QSignalMapper(this))
     , m_putBack(new QSignalMapper(this))
 {
     setObjectName("pendingList");
     setStyleSheet(Style);
-    const int inset = 12;
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 8, 0, 8);
-    layout->setSpacing(2);
-    auto* heading = new QHBoxLayout;
-    heading->setContentsMargins(inset, 0, inset, 0);
     m_title->setTextFormat(Qt::PlainText);
     m_title->setWordWrap(true);
     m_discard->setObjectName("discardButton");
+    auto* heading = new QHBoxLayout;
+    heading->setContentsMargins(Inset, 0, Inset, 0);
     heading->addWidget(m_title, 1);
     heading->addWidget(m_discard);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 8, 0, 8);
+    layout->setSpacing(2);
     layout->addLayout(heading);
-    auto* lines = new QWidget;
-    lines->setLayout(m_lines);
-    m_lines->setContentsMargins(inset - LineInset, 0, inset - LineInset, 0);
-    m_lines->setSpacing(0);
-    m_area = new VerticalArea(lines, LeastHeightOfLines, this);
-    m_area->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     layout->addWidget(m_area);
-    connect(m_discard, SIGNAL(clicked()), this, SLOT(discard()));
+    connect(m_discard, SIGNAL(clicked()), this, SIGNAL(discardRequested()));
     connect(m_goTo, SIGNAL(mapped(int)), this, SLOT(goToField(int)));
     connect(m_putBack, SIGNAL(mapped(int)), this, SLOT(putBack(int)));
     hide();
@@ -187,28 +181,54 @@ void PendingList::setTexts()
 
 void PendingList::refresh()
 {
-    const auto edits = editsOf(m_pages);
+    m_canApply = std::any_of(m_pages.begin(), m_pages.end(), [](const QPointer<ZelSettingsPanel>& page) {
+        return page && page->hasModifications();
+    });
+    showEdits();
+}
+
+void PendingList::onEdited()
+{
+    if (m_canApply)
+        showEdits();
+}
+
+void PendingList::showEdits()
+{
+    decltype(m_edits) edits;
     QStringList texts;
-    for (const ZelPendingEdit& edit : edits)
-        texts << textOf(edit);
+    for (const QPointer<ZelSettingsPanel>& page : m_pages) {
+        auto* pending = dynamic_cast<ZelPageEdits*>(page.data());
+        for (const ZelPendingEdit& edit : pending ? pending->pendingEdits() : std::vector<ZelPendingEdit>()) {
+            edits.push_back({page, edit});
+            texts << textOf(edit);
+        }
+    }
+    moveFocusBefore(texts.size());
+    m_edits = edits;
     if (texts == m_shown)
         return;
     m_shown = texts;
-    const int count = texts.size();
-    while (m_lines->count() > count) {
+    while (m_lines->count() > texts.size()) {
         // Later, because the line may be sending the click that has led here.
         const std::unique_ptr<QLayoutItem> item(m_lines->takeAt(m_lines->count() - 1));
         item->widget()->hide();
         item->widget()->deleteLater();
     }
-    while (m_lines->count() < count)
+    while (m_lines->count() < texts.size())
         addRow();
-    for (int i = 0; i < count; ++i)
-        showEdit(i, edits[static_cast<std::size_t>(i)]);
-    m_discard->setVisible(std::any_of(edits.begin(), edits.end(), [](const ZelPendingEdit& edit) {
-        return static_cast<bool>(edit.putBack);
-    }));
-    setVisible(count > 0);
+    for (int line = 0; line < texts.size(); ++line)
+        showEdit(line, editAt(line));
+    setVisible(!texts.isEmpty());
+}
+
+void PendingList::moveFocusBefore(int count)
+{
+    for (int line = count; line < m_lines->count(); ++line) {
+        const bool hasFocus = m_lines->itemAt(line)->widget()->isAncestorOf(focusWidget());
+        if ((hasFocus || (!count && m_discard->hasFocus())) && goToField(line))
+            return;
+    }
 }
 
 void PendingList::showEdit(int row, const ZelPendingEdit& edit)
@@ -251,26 +271,24 @@ void PendingList::addRow()
 
 bool PendingList::goToField(int line)
 {
-    const auto edits = editsOf(m_pages);
-    QWidget* field = line < static_cast<int>(edits.size()) ? edits[line].field : nullptr;
-    if (field)
-        field->setFocus(Qt::OtherFocusReason);
-    return field;
+    const ZelPendingEdit edit = editAt(line);
+    if (edit.field)
+        edit.field->setFocus(Qt::OtherFocusReason);
+    return edit.field;
 }
 
 void PendingList::putBack(int line)
 {
-    const auto edits = editsOf(m_pages); // The focus may take in what is typed, and so add a line.
-    goToField(line);                     // The line goes away, and the focus with it.
-    if (line < static_cast<int>(edits.size()) && edits[line].putBack)
-        edits[line].putBack();
+    const ZelPendingEdit edit = editAt(line); // The focus may take in what is typed, and so add a line.
+    goToField(line);                          // The line goes away, and the focus with it.
+    if (edit.putBack)
+        edit.putBack();
 }
 
-void PendingList::discard()
+ZelPendingEdit PendingList::editAt(int line) const
 {
-    for (int line = 0; line < m_lines->count() && !goToField(line); ++line)
-        ;
-    Q_EMIT discardRequested();
+    const bool isShown = line < static_cast<int>(m_edits.size()) && m_edits[line].first;
+    return isShown ? m_edits[line].second : ZelPendingEdit();
 }
 
 } // namespace zel

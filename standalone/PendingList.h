@@ -1,10 +1,15 @@
 #ifndef ZEL_PENDINGLIST_H
 #define ZEL_PENDINGLIST_H
 
+#include "ZelPageEdits.h"
+
 #include <QFrame>
 #include <QList>
 #include <QPointer>
 #include <QStringList>
+
+#include <utility>
+#include <vector>
 
 class QLabel;
 class QPushButton;
@@ -15,7 +20,6 @@ class QVBoxLayout;
 namespace zel {
 
 class ZelSettingsPanel;
-struct ZelPendingEdit;
 
 /// What Apply would store: a line for each pending edit of the pages. A click on a line goes to its field,
 /// the small button beside it puts the stored value back, and one beside the heading discards all edits.
@@ -34,8 +38,9 @@ public:
     /// Scrolls after a few lines, for a low place.
     void setCompact(bool compact);
 
-public Q_SLOTS:
-    /// Call it after every edit, Apply and Reset.
+    /// Call it after an edit that its page may not announce: it is listed while Apply is enabled.
+    void onEdited();
+    /// Call it when pages may have got or lost modifications, which enables or disables Apply.
     void refresh();
 
 Q_SIGNALS:
@@ -45,10 +50,14 @@ private Q_SLOTS:
     /// False when the field of the line is hidden.
     bool goToField(int line);
     void putBack(int line);
-    void discard();
 
 private:
+    void showEdits();
+    /// Moves the focus from a line that goes away, because there are only so many edits, to its field.
+    void moveFocusBefore(int count);
     void addRow();
+    /// An edit without field and function when its page is gone.
+    ZelPendingEdit editAt(int line) const;
     void showEdit(int row, const ZelPendingEdit& edit);
     void setTexts();
 
@@ -56,10 +65,13 @@ private:
     QLabel* const m_title;
     QPushButton* const m_discard;
     QVBoxLayout* const m_lines;
-    QScrollArea* m_area; ///< In which the lines scroll.
+    QScrollArea* const m_area; ///< In which the lines scroll.
     QSignalMapper* const m_goTo;
     QSignalMapper* const m_putBack;
+    /// The lines, each with its page.
+    std::vector<std::pair<QPointer<ZelSettingsPanel>, ZelPendingEdit>> m_edits;
     QStringList m_shown; ///< The texts of the lines.
+    bool m_canApply = false;
 };
 
 } // namespace zel

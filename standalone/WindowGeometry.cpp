@@ -14,6 +14,7 @@ namespace zel {
 namespace {
 
 const int SizeLimit = 200; // bytes
+const int BaseSize = 8;    // pixels; a whole number of steps at the usual scales
 
 /// What the file holds, as one line of nine numbers.
 struct Place
@@ -93,6 +94,10 @@ bool WindowGeometry::eventFilter(QObject*, QEvent* event)
     const QEvent::Type type = event->type();
     if (type == QEvent::Show || type == QEvent::Paint)
         m_isBeingPlaced = type == QEvent::Show;
+    // At a fractional scale, X11 lets a window grow by whole steps, such as 2 pixels at 1.5, from a base
+    // size. That of Qt is odd then, which would shrink the window by a pixel.
+    if (type == QEvent::Show)
+        m_window->setBaseSize(BaseSize, BaseSize);
     // A window that was maximised while its screen went away is restored to where that screen was, and a new
     // one may be put where a part of it cannot be seen. Queued, because the window is still being moved.
     if (type == QEvent::Move &&

@@ -26,11 +26,14 @@ const int RestTime = 400; // ms
 // In pixels.
 const int MinimumWidth = 310; // fits the longest words of all languages, also beside a scroll bar
 const int MinimumHeight = 220;
+const int MinimumListHeight = 120; // without the help
 const int Margin = 12;
 const int ColumnMargin = 8;
 const int OpenedWidth = 340;
+const int OpenedBorder = 1; // as in its style sheet
 const int MaximumWidth = 520;
 const int MinimumCardHeight = 100;
+const int LineSlack = 8; // Japanese and Chinese lines are higher than those of a path.
 
 /// Independent of its scroll bar: else the help and the bar that it needs could hide each other in turns.
 int roomOf(const QWidget& area)
@@ -115,7 +118,7 @@ void ZelHelpArea::watchPages(QWidget* tree)
     const QList<ZelPageHelp*> pages = tree->findChildren<ZelPageHelp*>();
     for (ZelPageHelp* page : pages) {
         connect(page, SIGNAL(reached(QWidget*)), this, SLOT(onReached(QWidget*)));
-        connect(page, SIGNAL(edited()), this, SLOT(refresh()));
+        connect(page, SIGNAL(edited()), this, SLOT(onEdited()));
         connect(page, SIGNAL(helpRequested(QWidget*)), this, SLOT(showHelp(QWidget*)));
         m_pages << page;
         // Buttons such as Reset change a page without an edit in a field.
@@ -160,7 +163,7 @@ void ZelHelpArea::showHelp(QWidget* field)
     if (!m_help)
         return;
     showHelpOn(field, *m_card, *m_cardArea);
-    if (field && m_help->isHidden())
+    if (field && (m_help->isHidden() || m_cardArea->isHidden()))
         openAt(*field);
 }
 
@@ -175,6 +178,15 @@ void ZelHelpArea::refresh()
         return;
     m_card->refresh();
     m_pending->refresh();
+    reserveHeight();
+}
+
+void ZelHelpArea::onEdited()
+{
+    if (!m_help)
+        return;
+    m_card->refresh();
+    m_pending->onEdited();
     reserveHeight();
 }
 
@@ -193,7 +205,7 @@ void ZelHelpArea::onReached(QWidget* field)
 
 void ZelHelpArea::onFocusChanged(QWidget*, QWidget* current)
 {
-    if (!m_help || !ZelHelpCard::HelpOn(current))
+    if (!m_help || !ZelPageHelp::HelpOn(current))
         return;
     m_rest->stop();
     showHelpOn(current, *m_card, *m_cardArea);
@@ -215,21 +227,24 @@ void ZelHelpArea::place()
     if (!m_help)
         return;
     const bool beside = roomOf(*this) >= MinimumWidth;
-    const bool inColumn = !beside && freeHeightOfColumn() >= MinimumHeight;
+    const int height = beside ? 0 : freeHeightOfColumn();
+    const bool inColumn = height >= MinimumListHeight;
     if (m_columnHost && inColumn) {
-        const int height = freeHeightOfColumn();
         // A column that slides clips what is in it.
         m_columnHost->setGeometry(0, m_columnHost->parentWidget()->height() - height, m_above->width(),
                                   height);
     }
     if (beside)
         put(m_areaLayout, false);
+    const bool hasHelp = beside || height >= MinimumHeight;
+    m_cardArea->setVisible(hasHelp);
+    m_pending->setCompact(inColumn && hasHelp);
     m_help->setVisible(beside || (inColumn && m_columnLayout->indexOf(m_help) >= 0));
     if (m_columnHost)
         m_columnHost->setVisible(inColumn);
     for (const QPointer<ZelPageHelp>& page : m_pages)
         if (page)
-            page->setHelpAreaVisible(beside || inColumn);
+            page->setHelpAreaVisible(hasHelp);
 }
 
 void ZelHelpArea::moveToColumn()
@@ -245,7 +260,6 @@ void ZelHelpArea::put(QBoxLayout* layout, bool compact)
     if (layout->indexOf(m_help) < 0)
         layout->addWidget(m_help);
     m_card->setCompact(compact);
-    m_pending->setCompact(compact);
 }
 
 void ZelHelpArea::reserveHeight()
@@ -254,7 +268,9 @@ void ZelHelpArea::reserveHeight()
     if (width == m_reservedWidth)
         return;
     m_reservedWidth = width;
-    m_cardArea->setMaximumHeight(width ? heightOfLongestHelp(width) : QWIDGETSIZE_MAX);
+    // Beside a scroll bar, which would keep itself: a text may need another line because of it.
+    const int textWidth = width - m_cardArea->verticalScrollBar()->sizeHint().width();
+    m_cardArea->setMaximumHeight(width ? heightOfLongestHelp(textWidth) : QWIDGETSIZE_MAX);
 }
 
 int ZelHelpArea::heightOfLongestHelp(int width) const
@@ -282,7 +298,7 @@ int ZelHelpArea::heightOfLongestHelp(int width) const
     }
     longest.text = [&](ZelSettingSource source) { return source == DefaultValue ? byDefault : stored; };
     longest.differs = [](ZelSettingSource) { return true; };
-    return card.heightOf(longest, width);
+    return card.heightOf(longest, width) + LineSlack;
 }
 
 int ZelHelpArea::freeHeightOfColumn() const
@@ -301,7 +317,7 @@ void ZelHelpArea::openAt(QWidget& field)
     opened->setObjectName("openedHelp");
     opened->setStyleSheet("#openedHelp { background: rgb(237,237,237); border: 1px solid rgb(69,68,229); }");
     auto* layout = new QVBoxLayout(opened);
-    layout->setContentsMargins(1, 1, 1, 1);
+    layout->setContentsMargins(0, 0, 0, 0);
     auto* card = new ZelHelpCard(opened);
     layout->addWidget(card);
     card->setField(&field);
@@ -314,9 +330,8 @@ void ZelHelpArea::openAt(QWidget& field)
         connect(page, SIGNAL(edited()), card, SLOT(refresh()));
         connect(page->parent(), SIGNAL(stateChanged()), card, SLOT(refresh()));
     }
-    opened->setFixedWidth(OpenedWidth);
     opened->ensurePolished();
-    opened->resize(OpenedWidth, layout->heightForWidth(OpenedWidth));
+    opened->setFixedSize(OpenedWidth, card->neededHeight(OpenedWidth - 2 * OpenedBorder) + 2 * OpenedBorder);
     const QRect screen = QApplication::desktop()->availableGeometry(&field);
     const QPoint below = field.mapToGlobal(QPoint(0, field.height() + 2));
     const QPoint above = field.mapToGlobal(QPoint(0, -opened->height() - 2));

@@ -22,8 +22,8 @@ class ZelPageHelp;
 /// is that of the field which has got the keyboard focus last, or on which the pointer rests. A pointer on
 /// its way to the help changes nothing. What would be stored stands still while the help changes.
 ///
-/// While the area is too narrow, the help stands in the column of the pages' list instead. Where that is too
-/// low as well, showHelp() opens it at the field.
+/// While the area is too narrow, both stand in the column of the pages' list instead. Where that is too low
+/// as well, it has only what would be stored, and showHelp() opens the help at the field.
 ///
 /// The help comes from the ZelPageHelp of each page.
 class ZEL_EXPORT ZelHelpArea : public QWidget
@@ -64,6 +64,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private Q_SLOTS:
+    void onEdited();
     void onReached(QWidget* field);
     void onFocusChanged(QWidget* previous, QWidget* current);
     void onRest();

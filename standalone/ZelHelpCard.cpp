@@ -5,7 +5,6 @@
 #include "EnableButton.h"
 #include "LanguageFollower.h"
 #include "ZelPageHelp.h"
-#include "ZelSettingsPanel.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -90,6 +89,11 @@ int ZelHelpCard::heightOf(const ZelSettingHelp& help, int width)
     showHelp(help);
     m_ui->factsFrame->show();
     m_ui->actionsFrame->show();
+    return neededHeight(width);
+}
+
+int ZelHelpCard::neededHeight(int width) const
+{
     for (QWidget* child : findChildren<QWidget*>())
         child->ensurePolished();
     return layout()->totalHeightForWidth(width);
@@ -104,20 +108,9 @@ int ZelHelpCard::textHeight(const QString& text, int width) const
         .height();
 }
 
-const ZelSettingHelp* ZelHelpCard::HelpOn(const QWidget* field)
-{
-    for (const QWidget* widget = field; widget; widget = widget->parentWidget()) {
-        if (!qobject_cast<const ZelSettingsPanel*>(widget))
-            continue;
-        const auto* page = widget->findChild<ZelPageHelp*>();
-        return page ? page->setting(field) : nullptr;
-    }
-    return nullptr;
-}
-
 void ZelHelpCard::refresh()
 {
-    const ZelSettingHelp* help = HelpOn(m_field);
+    const ZelSettingHelp* help = ZelPageHelp::HelpOn(m_field);
     m_ui->factsFrame->setVisible(help);
     m_ui->actionsFrame->setVisible(help && isEditable(*help));
     if (help) {
@@ -168,13 +161,13 @@ void ZelHelpCard::resizeEvent(QResizeEvent* event)
 
 void ZelHelpCard::on_putBackButton_clicked()
 {
-    if (const ZelSettingHelp* help = HelpOn(m_field))
+    if (const ZelSettingHelp* help = ZelPageHelp::HelpOn(m_field))
         help->take(StoredValue);
 }
 
 void ZelHelpCard::on_defaultButton_clicked()
 {
-    if (const ZelSettingHelp* help = HelpOn(m_field))
+    if (const ZelSettingHelp* help = ZelPageHelp::HelpOn(m_field))
         help->take(DefaultValue);
 }
 

@@ -34,13 +34,12 @@ public:
     void setCompact(bool compact);
     bool isCompact() const;
 
+    /// The height of what the card shows.
+    int neededHeight(int width) const;
     /// Shows a help. Returns the height that it takes.
     int heightOf(const ZelSettingHelp& help, int width);
     /// The height of a wrapped text of the card.
     int textHeight(const QString& text, int width) const;
-
-    /// The help on a field of a page. Null for any other widget.
-    static const ZelSettingHelp* HelpOn(const QWidget* field);
 
 public Q_SLOTS:
     /// Reads what the card shows again, after a value has changed.

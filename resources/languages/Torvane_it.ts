@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>Discard</source>
-        <translation>Annulla</translation>
+        <translation>Scarta</translation>
     </message>
 </context>
 <context>
@@ -341,11 +341,11 @@ Continuare e chiudere l’applicazione?</translation>
     </message>
     <message>
         <source>Discard changes</source>
-        <translation>Annulla le modifiche</translation>
+        <translation>Scarta le modifiche</translation>
     </message>
     <message>
         <source>Restore discarded changes</source>
-        <translation>Ripristina le modifiche annullate</translation>
+        <translation>Ripristina le modifiche scartate</translation>
     </message>
     <message>
         <source>Scroll up</source>

@@ -294,25 +294,24 @@ private Q_SLOTS:
     {
         addPages(1);
         const FoldersPage page(*m_controlCenter, *m_application);
-        auto* size = page.size;
-        size->setValue(1000);
-        const int stored = size->value();
+        page.size->setValue(1000);
+        const int stored = page.size->value();
         QVERIFY(!m_controlCenter->applyModifications());
-        size->setValue(stored + 1);
+        page.size->setValue(stored + 1);
         m_pages[0]->edit(); // Cannot make its edits again.
         auto* discard = m_controlCenter->findChild<QAction*>("discard");
         auto* restore = m_controlCenter->findChild<QAction*>("restore");
         QVERIFY(discard->isEnabled() && !restore->isEnabled());
         discard->trigger();
-        QVERIFY(size->value() == stored && !m_pages[0]->modified && !canApply() && !discard->isEnabled());
+        QVERIFY(page.size->value() == stored && !m_pages[0]->modified && !canApply() &&
+                !discard->isEnabled());
         restore->trigger();
-        QVERIFY(size->value() == stored + 1 && canApply() && !restore->isEnabled());
+        QVERIFY(page.size->value() == stored + 1 && canApply() && !restore->isEnabled());
     }
 
     void openPagesFollowTheFile()
     {
         const FoldersPage page(*m_controlCenter, *m_application);
-        auto* size = page.size;
         openEverything();
         const auto write = [this](int value) {
             const auto other = zel::ZelSettingsFile::Open(m_application->getSettings().fileName());
@@ -321,23 +320,23 @@ private Q_SLOTS:
             other->sync();
         };
         write(1234);
-        QTRY_COMPARE(size->value(), 1234);
-        size->setValue(77);
+        QTRY_COMPARE(page.size->value(), 1234);
+        page.size->setValue(77);
         write(2345); // An edit stays.
         QTRY_COMPARE(m_application->getSettings().value("other/key").toInt(), 2345);
-        QVERIFY(size->value() == 77 && canApply());
+        QVERIFY(page.size->value() == 77 && canApply());
         write(77); // It is stored.
         QTRY_VERIFY(!canApply());
         const QString file = m_application->getSettings().fileName();
         QVERIFY(QFile::remove(file)); // It comes back, with what it held.
         QTRY_VERIFY(QFile::exists(file));
-        QTRY_VERIFY(size->value() == 77 && !canApply());
+        QTRY_VERIFY(page.size->value() == 77 && !canApply());
         // Without the key, the next start would take the default.
         zel::ZelSettingsRegistry::RegisterSetting("DBCache/cacheSize", "99", &ZelControlCenter::noOp);
         const auto other = zel::ZelSettingsFile::Open(file);
         other->remove("DBCache/cacheSize");
         other->sync();
-        QTRY_COMPARE(size->value(), 99);
+        QTRY_COMPARE(page.size->value(), 99);
         QVERIFY(!canApply());
         zel::ZelSettingsRegistry::ClearSettingsValues();
     }

@@ -155,10 +155,9 @@ private Q_SLOTS:
                  QString("Cache size: 700 Mo, 512 Mo"));
         QCOMPARE(edits[0].field, page.find("databaseSpinBox"));
 
-        const auto makeAgain = page.page.copyOfEdits();
-        page.page.initializeWidget();
+        const auto makeAgain = page.page.discardEdits();
         QVERIFY(!page.page.hasModifications() && page.page.pendingEdits().empty() &&
-                !page.page.copyOfEdits());
+                !page.page.discardEdits());
         makeAgain();
         store(settings(), {{keys::ScreenshotFolder, "/newer"}});
         page.page.applyModifications();
@@ -170,14 +169,19 @@ private Q_SLOTS:
         QCOMPARE(page.page.pendingEdits().size(), std::size_t(1));
         edits[0].putBack();
         QVERIFY(page.find<QSpinBox>("databaseSpinBox")->value() == 700 && !page.page.hasModifications());
-
+        store(settings(), {{keys::CacheSize, "512"}}); // By another program: what was not written here.
+        page.page.takeStored();
+        QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->value(), 512);
         // After a write that succeeded the edit is no longer one.
-        page.type("databaseSpinBox", "512");
+        page.type("databaseSpinBox", "640");
         page.page.applyModifications();
         page.page.takeStored();
         store(settings(), {{keys::CacheSize, "800"}});
         page.page.takeStored();
         QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->value(), 800);
+        page.type("databaseSpinBox", "600");
+        makeAgain(); // Not over a newer edit.
+        QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->value(), 600);
 
         Import import(nullptr, settings());
         import.click("sag"); // The choice is edited, but not the value.
@@ -232,11 +236,13 @@ private Q_SLOTS:
             }
             QCOMPARE(m_application->manager.ratios.first(), (std::vector<float>{1.f, .7f, .6f, .6f, .1f}));
             page.type("ratio5", "70"); // Above level 3: what is made again is as it was.
-            const auto makeAgain = page.page.copyOfEdits();
-            page.page.initializeWidget();
-            makeAgain();
+            page.page.discardEdits()();
             page.page.applyModifications();
             QCOMPARE(stored(keys::SimplificationRatios), QString("1/0.2/0.2/0.7/0.7"));
+            page.type("ratio5", "60"); // The levels are edited together.
+            store(settings(), {{keys::SimplificationRatios, "1/0.9/0.1/0.1/0.1"}});
+            page.page.applyModifications();
+            QCOMPARE(stored(keys::SimplificationRatios), QString("1/0.2/0.2/0.7/0.6"));
         }
         registerDefaults({}); // Without them the page keeps what it shows.
         settings().remove(keys::SimplificationRatios);
