@@ -58,8 +58,10 @@ private:
     /// Answers the folder dialog of a button; an empty folder cancels it.
     static void choose(General& page, const char* button, const QString& folder)
     {
-        const Later answer(10, [folder] {
-            QWidget* dialog = QApplication::activeModalWidget();
+        const QString former = page.find(button)->toolTip();
+        const Later answer(10, [folder, former] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(former.isEmpty() || dialog->directory() == QDir(former)); // It begins where it is.
             dialog->findChild<QLineEdit*>("fileNameEdit")->setText(folder);
             QTest::keyClick(dialog, folder.isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
         });
@@ -131,7 +133,10 @@ private Q_SLOTS:
         }
         QCOMPARE(page.changes.count(), 6);
 
-        const QString shots = folder("other");
+        auto* const shotsButton = page.find<QPushButton>("screenshotFolderButton");
+        QVERIFY(shotsButton->accessibleDescription().startsWith("No folder is set. Where"));
+        QVERIFY(!shotsButton->icon().isNull() && page.find<QPushButton>("databaseButton")->icon().isNull());
+        const QString shots = folder("shots of R&D");
         m_application->manager.cacheSizes.clear();
         m_application->imageFolders.clear();
         page.type("databaseSpinBox", "2048");
@@ -140,6 +145,12 @@ private Q_SLOTS:
         page.page.applyModifications();
         QCOMPARE(m_application->manager.cacheSizes, QList<unsigned int>{2048});
         QCOMPARE(m_application->imageFolders, QList<QString>({shots, shots}));
+        QVERIFY(shotsButton->shortcut().isEmpty() && shotsButton->icon().isNull());
+        QVERIFY(shotsButton->accessibleDescription().startsWith(shots + " Where"));
+        shotsButton->setText("");
+        const QImage blank = pictureOf(shotsButton);
+        shotsButton->setText("&"); // Is no shortcut, so it is painted.
+        QVERIFY(pictureOf(shotsButton) != blank);
     }
 
     void editsAreMergedWithWhatOthersStore()
@@ -186,6 +197,8 @@ private Q_SLOTS:
         QVERIFY(import.find<QRadioButton>("sag")->isChecked() && import.find("faceAngleSpin")->isEnabled());
         QCOMPARE(import.find<QDoubleSpinBox>("faceSagSpin")->value(), 3.0);
         QCOMPARE(import.page.pendingEdits()[0].stored, QString("chosen by Torvane"));
+        import.click("lowQuality");
+        QCOMPARE(import.page.pendingEdits()[0].shown, QString("Low Quality"));
     }
 
     void limitsAndQualityWorkTheResetButton()
@@ -219,6 +232,8 @@ private Q_SLOTS:
         {
             Simplification page(m_application.get(), settings());
             page.type("ratio2", "70");
+            QCOMPARE(page.find("icon1")->property("pixmap").value<QPixmap>().toImage(),
+                     QIcon(":/controlCenter/controlCenter/High.png").pixmap(64).toImage());
             QVERIFY(page.changes.count() == 1 && page.canClickReset() &&
                     m_application->manager.ratios.isEmpty());
             // Only the levels beside it follow, the one above upwards and the one below downwards.
@@ -243,10 +258,14 @@ private Q_SLOTS:
         Simplification page(nullptr, settings());
         QVERIFY(page.reset() == 1 && page.canClickReset() && !page.page.applyModifications());
         QCOMPARE(stored(keys::SimplificationRatios), QString("1/0.75/0.5/0.25/0.01"));
+        registerDefaults({{keys::SimplificationRatios, "1/0.5/0.4/0.3/0.2/0.1"}}); // The first five count.
+        QVERIFY(page.reset() == 1 && !page.canClickReset() && !page.page.applyModifications());
+        QCOMPARE(stored(keys::SimplificationRatios), QString("1/0.5/0.4/0.3/0.2"));
     }
 
     void pluginsAreThoseOfTheFirstOpening()
     {
+        store(settings(), {{keys::LogFile, "/logs/log.txt"}});
         FakePlugin first, second;
         second.name = QString("A long name ").repeated(9);
         m_application->plugins = {&first, &second};
@@ -258,13 +277,20 @@ private Q_SLOTS:
         QCOMPARE(table->rowCount(), 2);
         const QStringList texts = {"Reader", "v. 1.2", second.name, "v. 1.2"};
         for (int cell = 0; cell < texts.size(); ++cell)
-            QCOMPARE(table->item(cell / 2, cell % 2)->text(), texts[cell]);
+            for (const int role : {Qt::DisplayRole, Qt::ToolTipRole})
+                QCOMPARE(table->item(cell / 2, cell % 2)->data(role).toString(), texts[cell]);
         QVERIFY(table->isVisible() && table->rowHeight(1) > table->rowHeight(0));
         QVERIFY(table->viewport()->rect().contains(table->visualItemRect(table->item(1, 1))));
         page.click("copyButton");
-        for (const QString& part :
-             QStringList{"Reader v. 1.2", qVersion(), QDir::toNativeSeparators(settings().fileName())})
-            QVERIFY2(QApplication::clipboard()->text().contains(part), qPrintable(part));
+        QStringList report = QApplication::clipboard()->text().split('\n');
+        QVERIFY(report.takeAt(1).startsWith(QString("Qt %1, ").arg(qVersion())));
+        QCOMPARE(report.join("\n"), QString("Torvane %1 (X64)\nSettings: %2\nLog: %3\n"
+                                            "Plug-in: Reader v. 1.2\nPlug-in: %4 v. 1.2")
+                                        .arg(kqDMIApplication::GetKernelVersion(),
+                                             QDir::toNativeSeparators(settings().fileName()),
+                                             QDir::toNativeSeparators("/logs/log.txt"), second.name));
+        QCOMPARE(page.find("applicationIcon")->property("pixmap").value<QPixmap>().size(), QSize(96, 96));
+        QVERIFY(page.find<QLabel>("noticeLabel")->text().contains("2024"));
     }
 
     void linksOpenFromTheKeyboard()

@@ -34,9 +34,9 @@ private Q_SLOTS:
         QTRY_VERIFY(showsPages(*m_window.findChild<zel::ZelControlCenter*>()));
         QMap<int, QString> pages;
         for (const auto* page : m_window.findChildren<zel::ZelSettingsPanel*>())
-            pages.insert(page->y(), page->getPanelName());
+            pages.insert(page->y(), page->getPanelName() + QString::number(page->getPanelCategory()));
         QCOMPARE(QStringList(pages.values()).join(" "),
-                 QString("Display Folders Simplification Tessellation About"));
+                 QString("Display1 Folders1 Simplification0 Tessellation2 About1"));
     }
 
     // Windows may take the keyboard away again when a window before this one has closed.
@@ -195,7 +195,7 @@ private Q_SLOTS:
             m_window.setGeometry(start);
             QTest::mouseMove(inputOf(&m_window), press);
             QCOMPARE(m_window.cursor().shape(), pointer);
-            drag(press, way, start.topLeft() + press + way - result.topLeft());
+            drag(m_window, press, way, start.topLeft() + press + way - result.topLeft());
             QCOMPARE(m_window.geometry(), result);
         }
         m_window.setGeometry(0, 0, 800, 600);
@@ -260,7 +260,7 @@ private Q_SLOTS:
         const QPoint onHeader(300, 15), way(30, 20);
         m_window.setGeometry(0, 0, 720, 500);
         const QRect moved = m_window.geometry().translated(way);
-        drag(onHeader, way, onHeader);
+        drag(m_window, onHeader, way, onHeader);
         QCOMPARE(m_window.geometry(), moved);
         for (const Qt::MouseButton button : {Qt::RightButton, Qt::LeftButton}) {
             QTest::mouseDClick(m_window.findChild<QWidget*>("headerFrame"), button);
@@ -269,7 +269,7 @@ private Q_SLOTS:
         QTRY_COMPARE(m_window.pos(), QPoint());
         // Dragged off, it keeps the place below the pointer as a part of its width.
         const QPoint grip(onHeader.x() * moved.width() / m_window.width(), onHeader.y());
-        drag(onHeader, way, grip);
+        drag(m_window, onHeader, way, grip);
         QTRY_COMPARE(m_window.geometry(), QRect(onHeader + way - grip, moved.size()));
         for (const bool maximized : {true, false}) {
             QTest::mouseClick(m_window.findChild<QPushButton*>("maximizeButton"), Qt::LeftButton);
@@ -278,14 +278,6 @@ private Q_SLOTS:
     }
 
 private:
-    void drag(const QPoint& press, const QPoint& way, const QPoint& release)
-    {
-        const auto window = inputOf(&m_window);
-        QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, press);
-        QTest::mouseMove(window, press + way);
-        QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, release);
-    }
-
     FakeApplication m_application;
     ZelControlCenterStandAloneWidget m_window{&m_application, nullptr, Qt::FramelessWindowHint};
 };
