@@ -125,8 +125,11 @@ private Q_SLOTS:
         };
         check->setFocus();
         for (const bool alt : {false, true}) {
-            press(alt ? Qt::Key_Enter : Qt::Key_Return, Qt::NoModifier);
-            QVERIFY(controlCenter->hasModifications());
+            const bool checked = check->isChecked();
+            press(Qt::Key_Return, Qt::ControlModifier);
+            QCOMPARE(check->isChecked(), checked);
+            press(alt ? Qt::Key_Enter : Qt::Key_Return, alt ? Qt::KeypadModifier : Qt::NoModifier);
+            QVERIFY(check->isChecked() != checked && controlCenter->hasModifications());
             alt ? press(Qt::Key_A, Qt::AltModifier) : press(Qt::Key_S, Qt::ControlModifier);
             QTRY_VERIFY(!controlCenter->hasModifications());
             QVERIFY(check->hasFocus());
@@ -155,6 +158,13 @@ private Q_SLOTS:
             press(Qt::Key_Z, Qt::ControlModifier);
             QVERIFY(!size->text().startsWith("1 ") && check->isChecked() == typed && size->hasFocus());
         }
+        QTest::keyClick(inputOf(&m_window), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QVERIFY(check->isChecked());
+        QSignalSpy help(controlCenter, SIGNAL(helpRequested(QWidget*)));
+        press(Qt::Key_F1, Qt::NoModifier);
+        QCOMPARE(help.count(), 1);
+        QVERIFY(m_window.findChild<QPushButton*>("resetButton")->shortcut() !=
+                m_window.findChild<QPushButton*>("applyButton")->shortcut());
         size->selectAll();
         QTest::keyClicks(size, "9999"); // What is being typed counts, and is brought into the range.
         press(Qt::Key_S, Qt::ControlModifier);
@@ -198,6 +208,25 @@ private Q_SLOTS:
             drag(m_window, press, way, start.topLeft() + press + way - result.topLeft());
             QCOMPARE(m_window.geometry(), result);
         }
+        m_window.setGeometry(start);
+        QTest::mousePress(inputOf(&m_window), Qt::RightButton, Qt::NoModifier, QPoint(2, 250));
+        QTest::mouseMove(inputOf(&m_window), QPoint(-20, 250));
+        QTest::mouseRelease(inputOf(&m_window), Qt::RightButton, Qt::NoModifier, QPoint(-20, 250));
+        QCOMPARE(m_window.geometry(), start);
+        QTest::mouseMove(inputOf(&m_window), QPoint(2, 250));
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(&m_window, &leave);
+        QCOMPARE(m_window.cursor().shape(), Qt::ArrowCursor);
+        QTest::mousePress(inputOf(&m_window), Qt::LeftButton, Qt::NoModifier, QPoint(2, 250));
+        QMouseEvent lost(QEvent::MouseMove, QPoint(50, 250), m_window.mapToGlobal(QPoint(50, 250)),
+                         Qt::NoButton, Qt::NoButton, Qt::NoModifier); // Another window has got the release.
+        QCoreApplication::sendEvent(&m_window, &lost);
+        QCOMPARE(m_window.geometry(), start);
+        QTest::mouseRelease(inputOf(&m_window), Qt::LeftButton, Qt::NoModifier, QPoint(50, 250));
+        m_window.showMaximized();
+        QTest::mouseMove(inputOf(&m_window), QPoint(2, 300));
+        QCOMPARE(m_window.cursor().shape(), Qt::ArrowCursor);
+        m_window.showNormal();
         m_window.setGeometry(0, 0, 800, 600);
     }
 
@@ -211,6 +240,12 @@ private Q_SLOTS:
             if (start == 2)
                 window.triggerMaximize();
             QTRY_COMPARE(window.geometry(), start ? place : usual);
+            auto* check = window.findChild<QCheckBox*>("deferredFXAACheckBox");
+            check->toggle();
+            window.setGeometry(60, 70, 730, 410);
+            const BoxAnswer answer({Qt::Key_Escape});
+            QVERIFY(!window.close() && window.isVisible()); // Then the place is not kept.
+            check->toggle();
             window.setGeometry(place);
             if (start == 1)
                 window.showMaximized();

@@ -1,4 +1,5 @@
 #include "QtTestCompat.h"
+#include "Version.h"
 #include "launch.h"
 
 #include <QtSingleApplication>
@@ -49,6 +50,31 @@ private Q_SLOTS:
             QCOMPARE(second.readAllStandardOutput().replace('\r', ""),
                      QByteArray("QGL\nqglshader\n QGLShader\n"));
         }
+    }
+
+    void tellsThatTheFirstInstanceDoesNotAnswer()
+    {
+        QProcess second;
+        second.setEnvironment(QProcess::systemEnvironment() << QString(Role) + "=second");
+        second.setWorkingDirectory(QCoreApplication::applicationDirPath() + "/../stage");
+        second.start(QCoreApplication::applicationFilePath(), QStringList("a"));
+        QVERIFY(second.waitForFinished(60000)); // Meanwhile this one does nothing.
+        QVERIFY(second.readAllStandardError().contains("it does not answer"));
+    }
+
+    void versions()
+    {
+        using ZelControlCenter::Version;
+        const QString whole = Version::GetDescStringMajorMinorReleaseRevision(true);
+        QCOMPARE(whole, QString("%1.%2.%3.%4")
+                            .arg(Version::GetMajor())
+                            .arg(Version::GetMinor())
+                            .arg(Version::GetRelease())
+                            .arg(Version::GetRevision()));
+        QCOMPARE(QString(Version::GetDescStringMajorMinorRelease(false)), whole.section('.', 0, 2));
+        QCOMPARE(QString(Version::GetDescStringMajorMinor(false)), whole.section('.', 0, 1));
+        QCOMPARE(QString(Version::GetDescStringMajorMinorReleaseRevisionDate()),
+                 whole + QString(" %1-%2").arg(Version::GetYear()).arg(Version::GetMonth()));
     }
 
     void refusesBesideAnApplication()
