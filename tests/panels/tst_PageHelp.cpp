@@ -324,6 +324,14 @@ private Q_SLOTS:
         QVERIFY2(controls > 60, qPrintable(QString::number(controls)));
         const auto* quality = QAccessible::queryAccessibleInterface(find("qualitySlider"));
         QCOMPARE(quality->text(QAccessible::Value), QString("Medium"));
+        QVERIFY(quality->text(QAccessible::Description).startsWith("Medium. "));
+        auto* value = const_cast<QAccessibleInterface*>(quality)->valueInterface();
+        QCOMPARE(value->minimumStepSize().toInt(), 1);
+        value->setCurrentValue(0);
+        QCOMPARE(find<QSlider>("qualitySlider")->value(), 0);
+        auto* units = find<QComboBox>("sceneUnitComboBox");
+        QTest::keyClick(units, Qt::Key_Home);
+        QCOMPARE(units->accessibleDescription().section(". ", 0, 0), units->currentText());
         const auto* list = QAccessible::queryAccessibleInterface(find("libUseLabel_2"));
         QVERIFY(list->text(QAccessible::Name).contains("Open Sans"));
 
@@ -348,6 +356,23 @@ private Q_SLOTS:
         QVERIFY(roleOf(low) == QAccessible::RadioButton && selector.useGPURenderer());
         pressByReader(low);
         QVERIFY(!selector.useGPURenderer());
+    }
+
+    void tellsWhenEachEditTakesEffect()
+    {
+        QMap<QString, QStringList> fields;
+        for (const auto* help : m_window->findChildren<ZelPageHelp*>())
+            for (const auto* field : m_window->findChildren<QWidget*>())
+                if (const auto* setting = help->setting(field))
+                    if (setting->fields.first() == field)
+                        fields[setting->effect] << field->objectName();
+        for (QStringList& names : fields)
+            names.sort();
+        QCOMPARE(QStringList(fields.keys()).join(", "),
+                 QString("after a restart, at once, with the next import"));
+        QCOMPARE(fields["at once"].join(" "), QString("databaseSpinBox maxTrianglesSpinBox ratio1 ratio2 "
+                                                      "ratio3 ratio4 ratio5 screenshotFolderButton"));
+        QCOMPARE(fields["with the next import"].size(), 4);
     }
 
     void tellsOfEdits()

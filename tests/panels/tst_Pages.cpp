@@ -7,6 +7,8 @@
 #include "ZelSettingsValidators.h"
 #include "ZelSimplificationSettingsPanel.h"
 
+#include "platform/MTLogger.h"
+
 using namespace zel;
 
 using About = ShownPage<ZelAboutSettingsPanel>;
@@ -74,6 +76,13 @@ private:
         return m_application->getApplicationFolder() + "/" + name;
     }
 
+    static bool hasWindow(const char* kind)
+    {
+        const QWidgetList all = QApplication::topLevelWidgets();
+        return std::any_of(all.begin(), all.end(),
+                           [&](const QWidget* window) { return window->inherits(kind); });
+    }
+
     QSettings& settings() { return m_application->getSettings(); }
     QString stored(const char* key) { return settings().value(key).toString(); }
 
@@ -136,6 +145,9 @@ private Q_SLOTS:
         auto* const shotsButton = page.find<QPushButton>("screenshotFolderButton");
         QVERIFY(shotsButton->accessibleDescription().startsWith("No folder is set. Where"));
         QVERIFY(!shotsButton->icon().isNull() && page.find<QPushButton>("databaseButton")->icon().isNull());
+        QTest::keyClick(shotsButton, Qt::Key_F1, Qt::ShiftModifier); // There is no area for the help.
+        QVERIFY(hasWindow("QWhatsThat"));
+        QWhatsThis::hideText();
         const QString shots = folder("shots of R&D");
         m_application->manager.cacheSizes.clear();
         m_application->imageFolders.clear();
@@ -147,10 +159,10 @@ private Q_SLOTS:
         QCOMPARE(m_application->imageFolders, QList<QString>({shots, shots}));
         QVERIFY(shotsButton->shortcut().isEmpty() && shotsButton->icon().isNull());
         QVERIFY(shotsButton->accessibleDescription().startsWith(shots + " Where"));
-        shotsButton->setText("");
-        const QImage blank = pictureOf(shotsButton);
-        shotsButton->setText("&"); // Is no shortcut, so it is painted.
-        QVERIFY(pictureOf(shotsButton) != blank);
+        shotsButton->setText("&");
+        const QImage one = pictureOf(shotsButton);
+        shotsButton->setText("&&"); // Each is painted.
+        QVERIFY(pictureOf(shotsButton) != one);
     }
 
     void editsAreMergedWithWhatOthersStore()
@@ -182,6 +194,10 @@ private Q_SLOTS:
         edits[0].putBack();
         QVERIFY(page.find<QSpinBox>("databaseSpinBox")->value() == 700 && !page.page.hasModifications());
 
+        store(settings(), {{keys::CacheSize, "5"}}); // Which the field cannot show.
+        page.page.initializeWidget();
+        QCOMPARE(page.page.pendingEdits()[0].stored + page.page.pendingEdits()[0].shown, QString("510 Mo"));
+
         // After a write that succeeded the edit is no longer one.
         page.type("databaseSpinBox", "512");
         page.page.applyModifications();
@@ -207,6 +223,9 @@ private Q_SLOTS:
         for (const auto& limit : Limits) {
             page.click(limit.byValue);
             QVERIFY(page.find(limit.spinBox)->isEnabled() && page.canClickReset());
+            const bool whole = page.find<QSpinBox>(limit.spinBox);
+            QCOMPARE(page.type(limit.spinBox, whole ? "400" : "250.5"),
+                     QString::fromUtf8(whole ? "359 \302\260" : "99.990"));
             page.type(limit.spinBox, "42"); // Numbers are not announced.
             page.click(limit.byDefault);
             QVERIFY(!page.find(limit.spinBox)->isEnabled() && !page.canClickReset());
@@ -225,6 +244,8 @@ private Q_SLOTS:
         QTest::keyClick(page.find("defaultQuality"), Qt::Key_Down);
         QVERIFY(page.find<QRadioButton>("highQuality")->isChecked() && page.find("highQuality")->hasFocus());
         QCOMPARE(page.changes.count(), 6 + 4 + 1);
+        page.page.initializeWidget(); // The focus stays in the choice.
+        QVERIFY(page.find("defaultQuality")->hasFocus());
     }
 
     void ratiosReachTheSimplifier()
@@ -258,9 +279,6 @@ private Q_SLOTS:
         Simplification page(nullptr, settings());
         QVERIFY(page.reset() == 1 && page.canClickReset() && !page.page.applyModifications());
         QCOMPARE(stored(keys::SimplificationRatios), QString("1/0.75/0.5/0.25/0.01"));
-        registerDefaults({{keys::SimplificationRatios, "1/0.5/0.4/0.3/0.2/0.1"}}); // The first five count.
-        QVERIFY(page.reset() == 1 && !page.canClickReset() && !page.page.applyModifications());
-        QCOMPARE(stored(keys::SimplificationRatios), QString("1/0.5/0.4/0.3/0.2"));
     }
 
     void pluginsAreThoseOfTheFirstOpening()
@@ -310,7 +328,17 @@ private Q_SLOTS:
     void defaultsAreWhatTheValidatorsAccept()
     {
         ZelSettingsRegistry::ClearSettingsValues();
+        ZelPageDefaults::Register(QSettings(QString(), QSettings::IniFormat));
+        QStringList registered; // In the order of the keys.
+        for (const auto& setting : ZelSettingsRegistry::GetDefaultSettingsValues())
+            registered << setting.second.first;
+        QCOMPARE(registered.join(" "), QString("500000 2147483648 2147483648 2147483648 1/0.75/0.5/0.25/0.1 "
+                                               "true 20 false 10 false 0.1 false false 1000 false true true "
+                                               "%1 Medium ")
+                                           .arg(QThread::idealThreadCount()));
+        ZelSettingsRegistry::ClearSettingsValues();
         const QTemporaryDir folder;
+        MTLogger::InstallFileHandler(folder.filePath("log.txt").toStdString(), false, "");
         QSettings defaults(folder.filePath("Defaults.ini"), QSettings::IniFormat);
         defaults.setValue(keys::ScreenshotFolder, QStringList({"/a", "b"})); // As a comma without quotes.
         ZelPageDefaults::Register(defaults);
@@ -332,6 +360,14 @@ private Q_SLOTS:
         for (const auto& [key, text, registered] : rows)
             defaults.setValue(key, text);
         ZelPageDefaults::Register(defaults);
+        store(folder.filePath("cut"), "[x\n");
+        ZelPageDefaults::Register(QSettings(folder.filePath("cut"), QSettings::IniFormat));
+        MTLogger::RemoveFileHandler();
+        const QString log = contentOf(folder.filePath("log.txt"));
+        QCOMPARE(log.count("[warning]"), 6);
+        for (const char* text : {"ImageFolder\" cannot be \"/a, b\"", "useED\" cannot be \"yes\"",
+                                 "no page has a setting \"unknown\"", "cut: cannot be read to its end"})
+            QVERIFY2(log.contains(text), qPrintable(log));
         for (const auto& [key, text, registered] : rows) {
             QCOMPARE(ZelSettingsRegistry::GetDefaultSettingsValue(key), registered);
             QCOMPARE(ZelSettingsRegistry::GetDefaultSettingsValue(key).isNull(), registered.isNull());

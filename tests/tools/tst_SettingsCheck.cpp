@@ -75,6 +75,7 @@ private:
 
         QVERIFY(QFile::remove(m_file + ".lock"));
         QCOMPARE(run({"--repair", "--json", m_file}), 4);
+        QVERIFY(!m_json["freshStart"].toBool() && !m_json["folders"].toArray().isEmpty());
         QCOMPARE(m_json["changes"].toArray(), changes);
         QSettings settings(m_file, QSettings::IniFormat);
         settings.setIniCodec("UTF-8");
@@ -159,8 +160,12 @@ private Q_SLOTS:
 
     void repairsAllOrNothing()
     {
-        store(m_file, "//=1\n"); // One pass does not repair it completely.
+        store(m_file, "//=1\ngarbage\n"); // One pass does not repair it completely.
+        QCOMPARE(run({m_file}), 1);
+        QVERIFY2(m_output.contains("\n  missing folder \"" + m_root.toUtf8()), m_output);
         QCOMPARE(run({"--repair", m_file}), 4);
+        QVERIFY2(m_output.contains("\n  created folder \"" + m_root.toUtf8()), m_output);
+        QVERIFY2(m_output.contains("\n  a copy of the former file is kept as \""), m_output);
         QVERIFY(QDir().mkdir(m_file + ".lock"));
         QCOMPARE(run({m_file}), 0); // It need not be written.
         QVERIFY(QDir().rmdir(m_file + ".lock"));
