@@ -338,12 +338,6 @@ private Q_SLOTS:
         ZelRendererSelector selector(nullptr, Qt::WindowFlags());
         selector.show();
         QCOMPARE(poorlyAnnounced(QAccessible::queryAccessibleInterface(&selector), controls), QString());
-        for (const char* name : {"raytracerButton", "deferredButton"}) {
-            auto* tile = selector.findChild<QWidget*>(name);
-            QVERIFY(!QAccessible::queryAccessibleInterface(tile)->state().checked);
-            pressByReader(tile);
-            QVERIFY(QAccessible::queryAccessibleInterface(tile)->state().checked);
-        }
     }
 #endif
 
@@ -352,22 +346,22 @@ private Q_SLOTS:
         ZelRendererSelector selector(nullptr, Qt::WindowFlags());
         selector.show();
         QApplication::setActiveWindow(&selector);
-        auto* low = selector.findChild<QWidget*>("raytracerButton");
-        QVERIFY(roleOf(low) == QAccessible::RadioButton && selector.useGPURenderer());
-        pressByReader(low);
-        QVERIFY(!selector.useGPURenderer());
+        for (const char* name : {"deferredButton", "raytracerButton", "deferredButton"}) {
+            auto* tile = selector.findChild<QWidget*>(name);
+            pressByReader(tile);
+            QVERIFY(roleOf(tile) == QAccessible::RadioButton && isReadAsChecked(tile));
+            QCOMPARE(selector.useGPURenderer(), tile->objectName() == "deferredButton");
+        }
     }
 
     void tellsWhenEachEditTakesEffect()
     {
         QMap<QString, QStringList> fields;
-        for (const auto* help : m_window->findChildren<ZelPageHelp*>())
-            for (const auto* field : m_window->findChildren<QWidget*>())
-                if (const auto* setting = help->setting(field))
-                    if (setting->fields.first() == field)
-                        fields[setting->effect] << field->objectName();
-        for (QStringList& names : fields)
-            names.sort();
+        for (const auto* field : m_window->findChildren<QWidget*>())
+            for (const auto* help : m_window->findChildren<ZelPageHelp*>())
+                if (const auto* setting = help->setting(field); setting && setting->fields.first() == field)
+                    fields[setting->effect] << field->objectName();
+        fields["at once"].sort();
         QCOMPARE(QStringList(fields.keys()).join(", "),
                  QString("after a restart, at once, with the next import"));
         QCOMPARE(fields["at once"].join(" "), QString("databaseSpinBox maxTrianglesSpinBox ratio1 ratio2 "

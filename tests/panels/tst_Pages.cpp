@@ -76,13 +76,6 @@ private:
         return m_application->getApplicationFolder() + "/" + name;
     }
 
-    static bool hasWindow(const char* kind)
-    {
-        const QWidgetList all = QApplication::topLevelWidgets();
-        return std::any_of(all.begin(), all.end(),
-                           [&](const QWidget* window) { return window->inherits(kind); });
-    }
-
     QSettings& settings() { return m_application->getSettings(); }
     QString stored(const char* key) { return settings().value(key).toString(); }
 
@@ -145,9 +138,6 @@ private Q_SLOTS:
         auto* const shotsButton = page.find<QPushButton>("screenshotFolderButton");
         QVERIFY(shotsButton->accessibleDescription().startsWith("No folder is set. Where"));
         QVERIFY(!shotsButton->icon().isNull() && page.find<QPushButton>("databaseButton")->icon().isNull());
-        QTest::keyClick(shotsButton, Qt::Key_F1, Qt::ShiftModifier); // There is no area for the help.
-        QVERIFY(hasWindow("QWhatsThat"));
-        QWhatsThis::hideText();
         const QString shots = folder("shots of R&D");
         m_application->manager.cacheSizes.clear();
         m_application->imageFolders.clear();

@@ -27,6 +27,13 @@ class tst_launch : public QObject
 {
     Q_OBJECT
 
+    static void startSecond(QProcess& process, const QStringList& arguments)
+    {
+        process.setEnvironment(QProcess::systemEnvironment() << QString(Role) + "=second");
+        process.setWorkingDirectory(QCoreApplication::applicationDirPath() + "/../stage");
+        process.start(QCoreApplication::applicationFilePath(), arguments);
+    }
+
 private Q_SLOTS:
     void secondInstancePassesItsArgumentsOn()
     {
@@ -38,9 +45,7 @@ private Q_SLOTS:
              {QStringList(), QStringList({"a", "b"}), QStringList({"", "c?d", name})}) {
             const QString message = (arguments + QStringList("")).join("?");
             QProcess second;
-            second.setEnvironment(QProcess::systemEnvironment() << QString(Role) + "=second");
-            second.setWorkingDirectory(QCoreApplication::applicationDirPath() + "/../stage");
-            second.start(QCoreApplication::applicationFilePath(), arguments);
+            startSecond(second, arguments);
             received.clear();
             QTRY_COMPARE_WITH_TIMEOUT(second.state(), QProcess::NotRunning, 60000);
             QCOMPARE(second.exitCode(), Refused);
@@ -55,9 +60,7 @@ private Q_SLOTS:
     void tellsThatTheFirstInstanceDoesNotAnswer()
     {
         QProcess second;
-        second.setEnvironment(QProcess::systemEnvironment() << QString(Role) + "=second");
-        second.setWorkingDirectory(QCoreApplication::applicationDirPath() + "/../stage");
-        second.start(QCoreApplication::applicationFilePath(), QStringList("a"));
+        startSecond(second, QStringList("a"));
         QVERIFY(second.waitForFinished(60000)); // Meanwhile this one does nothing.
         QVERIFY(second.readAllStandardError().contains("it does not answer"));
     }

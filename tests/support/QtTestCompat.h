@@ -65,6 +65,11 @@ inline QAccessible::Role roleOf(QWidget* widget)
     return QAccessible::queryAccessibleInterface(widget)->role();
 }
 
+inline bool isReadAsChecked(QWidget* widget)
+{
+    return QAccessible::queryAccessibleInterface(widget)->state().checked;
+}
+
 /// As assistive technology presses it.
 inline void pressByReader(QWidget* widget)
 {
@@ -337,6 +342,12 @@ inline QAccessible::Role roleOf(QWidget* widget)
 {
     const std::unique_ptr<QAccessibleInterface> read(QAccessible::queryAccessibleInterface(widget));
     return read->role(0);
+}
+
+inline bool isReadAsChecked(QWidget* widget)
+{
+    const std::unique_ptr<QAccessibleInterface> read(QAccessible::queryAccessibleInterface(widget));
+    return read->state(0) & QAccessible::Checked;
 }
 
 inline void pressByReader(QWidget* widget)
