@@ -354,7 +354,7 @@ private Q_SLOTS:
         ZelPageDefaults::Register(QSettings(folder.filePath("cut"), QSettings::IniFormat));
         MTLogger::RemoveFileHandler();
         const QString log = contentOf(folder.filePath("log.txt"));
-        QCOMPARE(log.count("[warning]"), 6);
+        QVERIFY2(!log.contains("no page has a setting \"deferred"), qPrintable(log));
         for (const char* text : {"ImageFolder\" cannot be \"/a, b\"", "useED\" cannot be \"yes\"",
                                  "no page has a setting \"unknown\"", "cut: cannot be read to its end"})
             QVERIFY2(log.contains(text), qPrintable(log));

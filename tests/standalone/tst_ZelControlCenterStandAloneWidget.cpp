@@ -117,7 +117,7 @@ private Q_SLOTS:
 
     void shortcuts()
     {
-        const auto* controlCenter = m_window.findChild<zel::ZelControlCenter*>();
+        auto* controlCenter = m_window.findChild<zel::ZelControlCenter*>();
         auto* check = m_window.findChild<QCheckBox*>("deferredFXAACheckBox");
         const auto press = [this](Qt::Key key, Qt::KeyboardModifier modifier) {
             QApplication::setActiveWindow(&m_window); // After a box, too.

@@ -212,16 +212,9 @@ class QJsonValue
 {
 public:
     QJsonValue() = default;
-    QJsonValue(const QVariant& value)
+    template <class T>
+    QJsonValue(const T& value)
         : m_value(value)
-    {
-    }
-    QJsonValue(const QString& text)
-        : m_value(text)
-    {
-    }
-    QJsonValue(const char* text)
-        : m_value(QString(text))
     {
     }
 
