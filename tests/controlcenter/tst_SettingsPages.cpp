@@ -41,6 +41,9 @@ private Q_SLOTS:
         m_page["A"]->needsRestart = true;
         m_page["B"]->edit();
         QVERIFY(m_pages->hasModifications() && m_pages->mark() && m_pages->canReset());
+        for (const auto& [page, icon] : {std::make_pair("A", "pendingNone"), {"B", "pending"}})
+            QCOMPARE(m_page[page]->getActionWidget()->icon().pixmap(8).toImage(),
+                     QIcon(QString(":/controlCenter/controlCenter/%1.png").arg(icon)).pixmap(8).toImage());
         QVERIFY(m_page["B"]->getActionWidget()->toolTip() != m_page["A"]->getActionWidget()->toolTip());
         // Differs from the file only when that is read again: another program has changed it.
         m_page["C"]->whenAsked = [this] { m_page["C"]->modified = true; };

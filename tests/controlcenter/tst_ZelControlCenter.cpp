@@ -101,6 +101,8 @@ private Q_SLOTS:
             QVERIFY(!m_application->engineUpdates.contains(true));
             QPropertyAnimation* slide = pausedHalfWay("controlCenterWidth");
             QVERIFY(m_controlCenter->width() % 250 > 0);
+            QCOMPARE(slide->easingCurve().type(), open ? QEasingCurve::OutQuad : QEasingCurve::InQuad);
+            QCOMPARE(slide->duration(), 350);
             slide->resume();
             QTRY_COMPARE(m_controlCenter->isMenuOpen(), open);
             QCOMPARE(m_controlCenter->isVisible() ? m_controlCenter->width() : 0, open ? 250 : 0);
@@ -196,7 +198,7 @@ private Q_SLOTS:
             QCOMPARE(notices.count, 2);
             QVERIFY(canApply() && page.hasModifications() && m_controlCenter->hasModifications());
             QVERIFY2(error->isVisible() && error->text().contains(file), qPrintable(error->text()));
-            QVERIFY(error->toolTip().contains(QFileInfo(file).fileName()));
+            QVERIFY(Qt::mightBeRichText(error->toolTip()) && error->toolTip().contains("Settings.ini"));
             QCOMPARE(int(m_application->manager.cacheSizes.last()), size->value() - 1); // The stored one.
             QVERIFY(clear());
             QTest::mouseClick(button("applyButton"), Qt::LeftButton);
@@ -307,6 +309,9 @@ private Q_SLOTS:
                 !discard->isEnabled());
         restore->trigger();
         QVERIFY(page.size->value() == stored + 1 && canApply() && !restore->isEnabled());
+        discard->trigger();
+        openEverything(); // Reads the file: what was discarded belongs to an earlier state.
+        QVERIFY(!restore->isEnabled());
     }
 
     void openPagesFollowTheFile()
@@ -432,7 +437,7 @@ private Q_SLOTS:
         for (const QString press : {"later in a foreign window", "at once", "later after a resize", "later",
                                     "later", "later without edits"}) {
             m_controlCenter->setGUIHandler(press.contains("foreign") ? &foreign : m_window.get());
-            QTest::qWait(press.startsWith("later") ? GuardTime : 0);
+            QTest::qWait(press.startsWith("later") ? GuardTime : GuardTime / 4);
             if (press.contains("resize"))
                 m_view->resize(m_view->size() - QSize(0, 1));
             m_pages[0]->modified = !press.contains("without");
@@ -454,6 +459,8 @@ private Q_SLOTS:
         box.setRange(10, 4096);
         openEverything();
         box.setFocus();
+        auto* putBack = m_controlCenter->findChild<QAction*>("putBack");
+        QVERIFY(putBack->isEnabled());
         for (const int value : {10, 33}) { // Escape puts back what is typed, and only that.
             for (const Qt::Key end : {Qt::Key_Return, Qt::Key_Escape}) {
                 box.selectAll();
@@ -462,6 +469,12 @@ private Q_SLOTS:
                 QCOMPARE(box.value(), value);
             }
         }
+        QCOMPARE(box.findChild<QLineEdit*>()->selectedText(), QString("33")); // To be typed over.
+        m_pages[0]->edit();
+        QTest::keyClicks(&box, "55");
+        m_controlCenter->findChild<QAction*>("apply")->trigger();
+        press(Qt::Key_Escape); // What is applied is not what is typed.
+        QCOMPARE(box.value(), 55);
         zel::zelSpinBox last(m_pages[2].get());
         last.show();
         QWidget* const pageButton = m_pages[0]->getActionWidget();
@@ -475,6 +488,7 @@ private Q_SLOTS:
             QTest::mouseRelease(inputOf(m_window.get()), Qt::LeftButton, Qt::NoModifier, place);
         }
         pageButton->setFocus();
+        QVERIFY(!putBack->isEnabled());
         const int bottom = scrollBar()->maximum(), page = scrollBar()->pageStep();
         for (const auto& [key, place] : {std::make_pair(Qt::Key_End, bottom),
                                          {Qt::Key_PageUp, bottom - page},
@@ -501,8 +515,11 @@ private Q_SLOTS:
             auto* action = m_controlCenter->findChild<QAction*>(name);
             QVERIFY(action && action->shortcuts().isEmpty() && !action->text().isEmpty());
             action->setShortcut(QKeySequence(Qt::CTRL + key++));
+            // A held Ctrl+Z is not to discard what is no longer typed.
+            QCOMPARE(action->autoRepeat(), QString(name) != "discard" && QString(name) != "restore");
         }
-        QVERIFY(!m_controlCenter->findChild<QAction*>("apply")->isEnabled());
+        const auto* apply = m_controlCenter->findChild<QAction*>("apply");
+        QVERIFY(!apply->isEnabled() && apply->toolTip() == "Applies your changes");
         QSignalSpy help(m_controlCenter.get(), SIGNAL(helpRequested(QWidget*)));
         QDialog other(m_window.get(), Qt::Tool);
         QLineEdit field(&other);
@@ -561,8 +578,12 @@ private Q_SLOTS:
             QTest::mouseClick(button, Qt::LeftButton);
         }
         QCOMPARE(triggered.count(), 1);
+        action.setStatusTip("status");
+        action.setToolTip("tip");
+        QCOMPARE(item.statusTip() + ' ' + item.toolTip(), QString("status tip"));
         action.setVisible(false);
         QVERIFY(item.isHidden());
+        action.setVisible(true);
         m_actions.clear();
         item.onActionChanged();
         QVERIFY(!item.getZelAction() && item.isHidden());
@@ -574,8 +595,10 @@ private Q_SLOTS:
             {"a", "", false},           {"b", "", true},         {"before a", "a", false},
             {"last", "Settings", true}, {"twice", "gone", true}, {"twice", "b", true}};
         for (const auto& [name, anchor, after] : registrations)
-            m_controlCenter->registerCCAction(&action(name), anchor, false, after, false);
+            m_controlCenter->registerCCAction(&action(name), anchor, anchor[0] == 'g', after, false);
         QCOMPARE(columnText(), QString("b,twice,before a,a,Settings,last,twice"));
+        for (const auto* item : m_controlCenter->findChildren<ZelCCActionItem*>())
+            QCOMPARE(item->isWorkflowSpecific(), item == column()->itemAt(6)->widget());
         int visited = 0; // By the Tab key, from top to bottom.
         for (QWidget* widget = m_window.get(); (widget = widget->nextInFocusChain()) != m_window.get();)
             if (widget->objectName() == "actionButton")
@@ -591,6 +614,7 @@ private Q_SLOTS:
         QWidget* const line = column()->itemAt(0)->widget();
         QCOMPARE(line->size(), QSize(232, 1));
         QCOMPARE(line->styleSheet(), QString("background:rgb(0,0,0,30);"));
+        QCOMPARE(line->property("styleSheet").toString(), QString("background:rgba(0,0,0,30);"));
         m_controlCenter->unregisterCCAction(&action("twice"));
         action("twice").setText("Changed"); // Nothing mirrors it any more.
         QCOMPARE(columnText(), QString("-,-,b,before a,a,-,Settings,last,-"));
@@ -601,9 +625,11 @@ private Q_SLOTS:
 
     void actionMayCloseTheMenu()
     {
-        m_controlCenter->registerCCAction(&action("closing"), "", false, false, true);
+        for (const char* anchor : {"", "Settings"})
+            m_controlCenter->registerCCAction(&action("closing"), anchor, false, false, true);
         openEverything();
         action("closing").trigger();
+        QCOMPARE(m_application->engineUpdates.count(false), 3); // It closes once.
         QTRY_VERIFY(!m_controlCenter->isMenuOpen());
         openEverything();
         m_controlCenter->unregisterCCAction(&action("closing"));

@@ -182,13 +182,20 @@ private Q_SLOTS:
         QCOMPARE(display.text("coreUsedLabel"), QString("1 core"));
         display.slide("coreUsedSlider", 1);
         QCOMPARE(display.text("coreUsedLabel"), QString("2 cores"));
-        const QImage image = pictureOf(display.find("qualitySlider"));
-        QSet<int> marks; // Where there are any, at the height that the style leaves them.
-        for (int x = 1; x < image.width() - 1; ++x)
-            for (int y = image.height() - 6; y < image.height(); ++y)
-                if (image.pixel(x, y) == QColor(Qt::white).rgb())
-                    marks << x;
-        QCOMPARE(marks.size(), 4);
+        // A mark for each step, or for every second, fourth and so on where they would be too close.
+        for (const auto& [steps, interval] : {std::make_pair(3, 1), {75, 1}, {120, 2}, {1200, 16}}) {
+            display.find<QSlider>("qualitySlider")->setMaximum(steps);
+            const QImage image = pictureOf(display.find("qualitySlider"));
+            QMap<int, int> marks; // How many have each length; 0 where there is none.
+            for (int x = 1; x < image.width() - 1; ++x) {
+                int length = 0;
+                for (int y = image.height() - 6; y < image.height(); ++y)
+                    length += image.pixel(x, y) == QColor(Qt::white).rgb();
+                ++marks[length];
+            }
+            QVERIFY(marks.size() == 2 && marks.keys().last() > 1);
+            QCOMPARE(marks.values().last(), steps / interval + 1);
+        }
     }
 
     void selectorChoosesByMouseAndKeyboard()
@@ -198,6 +205,12 @@ private Q_SLOTS:
         selector.show();
         selector.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&selector));
+        QCOMPARE(selector.focusWidget(), child("okButton"));
+        QCOMPARE(child("raytracerButton")->accessibleName(), QString("Low (Run everywhere)"));
+        QVERIFY(!child("label")->property("pixmap").value<QPixmap>().isNull());
+        selector.move(0, 0);
+        drag(selector, QPoint(200, 20), QPoint(30, 20), QPoint(200, 20));
+        QCOMPARE(selector.pos(), QPoint(30, 20));
         const std::pair<const char*, bool> clicks[] = {
             {"label_2", true}, {"raytracerButton", false}, {"label_2", false}, {"deferredButton", true}};
         // The ring follows the choice, the colour does not.
@@ -230,10 +243,12 @@ private Q_SLOTS:
             QTest::keyClick(engine, key);
             QCOMPARE(selector.useGPURenderer(), !before);
         }
-        for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Left}) {
+        for (const auto& [key, gpu] : {std::make_pair(Qt::Key_Right, true),
+                                       {Qt::Key_Up, false},
+                                       {Qt::Key_Down, true},
+                                       {Qt::Key_Left, false}}) {
             QTest::keyClick(selector.focusWidget(), key);
-            QCOMPARE(selector.useGPURenderer(), key == Qt::Key_Right);
-            QCOMPARE(child("deferredButton")->hasFocus(), key == Qt::Key_Right);
+            QVERIFY(selector.useGPURenderer() == gpu && child("deferredButton")->hasFocus() == gpu);
         }
         QVERIFY(selector.isVisible());
         child("okButton")->setFocus();

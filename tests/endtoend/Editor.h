@@ -96,12 +96,6 @@ public:
                                     << arguments);
     }
 
-    void kill()
-    {
-        m_process.kill();
-        m_process.waitForFinished(Patience);
-    }
-
     /// Waits for the end; -1 when it does not come in time or is a crash.
     int exitCode()
     {

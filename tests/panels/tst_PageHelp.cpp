@@ -270,7 +270,9 @@ private Q_SLOTS:
                 });
                 QContextMenuEvent asked(QContextMenuEvent::Mouse, QPoint(5, 5), box->mapToGlobal({5, 5}));
                 if (byKeys)
-                    QTest::keyClick(box, key, Qt::AltModifier);
+                    QTest::keyClick(box, key,
+                                    Qt::AltModifier |
+                                        (key == Qt::Key_Delete ? Qt::KeypadModifier : Qt::NoModifier));
                 else
                     QCoreApplication::sendEvent(box, &asked);
                 QCOMPARE(box->value(), value);
@@ -312,18 +314,20 @@ private Q_SLOTS:
         QVERIFY2(controls > 60, qPrintable(QString::number(controls)));
         const auto* quality = QAccessible::queryAccessibleInterface(find("qualitySlider"));
         QCOMPARE(quality->text(QAccessible::Value), QString("Medium"));
+        QVERIFY(quality->text(QAccessible::Description).startsWith("Medium. "));
+        auto* value = const_cast<QAccessibleInterface*>(quality)->valueInterface();
+        QCOMPARE(value->minimumStepSize().toInt(), 1);
+        value->setCurrentValue(0);
+        QCOMPARE(find<QSlider>("qualitySlider")->value(), 0);
+        auto* units = find<QComboBox>("sceneUnitComboBox");
+        QTest::keyClick(units, Qt::Key_Home);
+        QCOMPARE(units->accessibleDescription().section(". ", 0, 0), units->currentText());
         const auto* list = QAccessible::queryAccessibleInterface(find("libUseLabel_2"));
         QVERIFY(list->text(QAccessible::Name).contains("Open Sans"));
 
         ZelRendererSelector selector(nullptr, Qt::WindowFlags());
         selector.show();
         QCOMPARE(poorlyAnnounced(QAccessible::queryAccessibleInterface(&selector), controls), QString());
-        for (const char* name : {"raytracerButton", "deferredButton"}) {
-            auto* tile = selector.findChild<QWidget*>(name);
-            QVERIFY(!QAccessible::queryAccessibleInterface(tile)->state().checked);
-            pressByReader(tile);
-            QVERIFY(QAccessible::queryAccessibleInterface(tile)->state().checked);
-        }
     }
 #endif
 
@@ -332,10 +336,27 @@ private Q_SLOTS:
         ZelRendererSelector selector(nullptr, Qt::WindowFlags());
         selector.show();
         QApplication::setActiveWindow(&selector);
-        auto* low = selector.findChild<QWidget*>("raytracerButton");
-        QVERIFY(roleOf(low) == QAccessible::RadioButton && selector.useGPURenderer());
-        pressByReader(low);
-        QVERIFY(!selector.useGPURenderer());
+        for (const char* name : {"deferredButton", "raytracerButton", "deferredButton"}) {
+            auto* tile = selector.findChild<QWidget*>(name);
+            pressByReader(tile);
+            QVERIFY(roleOf(tile) == QAccessible::RadioButton && isReadAsChecked(tile));
+            QCOMPARE(selector.useGPURenderer(), tile->objectName() == "deferredButton");
+        }
+    }
+
+    void tellsWhenEachEditTakesEffect()
+    {
+        QMap<QString, QStringList> fields;
+        for (const auto* field : m_window->findChildren<QWidget*>())
+            for (const auto* help : m_window->findChildren<ZelPageHelp*>())
+                if (const auto* setting = help->setting(field); setting && setting->fields.first() == field)
+                    fields[setting->effect] << field->objectName();
+        fields["at once"].sort();
+        QCOMPARE(QStringList(fields.keys()).join(", "),
+                 QString("after a restart, at once, with the next import"));
+        QCOMPARE(fields["at once"].join(" "), QString("databaseSpinBox maxTrianglesSpinBox ratio1 ratio2 "
+                                                      "ratio3 ratio4 ratio5 screenshotFolderButton"));
+        QCOMPARE(fields["with the next import"].size(), 4);
     }
 
     void tellsOfEdits()

@@ -7,6 +7,8 @@
 #include "ZelSettingsValidators.h"
 #include "ZelSimplificationSettingsPanel.h"
 
+#include "platform/MTLogger.h"
+
 using namespace zel;
 
 using About = ShownPage<ZelAboutSettingsPanel>;
@@ -58,8 +60,10 @@ private:
     /// Answers the folder dialog of a button; an empty folder cancels it.
     static void choose(General& page, const char* button, const QString& folder)
     {
-        const Later answer(10, [folder] {
-            QWidget* dialog = QApplication::activeModalWidget();
+        const QString former = page.find(button)->toolTip();
+        const Later answer(10, [folder, former] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(former.isEmpty() || dialog->directory() == QDir(former)); // It begins where it is.
             dialog->findChild<QLineEdit*>("fileNameEdit")->setText(folder);
             QTest::keyClick(dialog, folder.isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
         });
@@ -131,7 +135,10 @@ private Q_SLOTS:
         }
         QCOMPARE(page.changes.count(), 6);
 
-        const QString shots = folder("other");
+        auto* const shotsButton = page.find<QPushButton>("screenshotFolderButton");
+        QVERIFY(shotsButton->accessibleDescription().startsWith("No folder is set. Where"));
+        QVERIFY(!shotsButton->icon().isNull() && page.find<QPushButton>("databaseButton")->icon().isNull());
+        const QString shots = folder("shots of R&D");
         m_application->manager.cacheSizes.clear();
         m_application->imageFolders.clear();
         page.type("databaseSpinBox", "2048");
@@ -140,6 +147,8 @@ private Q_SLOTS:
         page.page.applyModifications();
         QCOMPARE(m_application->manager.cacheSizes, QList<unsigned int>{2048});
         QCOMPARE(m_application->imageFolders, QList<QString>({shots, shots}));
+        QVERIFY(shotsButton->shortcut().isEmpty() && shotsButton->icon().isNull());
+        QVERIFY(shotsButton->accessibleDescription().startsWith(shots + " Where"));
     }
 
     void editsAreMergedWithWhatOthersStore()
@@ -172,6 +181,11 @@ private Q_SLOTS:
         store(settings(), {{keys::CacheSize, "512"}}); // By another program: what was not written here.
         page.page.takeStored();
         QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->value(), 512);
+
+        store(settings(), {{keys::CacheSize, "5"}}); // Which the field cannot show.
+        page.page.initializeWidget();
+        QCOMPARE(page.page.pendingEdits()[0].stored + page.page.pendingEdits()[0].shown, QString("510 Mo"));
+
         // After a write that succeeded the edit is no longer one.
         page.type("databaseSpinBox", "640");
         page.page.applyModifications();
@@ -190,6 +204,8 @@ private Q_SLOTS:
         QVERIFY(import.find<QRadioButton>("sag")->isChecked() && import.find("faceAngleSpin")->isEnabled());
         QCOMPARE(import.find<QDoubleSpinBox>("faceSagSpin")->value(), 3.0);
         QCOMPARE(import.page.pendingEdits()[0].stored, QString("chosen by Torvane"));
+        import.click("lowQuality");
+        QCOMPARE(import.page.pendingEdits()[0].shown, QString("Low Quality"));
     }
 
     void limitsAndQualityWorkTheResetButton()
@@ -198,6 +214,9 @@ private Q_SLOTS:
         for (const auto& limit : Limits) {
             page.click(limit.byValue);
             QVERIFY(page.find(limit.spinBox)->isEnabled() && page.canClickReset());
+            const bool whole = page.find<QSpinBox>(limit.spinBox);
+            QCOMPARE(page.type(limit.spinBox, whole ? "400" : "250.5"),
+                     QString::fromUtf8(whole ? "359 \302\260" : "99.990"));
             page.type(limit.spinBox, "42"); // Numbers are not announced.
             page.click(limit.byDefault);
             QVERIFY(!page.find(limit.spinBox)->isEnabled() && !page.canClickReset());
@@ -216,6 +235,8 @@ private Q_SLOTS:
         QTest::keyClick(page.find("defaultQuality"), Qt::Key_Down);
         QVERIFY(page.find<QRadioButton>("highQuality")->isChecked() && page.find("highQuality")->hasFocus());
         QCOMPARE(page.changes.count(), 6 + 4 + 1);
+        page.page.initializeWidget(); // The focus stays in the choice.
+        QVERIFY(page.find("defaultQuality")->hasFocus());
     }
 
     void ratiosReachTheSimplifier()
@@ -223,6 +244,8 @@ private Q_SLOTS:
         {
             Simplification page(m_application.get(), settings());
             page.type("ratio2", "70");
+            QCOMPARE(page.find("icon1")->property("pixmap").value<QPixmap>().toImage(),
+                     QIcon(":/controlCenter/controlCenter/High.png").pixmap(64).toImage());
             QVERIFY(page.changes.count() == 1 && page.canClickReset() &&
                     m_application->manager.ratios.isEmpty());
             // Only the levels beside it follow, the one above upwards and the one below downwards.
@@ -253,6 +276,7 @@ private Q_SLOTS:
 
     void pluginsAreThoseOfTheFirstOpening()
     {
+        store(settings(), {{keys::LogFile, "/logs/log.txt"}});
         FakePlugin first, second;
         second.name = QString("A long name ").repeated(9);
         m_application->plugins = {&first, &second};
@@ -264,13 +288,20 @@ private Q_SLOTS:
         QCOMPARE(table->rowCount(), 2);
         const QStringList texts = {"Reader", "v. 1.2", second.name, "v. 1.2"};
         for (int cell = 0; cell < texts.size(); ++cell)
-            QCOMPARE(table->item(cell / 2, cell % 2)->text(), texts[cell]);
+            for (const int role : {Qt::DisplayRole, Qt::ToolTipRole})
+                QCOMPARE(table->item(cell / 2, cell % 2)->data(role).toString(), texts[cell]);
         QVERIFY(table->isVisible() && table->rowHeight(1) > table->rowHeight(0));
         QVERIFY(table->viewport()->rect().contains(table->visualItemRect(table->item(1, 1))));
         page.click("copyButton");
-        for (const QString& part :
-             QStringList{"Reader v. 1.2", qVersion(), QDir::toNativeSeparators(settings().fileName())})
-            QVERIFY2(QApplication::clipboard()->text().contains(part), qPrintable(part));
+        QStringList report = QApplication::clipboard()->text().split('\n');
+        QVERIFY(report.takeAt(1).startsWith(QString("Qt %1, ").arg(qVersion())));
+        QCOMPARE(report.join("\n"), QString("Torvane %1 (X64)\nSettings: %2\nLog: %3\n"
+                                            "Plug-in: Reader v. 1.2\nPlug-in: %4 v. 1.2")
+                                        .arg(kqDMIApplication::GetKernelVersion(),
+                                             QDir::toNativeSeparators(settings().fileName()),
+                                             QDir::toNativeSeparators("/logs/log.txt"), second.name));
+        QCOMPARE(page.find("applicationIcon")->property("pixmap").value<QPixmap>().size(), QSize(96, 96));
+        QVERIFY(page.find<QLabel>("noticeLabel")->text().contains("2024"));
     }
 
     void linksOpenFromTheKeyboard()
@@ -290,7 +321,17 @@ private Q_SLOTS:
     void defaultsAreWhatTheValidatorsAccept()
     {
         ZelSettingsRegistry::ClearSettingsValues();
+        ZelPageDefaults::Register(QSettings(QString(), QSettings::IniFormat));
+        QStringList registered; // In the order of the keys.
+        for (const auto& setting : ZelSettingsRegistry::GetDefaultSettingsValues())
+            registered << setting.second.first;
+        QCOMPARE(registered.join(" "), QString("500000 2147483648 2147483648 2147483648 1/0.75/0.5/0.25/0.1 "
+                                               "true 20 false 10 false 0.1 false false 1000 false true true "
+                                               "%1 Medium ")
+                                           .arg(QThread::idealThreadCount()));
+        ZelSettingsRegistry::ClearSettingsValues();
         const QTemporaryDir folder;
+        MTLogger::InstallFileHandler(folder.filePath("log.txt").toStdString(), false, "");
         QSettings defaults(folder.filePath("Defaults.ini"), QSettings::IniFormat);
         defaults.setValue(keys::ScreenshotFolder, QStringList({"/a", "b"})); // As a comma without quotes.
         ZelPageDefaults::Register(defaults);
@@ -312,6 +353,14 @@ private Q_SLOTS:
         for (const auto& [key, text, registered] : rows)
             defaults.setValue(key, text);
         ZelPageDefaults::Register(defaults);
+        store(folder.filePath("cut"), "[x\n");
+        ZelPageDefaults::Register(QSettings(folder.filePath("cut"), QSettings::IniFormat));
+        MTLogger::RemoveFileHandler();
+        const QString log = contentOf(folder.filePath("log.txt"));
+        QVERIFY2(!log.contains("no page has a setting \"deferred"), qPrintable(log));
+        for (const char* text : {"ImageFolder\" cannot be \"/a, b\"", "useED\" cannot be \"yes\"",
+                                 "no page has a setting \"unknown\"", "cut: cannot be read to its end"})
+            QVERIFY2(log.contains(text), qPrintable(log));
         for (const auto& [key, text, registered] : rows) {
             QCOMPARE(ZelSettingsRegistry::GetDefaultSettingsValue(key), registered);
             QCOMPARE(ZelSettingsRegistry::GetDefaultSettingsValue(key).isNull(), registered.isNull());

@@ -34,9 +34,9 @@ private Q_SLOTS:
         QTRY_VERIFY(showsPages(*m_window.findChild<zel::ZelControlCenter*>()));
         QMap<int, QString> pages;
         for (const auto* page : m_window.findChildren<zel::ZelSettingsPanel*>())
-            pages.insert(page->y(), page->getPanelName());
+            pages.insert(page->y(), page->getPanelName() + QString::number(page->getPanelCategory()));
         QCOMPARE(QStringList(pages.values()).join(" "),
-                 QString("Display Folders Simplification Tessellation About"));
+                 QString("Display1 Folders1 Simplification0 Tessellation2 About1"));
     }
 
     // Windows may take the keyboard away again when a window before this one has closed.
@@ -117,7 +117,7 @@ private Q_SLOTS:
 
     void shortcuts()
     {
-        const auto* controlCenter = m_window.findChild<zel::ZelControlCenter*>();
+        auto* controlCenter = m_window.findChild<zel::ZelControlCenter*>();
         auto* check = m_window.findChild<QCheckBox*>("deferredFXAACheckBox");
         const auto press = [this](Qt::Key key, Qt::KeyboardModifier modifier) {
             QApplication::setActiveWindow(&m_window); // After a box, too.
@@ -125,8 +125,11 @@ private Q_SLOTS:
         };
         check->setFocus();
         for (const bool alt : {false, true}) {
-            press(alt ? Qt::Key_Enter : Qt::Key_Return, Qt::NoModifier);
-            QVERIFY(controlCenter->hasModifications());
+            const bool checked = check->isChecked();
+            press(Qt::Key_Return, Qt::ControlModifier);
+            QCOMPARE(check->isChecked(), checked);
+            press(alt ? Qt::Key_Enter : Qt::Key_Return, alt ? Qt::KeypadModifier : Qt::NoModifier);
+            QVERIFY(check->isChecked() != checked && controlCenter->hasModifications());
             alt ? press(Qt::Key_A, Qt::AltModifier) : press(Qt::Key_S, Qt::ControlModifier);
             QTRY_VERIFY(!controlCenter->hasModifications());
             QVERIFY(check->hasFocus());
@@ -155,6 +158,13 @@ private Q_SLOTS:
             press(Qt::Key_Z, Qt::ControlModifier);
             QVERIFY(!size->text().startsWith("1 ") && check->isChecked() == typed && size->hasFocus());
         }
+        QTest::keyClick(inputOf(&m_window), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QVERIFY(check->isChecked());
+        QSignalSpy help(controlCenter, SIGNAL(helpRequested(QWidget*)));
+        press(Qt::Key_F1, Qt::NoModifier);
+        QCOMPARE(help.count(), 1);
+        QVERIFY(m_window.findChild<QPushButton*>("resetButton")->shortcut() !=
+                m_window.findChild<QPushButton*>("applyButton")->shortcut());
         size->selectAll();
         QTest::keyClicks(size, "9999"); // What is being typed counts, and is brought into the range.
         press(Qt::Key_S, Qt::ControlModifier);
@@ -198,15 +208,31 @@ private Q_SLOTS:
             m_window.setGeometry(start);
             QTest::mouseMove(inputOf(&m_window), press);
             QCOMPARE(m_window.cursor().shape(), pointer);
-            drag(press, way, start.topLeft() + press + way - result.topLeft());
+            drag(m_window, press, way, start.topLeft() + press + way - result.topLeft());
             QCOMPARE(m_window.geometry(), result);
         }
+        m_window.setGeometry(start);
+        QTest::mouseMove(inputOf(&m_window), QPoint(2, 250));
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(&m_window, &leave);
+        QCOMPARE(m_window.cursor().shape(), Qt::ArrowCursor);
+        QTest::mousePress(inputOf(&m_window), Qt::LeftButton, Qt::NoModifier, QPoint(2, 250));
+        QMouseEvent lost(QEvent::MouseMove, QPoint(50, 250), m_window.mapToGlobal(QPoint(50, 250)),
+                         Qt::NoButton, Qt::NoButton, Qt::NoModifier); // Another window has got the release.
+        QCoreApplication::sendEvent(&m_window, &lost);
+        QCOMPARE(m_window.geometry(), start);
+        QTest::mouseRelease(inputOf(&m_window), Qt::LeftButton, Qt::NoModifier, QPoint(50, 250));
+        m_window.showMaximized();
+        QTest::mouseMove(inputOf(&m_window), QPoint(2, 300));
+        QCOMPARE(m_window.cursor().shape(), Qt::ArrowCursor);
+        m_window.showNormal();
         m_window.setGeometry(0, 0, 800, 600);
     }
 
     void opensWhereItWasClosed()
     {
         FakeApplication application;
+        const QString file = QFileInfo(application.getSettings().fileName()).path() + "/Window.ini";
         const QRect place(20, 30, 720, 400), usual(0, 0, 800, 600);
         for (int start = 0; start < 3; ++start) {
             NextWindow window(application);
@@ -214,12 +240,17 @@ private Q_SLOTS:
             if (start == 2)
                 window.triggerMaximize();
             QTRY_COMPARE(window.geometry(), start ? place : usual);
+            auto* check = window.findChild<QCheckBox*>("deferredFXAACheckBox");
+            check->toggle();
+            const BoxAnswer answer({Qt::Key_Escape});
+            QVERIFY(!window.close() && (start || !QFile::exists(file))); // It is kept only when it closes.
+            check->toggle();
             window.setGeometry(place);
             if (start == 1)
                 window.showMaximized();
+            QTRY_COMPARE(window.geometry(), start == 1 ? usual : place);
             window.close();
         }
-        const QString file = QFileInfo(application.getSettings().fileName()).path() + "/Window.ini";
         const std::pair<QByteArray, QRect> rows[] = {
             {"0 0 800 600 -500 900 3000 400 0\n", {0, 200, 800, 400}},
             {"0 0 800 600 20 30 720 400 0\n", place},
@@ -263,7 +294,7 @@ private Q_SLOTS:
         const QPoint onHeader(300, 15), way(30, 20);
         m_window.setGeometry(0, 0, 720, 500);
         const QRect moved = m_window.geometry().translated(way);
-        drag(onHeader, way, onHeader);
+        drag(m_window, onHeader, way, onHeader);
         QCOMPARE(m_window.geometry(), moved);
         for (const Qt::MouseButton button : {Qt::RightButton, Qt::LeftButton}) {
             QTest::mouseDClick(m_window.findChild<QWidget*>("headerFrame"), button);
@@ -272,19 +303,11 @@ private Q_SLOTS:
         QTRY_COMPARE(m_window.pos(), QPoint());
         // Dragged off, it keeps the place below the pointer as a part of its width.
         const QPoint grip(onHeader.x() * moved.width() / m_window.width(), onHeader.y());
-        drag(onHeader, way, grip);
+        drag(m_window, onHeader, way, grip);
         QTRY_COMPARE(m_window.geometry(), QRect(onHeader + way - grip, moved.size()));
     }
 
 private:
-    void drag(const QPoint& press, const QPoint& way, const QPoint& release)
-    {
-        const auto window = inputOf(&m_window);
-        QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, press);
-        QTest::mouseMove(window, press + way);
-        QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, release);
-    }
-
     FakeApplication m_application;
     ZelControlCenterStandAloneWidget m_window{&m_application, nullptr, Qt::FramelessWindowHint};
 };

@@ -1,4 +1,5 @@
 #include "QtTestCompat.h"
+#include "Version.h"
 #include "launch.h"
 
 #include <QtSingleApplication>
@@ -26,6 +27,13 @@ class tst_launch : public QObject
 {
     Q_OBJECT
 
+    static void startSecond(QProcess& process, const QStringList& arguments)
+    {
+        process.setEnvironment(QProcess::systemEnvironment() << QString(Role) + "=second");
+        process.setWorkingDirectory(QCoreApplication::applicationDirPath() + "/../stage");
+        process.start(QCoreApplication::applicationFilePath(), arguments);
+    }
+
 private Q_SLOTS:
     void secondInstancePassesItsArgumentsOn()
     {
@@ -37,9 +45,7 @@ private Q_SLOTS:
              {QStringList(), QStringList({"a", "b"}), QStringList({"", "c?d", name})}) {
             const QString message = (arguments + QStringList("")).join("?");
             QProcess second;
-            second.setEnvironment(QProcess::systemEnvironment() << QString(Role) + "=second");
-            second.setWorkingDirectory(QCoreApplication::applicationDirPath() + "/../stage");
-            second.start(QCoreApplication::applicationFilePath(), arguments);
+            startSecond(second, arguments);
             received.clear();
             QTRY_COMPARE_WITH_TIMEOUT(second.state(), QProcess::NotRunning, 60000);
             QCOMPARE(second.exitCode(), Refused);
@@ -49,6 +55,29 @@ private Q_SLOTS:
             QCOMPARE(second.readAllStandardOutput().replace('\r', ""),
                      QByteArray("QGL\nqglshader\n QGLShader\n"));
         }
+    }
+
+    void tellsThatTheFirstInstanceDoesNotAnswer()
+    {
+        QProcess second;
+        startSecond(second, QStringList("a"));
+        QVERIFY(second.waitForFinished(60000)); // Meanwhile this one does nothing.
+        QVERIFY(second.readAllStandardError().contains("it does not answer"));
+    }
+
+    void versions()
+    {
+        using ZelControlCenter::Version;
+        const QString whole = Version::GetDescStringMajorMinorReleaseRevision(true);
+        QCOMPARE(whole, QString("%1.%2.%3.%4")
+                            .arg(Version::GetMajor())
+                            .arg(Version::GetMinor())
+                            .arg(Version::GetRelease())
+                            .arg(Version::GetRevision()));
+        QCOMPARE(QString(Version::GetDescStringMajorMinorRelease(false)), whole.section('.', 0, 2));
+        QCOMPARE(QString(Version::GetDescStringMajorMinor(false)), whole.section('.', 0, 1));
+        QCOMPARE(QString(Version::GetDescStringMajorMinorReleaseRevisionDate()),
+                 whole + QString(" %1-%2").arg(Version::GetYear()).arg(Version::GetMonth()));
     }
 
     void refusesBesideAnApplication()

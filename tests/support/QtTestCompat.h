@@ -65,6 +65,11 @@ inline QAccessible::Role roleOf(QWidget* widget)
     return QAccessible::queryAccessibleInterface(widget)->role();
 }
 
+inline bool isReadAsChecked(QWidget* widget)
+{
+    return QAccessible::queryAccessibleInterface(widget)->state().checked;
+}
+
 /// As assistive technology presses it.
 inline void pressByReader(QWidget* widget)
 {
@@ -207,23 +212,20 @@ class QJsonValue
 {
 public:
     QJsonValue() = default;
-    QJsonValue(const QVariant& value)
+    template <class T>
+    QJsonValue(const T& value)
         : m_value(value)
-    {
-    }
-    QJsonValue(const QString& text)
-        : m_value(text)
-    {
-    }
-    QJsonValue(const char* text)
-        : m_value(QString(text))
     {
     }
 
     static QJsonValue fromJson(const QByteArray& json)
     {
-        QString text = QString::fromUtf8(json, json.size());
-        return read(text);
+        const QString text = QString::fromUtf8(json, json.size());
+        const QRegExp token("\"([^\"\\\\]|\\\\.)*\"|[\\[\\]{}]|[a-z]+");
+        QStringList tokens;
+        for (int at = 0; (at = token.indexIn(text, at)) >= 0; at += token.matchedLength())
+            tokens << token.cap();
+        return read(tokens);
     }
 
     QJsonValue object() const { return *this; }
@@ -241,49 +243,28 @@ public:
     bool operator==(const QJsonValue& other) const { return m_value == other.m_value; }
 
 private:
-    /// Takes one value off the text.
-    static QVariant read(QString& text)
+    /// Takes one value off the tokens, of the JSON that the checker writes.
+    static QVariant read(QStringList& tokens)
     {
-        const auto next = [&text] {
-            text = text.trimmed();
-            return text.isEmpty() ? QChar() : text[0];
-        };
-        const QChar first = next();
-        if (first == '{' || first == '[') {
-            QVariantMap map;
-            QVariantList list;
-            do {
-                text.remove(0, 1);
-                const QVariant value = next() == '}' || next() == ']' ? QVariant() : read(text);
-                if (next() == ':') {
-                    text.remove(0, 1);
-                    map[value.toString()] = read(text);
-                } else if (value.isValid()) {
-                    list << value;
-                }
-            } while (next() == ',');
-            text.remove(0, 1);
-            return first == '{' ? QVariant(map) : QVariant(list);
+        const QString first = tokens.isEmpty() ? QString("null") : tokens.takeFirst();
+        QVariantMap map;
+        QVariantList list;
+        while (first == "{" && !tokens.isEmpty() && tokens.first() != "}") {
+            const QString name = read(tokens).toString();
+            map[name] = read(tokens);
         }
-        if (first != '"') {
-            const QString word = text.left(text.indexOf(QRegExp("[,:}\\]\\s]|$")));
-            text.remove(0, word.size());
-            return word == "null" || word.isEmpty() ? QVariant() : QVariant(word);
-        }
+        while (first == "[" && !tokens.isEmpty() && tokens.first() != "]")
+            list << read(tokens);
+        if (first == "{" || first == "[")
+            return tokens.removeOne(first == "{" ? "}" : "]"), first == "{" ? QVariant(map) : QVariant(list);
+        if (!first.startsWith('"'))
+            return first == "null" ? QVariant() : QVariant(first);
         QString value;
-        int i = 1;
-        for (; i < text.size() && text[i] != '"'; ++i) {
-            if (text[i] != '\\') {
-                value += text[i];
-            } else if (text[++i] == 'u') {
-                value += QChar(text.mid(i + 1, 4).toUShort(nullptr, 16));
-                i += 4;
-            } else {
-                const int escape = QString("bfnrt").indexOf(text[i]);
-                value += escape < 0 ? text[i] : QChar("\b\f\n\r\t"[escape]);
-            }
+        for (int i = 1; i < first.size() - 1; ++i) {
+            const bool isEscape = first[i] == '\\', isCode = isEscape && first[i + 1] == 'u';
+            value += isCode ? QChar(first.mid(i + 2, 4).toUShort(nullptr, 16)) : first[i + isEscape];
+            i += isCode ? 5 : isEscape;
         }
-        text.remove(0, i + 1);
         return value;
     }
 
@@ -354,6 +335,12 @@ inline QAccessible::Role roleOf(QWidget* widget)
 {
     const std::unique_ptr<QAccessibleInterface> read(QAccessible::queryAccessibleInterface(widget));
     return read->role(0);
+}
+
+inline bool isReadAsChecked(QWidget* widget)
+{
+    const std::unique_ptr<QAccessibleInterface> read(QAccessible::queryAccessibleInterface(widget));
+    return read->state(0) & QAccessible::Checked;
 }
 
 inline void pressByReader(QWidget* widget)

@@ -32,6 +32,14 @@ inline bool showsPages(zel::ZelControlCenter& controlCenter)
     return controlCenter.isSettingsOpen() && pages->height() >= pages->sizeHint().height();
 }
 
+/// Drags with the mouse. The places are those in the window: when it is pressed, and when it is released.
+inline void drag(QWidget& window, const QPoint& press, const QPoint& way, const QPoint& release)
+{
+    QTest::mousePress(inputOf(&window), Qt::LeftButton, Qt::NoModifier, press);
+    QTest::mouseMove(inputOf(&window), press + way);
+    QTest::mouseRelease(inputOf(&window), Qt::LeftButton, Qt::NoModifier, release);
+}
+
 struct User
 {
     template <class T = QWidget>

@@ -1,5 +1,7 @@
 #include "../support/Files.h"
 
+#include <fcntl.h>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 /// The console program as an administrator runs it, without a display.
@@ -17,10 +19,19 @@ private:
         environment.insert("XDG_CACHE_HOME", m_root + "/cache");
         environment.insert("LC_ALL", "C");
         process.setProcessEnvironment(environment);
+        int ends[2], left = 0; // Of a pipe.
+        if (::pipe2(ends, O_CLOEXEC) != 0)
+            return -1;
+        process.setStandardInputFile(QString("/proc/self/fd/%1").arg(ends[0]));
         process.start(TORVANE_SETTINGS_CHECK, arguments);
-        QTest::qWait(m_input.isEmpty() ? 0 : 200); // The names come when they are already waited for.
-        process.write(m_input);
-        process.closeWriteChannel();
+        for (const QByteArray& part : {m_input.left(1), m_input.mid(1)}) { // The second one is waited for.
+            left = ::write(ends[1], part.constData(), part.size());
+            while (left > 0 && process.state() != QProcess::NotRunning &&
+                   ::ioctl(ends[1], FIONREAD, &left) == 0)
+                process.waitForFinished(1);
+        }
+        for (const int end : ends)
+            ::close(end);
         process.waitForFinished();
         m_output = process.readAllStandardOutput();
         m_json = QJsonDocument::fromJson(m_output).object();
@@ -66,6 +77,7 @@ private:
 
         QVERIFY(QFile::remove(m_file + ".lock"));
         QCOMPARE(run({"--repair", "--json", m_file}), 4);
+        QVERIFY(!m_json["freshStart"].toBool() && !m_json["folders"].toArray().isEmpty());
         QCOMPARE(m_json["changes"].toArray(), changes);
         QSettings settings(m_file, QSettings::IniFormat);
         settings.setIniCodec("UTF-8");
@@ -151,8 +163,12 @@ private Q_SLOTS:
 
     void repairsAllOrNothing()
     {
-        store(m_file, "//=1\n"); // One pass does not repair it completely.
+        store(m_file, "//=1\ngarbage\n"); // One pass does not repair it completely.
+        QCOMPARE(run({m_file}), 1);
+        QVERIFY2(m_output.contains("\n  missing folder \"" + m_root.toUtf8()), m_output);
         QCOMPARE(run({"--repair", m_file}), 4);
+        QVERIFY2(m_output.contains("\n  created folder \"" + m_root.toUtf8()), m_output);
+        QVERIFY2(m_output.contains("\n  a copy of the former file is kept as \""), m_output);
         QVERIFY(QDir().mkdir(m_file + ".lock"));
         QCOMPARE(run({m_file}), 0); // It need not be written.
         QVERIFY(QDir().rmdir(m_file + ".lock"));

@@ -221,6 +221,8 @@ private Q_SLOTS:
         for (QWidget* field : controlCenter->settingsWidget()->findChildren<QWidget*>()) {
             field->setFocus();
             QVERIFY(help->isVisible());
+            const QString name = help->findChild<QLabel*>("nameLabel")->accessibleName();
+            QVERIFY2(!name.endsWith(':') && !name.endsWith(QChar(0xFF1A)), qPrintable(name));
             QTRY_COMPARE(clippedTexts(*help), QString());
         }
     }
