@@ -478,10 +478,9 @@ private Q_SLOTS:
         };
         QVERIFY(!ZelSettingsFile::Write(*settings, givesUp, error));
         QVERIFY(ZelSettingsFile::ReadAgain(*settings, error));
-        QVERIFY2(holdsForeign(contentOf(m_path)) && contentOf(m_path).contains("[late]\nkey=1\n"),
-                 contentOf(m_path));
-        QVERIFY2(contentOf(m_path).contains("host=group\n") && contentOf(m_path).contains("[page]\nkey=6\n"),
-                 contentOf(m_path));
+        const QByteArray left = contentOf(m_path);
+        QVERIFY2(holdsForeign(left) && left.contains("[late]\nkey=1\n"), left);
+        QVERIFY2(left.contains("host=group\n") && left.contains("[page]\nkey=6\n"), left);
         const auto locked = [&](QSettings&, QString&) {
             settings->setValue("page/key", 7);
             return ::system("touch " + m_path.toUtf8() + ".lock") != 0;
@@ -490,8 +489,8 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(m_path + ".lock") && change(m_path, {{"host/key", 9}}));
         QVERIFY(write(*settings, {{"page/key", 8}}));
         settings->sync();
-        QVERIFY2(contentOf(m_path).contains("[page]\nkey=8\n"), contentOf(m_path));
-        QVERIFY2(contentOf(m_path).contains("[host]\nkey=9\n"), contentOf(m_path));
+        QVERIFY(contentOf(m_path).contains("[page]\nkey=8\n") &&
+                contentOf(m_path).contains("[host]\nkey=9\n"));
     }
 
     void olderValuesDoNotReplaceNewerOnes()
@@ -505,8 +504,8 @@ private Q_SLOTS:
             return true;
         };
         QVERIFY(ZelSettingsFile::Write(*settings, leavesGroup, error));
-        QVERIFY2(contentOf(m_path).contains("[page]\na=2\nb=newer\n"), contentOf(m_path));
-        QVERIFY2(holdsForeign(contentOf(m_path)), contentOf(m_path));
+        const QByteArray left = contentOf(m_path);
+        QVERIFY2(left.contains("[page]\na=2\nb=newer\n") && holdsForeign(left), left);
         const auto givesUp = [&](QSettings&, QString&) {
             settings->setValue("page/a", 3);
             return false;
