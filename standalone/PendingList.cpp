@@ -4,7 +4,7 @@
 #include "VerticalArea.h"
 #include "ZelSettingsPanel.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
@@ -225,7 +225,7 @@ void PendingList::showEdits()
 void PendingList::moveFocusBefore(int count)
 {
     for (int line = count; line < m_lines->count(); ++line) {
-        const bool hasFocus = m_lines->itemAt(line)->widget()->isAncestorOf(focusWidget());
+        const bool hasFocus = m_lines->itemAt(line)->widget()->isAncestorOf(QApplication::focusWidget());
         if ((hasFocus || (!count && m_discard->hasFocus())) && goToField(line))
             return;
     }
@@ -272,9 +272,10 @@ void PendingList::addRow()
 bool PendingList::goToField(int line)
 {
     const ZelPendingEdit edit = editAt(line);
-    if (edit.field)
-        edit.field->setFocus(Qt::OtherFocusReason);
-    return edit.field;
+    if (!edit.field || !edit.field->isVisible())
+        return false;
+    edit.field->setFocus(Qt::OtherFocusReason);
+    return true;
 }
 
 void PendingList::putBack(int line)
