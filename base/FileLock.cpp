@@ -129,7 +129,8 @@ QByteArray hostName()
     return name;
 }
 
-/// Holds a lock file, where the file system can tell other programs of that. False when another one does.
+/// Holds a lock file, which other programs can find out unless the file system has no locks. False when
+/// another program holds it.
 bool hold(int file)
 {
     return ::flock(file, LOCK_EX | LOCK_NB) == 0 || errno == ENOLCK;

@@ -160,17 +160,17 @@ void SettingsPages::timerEvent(QTimerEvent*)
 {
     const FileStamp present = stampOf(m_followed->fileName());
     const bool isWriting = &ZelSettingsFile::Current(*m_followed) != m_followed;
+    m_timer.start(FollowInterval, this);
     if (isWriting || (present.size == m_stamp.size && present.time == m_stamp.time))
         return;
     QString error;
     const auto nothing = [](QSettings&, QString&) { return true; };
     if (present.size <= 0) // What the file has lost comes back from memory.
         ZelSettingsFile::Write(*m_followed, nothing, error);
-    const bool isRead = ZelSettingsFile::ReadAgain(*m_followed, error);
-    // Each attempt may wait for a lock, so the next one is later.
-    m_timer.start(isRead ? FollowInterval : RetryInterval, this);
-    if (!isRead)
+    if (!ZelSettingsFile::ReadAgain(*m_followed, error)) {
+        m_timer.start(RetryInterval, this); // Each attempt may wait for a lock.
         return;
+    }
     m_stamp = present;
     // A setting that is gone gets its default at the next start; without it, the fields would show a minimum.
     if (lacksRegisteredKey(*m_followed))

@@ -442,7 +442,7 @@ private:
     std::optional<Model> m_stored;  ///< What was stored when that was last looked at.
     Model m_loaded;                 ///< What the widgets have shown of it; under an edit, the stored value.
     std::optional<Model> m_applied; ///< What Apply has stored since, which may not have been written.
-    bool m_isDiscarded = false;     ///< All edits up to now.
+    bool m_isDiscarded = false;     ///< All edits were discarded, and none has been made since.
 };
 
 } // namespace zel

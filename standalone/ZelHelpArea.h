@@ -23,7 +23,7 @@ class ZelPageHelp;
 /// its way to the help changes nothing. What would be stored stands still while the help changes.
 ///
 /// While the area is too narrow, both stand in the column of the pages' list instead. Where that is too low
-/// as well, it has only what would be stored, and showHelp() opens the help at the field.
+/// as well, the column has only what would be stored, and showHelp() opens the help at the field.
 ///
 /// The help comes from the ZelPageHelp of each page.
 class ZEL_EXPORT ZelHelpArea : public QWidget

@@ -111,7 +111,7 @@ SharedSettings::~SharedSettings()
         return;
     set(m_settings, m_held);
     QString ignored;
-    if (!m_hasPending && writePending(ignored))
+    if (!m_hasPending && writePending(m_held, ignored))
         return;
     if (!m_hasPending) // Then the next write gives them what the file holds.
         m_settings.setProperty(ReadProperty, m_held);
@@ -148,7 +148,8 @@ bool SharedSettings::readWritten(const QByteArray& content, QString& reason)
 {
     m_isWritten = true;
     if (m_hasPending || hasPending(m_settings))
-        return writePending(reason) || !SpareCopy(resolvedPath(m_settings.fileName()), m_deadline).exists();
+        return writePending(QVariantMap(), reason) ||
+               !SpareCopy(resolvedPath(m_settings.fileName()), m_deadline).exists();
     readAgain(m_settings, content);
     return true;
 }
@@ -162,14 +163,15 @@ void SharedSettings::stopWriting()
 
 /// Gives them what the file holds, and lets them write it, so that nothing is pending. QSettings may cut the
 /// file all the same, and that of Qt 5 changes its rights, so a spare copy stands beside it meanwhile. False,
-/// with the reason, when they have not written. There is still a spare copy then if the file is not whole.
-bool SharedSettings::writePending(QString& reason)
+/// with the reason, when they have not written, as when the file has lost what they held. There is still a
+/// spare copy then if they have cut the file.
+bool SharedSettings::writePending(const QVariantMap& held, QString& reason)
 {
     SettingsLock lock(m_settings.fileName(), m_deadline);
     WorkingCopy copy(lock); // What QSettings will write: a part of that shows that the file is cut.
     const SpareCopy spare(lock.target(), m_deadline);
     QVariantMap values;
-    bool isReady = lock.takeAndFinish(reason) && copy.make(values, reason);
+    bool isReady = lock.takeAndFinish(reason) && copy.make(held, reason) && !copy.mustBeWritten();
     if (isReady) {
         values = valuesOf(copy.settings());
         isReady = copy.write(reason) && copy.putAside(spare, reason);

@@ -31,8 +31,9 @@ class SharedSettings
 public:
     /// @param deadline  ends all waits; outlives this object, as the settings do
     SharedSettings(QSettings& settings, const Deadline& deadline);
-    /// Unless the file has been written, they hold again what they held, and what is still pending is not
-    /// written before the next write.
+    /// Unless the file has been written, they hold again what they held. What the change has set here would
+    /// stay pending, so they write the values of the file once more if the lock is free and the file is
+    /// whole; else, and when values were pending before, they write nothing before the next write.
     ~SharedSettings();
 
     /// What they held before the change.
@@ -53,7 +54,7 @@ private:
     Q_DISABLE_COPY(SharedSettings)
 
     void stopWriting();
-    bool writePending(QString& reason);
+    bool writePending(const QVariantMap& held, QString& reason);
 
     QSettings& m_settings;
     const QVariantMap m_held;

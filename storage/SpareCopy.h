@@ -12,14 +12,14 @@ class Deadline;
 enum class Outcome {
     InPlace,
     Outdated, ///< Another program has changed the file since it was copied. Nothing is changed.
-    GivenUp,  ///< The change did not succeed, and has said why. Nothing is changed.
+    GivenUp,  ///< The change did not succeed, and has said why. No value is changed.
     Failed    ///< The reason is set. Nothing is changed, or a spare copy is left for SpareCopy::finish().
 };
 
 /// A complete copy that stands beside a file, "Settings.ini.unfinished", while the file is written in place:
 /// by QSettings, or because QSettings locks the file itself. It has what the file holds in the end. If the
 /// process is killed meanwhile, the file is brought to its end from it. The caller holds the lock of the
-/// file.
+/// file, except for exists() and readFinished(), whose answers may soon be out of date.
 class SpareCopy
 {
 public:

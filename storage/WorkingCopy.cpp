@@ -252,10 +252,11 @@ Outcome WorkingCopy::put(QString& reason)
 
 bool WorkingCopy::putAside(const SpareCopy& spare, QString& reason)
 {
-    if (!m_exists || (takeRights() && spare.adopt(m_copy, reason)))
+    if (!m_exists)
         return true;
-    if (reason.isEmpty())
-        reason = systemError();
+    if (takeRights())
+        return spare.adopt(m_copy, reason);
+    reason = SettingsFileText::tr("it belongs to another user, who would lose it");
     return false;
 }
 

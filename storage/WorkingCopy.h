@@ -50,8 +50,8 @@ public:
     /// Of the settings file, when it was copied; once the copy is written, of that.
     const QByteArray& content() const { return m_result.isNull() ? m_content : m_result; }
 
-    /// Reads the values of a content of the settings file. False when it is null, or there is no room
-    /// for that.
+    /// Reads the values of a content of the settings file, after make(). False when it is null, or there is
+    /// no room for that.
     bool parse(const QByteArray& content, QVariantMap& values) const;
 
     /// Keeps the content of the settings file as a dated copy; see keepBackup().

@@ -17,8 +17,9 @@ namespace zel {
 /// change is made to a copy beside the file, which is read back and then takes its place, with the rights of
 /// the file. A write excludes other programs that use this class or QSettings, and waits for them for up to
 /// three seconds. Built with Qt 4 on Unix, where QSettings locks the file itself, and where the rights cannot
-/// be given to a new file, it rewrites the file in place; a copy that is complete stands beside it meanwhile,
-/// and the next start puts it in place if the process is killed.
+/// be given to a new file, it rewrites the file in place, and QSettings does so with values that a host has
+/// set in it. A copy that is complete stands beside the file meanwhile, from which the next start, reading or
+/// write brings it to its end if the process is killed.
 ///
 /// Error texts are translated, name the file and the reason, and are logged. GUI thread only.
 class ZEL_EXPORT ZelSettingsFile
@@ -43,13 +44,13 @@ public:
     static bool IsWritable(const QString& path, QString& error);
 
     /// How the library writes the file: lets the change set and remove values of the copy that will take the
-    /// place of the file. What is set in the given settings, before the change or by it, is carried over,
-    /// and never replaces what the change sets in the copy; then they read the file again. What others have
+    /// place of the file. What was set in the given settings before is carried into the copy first, and what
+    /// the change sets in them afterwards; then they read the file again. What others have
     /// written in the meantime stays: the change is called again if another program writes the file while it
     /// runs. What a damaged, empty or cut file has lost comes back from memory; one that lacks a registered
     /// key counts as cut. False when the change gave up, the file could not be read or written, the change
-    /// itself writes the file, or the settings are within a group; the file and the settings then hold what
-    /// they held before.
+    /// itself writes the file, or the settings are within a group; no value of the file is changed then, and
+    /// the settings hold what they held before, or what the file holds.
     static bool Write(QSettings& settings, const Change& change, QString& error);
 
     /// What a page reads and changes: while Write() runs, the copy of the file of these settings; else

@@ -513,6 +513,9 @@ private Q_SLOTS:
         QVERIFY(!ZelSettingsFile::Write(*settings, givesUp, error));
         settings->setValue("page/c", 1);
         QVERIFY(hasPending(*settings) && write(*settings, {}) && contentOf(m_path).contains("c=1"));
+        store(m_path, "");
+        QVERIFY(!ZelSettingsFile::Write(*settings, givesUp, error) && write(*settings, {{"own/key", 1}}));
+        QVERIFY(holdsForeign(contentOf(m_path)) && contentOf(m_path).contains("a=2"));
         QVERIFY(!ZelSettingsFile::Write(*settings, givesUp, error));
         store(m_path, "[page]\na=latest\n");
         settings.reset();
