@@ -148,8 +148,13 @@ bool ControlCenterActions::eventFilter(QObject* watched, QEvent* event)
         return press(*key, watched == m_column);
     // Reads a half-typed number before Qt looks up the shortcut: only an edit enables "Apply". Other keys,
     // such as those that copy and undo, leave what is being typed alone.
-    if (field() && triggersCommand(QKeySequence(key->key() | static_cast<int>(key->modifiers()))))
+    const QKeySequence keys(key->key() | static_cast<int>(key->modifiers()));
+    if (field() && triggersCommand(keys)) {
         field()->interpretText();
+        // Some pages wait for the end of an edit, such as the levels, which stay in order.
+        if (appliesEdits(keys) && field()->text() != m_text)
+            QMetaObject::invokeMethod(m_field, "editingFinished");
+    }
     return false;
 }
 
@@ -165,6 +170,12 @@ bool ControlCenterActions::leavesToCommand(QKeyEvent& event) const
     if (leaves)
         event.ignore();
     return leaves;
+}
+
+bool ControlCenterActions::appliesEdits(const QKeySequence& keys) const
+{
+    return findChild<QAction*>("apply")->shortcuts().contains(keys) ||
+           m_column->findChild<QPushButton*>("applyButton")->shortcut() == keys;
 }
 
 bool ControlCenterActions::triggersCommand(const QKeySequence& keys) const

@@ -57,6 +57,7 @@ private:
     /// undo or redo; the field would take them all the same.
     bool leavesToCommand(QKeyEvent& event) const;
     /// True for the keys of an action or a button of the control center, or of an action of its window.
+    bool appliesEdits(const QKeySequence& keys) const;
     bool triggersCommand(const QKeySequence& keys) const;
     QAbstractSpinBox* field() const;
 

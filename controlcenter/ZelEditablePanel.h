@@ -38,12 +38,11 @@ public:
         applyModel(*m_stored);
         m_loaded = currentModel();
         m_applied.reset();
-        m_isDiscarded = false;
         checkContent();
     }
 
     /// True when the widgets differ from the stored values.
-    bool hasModifications() const override { return !isDiscarded() && differsFrom(storedModel()); }
+    bool hasModifications() const override { return differsFrom(storedModel()); }
 
     /// Takes what others have stored, passes the edits to the running application, then stores them. Returns
     /// shouldRestart().
@@ -108,7 +107,6 @@ public:
         m_stored = stored;
         if (changed.empty())
             return;
-        m_isDiscarded = false;
         fill(stored, changed);
         const Model shown = currentModel();
         for (const Field* field : changed)
@@ -135,7 +133,7 @@ public:
                 const bool isEdited = contains(edited, field);
                 if (field.isSame(current, stored) || (!isEdited && !field.counts(current)))
                     continue;
-                edits.push_back(pendingEdit(row, field, stored, current, isEdited));
+                edits.push_back(pendingEdit(row, field, stored, current));
                 break; // A row is one setting.
             }
         }
@@ -144,14 +142,12 @@ public:
 
     std::function<void()> discardEdits() override
     {
-        if (!hasModifications() && editedFields().empty())
-            return nullptr;
         const Model discarded = currentModel();
         const Fields edited = editedFields();
+        if (edited.empty())
+            return nullptr;
         initializeWidget();
-        m_isDiscarded = true;
         return [this, discarded, edited] {
-            m_isDiscarded = false;
             const Fields newer = editedFields();
             Fields again;
             for (const Field* field : edited)
@@ -271,10 +267,6 @@ protected:
     /// True when the pending edits need a restart to take effect.
     virtual bool shouldRestart() const { return false; }
 
-    /// True after discardEdits() until the next edit: stored values that the widgets cannot show stay as they
-    /// are.
-    bool isDiscarded() const { return m_isDiscarded && editedFields().empty(); }
-
     /// Enables or disables the reset button.
     void checkContent() const
     {
@@ -374,12 +366,13 @@ private:
     }
 
     /// @param field  a field of the row in which the two models differ
-    ZelPendingEdit pendingEdit(const Row& row, const Field& field, const Model& stored, const Model& current,
-                               bool isEdited)
+    ZelPendingEdit pendingEdit(const Row& row, const Field& field, const Model& stored, const Model& current)
     {
         const ZelSettingHelp* help = m_help->setting(row.help.fields.first());
         ZelPendingEdit edit = {help->name, row.text(stored), row.text(current),
                                widgetToEdit(row, current, stored), nullptr};
+        const bool isEdited = std::any_of(row.fields.begin(), row.fields.end(),
+                                          [&](const Field& one) { return !one.isSame(current, m_loaded); });
         if (!row.fixed && isEdited)
             edit.putBack = [take = help->take] { take(StoredValue); };
         if (edit.stored == edit.shown) {
@@ -442,7 +435,6 @@ private:
     std::optional<Model> m_stored;  ///< What was stored when that was last looked at.
     Model m_loaded;                 ///< What the widgets have shown of it; under an edit, the stored value.
     std::optional<Model> m_applied; ///< What Apply has stored since, which may not have been written.
-    bool m_isDiscarded = false;     ///< All edits were discarded, and none has been made since.
 };
 
 } // namespace zel

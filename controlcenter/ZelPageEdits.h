@@ -47,10 +47,9 @@ public:
     /// is false. Also has what takes effect only with another setting.
     virtual std::vector<ZelPendingEdit> pendingEdits() = 0;
 
-    /// Discards the pending edits, as initializeWidget() does. Then hasModifications() is false until the
-    /// next edit, also when a field cannot show what is stored: that stays as it is. Returns a function that
-    /// makes the edits again, except where the user has made newer ones, and emits stateChanged(). It is
-    /// valid while the page lives; null when nothing was pending.
+    /// Discards the pending edits, as initializeWidget() does. Returns a function that makes them again,
+    /// except where the user has made newer ones, and emits stateChanged(). It is valid while the page lives;
+    /// null without edits. A stored value that no field can show still counts as a modification.
     virtual std::function<void()> discardEdits() = 0;
 };
 

@@ -99,7 +99,7 @@ void ZelSimplificationSettingsPanel::setTexts()
 bool ZelSimplificationSettingsPanel::hasModifications() const
 {
     // Apply replaces a text that the page cannot show.
-    return (isMalformed(settings().value(keys::SimplificationRatios)) && !isDiscarded()) ||
+    return isMalformed(settings().value(keys::SimplificationRatios)) ||
            ZelEditablePanel<SimplificationModel>::hasModifications();
 }
 
@@ -107,7 +107,7 @@ std::vector<ZelPendingEdit> ZelSimplificationSettingsPanel::pendingEdits()
 {
     auto edits = ZelEditablePanel<SimplificationModel>::pendingEdits();
     const QVariant stored = settings().value(keys::SimplificationRatios);
-    if (isMalformed(stored) && !isDiscarded())
+    if (isMalformed(stored))
         edits.insert(edits.begin(), {getPanelName(), stored.toString(), ratiosText(currentModel().ratios),
                                      nullptr, nullptr});
     return edits;

@@ -35,7 +35,8 @@ const char* const Style =
     "#discardButton { padding: 1px 7px; border-color: rgb(120,120,120); border-radius: 3px;"
     "                 color: rgb(52,51,180); font: 13px \"Open Sans\"; }"
     "#discardButton:focus { border-color: rgb(52,51,180); background: rgb(215,215,235); }"
-    "#takeBack { padding: 0px; text-align: center; color: rgb(52,51,180); font: bold 14px \"Open Sans\"; }";
+    "#takeBack { padding: 0px; text-align: center; color: rgb(52,51,180); font: bold 14px \"Open Sans\"; }"
+    "#takeBack:disabled { color: rgb(150,150,150); }";
 
 const QChar Arrow = 0x2192;
 
@@ -219,6 +220,8 @@ void PendingList::showEdits()
         addRow();
     for (int line = 0; line < texts.size(); ++line)
         showEdit(line, editAt(line));
+    m_discard->setVisible(std::any_of(m_edits.begin(), m_edits.end(),
+                                      [](const auto& edit) { return bool(edit.second.putBack); }));
     setVisible(!texts.isEmpty());
 }
 
@@ -271,7 +274,11 @@ void PendingList::addRow()
 
 bool PendingList::goToField(int line)
 {
-    const ZelPendingEdit edit = editAt(line);
+    return goTo(editAt(line));
+}
+
+bool PendingList::goTo(const ZelPendingEdit& edit)
+{
     if (!edit.field || !edit.field->isVisible())
         return false;
     edit.field->setFocus(Qt::OtherFocusReason);
@@ -280,10 +287,11 @@ bool PendingList::goToField(int line)
 
 void PendingList::putBack(int line)
 {
-    const ZelPendingEdit edit = editAt(line); // The focus may take in what is typed, and so add a line.
-    goToField(line);                          // The line goes away, and the focus with it.
+    const ZelPendingEdit edit = editAt(line); // The list changes.
     if (edit.putBack)
         edit.putBack();
+    // Afterwards, so that Escape does not make the edit again.
+    goTo(edit);
 }
 
 ZelPendingEdit PendingList::editAt(int line) const

@@ -52,6 +52,7 @@ private Q_SLOTS:
     void putBack(int line);
 
 private:
+    static bool goTo(const ZelPendingEdit& edit);
     void showEdits();
     /// Moves the focus from a line that goes away, because there are only so many edits, to its field.
     void moveFocusBefore(int count);

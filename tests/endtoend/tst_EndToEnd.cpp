@@ -193,7 +193,8 @@ private:
         QCOMPARE(stored(), used ? completed(start.kept) : Texts());
         QCOMPARE(QDir(m_home + "/cache/TorvaneBoundlessX64/" + userName()).exists(), used);
         const QByteArray log = contentOf(settingsFolder() + "/log.txt");
-        QCOMPARE(log.contains("[info] Applied the settings of"), used && !start.before.contains("info"));
+        QCOMPARE(bool(log.contains("[info] Applied the settings of")),
+                 used && !start.before.contains("info"));
         QCOMPARE(!log.isEmpty(), used && !start.before.contains("info"));
     }
 
