@@ -214,10 +214,11 @@ void SettingsPages::discard()
     const QPointer<SettingsPages> self(this);
     decltype(m_discarded) discarded;
     m_pages.forEach([&](ZelSettingsPanel* page) {
+        const bool isModified = page->hasModifications();
         auto* edits = dynamic_cast<ZelPageEdits*>(page);
         if (const auto again = edits ? edits->discardEdits() : nullptr)
             discarded.insert(page, again);
-        else if (!edits && page->hasModifications())
+        else if (!edits && isModified)
             page->initializeWidget();
     });
     if (!self)

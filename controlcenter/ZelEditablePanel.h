@@ -78,7 +78,6 @@ public:
     /// Does nothing: applyModifications() saves.
     virtual void saveSettings() {}
 
-    /// @{
     /// See ZelPageEdits.
     void takeStored() override
     {
@@ -114,12 +113,14 @@ public:
         checkContent();
     }
 
+    /// See ZelPageEdits.
     void pushStored() override
     {
         if (hasModifications())
             pushToApplication(storedModel());
     }
 
+    /// See ZelPageEdits.
     std::vector<ZelPendingEdit> pendingEdits() override
     {
         std::vector<ZelPendingEdit> edits;
@@ -140,6 +141,7 @@ public:
         return edits;
     }
 
+    /// See ZelPageEdits.
     std::function<void()> discardEdits() override
     {
         const Model discarded = currentModel();
@@ -157,7 +159,6 @@ public:
             onEdited();
         };
     }
-    /// @}
 
 protected:
     /// One setting of the page.
