@@ -212,13 +212,18 @@ void SettingsPages::reset()
 void SettingsPages::discard()
 {
     const QPointer<SettingsPages> self(this);
+    const PageList pages = m_pages;
+    QList<ZelSettingsPanel*> others = pages.modified();
     decltype(m_discarded) discarded;
-    m_pages.forEach([&](ZelSettingsPanel* page) {
-        const bool isModified = page->hasModifications();
+    pages.forEach([&](ZelSettingsPanel* page) {
         auto* edits = dynamic_cast<ZelPageEdits*>(page);
+        if (edits)
+            others.removeOne(page);
         if (const auto again = edits ? edits->discardEdits() : nullptr)
             discarded.insert(page, again);
-        else if (!edits && isModified)
+    });
+    pages.forEach([&](ZelSettingsPanel* page) {
+        if (others.contains(page))
             page->initializeWidget();
     });
     if (!self)
