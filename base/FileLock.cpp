@@ -129,8 +129,7 @@ QByteArray hostName()
     return name;
 }
 
-/// Holds a lock file, which other programs can find out unless the file system has no locks. False when
-/// another program holds it.
+/// Holds a lock file, where the file system has such locks. False when another process holds it.
 bool hold(int file)
 {
     return ::flock(file, LOCK_EX | LOCK_NB) == 0 || errno == ENOLCK;

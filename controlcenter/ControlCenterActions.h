@@ -56,8 +56,9 @@ private:
     /// True for the keys that discard or restore edits, while the focused field has nothing of its own to
     /// undo or redo; the field would take them all the same.
     bool leavesToCommand(QKeyEvent& event) const;
-    /// True for the keys of an action or a button of the control center, or of an action of its window.
+    /// True for the keys of "Apply".
     bool appliesEdits(const QKeySequence& keys) const;
+    /// True for the keys of an action or a button of the control center, or of an action of its window.
     bool triggersCommand(const QKeySequence& keys) const;
     QAbstractSpinBox* field() const;
 

@@ -20,6 +20,8 @@ namespace {
 const char* const UnwrittenProperty = "zelUnwritten";
 const char* const ReadProperty = "zelRead";
 
+const int ClockTick = 2000; // Milliseconds of the coarsest clock that a file system has.
+
 /// Finds out whether settings are about to write: they have posted an event to themselves.
 class PendingProbe : public QObject
 {
@@ -111,11 +113,10 @@ SharedSettings::~SharedSettings()
         return;
     set(m_settings, m_held);
     QString ignored;
-    if (!m_hasPending && writePending(m_held, ignored))
-        return;
-    if (!m_hasPending) // Then the next write gives them what the file holds.
+    if (m_hasPending)
+        stopWriting();
+    else if (!writePending(m_held, ignored)) // Then the next write gives them what the file holds.
         m_settings.setProperty(ReadProperty, m_held);
-    stopWriting();
 }
 
 void SharedSettings::carryPending(WorkingCopy& copy) const
@@ -170,13 +171,12 @@ bool SharedSettings::writePending(const QVariantMap& held, QString& reason)
     SettingsLock lock(m_settings.fileName(), m_deadline);
     WorkingCopy copy(lock); // What QSettings will write: a part of that shows that the file is cut.
     const SpareCopy spare(lock.target(), m_deadline);
-    QVariantMap values;
     bool isReady = lock.takeAndFinish(reason) && copy.make(held, reason) && !copy.mustBeWritten();
-    if (isReady) {
-        values = valuesOf(copy.settings());
-        isReady = copy.write(reason) && copy.putAside(spare, reason);
-    }
-    if (!isReady) {
+    const QVariantMap values = isReady ? valuesOf(copy.settings()) : QVariantMap();
+    isReady = isReady && copy.write(reason);
+    if (isReady) // The time tells whether QSettings has written, also within a tick of the clock.
+        setTime(lock.target(), stampOf(lock.target()).time - ClockTick);
+    if (!isReady || !copy.putAside(spare, reason)) {
         stopWriting();
         return false;
     }

@@ -55,13 +55,6 @@ QByteArray withoutMark(const QByteArray& text)
     return text.startsWith(Utf8Mark) ? text.mid(static_cast<int>(qstrlen(Utf8Mark))) : text;
 }
 
-std::unique_ptr<QSettings> open(const QString& copy)
-{
-    auto settings = std::make_unique<QSettings>(copy, QSettings::IniFormat);
-    ZelSettingsFile::UseFileEncoding(*settings);
-    return settings;
-}
-
 /// Removes the folder of a copy, and nothing that is not ours.
 void removeFolder(const QString& path)
 {
@@ -100,6 +93,13 @@ QVariantMap valuesOf(const QSettings& settings)
             values.insert(isGeneral ? general + key.mid(general.size()) : key, settings.value(key));
     }
     return values;
+}
+
+std::unique_ptr<QSettings> openSettings(const QString& path)
+{
+    auto settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
+    ZelSettingsFile::UseFileEncoding(*settings);
+    return settings;
 }
 
 WorkingCopy* WorkingCopy::Changing = nullptr;
@@ -150,7 +150,7 @@ bool WorkingCopy::make(const QVariantMap& held, QString& reason)
     const QByteArray text = m_mustBeWritten ? withoutObjects(m_content) : m_content + EndText;
     if (!writeFile(m_copy, withoutMark(text), reason))
         return false;
-    m_settings = open(m_copy);
+    m_settings = openSettings(m_copy);
     if (!m_mustBeWritten && !m_settings->contains(EndKey)) {
         reason = SettingsFileText::tr("it cannot be read to its end");
         return false;
@@ -171,7 +171,7 @@ bool WorkingCopy::make(const QVariantMap& held, QString& reason)
 bool WorkingCopy::makeOf(const QVariantMap& values, QString& reason)
 {
     m_copy = nextName();
-    m_settings = open(m_copy);
+    m_settings = openSettings(m_copy);
     for (auto value = values.constBegin(); value != values.constEnd(); ++value)
         m_settings->setValue(value.key(), *value);
     m_settings->setValue(EndKey, true);
@@ -187,7 +187,7 @@ bool WorkingCopy::parse(const QByteArray& content, QVariantMap& values) const
     QString ignored;
     if (content.isNull() || !writeFile(name, withoutMark(content), ignored))
         return false;
-    values = valuesOf(*open(name));
+    values = valuesOf(*openSettings(name));
     return true;
 }
 
@@ -204,7 +204,7 @@ bool WorkingCopy::writeAndCompare(bool isExact, QString& reason)
     const QString former = m_copy;
     m_copy = nextName(); // QSettings answers from what it remembers of a name.
     const bool isThere = replaceFile(former, m_copy);
-    m_settings = open(m_copy);
+    m_settings = openSettings(m_copy);
     const QMap<QString, QString> present = textsOf(*m_settings);
     if (isThere && (isExact ? present == wanted : present.keys() == wanted.keys()))
         return true;

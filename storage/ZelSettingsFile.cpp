@@ -152,8 +152,7 @@ std::unique_ptr<QSettings> ZelSettingsFile::Open(const QString& path)
     QByteArray content;
     QString ignored;
     const bool isRead = readFile(path, content, ignored);
-    auto settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
-    UseFileEncoding(*settings);
+    auto settings = openSettings(path);
     if (isRead)
         setRead(*settings, content);
     return settings;

@@ -45,12 +45,12 @@ public:
 
     /// How the library writes the file: lets the change set and remove values of the copy that will take the
     /// place of the file. What was set in the given settings before is carried into the copy first, and what
-    /// the change sets in them afterwards; then they read the file again. What others have
-    /// written in the meantime stays: the change is called again if another program writes the file while it
-    /// runs. What a damaged, empty or cut file has lost comes back from memory; one that lacks a registered
-    /// key counts as cut. False when the change gave up, the file could not be read or written, the change
-    /// itself writes the file, or the settings are within a group; no value of the file is changed then, and
-    /// the settings hold what they held before, or what the file holds.
+    /// the change sets in them afterwards; then they read the file again. What others have written in the
+    /// meantime stays: the change is called again if another program writes the file while it runs. What a
+    /// damaged, empty or cut file has lost comes back from memory; one that lacks a registered key counts as
+    /// cut. False when the change gave up, the file could not be read or written, the change itself writes
+    /// the file, or the settings are within a group; no value of the file is changed then, and the settings
+    /// hold what they held before, or what the file holds.
     static bool Write(QSettings& settings, const Change& change, QString& error);
 
     /// What a page reads and changes: while Write() runs, the copy of the file of these settings; else
