@@ -35,7 +35,8 @@ QSize neededSize(const QWidget& widget)
 
 QString clippedTexts(const QWidget& window)
 {
-    QCoreApplication::processEvents(); // Lays out what has changed.
+    for (int pass = 0; pass < 3; ++pass) // The texts change, then their sizes, then what holds them.
+        QCoreApplication::processEvents();
     QString clipped;
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
         // The folder buttons take what room is left, and elide their paths.
