@@ -43,9 +43,12 @@ void set(QSettings& settings, const QVariantMap& wanted)
         if (!wanted.contains(value.key()))
             settings.remove(value.key());
     const QVariantMap left = valuesOf(settings); // A group goes with the key of its name.
-    for (auto value = wanted.constBegin(); value != wanted.constEnd(); ++value)
-        if (!left.contains(value.key()) || left.value(value.key()) != *value)
+    for (auto value = wanted.constBegin(); value != wanted.constEnd(); ++value) {
+        const QVariant present = left.value(value.key());
+        const bool isSame = present.userType() == value->userType() && present == *value;
+        if (!isSame || !left.contains(value.key())) // A float equals its text.
             settings.setValue(value.key(), *value);
+    }
 }
 
 /// A change may have begun a group, outside which no value can be reached.

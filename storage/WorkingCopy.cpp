@@ -40,6 +40,16 @@ QMap<QString, QString> textsOf(const QSettings& settings)
     return texts;
 }
 
+/// Makes texts of plain values that QSettings would serialise: of a float, a QDate or a QUrl.
+void makeTexts(QSettings& settings)
+{
+    const QVariantMap values = valuesOf(settings);
+    for (auto value = values.constBegin(); value != values.constEnd(); ++value)
+        if (value->type() != QVariant::String && value->type() != QVariant::ByteArray && !isList(*value) &&
+            value->canConvert(QVariant::String))
+            settings.setValue(value.key(), value->toString());
+}
+
 /// True when a registered key is gone.
 bool lacksRegistered(const QVariantMap& values, const QVariantMap& held)
 {
@@ -199,6 +209,7 @@ bool WorkingCopy::keepContent(const QString& loss, QString& reason) const
 
 bool WorkingCopy::writeAndCompare(bool isExact, QString& reason)
 {
+    makeTexts(*m_settings);
     const QMap<QString, QString> wanted = textsOf(*m_settings);
     m_settings->sync();
     const QString former = m_copy;
