@@ -163,6 +163,7 @@ private Q_SLOTS:
         QSignalSpy help(controlCenter, SIGNAL(helpRequested(QWidget*)));
         press(Qt::Key_F1, Qt::NoModifier);
         QCOMPARE(help.count(), 1);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
         QVERIFY(m_window.findChild<QPushButton*>("resetButton")->shortcut() !=
                 m_window.findChild<QPushButton*>("applyButton")->shortcut());
         size->selectAll();
