@@ -27,6 +27,13 @@ public:
     /// The text that the box shows for a number: the nearest of its range, with prefix and suffix.
     QString shownText(double number) const { return this->prefix() + nearestText(number) + this->suffix(); }
 
+    /// True while the text is not that of the value, because the user is typing a number.
+    bool isTyping() const
+    {
+        double number = 0;
+        return !parse(this->text(), number) || number != this->value();
+    }
+
 protected:
     /// Shows the number as the new locale does.
     void changeEvent(QEvent* event) override

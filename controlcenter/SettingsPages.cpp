@@ -5,8 +5,10 @@
 #include "ZelSettingsFile.h"
 #include "ZelSettingsPanel.h"
 #include "ZelSettingsRegistry.h"
+#include "zelDoubleSpinBox.h"
+#include "zelSpinBox.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QIcon>
 #include <QPointer>
 #include <QSettings>
@@ -39,6 +41,20 @@ bool lacksRegisteredKey(const QSettings& settings)
     const auto& registered = ZelSettingsRegistry::GetDefaultSettingsValues();
     return std::any_of(registered.begin(), registered.end(),
                        [&](const auto& entry) { return !settings.contains(entry.first); });
+}
+
+template <class Box>
+bool isTypedIn(const QWidget* widget)
+{
+    const auto* box = qobject_cast<const Box*>(widget);
+    return box && box->isTyping();
+}
+
+/// True while the user is typing a number, which no page knows yet, so that it would not keep it as an edit.
+bool isTyping()
+{
+    const QWidget* focused = QApplication::focusWidget();
+    return isTypedIn<zelSpinBox>(focused) || isTypedIn<zelDoubleSpinBox>(focused);
 }
 
 /// Without pending edits a transparent icon takes the same space.
@@ -161,7 +177,7 @@ void SettingsPages::timerEvent(QTimerEvent*)
     const FileStamp present = stampOf(m_followed->fileName());
     const bool isWriting = &ZelSettingsFile::Current(*m_followed) != m_followed;
     m_timer.start(FollowInterval, this);
-    if (isWriting || (present.size == m_stamp.size && present.time == m_stamp.time))
+    if (isWriting || isTyping() || (present.size == m_stamp.size && present.time == m_stamp.time))
         return;
     QString error;
     const auto nothing = [](QSettings&, QString&) { return true; };

@@ -63,8 +63,9 @@ public:
     /// Reads the file again, which others may have written, and loads the stored values, which discards the
     /// pending edits for good. False, with a translated text, when the file cannot be read or written.
     bool load(QSettings& settings, QString& error);
-    /// Lets the fields without an edit take what other programs write to the file of these settings; null
-    /// ends it. A file that is gone is written again; a registered key that it has lost gets its default.
+    /// Lets the fields without an edit take what other programs write to the file of these settings, but not
+    /// while a number is being typed; null ends it. A file that is gone is written again; a registered key
+    /// that it has lost gets its default.
     void follow(QSettings* settings);
     /// Writes the pending edits of all pages at once. False, with a translated text, when the file cannot be
     /// written; the edits then stay pending, and the running application has got the stored values again.

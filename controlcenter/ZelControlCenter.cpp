@@ -13,6 +13,7 @@
 #include "SettingsDrawer.h"
 #include "SettingsPages.h"
 #include "WriteNotice.h"
+#include "ZelPageHelp.h"
 #include "ZelSettingsPanel.h"
 #include "base/ZelQtCompat.h"
 
@@ -133,6 +134,8 @@ void ZelControlCenter::registerSettingsPanel(ZelSettingsPanel* panel)
         return;
     m_parts->buttons.add(panel);
     m_parts->drawer.addPage(panel);
+    if (const auto* help = panel->findChild<ZelPageHelp*>())
+        connect(help, SIGNAL(taken()), &m_parts->actions, SLOT(rememberField()));
     panel->initializeWidget();
     onStateChanged();
 }

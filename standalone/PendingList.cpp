@@ -18,10 +18,10 @@ namespace zel {
 
 namespace {
 
-const int LeastHeightOfLines = 60;   // pixels, for two lines
-const int CompactHeightOfLines = 96; // pixels, for a long line and a short one
-const int LineInset = 4;             // pixels, padding and border of a line
-const int Inset = 12;                // pixels, left and right of all texts
+const int LeastHeightOfLines = 60;    // pixels, for two lines
+const int CompactHeightOfLines = 104; // pixels, for a long line and two short ones
+const int LineInset = 4;              // pixels, padding and border of a line
+const int Inset = 12;                 // pixels, left and right of all texts
 
 // An application's own sheet may give all widgets a background.
 const char* const Style =

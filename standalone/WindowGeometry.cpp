@@ -101,7 +101,8 @@ bool WindowGeometry::eventFilter(QObject*, QEvent* event)
     // A window that was maximised while its screen went away is restored to where that screen was, and a new
     // one may be put where a part of it cannot be seen. Queued, because the window is still being moved.
     if (type == QEvent::Move &&
-        (m_isBeingPlaced || !QApplication::desktop()->geometry().intersects(m_window->geometry())))
+        (m_isBeingPlaced ||
+         !QApplication::desktop()->screenGeometry(m_window).intersects(m_window->geometry())))
         QMetaObject::invokeMethod(this, "fitToScreen", Qt::QueuedConnection);
     return false;
 }

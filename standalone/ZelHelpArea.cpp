@@ -163,7 +163,9 @@ void ZelHelpArea::showHelp(QWidget* field)
     if (!m_help)
         return;
     showHelpOn(field, *m_card, *m_cardArea);
-    if (field && (m_help->isHidden() || m_cardArea->isHidden()))
+    const bool isWhole = m_help->isVisible() && m_cardArea->isVisible() &&
+                         m_card->neededHeight(m_card->width()) <= m_cardArea->viewport()->height();
+    if (field && !isWhole)
         openAt(*field);
 }
 

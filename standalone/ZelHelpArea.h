@@ -47,8 +47,8 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 public Q_SLOTS:
-    /// Shows the help on a field, or a hint where there is none. Without room for it, the help opens at the
-    /// field until the user clicks elsewhere or presses Escape.
+    /// Shows the help on a field, or a hint where there is none. Without room for all of it, the help opens
+    /// at the field until the user clicks elsewhere or presses Escape.
     void showHelp(QWidget* field);
     /// The same for the focused field.
     void showHelpOfFocusedField();

@@ -57,11 +57,9 @@ class tst_Display : public QObject
 private Q_SLOTS:
     void storedValues_data()
     {
-        QTest::addColumn<QString>("engine");
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>(
-            "applied"); // Null where the page can show what is stored, and writes nothing.
+        // Applied is null where the page can show what is stored, and writes nothing.
+        for (const char* column : {"engine", "key", "stored", "applied"})
+            QTest::addColumn<QString>(column);
         const std::pair<const char*, SettingsTexts> keys[] = {
             {"deferred Resources/LODTrianglesCap",
              {{"50000", {}}, {"49999", "50000"}, {"500000000", {}}, {"4294967297", "500000000"}}},
@@ -229,12 +227,9 @@ private Q_SLOTS:
             QCOMPARE(pixel("raytracerButton", 1) == ring, !gpu);
             QVERIFY(pixel("raytracerButton", 9) == low && pixel("deferredButton", 9) == high);
         }
-        const std::pair<const char*, Qt::Key> keys[] = {{"raytracerButton", Qt::Key_Return},
-                                                        {"deferredButton", Qt::Key_Space},
-                                                        {"raytracerButton", Qt::Key_Enter}};
-        for (const auto& [name, key] : keys) {
-            QWidget* engine = child(name);
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_Enter}) {
             const bool before = selector.useGPURenderer();
+            QWidget* engine = child(before ? "raytracerButton" : "deferredButton");
             const QImage look = pictureOf(engine);
             for (int stop = 0; stop < 4 && !engine->hasFocus(); ++stop)
                 QTest::keyClick(selector.focusWidget(), Qt::Key_Tab);

@@ -124,21 +124,25 @@ private Q_SLOTS:
     void showsTheHelpWhereThereIsRoom()
     {
         auto* size = find("databaseSpinBox");
-        const std::tuple<QSize, bool, bool> rows[] = {// Shown at all, and in the column of the list.
-                                                      {{1012, 600}, true, false},
-                                                      {{1011, 600}, true, true},
-                                                      {{702, 600}, true, true},
-                                                      {{702, 460}, false, false}};
-        for (const auto& [window, shown, inColumn] : rows) {
+        // Shown at all, in the column of the list, and whole.
+        const std::tuple<QSize, bool, bool, bool> rows[] = {{{1012, 600}, true, false, true},
+                                                            {{1011, 600}, true, true, true},
+                                                            {{702, 530}, true, true, false},
+                                                            {{702, 460}, false, false, false}};
+        for (const auto& [window, shown, inColumn, whole] : rows) {
             m_window->resize(window);
             QTRY_COMPARE(find("helpFrame")->isVisible(), shown);
             QCOMPARE(shown && find("mainPanel")->parentWidget()->isAncestorOf(find("helpFrame")), inColumn);
             size->setFocus();
+            QTRY_COMPARE(find("helpFrame")->visibleRegion().boundingRect() == find("helpFrame")->rect(),
+                         whole);
             QHelpEvent rest(QEvent::ToolTip, QPoint(1, 1), size->mapToGlobal({1, 1}));
             QCoreApplication::sendEvent(size, &rest); // A field shows its tool tip where there is no help.
             QCOMPARE(QToolTip::isVisible(), !shown);
-            find<ZelHelpArea>("helpArea")->showHelpOfFocusedField();
-            QCOMPARE(QApplication::activePopupWidget() != nullptr, !shown);
+            find<ZelHelpArea>("helpArea")->showHelp(size);
+            QCOMPARE(QApplication::activePopupWidget() == nullptr, whole);
+            if (shown && !whole)
+                QApplication::activePopupWidget()->close();
         }
         QToolTip::hideText();
         auto* opened = QApplication::activePopupWidget();
@@ -283,6 +287,7 @@ private Q_SLOTS:
                                         (key == Qt::Key_Delete ? Qt::KeypadModifier : Qt::NoModifier));
                 else
                     QCoreApplication::sendEvent(box, &asked);
+                QTest::keyClick(box, Qt::Key_Escape); // Makes no edit again.
                 QCOMPARE(box->value(), value);
             }
         }

@@ -223,8 +223,7 @@ private Q_SLOTS:
         }
         store(settings(), {{keys::TessellationHighQuality, "false"}}); // Is not set, so does not count.
         page.page.initializeWidget();
-        for (const char* button : {"defaultQuality", "highQuality", "lowQuality"})
-            QCOMPARE(page.find<QRadioButton>(button)->isChecked(), button == QString("defaultQuality"));
+        QVERIFY(page.find<QRadioButton>("defaultQuality")->isChecked());
         // A click on the low quality leaves the button as it is.
         const std::pair<const char*, bool> clicks[] = {
             {"lowQuality", false}, {"highQuality", true}, {"lowQuality", true}, {"defaultQuality", false}};
@@ -301,7 +300,6 @@ private Q_SLOTS:
                                              QDir::toNativeSeparators(settings().fileName()),
                                              QDir::toNativeSeparators("/logs/log.txt"), second.name));
         QCOMPARE(page.find("applicationIcon")->property("pixmap").value<QPixmap>().size(), QSize(96, 96));
-        QVERIFY(page.find<QLabel>("noticeLabel")->text().contains("2024"));
     }
 
     void linksOpenFromTheKeyboard()

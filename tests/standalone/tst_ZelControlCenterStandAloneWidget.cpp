@@ -163,6 +163,7 @@ private Q_SLOTS:
         QSignalSpy help(controlCenter, SIGNAL(helpRequested(QWidget*)));
         press(Qt::Key_F1, Qt::NoModifier);
         QCOMPARE(help.count(), 1);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
         QVERIFY(m_window.findChild<QPushButton*>("resetButton")->shortcut() !=
                 m_window.findChild<QPushButton*>("applyButton")->shortcut());
         size->selectAll();
@@ -184,6 +185,16 @@ private Q_SLOTS:
         QVERIFY(contentOf(path).contains("cacheSize=1234"));
         QTest::keyClick(size, Qt::Key_Escape); // Does not bring back the former value.
         QCOMPARE(size->value(), 1234);
+        size->selectAll();
+        QTest::keyClicks(size, "5"); // Less than the minimum, so no value yet.
+        store(path, contentOf(path).replace("cacheSize=1234", "cacheSize=2345"));
+        QTimerEvent tick(0);
+        for (QObject* child : m_window.findChild<zel::ZelControlCenter*>()->children())
+            if (child->inherits("zel::SettingsPages"))
+                QCoreApplication::sendEvent(child, &tick);
+        QCOMPARE(size->text().left(2), QString("5 "));
+        QTest::keyClick(size, Qt::Key_Escape);
+        QTRY_COMPARE(size->value(), 2345);
     }
 
     void edgesAndCornersResize()
