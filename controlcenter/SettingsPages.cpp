@@ -179,18 +179,15 @@ void SettingsPages::timerEvent(QTimerEvent*)
     m_timer.start(FollowInterval, this);
     if (isWriting || isTyping() || (present.size == m_stamp.size && present.time == m_stamp.time))
         return;
-    QString error;
-    const auto nothing = [](QSettings&, QString&) { return true; };
-    if (present.size <= 0) // What the file has lost comes back from memory.
-        ZelSettingsFile::Write(*m_followed, nothing, error);
-    if (!ZelSettingsFile::ReadAgain(*m_followed, error)) {
+    // A setting that is gone gets its default, as at the next start; without it, the fields would show a
+    // minimum.
+    QString error; // The log has it, too.
+    if (!ZelSettingsFile::ReadAgain(*m_followed, error) ||
+        (lacksRegisteredKey(*m_followed) && !ZelSettingsFile::Repair(*m_followed, error))) {
         m_timer.start(RetryInterval, this); // Each attempt may wait for a lock.
         return;
     }
     m_stamp = present;
-    // A setting that is gone gets its default at the next start; without it, the fields would show a minimum.
-    if (lacksRegisteredKey(*m_followed))
-        ZelSettingsFile::Repair(*m_followed, error); // The log has the error.
     const QPointer<SettingsPages> self(this);
     m_pages.forEach([](ZelSettingsPanel* page) {
         if (auto* edits = dynamic_cast<ZelPageEdits*>(page))

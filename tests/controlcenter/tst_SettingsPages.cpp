@@ -13,6 +13,8 @@
 
 using zel::SettingsPages;
 
+Q_DECLARE_METATYPE(std::function<void(SettingsPages&)>)
+
 /// Pages without a window.
 class tst_SettingsPages : public QObject
 {
@@ -54,36 +56,49 @@ private Q_SLOTS:
         QCOMPARE(changed.count(), 1);
     }
 
+    void pagesMayLeaveWhileTheyAreAsked_data()
+    {
+        QTest::addColumn<std::function<void(SettingsPages&)>>("ask");
+        QTest::addColumn<QString>("leaving");
+        const std::pair<const char*, std::function<void(SettingsPages&)>> questions[] = {
+            {"modifications", [](SettingsPages& pages) { pages.hasModifications(); }},
+            {"resettable", [](SettingsPages& pages) { pages.canReset(); }},
+            {"reset", [](SettingsPages& pages) { pages.reset(); }},
+            {"marks", [](SettingsPages& pages) { pages.mark(); }},
+            {"discard", [](SettingsPages& pages) { pages.discard(); }},
+            {"load",
+             [this](SettingsPages& pages) {
+                 QString error;
+                 pages.load(*m_settings, error);
+             }},
+            {"apply", [this](SettingsPages& pages) {
+                 bool restart;
+                 QString error;
+                 pages.apply(*m_settings, restart, error);
+             }}};
+        for (const auto& [name, ask] : questions)
+            for (const char* leaving : {"A", "B", "C", "all", "list"})
+                QTest::newRow(qPrintable(QString("%1: %2 leaves").arg(name, leaving))) << ask << leaving;
+    }
+
     void pagesMayLeaveWhileTheyAreAsked()
     {
-        bool restart;
-        QString error;
-        const std::pair<const char*, std::function<void()>> questions[] = {
-            {"modifications", [&] { m_pages->hasModifications(); }},
-            {"resettable", [&] { m_pages->canReset(); }},
-            {"reset", [&] { m_pages->reset(); }},
-            {"marks", [&] { m_pages->mark(); }},
-            {"discard", [&] { m_pages->discard(); }},
-            {"load", [&] { m_pages->load(*m_settings, error); }},
-            {"apply", [&] { m_pages->apply(*m_settings, restart, error); }}};
-        for (const auto& [name, ask] : questions)
-            for (const QString leaving : {"A", "B", "C", "all", "list"}) {
-                init();
-                m_page["C"]->modified = true;
-                m_page["A"]->whenAsked = m_page["B"]->whenAsked = [&] {
-                    if (leaving == "list")
-                        m_pages.reset();
-                    else if (leaving == "all")
-                        m_page.clear();
-                    else
-                        m_page.erase(leaving);
-                };
-                ask();
-                const int left = leaving == "list" ? -1 : leaving == "all" ? 0 : 2;
-                QVERIFY2(static_cast<int>(m_page.size()) == (left < 0 ? 3 : left), name);
-                QVERIFY2((m_pages ? (*m_pages).all()->size() : -1) == left, name);
+        QFETCH(std::function<void(SettingsPages&)>, ask);
+        QFETCH(QString, leaving);
+        m_page["C"]->modified = true;
+        m_page["A"]->whenAsked = m_page["B"]->whenAsked = [&] {
+            if (leaving == "list")
+                m_pages.reset();
+            else if (leaving == "all")
                 m_page.clear();
-            }
+            else
+                m_page.erase(leaving);
+        };
+        ask(*m_pages);
+        const bool others = leaving != "list" && leaving != "all";
+        QCOMPARE(static_cast<int>(m_page.size()), leaving == "list" ? 3 : others ? 2 : 0);
+        QCOMPARE(m_pages ? (*m_pages).all()->size() : -1, leaving == "list" ? -1 : others ? 2 : 0);
+        m_page.clear();
     }
 
     void unregisteredKeysAreLogged()
