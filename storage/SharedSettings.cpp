@@ -86,6 +86,14 @@ bool hasPending(QSettings& settings)
     return probe.isFound || settings.property(UnwrittenProperty).toBool();
 }
 
+void stopWriting(QSettings& settings)
+{
+    if (!hasPending(settings))
+        return;
+    QCoreApplication::removePostedEvents(&settings, QEvent::UpdateRequest);
+    settings.setProperty(UnwrittenProperty, true);
+}
+
 void setRead(QSettings& settings, const QByteArray& content)
 {
     settings.setProperty(ReadProperty, content.isNull() ? QByteArray("") : content);
@@ -117,7 +125,7 @@ SharedSettings::~SharedSettings()
     set(m_settings, m_held);
     QString ignored;
     if (m_hasPending)
-        stopWriting();
+        stopWriting(m_settings);
     else if (!writePending(m_held, ignored)) // Then the next write gives them what the file holds.
         m_settings.setProperty(ReadProperty, m_held);
 }
@@ -158,13 +166,6 @@ bool SharedSettings::readWritten(const QByteArray& content, QString& reason)
     return true;
 }
 
-/// They would wait without end, or write without protection.
-void SharedSettings::stopWriting()
-{
-    QCoreApplication::removePostedEvents(&m_settings, QEvent::UpdateRequest);
-    m_settings.setProperty(UnwrittenProperty, true);
-}
-
 /// Gives them what the file holds, and lets them write it, so that nothing is pending. QSettings may cut the
 /// file all the same, and that of Qt 5 changes its rights, so a spare copy stands beside it meanwhile. False,
 /// with the reason, when they have not written, as when the file has lost what they held. There is still a
@@ -180,7 +181,7 @@ bool SharedSettings::writePending(const QVariantMap& held, QString& reason)
     if (isReady) // The time tells whether QSettings has written, also within a tick of the clock.
         setTime(lock.target(), stampOf(lock.target()).time - ClockTick);
     if (!isReady || !copy.putAside(spare, reason)) {
-        stopWriting();
+        stopWriting(m_settings);
         return false;
     }
     set(m_settings, values);

@@ -15,6 +15,10 @@ class WorkingCopy;
 /// True when settings hold values that they have not written.
 bool hasPending(QSettings& settings);
 
+/// Keeps settings from writing what is pending while they live: they would wait for a lock without end, or
+/// write without protection. The next write carries it.
+void stopWriting(QSettings& settings);
+
 /// Notes what settings have read from the file, so that what is set later can be told from what others have
 /// written.
 void setRead(QSettings& settings, const QByteArray& content);
@@ -53,7 +57,6 @@ public:
 private:
     Q_DISABLE_COPY(SharedSettings)
 
-    void stopWriting();
     bool writePending(const QVariantMap& held, QString& reason);
 
     QSettings& m_settings;

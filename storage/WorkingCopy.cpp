@@ -40,14 +40,13 @@ QMap<QString, QString> textsOf(const QSettings& settings)
     return texts;
 }
 
-/// Makes texts of plain values that QSettings would serialise: of a float, a QDate or a QUrl.
-void makeTexts(QSettings& settings)
+/// Makes a double of each float, which QSettings would serialise.
+void widenFloats(QSettings& settings)
 {
     const QVariantMap values = valuesOf(settings);
     for (auto value = values.constBegin(); value != values.constEnd(); ++value)
-        if (value->type() != QVariant::String && value->type() != QVariant::ByteArray && !isList(*value) &&
-            value->canConvert(QVariant::String))
-            settings.setValue(value.key(), value->toString());
+        if (value->userType() == QMetaType::Float)
+            settings.setValue(value.key(), value->toDouble());
 }
 
 /// True when a registered key is gone.
@@ -63,6 +62,14 @@ bool lacksRegistered(const QVariantMap& values, const QVariantMap& held)
 QByteArray withoutMark(const QByteArray& text)
 {
     return text.startsWith(Utf8Mark) ? text.mid(static_cast<int>(qstrlen(Utf8Mark))) : text;
+}
+
+/// Opens a copy of the file in its encoding.
+std::unique_ptr<QSettings> openSettings(const QString& path)
+{
+    auto settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
+    ZelSettingsFile::UseFileEncoding(*settings);
+    return settings;
 }
 
 /// Removes the folder of a copy, and nothing that is not ours.
@@ -103,13 +110,6 @@ QVariantMap valuesOf(const QSettings& settings)
             values.insert(isGeneral ? general + key.mid(general.size()) : key, settings.value(key));
     }
     return values;
-}
-
-std::unique_ptr<QSettings> openSettings(const QString& path)
-{
-    auto settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
-    ZelSettingsFile::UseFileEncoding(*settings);
-    return settings;
 }
 
 WorkingCopy* WorkingCopy::Changing = nullptr;
@@ -209,7 +209,7 @@ bool WorkingCopy::keepContent(const QString& loss, QString& reason) const
 
 bool WorkingCopy::writeAndCompare(bool isExact, QString& reason)
 {
-    makeTexts(*m_settings);
+    widenFloats(*m_settings);
     const QMap<QString, QString> wanted = textsOf(*m_settings);
     m_settings->sync();
     const QString former = m_copy;

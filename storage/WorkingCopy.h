@@ -18,9 +18,6 @@ namespace zel {
 /// with names that it reads from a file but cannot look up.
 QVariantMap valuesOf(const QSettings& settings);
 
-/// Opens a settings file, or a copy of one, in its encoding.
-std::unique_ptr<QSettings> openSettings(const QString& path);
-
 /// A complete file beside the settings file, in a folder that only its user can enter. It is changed in place
 /// of the settings file, and takes its place when it is known to be good. Its maker holds the lock, except
 /// while the copy is changed.

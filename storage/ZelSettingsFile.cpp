@@ -122,8 +122,10 @@ bool write(QSettings& settings, const ZelSettingsFile::Change& change, Deadline&
     if (!reason.isEmpty())
         return refuseWriting(path, reason, error);
     ZelSettingsFile::UseFileEncoding(settings);
-    if (!makeUsable(path, deadline, content, reason, &settings))
+    if (!makeUsable(path, deadline, content, reason, &settings)) {
+        stopWriting(settings);
         return refuseWriting(path, reason, error);
+    }
     SharedSettings shared(settings, deadline);
     int tries = 0;
     Outcome outcome;
@@ -135,15 +137,37 @@ bool write(QSettings& settings, const ZelSettingsFile::Change& change, Deadline&
     return outcome == Outcome::InPlace || (outcome != Outcome::GivenUp && refuseWriting(path, reason, error));
 }
 
+bool changeNothing(QSettings&, QString&)
+{
+    return true;
+}
+
 /// ZelSettingsFile::ReadAgain() of a usable file within a time.
 bool readSafely(QSettings& settings, const QByteArray& content, Deadline& deadline, QString& error)
 {
-    const auto nothing = [](QSettings&, QString&) { return true; };
-    if (hasPending(settings))
-        return write(settings, nothing, deadline, error);
+    const bool isLost = content.isEmpty() && !settings.allKeys().isEmpty();
+    if (isLost || hasPending(settings))
+        return write(settings, &changeNothing, deadline, error);
     readAgain(settings, content);
     return true;
 }
+
+/// Settings that write what is pending with protection, before QSettings writes it without.
+class ProtectedSettings : public QSettings
+{
+public:
+    explicit ProtectedSettings(const QString& path)
+        : QSettings(path, QSettings::IniFormat)
+    {
+    }
+
+    ~ProtectedSettings() override
+    {
+        QString ignored;
+        if (hasPending(*this))
+            ZelSettingsFile::Write(*this, &changeNothing, ignored);
+    }
+};
 
 } // namespace
 
@@ -152,7 +176,8 @@ std::unique_ptr<QSettings> ZelSettingsFile::Open(const QString& path)
     QByteArray content;
     QString ignored;
     const bool isRead = readFile(path, content, ignored);
-    auto settings = openSettings(path);
+    auto settings = std::make_unique<ProtectedSettings>(path);
+    UseFileEncoding(*settings);
     if (isRead)
         setRead(*settings, content);
     return settings;
@@ -190,8 +215,10 @@ bool ZelSettingsFile::ReadAgain(QSettings& settings, QString& error)
     QByteArray content;
     QString reason;
     const QString path = settings.fileName();
-    return makeUsable(path, deadline, content, reason) ? readSafely(settings, content, deadline, error)
-                                                       : refuseReading(path, reason, error);
+    if (makeUsable(path, deadline, content, reason))
+        return readSafely(settings, content, deadline, error);
+    stopWriting(settings);
+    return refuseReading(path, reason, error);
 }
 
 bool ZelSettingsFile::Write(QSettings& settings, const Change& change, QString& error)

@@ -28,7 +28,8 @@ public:
     /// Changes values of the settings. False, with the error text set, gives the write up.
     using Change = std::function<bool(QSettings& settings, QString& error)>;
 
-    /// Opens a file, which should be usable, in its encoding.
+    /// Opens a file, which should be usable, in its encoding. What is still pending when the settings are
+    /// deleted is written as Write() does; if that fails, by QSettings.
     static std::unique_ptr<QSettings> Open(const QString& path);
 
     /// Makes settings read and write text in the encoding of the file, UTF-8.
@@ -58,8 +59,8 @@ public:
     static QSettings& Current(QSettings& settings);
 
     /// Reads the file again if others have changed it. What has been set in the settings is written first, as
-    /// Write() does. Does nothing within a change. False, and nothing is read, when the file is not usable,
-    /// or that fails.
+    /// Write() does; so are all values of settings whose file is empty or gone. Does nothing within a change.
+    /// False, and nothing is read, when the file is not usable, or that fails.
     static bool ReadAgain(QSettings& settings, QString& error);
 
     /// Brings the file into the form that the registry asks for, as ZelSettingsRegistry::EnsureSettings does,

@@ -872,12 +872,12 @@ private Q_SLOTS:
         const QString text = QString::fromUtf8("\360\237\231\202\360\240\256\267f, \"\303\274\"; \n\t\\=");
         const QString mark(QChar(QChar::ByteOrderMark));
         const QStringList list = {text, text, QString(1, QChar())};
-        QVERIFY(change(m_path, {{"list", list}, {"mark", mark}, {"day", QDate(2020, 1, 2)}}));
-        const auto shared = ZelSettingsFile::Open(m_path); // QSettings would serialise a float, as the day.
+        QVERIFY(change(m_path, {{"list", list}, {"mark", mark}, {"third", QVariant(1 / 3.F)}}));
+        const auto shared = ZelSettingsFile::Open(m_path); // QSettings would serialise a float.
         shared->setValue("half", QVariant(0.5F));
         QVERIFY2(write(*shared, {}), qPrintable(error));
-        for (const char* line : {"\nday=2020-01-02\n", "\nhalf=0.5\n"})
-            QVERIFY2(contentOf(m_path).contains(line), contentOf(m_path));
+        QVERIFY2(contentOf(m_path).contains("\nhalf=0.5\n"), contentOf(m_path));
+        QCOMPARE(ZelSettingsFile::Open(m_path)->value("third").toFloat(), 1 / 3.F);
         // Under other names, because QSettings remembers what it has read; at last with Qt's own codec.
         for (const bool own : {true, false}) {
             const QString path = m_folder.filePath(own ? "own" : "other");
