@@ -88,11 +88,11 @@ void ZelPageHelp::add(const ZelSettingHelp& setting)
     else
         *former = setting;
     ZelSettingHelp& added = isNew ? m_settings.back() : *former;
-    added.take = [self = QPointer<ZelPageHelp>(this), take = setting.take](ZelSettingSource source) {
-        const auto help = self; // The page may be deleted.
+    added.take = [this, take = setting.take](ZelSettingSource source) {
+        const QPointer<ZelPageHelp> self(this); // The page may be deleted.
         take(source);
-        if (help)
-            Q_EMIT help->taken();
+        if (self)
+            Q_EMIT self->taken();
     };
     if (added.name.isEmpty())
         added.name = nameOf(*added.fields.first());
