@@ -226,7 +226,7 @@ private Q_SLOTS:
             QCOMPARE(instance->part(), QByteArray("instance"));
             QCOMPARE(int(QFile::permissions(own)), 0x7700); // What its owner may, and this user.
             QCOMPARE(QDir(own).entryList({"*.socket"}, QDir::System).size(), 1);
-            QVERIFY(removeTree(own));
+            QCOMPARE(QProcess::execute("rm", {"-r", own}), 0);
         }
     }
 #endif
