@@ -294,8 +294,10 @@ private Q_SLOTS:
         QTest::newRow("of a process that has ended") << ended << false << "";
         QTest::newRow("of a program that had this number before")
             << "printf '" + QByteArray::number(::getpid()) + "\nother\n' >$lock" << false << "";
-        QTest::newRow("old") << QByteArray("touch -d -1hour $lock") << false << "";
+        QTest::newRow("old") << QByteArray("touch -d -40sec $lock") << false << "";
         QTest::newRow("from the future") << QByteArray("touch -d +1hour $lock") << false << "";
+        QTest::newRow("of another machine")
+            << QByteArray("printf '4194305\nprogram\nelsewhere\n' >$lock") << false << held;
         QTest::newRow("just made") << QByteArray("touch $lock") << false << held;
         QTest::newRow("held") << QByteArray("true") << true << held;
         QTest::newRow("held and old") << QByteArray("touch -d -1hour $lock") << true << held;
@@ -419,7 +421,8 @@ private Q_SLOTS:
             changed.setValue("own/key", 1);
             settings->setValue("page/key", 2);
             settings->sync(); // As many a page does.
-            return &ZelSettingsFile::Current(*settings) == &changed;
+            const int rights = QFile::permissions(QFileInfo(changed.fileName()).path());
+            return &ZelSettingsFile::Current(*settings) == &changed && rights == 0x7700;
         };
         QVERIFY(ZelSettingsFile::Write(*settings, mixed, error));
         QVERIFY(contentOf(m_path).contains("[own]\nkey=1\n") &&
@@ -834,9 +837,11 @@ private Q_SLOTS:
         QCOMPARE(contentOf(m_path), content);
         // Its owner, who is not in its group, keeps the copy to himself.
         store(m_path, "[open\n");
+        QVERIFY(m_folder.mkdir("Settings.ini.new-1")); // Of a running process.
         QVERIFY(succeeds(startChild([this] {
             return ::setgroups(0, nullptr) == 0 && ::setgid(65534) == 0 && ::setuid(65534) == 0 &&
-                   apply(m_path) && QFile::permissions(copies().last()) == QFile::Permissions(0x6600);
+                   apply(m_path) && QFile::permissions(copies().last()) == QFile::Permissions(0x6600) &&
+                   m_folder.exists("Settings.ini.new-1");
         })));
         QVERIFY(::stat(qPrintable(m_path), &status) == 0 && status.st_gid == 65533);
     }
