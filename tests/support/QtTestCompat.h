@@ -22,22 +22,14 @@ using Table = QMap<Key, Value>;
 const QProcess::ProcessChannelMode ForwardedErrors = QProcess::ForwardedErrorChannel;
 
 /// Empty when it is no object.
-inline QVariantMap readJson(const QByteArray& json)
-{
+const auto readJson = [](const QByteArray& json) {
     return QJsonDocument::fromJson(json).object().toVariantMap();
-}
-
-inline qint64 idOf(const QProcess& process)
-{
-    return process.processId();
-}
+};
+const auto idOf = [](const QProcess& process) { return process.processId(); };
 
 #    if defined(QT_WIDGETS_LIB)
 /// Where the system delivers the input of a window.
-inline QWindow* inputOf(QWidget* window)
-{
-    return window->windowHandle();
-}
+const auto inputOf = [](QWidget* window) { return window->windowHandle(); };
 
 inline QImage pictureOf(QWidget* widget)
 {
@@ -49,10 +41,7 @@ inline QImage pictureOf(WId window)
     return QGuiApplication::primaryScreen()->grabWindow(window).toImage();
 }
 
-inline void useOwnDialogs()
-{
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-}
+const auto useOwnDialogs = [] { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); };
 
 /// As assistive technology reads it.
 inline QString readOut(QWidget* widget)
@@ -61,15 +50,10 @@ inline QString readOut(QWidget* widget)
     return read->state().invisible ? QString() : read->text(QAccessible::Name);
 }
 
-inline QAccessible::Role roleOf(QWidget* widget)
-{
-    return QAccessible::queryAccessibleInterface(widget)->role();
-}
-
-inline bool isReadAsChecked(QWidget* widget)
-{
-    return QAccessible::queryAccessibleInterface(widget)->state().checked;
-}
+const auto roleOf = [](QWidget* widget) { return QAccessible::queryAccessibleInterface(widget)->role(); };
+const auto isReadAsChecked = [](QWidget* widget) {
+    return bool(QAccessible::queryAccessibleInterface(widget)->state().checked);
+};
 
 /// As assistive technology presses it.
 inline void pressByReader(QWidget* widget)
@@ -149,10 +133,7 @@ struct Table : QMap<Key, Value>
 };
 
 #    if !defined(_WIN32)
-inline qint64 idOf(const QProcess& process)
-{
-    return process.pid();
-}
+const auto idOf = [](const QProcess& process) { return process.pid(); };
 #    endif
 
 inline bool removeTree(const QString& folder)
@@ -263,10 +244,7 @@ struct WindowInput
     QWidget* window;
 };
 
-inline WindowInput inputOf(QWidget* window)
-{
-    return {window};
-}
+const auto inputOf = [](QWidget* window) { return WindowInput{window}; };
 
 inline QImage pictureOf(QWidget* widget)
 {

@@ -13,10 +13,7 @@ namespace {
 const QByteArray Before = "[General]\nengine=deferred\nsettingsVersion=2\n\n[Foreign]\nthing=\xc3\xbc\n";
 const int Patience = 60000; // ms
 
-QByteArray with(const QByteArray& engine)
-{
-    return QByteArray(Before).replace("deferred", engine);
-}
+const auto with = [](const char* engine) { return QByteArray(Before).replace("deferred", engine); };
 
 bool write(QSettings& settings, const QString& engine, QString& error)
 {
