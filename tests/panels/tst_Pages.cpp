@@ -111,7 +111,8 @@ private Q_SLOTS:
                                                            {{equal + "/0.0149", equal + "/0.01"}});
         }
         for (const auto& limit : Limits) {
-            checkUntouched<ZelImportSettingsPanel>(limit.key, {{limit.texts.lastKey(), {}}}); // Not in force.
+            checkUntouched<ZelImportSettingsPanel>(limit.key,
+                                                   {{limit.texts.keys().last(), {}}}); // Not in force.
             store(settings(), {{limit.set, "true"}});
             checkUntouched<ZelImportSettingsPanel>(limit.key, limit.texts);
         }

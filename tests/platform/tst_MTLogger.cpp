@@ -40,9 +40,14 @@ private Q_SLOTS:
             MTLogger::InstallFileHandler(folder.filePath("pipe").toStdString(), false, "");
         for (int event = 0; event <= 1000; ++event)
             MTLogger::Log("info", event == 0 ? "first" : "later");
-        MTLogger::InstallFileHandler(folder.filePath("log.txt").toStdString(), false, "");
-        const QByteArray events = contentOf(folder.filePath("log.txt"));
-        QVERIFY(events.count("later") == 1000 && !events.contains("first"));
+        const QString log = folder.filePath("log.txt");
+        store(log + ".1", "older");
+        store(log, QByteArray(5 * 1024 * 1024 + 1, 'x')); // Too large to go on.
+        for (int twice = 0; twice < 2; ++twice)
+            MTLogger::InstallFileHandler(log.toStdString(), false, "");
+        const QByteArray events = contentOf(log);
+        QVERIFY(events.count("later") == 1000 && !events.contains("first") && !events.startsWith('x'));
+        QVERIFY(contentOf(log + ".1").startsWith('x'));
         MTLogger::RemoveFileHandler();
     }
 };

@@ -20,10 +20,13 @@ private Q_SLOTS:
             {"takes in the next line", "key=C:\\\nb=1\n", "line 1 cannot be read"},
             {"cut value", "a=1 ; 2\npath=/a;/b\n", "line 2 cannot be read"},
             {"escapes", "a=\"\\x1f642\"\n", "line 1 cannot be read"},
-            {"escapes of QSettings", "a=\\0\\x1f\\xfeff\\n\\\"\\\\,@Invalid()\n", ""},
+            {"escapes of QSettings", "a=\\?\\0\\x1f\\xfeff\\n\\\"\\\\,@Invalid()\n", ""},
             {"no escape", "a=\"C:\\Users\"\n", "line 1 cannot be read"},
             {"zero bytes", QByteArray("key=\0\n", 6), "it holds zero bytes"},
             {"cut character", "key=\xE6\x97", "it is not UTF-8 text"},
+            {"key twice", "a=1\n[General]\na=2\n", "line 3 has a key twice, or a lost name"},
+            {"long escape in a name", "%U0061=1\na=2\n", "line 2 has a key twice, or a lost name"},
+            {"comment in a name", "a;b=1\n", "line 1 cannot be read"},
             {"no value", "[a]\nkey=\n\nkey\nb=1\n", "line 4 cannot be read"},
             {"no key", "=1\n", ""},
             {"open group", "a=1\r\n[b\r\nc=2\r\n", "line 2 cannot be read"},
@@ -77,21 +80,25 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QByteArray>("kept");
         const QByteArray end = "Variant(\\x0)\"\n";
-        const std::pair<const char*, QByteArray> rows[] = {{"in a list", "x=a, \"@" + end},
-                                                           {"escaped", "x=\"\\x40" + end},
-                                                           {"octal", "x=\"\\0100" + end},
-                                                           {"unknown escape", "x=\"@\\q" + end},
-                                                           {"after a mark", "x=\"@\xEF\xBB\xBF" + end},
-                                                           {"joined lines", "x=\"@Vari\\\r\nant(\\x0)\"\n"},
-                                                           {"oddly joined lines", "x=@Vari\\\n\rant(\\x0)\n"},
-                                                           {"behind quotes", "x=\"@\" Variant(\\x0)\n"},
-                                                           {"time", "x=@DateTime(\\x0)\n"}};
+        const std::pair<const char*, QByteArray> rows[] = {
+            {"in a list", "x=a, \"@" + end},
+            {"escaped", "x=\"\\x40" + end},
+            {"octal", "x=\"\\0100" + end},
+            {"unknown escape", "x=\"@\\q" + end},
+            {"after a mark", "x=\"@\xEF\xBB\xBF" + end},
+            {"joined lines", "x=\"@Vari\\\r\nant(\\x0)\"\n"},
+            {"oddly joined lines", "x=@Vari\\\n\rant(\\x0)\n"},
+            {"behind quotes", "x=\"@\" Variant(\\x0)\n"},
+            {"behind quotes and a tab", "x=\"@\"\tVariant(\\x0)\n"},
+            {"time", "x=@DateTime(\\x0)\n"}};
         for (const auto& [name, line] : rows)
             QTest::newRow(name) << "a=1\n" + line + "b=@\n" << QByteArray("a=1\nb=@\n");
+        QTest::newRow("nothing but escapes") << "x=\"\\x40" + end << QByteArray("");
         QTest::newRow("among junk") << QByteArray("junk\nx=\"a;b\", \"@" + end) << QByteArray("junk\n");
         QTest::newRow("quotes among junk")
             << QByteArray("junk\nx=\"@\\x56\"\"ariant(\"\n") << QByteArray("junk\n");
-        for (const QByteArray text : {"a=@@Variant(\n", "a=the @Variant(\n", "a=@ByteArray(x)\n"})
+        for (const QByteArray text :
+             {"a=@@Variant(\n", "a=\"b, @Variant(\"\n", "a=the @Variant(\n", "a=@ByteArray(x)\n"})
             QTest::newRow(text) << text << text;
     }
 

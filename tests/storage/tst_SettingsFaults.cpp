@@ -1,5 +1,6 @@
 #include "../support/Files.h"
 #include "FileAccess.h"
+#include "IniCodec.h"
 #include "QtTestCompat.h"
 #include "SettingsKeys.h"
 #include "SettingsMigration.h"
@@ -15,6 +16,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
+#include <cstring>
 #include <fcntl.h>
 #include <functional>
 #include <grp.h>
@@ -108,6 +110,8 @@ enum Fault { NoFault, Fails, Kills };
 Fault faultAtCall = NoFault; ///< What happens at a call of the system.
 int callsLeft = 0;           ///< Before it happens.
 const int NotReached = 2;    ///< Exit code of a child in which it has not happened.
+bool isSynced = true;        ///< What was written last is on the disk.
+bool isSafe = true;          ///< That was so whenever a file got a name beside the settings file.
 
 bool fails()
 {
@@ -131,6 +135,11 @@ Q_DECLARE_METATYPE(Operation)
 #if !defined(__SANITIZE_ADDRESS__)
 // Found before those of the C library, by Qt as well.
 #    pragma GCC visibility push(default)
+#    define ZEL_CALL(type, name, parameters, ...)                                                            \
+        type name parameters                                                                                 \
+        {                                                                                                    \
+            return call(__VA_ARGS__);                                                                        \
+        }
 extern "C" {
 int open(const char* path, int flags, ...)
 {
@@ -141,59 +150,23 @@ int open(const char* path, int flags, ...)
     return call(SYS_openat, AT_FDCWD, path, flags, mode);
 }
 int open64(const char* path, int flags, ...) __attribute__((alias("open")));
-ssize_t read(int file, void* data, size_t size)
-{
-    return call(SYS_read, file, data, size);
-}
-ssize_t write(int file, const void* data, size_t size)
-{
-    return call(SYS_write, file, data, size);
-}
-int rename(const char* from, const char* to) noexcept
-{
-    return call(SYS_rename, from, to);
-}
-int unlink(const char* path) noexcept
-{
-    return call(SYS_unlink, path);
-}
-int mkdir(const char* path, mode_t mode) noexcept
-{
-    return call(SYS_mkdir, path, mode);
-}
-int rmdir(const char* path) noexcept
-{
-    return call(SYS_rmdir, path);
-}
-int fsync(int file)
-{
-    return call(SYS_fsync, file);
-}
-int fdatasync(int file)
-{
-    return call(SYS_fdatasync, file);
-}
-int ftruncate(int file, off_t size) noexcept
-{
-    return call(SYS_ftruncate, file, size);
-}
+ZEL_CALL(ssize_t, read, (int file, void* data, size_t size), SYS_read, file, data, size)
+ZEL_CALL(ssize_t, write, (int file, const void* data, size_t size), (isSynced = false, SYS_write), file, data,
+         size)
+ZEL_CALL(int, rename, (const char* from, const char* to) noexcept,
+         (isSafe = isSafe && (isSynced || std::strstr(to, ".new-")), SYS_rename), from, to)
+ZEL_CALL(int, unlink, (const char* path) noexcept, SYS_unlink, path)
+ZEL_CALL(int, mkdir, (const char* path, mode_t mode) noexcept, SYS_mkdir, path, mode)
+ZEL_CALL(int, rmdir, (const char* path) noexcept, SYS_rmdir, path)
+ZEL_CALL(int, fsync, (int file), (isSynced = true, SYS_fsync), file)
+ZEL_CALL(int, fdatasync, (int file), SYS_fdatasync, file)
+ZEL_CALL(int, ftruncate, (int file, off_t size) noexcept, SYS_ftruncate, file, size)
 int ftruncate64(int file, off64_t size) noexcept __attribute__((alias("ftruncate")));
-int chmod(const char* path, mode_t mode) noexcept
-{
-    return call(SYS_chmod, path, mode);
-}
-int fchmod(int file, mode_t mode) noexcept
-{
-    return call(SYS_fchmod, file, mode);
-}
-int linkat(int from, const char* path, int to, const char* name, int flags) noexcept
-{
-    return call(SYS_linkat, from, path, to, name, flags);
-}
-int access(const char* path, int mode) noexcept
-{
-    return call(SYS_access, path, mode);
-}
+ZEL_CALL(int, chmod, (const char* path, mode_t mode) noexcept, SYS_chmod, path, mode)
+ZEL_CALL(int, fchmod, (int file, mode_t mode) noexcept, SYS_fchmod, file, mode)
+ZEL_CALL(int, linkat, (int from, const char* path, int to, const char* name, int flags) noexcept, SYS_linkat,
+         from, path, to, name, flags)
+ZEL_CALL(int, access, (const char* path, int mode) noexcept, SYS_access, path, mode)
 }
 #    pragma GCC visibility pop
 #endif
@@ -321,8 +294,10 @@ private Q_SLOTS:
         QTest::newRow("of a process that has ended") << ended << false << "";
         QTest::newRow("of a program that had this number before")
             << "printf '" + QByteArray::number(::getpid()) + "\nother\n' >$lock" << false << "";
-        QTest::newRow("old") << QByteArray("touch -d -1hour $lock") << false << "";
+        QTest::newRow("old") << QByteArray("touch -d -40sec $lock") << false << "";
         QTest::newRow("from the future") << QByteArray("touch -d +1hour $lock") << false << "";
+        QTest::newRow("of another machine")
+            << QByteArray("printf '4194305\nprogram\nelsewhere\n' >$lock") << false << held;
         QTest::newRow("just made") << QByteArray("touch $lock") << false << held;
         QTest::newRow("held") << QByteArray("true") << true << held;
         QTest::newRow("held and old") << QByteArray("touch -d -1hour $lock") << true << held;
@@ -350,6 +325,9 @@ private Q_SLOTS:
             QVERIFY(contentOf(m_path).contains("cacheSize=512") == reason.isEmpty());
             QVERIFY(clock.elapsed() < 7000); // Three seconds each.
             error.clear();
+            const auto settings = ZelSettingsFile::Open(m_path);
+            QVERIFY(!isHeld || (QFile::remove(m_path) && !ZelSettingsFile::ReadAgain(*settings, error)));
+            QVERIFY(!isHeld || settings->value("DBCache/cacheSize").toByteArray() == size);
         }
     }
 
@@ -372,8 +350,10 @@ private Q_SLOTS:
         const QString spare = m_path + ".unfinished";
         store(m_path, "[Fore");
         store(spare, Foreign);
+        QVERIFY(QFile::setPermissions(m_path, QFile::ReadOwner | QFile::WriteOwner));
         QVERIFY(ZelSettingsFile::IsUsable(m_path, error));
         QVERIFY(contentOf(m_path) == Foreign && files("*").size() == 1);
+        QCOMPARE(int(QFile::permissions(m_path)) & 0xFF, 0);
         // A program that knows nothing of the copy has written the file since.
         store(m_path, "[General]\nother=1\n");
         store(spare, Foreign);
@@ -427,6 +407,7 @@ private Q_SLOTS:
         const auto shared = [&](QSettings&, QString&) {
             settings->setValue("Foreign/list", "none");
             settings->setValue("new/key", 1);
+            settings->beginGroup("new");
             return false;
         };
         QVERIFY(!ZelSettingsFile::Write(*settings, shared, error));
@@ -443,7 +424,8 @@ private Q_SLOTS:
             changed.setValue("own/key", 1);
             settings->setValue("page/key", 2);
             settings->sync(); // As many a page does.
-            return &ZelSettingsFile::Current(*settings) == &changed;
+            const int rights = QFile::permissions(QFileInfo(changed.fileName()).path());
+            return &ZelSettingsFile::Current(*settings) == &changed && rights == 0x7700;
         };
         QVERIFY(ZelSettingsFile::Write(*settings, mixed, error));
         QVERIFY(contentOf(m_path).contains("[own]\nkey=1\n") &&
@@ -451,7 +433,8 @@ private Q_SLOTS:
         QVERIFY2(holdsForeign(contentOf(m_path)), contentOf(m_path));
         QCOMPARE(files("*").join(" "), QString("Settings.ini"));
         // Nothing is pending: what another program writes stays.
-        QVERIFY(change(m_path, {{"page/key", 3}}));
+        const uint time = QFileInfo(m_path).lastModified().toTime_t();
+        QVERIFY(change(m_path, {{"page/key", 3}}) && QFileInfo(m_path).lastModified().toTime_t() > time);
         settings->sync();
         QCoreApplication::sendPostedEvents(settings.get(), 0);
         QVERIFY(contentOf(m_path).contains("[page]\nkey=3\n") && settings->value("page/key").toInt() == 3);
@@ -512,7 +495,8 @@ private Q_SLOTS:
         };
         QVERIFY(!ZelSettingsFile::Write(*settings, givesUp, error));
         settings->setValue("page/c", 1);
-        QVERIFY(hasPending(*settings) && write(*settings, {}) && contentOf(m_path).contains("c=1"));
+        QVERIFY(hasPending(*settings) && hasPending(*settings) && write(*settings, {}) &&
+                contentOf(m_path).contains("c=1"));
         store(m_path, "");
         QVERIFY(!ZelSettingsFile::Write(*settings, givesUp, error) && write(*settings, {{"own/key", 1}}));
         QVERIFY(holdsForeign(contentOf(m_path)) && contentOf(m_path).contains("a=2"));
@@ -520,6 +504,10 @@ private Q_SLOTS:
         store(m_path, "[page]\na=latest\n");
         settings.reset();
         QCOMPARE(contentOf(m_path), QByteArray("[page]\na=latest\n"));
+        QSettings host(m_path, QSettings::IniFormat); // Not opened by us.
+        store(m_path, contentOf(m_path) + Foreign);
+        host.setValue("host/key", 1);
+        QVERIFY(write(host, {}) && holdsForeign(contentOf(m_path)) && contentOf(m_path).contains("[host]"));
     }
 
     void endCheckSetsValues()
@@ -648,6 +636,7 @@ private Q_SLOTS:
             store(m_path, Foreign);
             fillDisk(filler, freePages);
             const QByteArray value(16000, 'y');
+            QVERIFY(freePages > 4 || !ZelSettingsFile::IsWritable(m_path, error));
             const bool isWritten = write(*ZelSettingsFile::Open(m_path), {{"new/key", QString(value)}});
             QVERIFY(contentOf(m_path).contains(value + '\n') == isWritten && holdsForeign(contentOf(m_path)));
             QVERIFY2(isWritten || error.contains("No space left"), qPrintable(error));
@@ -686,6 +675,9 @@ private Q_SLOTS:
         store(m_folder.filePath("mine/1.ini"), "mine");
         QVERIFY(QFile::link("mine", own) && !apply(m_path));
         QCOMPARE(contentOf(m_folder.filePath("mine/1.ini")), QByteArray("mine"));
+        QVERIFY(QFile::remove(own));
+        store(own + "/mine", "mine");
+        QVERIFY(!apply(m_path) && contentOf(own + "/mine") == "mine");
     }
 
     void obstacles()
@@ -754,8 +746,8 @@ private Q_SLOTS:
         }
         QCOMPARE(copies().size(), 1);
         QCOMPARE(QDir("elsewhere").entryList(QDir::Files), QStringList("target.ini"));
-        {
-            FileLock lock(target + ".lock"); // Of one that does not know of the link.
+        for (const QString& name : {target, m_path}) {
+            FileLock lock(name + ".lock"); // Of one that knows of no other name.
             QVERIFY(lock.take(0) == FileLock::Free && !change(m_path, {{"a", 1}}) &&
                     error.contains("locked"));
         }
@@ -782,6 +774,7 @@ private Q_SLOTS:
             {&apply, version2 + "gr\303\266\303\237e=5\n", SettingsIgnoreCase},
             {&validate, "a=\"\\xffff\"\n[DBCache]\ncacheSize=77\n" + version2, 1},
             {&apply, version2 + "own=\357\277\277\n", 1},
+            {&apply, version2 + "own=\357\267\220\n", 1},
             {&apply, version2 + "own=text\\t , b\n", SettingsDropBlanks},
             {&validate, version2 + "own=\"text\\t\"\n", SettingsDropBlanks},
             {&apply, version2 + "own=text\\x20\n", SettingsDropBlanks},
@@ -811,7 +804,7 @@ private Q_SLOTS:
 
     void nothingToWrite()
     {
-        for (const char* version : {"2", "7", "2147483648", "4294967297", "99999999999999999999"}) {
+        for (const char* version : {"2", "7", "2147483648", "4294967297", "\" +99999999999999999999 \""}) {
             const QByteArray content = QByteArray("[General]\nsettingsVersion=") + version + "\n";
             store(m_path, content);
             makeOld(m_path);
@@ -828,16 +821,32 @@ private Q_SLOTS:
         struct stat status = {};
         store(m_path, Foreign);
         QVERIFY(::chmod(qPrintable(m_path), 0606) == 0 && ::chown(qPrintable(m_path), 65534, 65533) == 0);
-        QVERIFY(apply(m_path) && ::stat(qPrintable(m_path), &status) == 0);
-        QVERIFY(status.st_uid == 65534 && status.st_gid == 65533 && (status.st_mode & 0777) == 0606);
+        store(m_path, "no value\n" + Foreign);
+        const auto settings = ZelSettingsFile::Open(m_path);
+        settings->setValue("host/key", 1); // QSettings writes it as well.
+        QVERIFY(write(*settings, {{"new/key", "text"}}));
+        for (const QString& path : {m_path, copies().value(0)}) {
+            QVERIFY(::stat(qPrintable(path), &status) == 0 && (status.st_mode & 0777) == 0606);
+            QVERIFY(status.st_uid == 65534 && status.st_gid == 65533);
+        }
         const QByteArray content = contentOf(m_path);
         for (const QString& path : {m_parent->path(), m_folder.path()})
             QCOMPARE(::chmod(qPrintable(path), 0777), 0);
         QVERIFY(succeeds(startChild([this] {
             return ::setgroups(0, nullptr) == 0 && ::setuid(65532) == 0 && !apply(m_path) &&
-                   error.contains("belongs to another user");
+                   error.contains("belongs to another user") &&
+                   !ZelSettingsFile::IsWritable(m_path, error = "") && error.contains("another user");
         })));
         QCOMPARE(contentOf(m_path), content);
+        // Its owner, who is not in its group, keeps the copy to himself.
+        store(m_path, "[open\n");
+        QVERIFY(m_folder.mkdir("Settings.ini.new-1")); // Of a running process.
+        QVERIFY(succeeds(startChild([this] {
+            return ::setgroups(0, nullptr) == 0 && ::setgid(65534) == 0 && ::setuid(65534) == 0 &&
+                   apply(m_path) && QFile::permissions(copies().last()) == QFile::Permissions(0x6600) &&
+                   m_folder.exists("Settings.ini.new-1");
+        })));
+        QVERIFY(::stat(qPrintable(m_path), &status) == 0 && status.st_gid == 65533);
     }
 
     void lastThreeCopiesAreKept()
@@ -845,6 +854,9 @@ private Q_SLOTS:
         const QString log = m_folder.filePath("log.txt");
         MTLogger::InstallFileHandler(log.toStdString(), false, "");
         store(m_path + ".my own.bak", "mine");
+        store(m_path + ".2999-01-01T00-00-00.000Z.bak", "of a clock that was wrong");
+        qputenv("TZ", "UTC-9");
+        isSafe = true;
         for (char damage = '0'; damage < '5'; ++damage) {
             for (int twice = 0; twice < 2; ++twice) { // The second time it is kept already.
                 store(m_path, QByteArray(1, damage));
@@ -858,6 +870,7 @@ private Q_SLOTS:
             QVERIFY(contentOf(log).contains(copy.toUtf8()));
         }
         QCOMPARE(kept, QByteArray("234"));
+        QVERIFY(isSafe);
         QVERIFY(contentOf(log).contains(m_path.toUtf8() + '"'));
         QCOMPARE(contentOf(m_path + ".my own.bak"), QByteArray("mine"));
     }
@@ -878,6 +891,7 @@ private Q_SLOTS:
         QVERIFY2(write(*shared, {}), qPrintable(error));
         QVERIFY2(contentOf(m_path).contains("\nhalf=0.5\n"), contentOf(m_path));
         QCOMPARE(ZelSettingsFile::Open(m_path)->value("third").toFloat(), 1 / 3.F);
+        QVERIFY(!change(m_path, {{"lone surrogate", text.left(1)}}) && error.contains("not all values"));
         // Under other names, because QSettings remembers what it has read; at last with Qt's own codec.
         for (const bool own : {true, false}) {
             const QString path = m_folder.filePath(own ? "own" : "other");
@@ -888,6 +902,12 @@ private Q_SLOTS:
             QCOMPARE(copy->value("list").toStringList(), list);
             QVERIFY(!own || copy->value("mark").toString() == mark);
         }
+        const auto settings = ZelSettingsFile::Open(m_path);
+        store(m_path, Utf8Mark + contentOf(m_path));
+        QVERIFY(ZelSettingsFile::ReadAgain(*settings, error));
+        settings->setValue("host", text);
+        QVERIFY(write(*settings, {{"new/key", 1}}));
+        QCOMPARE(ZelSettingsFile::Open(m_path)->value("host").toString(), text);
     }
 };
 

@@ -21,22 +21,15 @@ using Table = QMap<Key, Value>;
 
 const QProcess::ProcessChannelMode ForwardedErrors = QProcess::ForwardedErrorChannel;
 
-inline bool removeTree(const QString& folder)
-{
-    return QDir(folder).removeRecursively();
-}
-
-inline qint64 idOf(const QProcess& process)
-{
-    return process.processId();
-}
+/// Empty when it is no object.
+const auto readJson = [](const QByteArray& json) {
+    return QJsonDocument::fromJson(json).object().toVariantMap();
+};
+const auto idOf = [](const QProcess& process) { return process.processId(); };
 
 #    if defined(QT_WIDGETS_LIB)
 /// Where the system delivers the input of a window.
-inline QWindow* inputOf(QWidget* window)
-{
-    return window->windowHandle();
-}
+const auto inputOf = [](QWidget* window) { return window->windowHandle(); };
 
 inline QImage pictureOf(QWidget* widget)
 {
@@ -48,10 +41,7 @@ inline QImage pictureOf(WId window)
     return QGuiApplication::primaryScreen()->grabWindow(window).toImage();
 }
 
-inline void useOwnDialogs()
-{
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-}
+const auto useOwnDialogs = [] { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); };
 
 /// As assistive technology reads it.
 inline QString readOut(QWidget* widget)
@@ -60,15 +50,10 @@ inline QString readOut(QWidget* widget)
     return read->state().invisible ? QString() : read->text(QAccessible::Name);
 }
 
-inline QAccessible::Role roleOf(QWidget* widget)
-{
-    return QAccessible::queryAccessibleInterface(widget)->role();
-}
-
-inline bool isReadAsChecked(QWidget* widget)
-{
-    return QAccessible::queryAccessibleInterface(widget)->state().checked;
-}
+const auto roleOf = [](QWidget* widget) { return QAccessible::queryAccessibleInterface(widget)->role(); };
+const auto isReadAsChecked = [](QWidget* widget) {
+    return bool(QAccessible::queryAccessibleInterface(widget)->state().checked);
+};
 
 /// As assistive technology presses it.
 inline void pressByReader(QWidget* widget)
@@ -126,7 +111,6 @@ inline void turnWheel(QWidget& window, const QPoint& place)
                 }                                                                                            \
                 return false;                                                                                \
             });
-#    define qInfo qDebug
 
 const QProcess::ProcessChannelMode ForwardedErrors = QProcess::SeparateChannels;
 
@@ -146,15 +130,10 @@ struct Table : QMap<Key, Value>
         for (const Key& key : others.keys())
             insert(key, others[key]);
     }
-
-    Key lastKey() const { return this->keys().last(); }
 };
 
 #    if !defined(_WIN32)
-inline qint64 idOf(const QProcess& process)
-{
-    return process.pid();
-}
+const auto idOf = [](const QProcess& process) { return process.pid(); };
 #    endif
 
 inline bool removeTree(const QString& folder)
@@ -207,73 +186,40 @@ bool qWaitFor(const Condition& condition, int timeout = 5000)
 
 } // namespace QTest
 
-/// JSON of any type; null for what is not there or cannot be read.
-class QJsonValue
+/// Takes one value off the tokens of the JSON that the checker writes. Null when there is none.
+inline QVariant takeJson(QStringList& tokens)
 {
-public:
-    QJsonValue() = default;
-    template <class T>
-    QJsonValue(const T& value)
-        : m_value(value)
-    {
+    const QString first = tokens.isEmpty() ? QString("null") : tokens.takeFirst();
+    QVariantMap map;
+    QVariantList list;
+    while (first == "{" && !tokens.isEmpty() && tokens.first() != "}") {
+        const QString name = takeJson(tokens).toString();
+        map[name] = takeJson(tokens);
     }
-
-    static QJsonValue fromJson(const QByteArray& json)
-    {
-        const QString text = QString::fromUtf8(json, json.size());
-        const QRegExp token("\"([^\"\\\\]|\\\\.)*\"|[\\[\\]{}]|[a-z]+");
-        QStringList tokens;
-        for (int at = 0; (at = token.indexIn(text, at)) >= 0; at += token.matchedLength())
-            tokens << token.cap();
-        return read(tokens);
+    while (first == "[" && !tokens.isEmpty() && tokens.first() != "]")
+        list << takeJson(tokens);
+    if (first == "{" || first == "[")
+        return tokens.removeOne(first == "{" ? "}" : "]"), first == "{" ? QVariant(map) : QVariant(list);
+    if (!first.startsWith('"'))
+        return first == "null" ? QVariant() : QVariant(first);
+    QString value("");
+    for (int i = 1; i < first.size() - 1; ++i) {
+        const bool isEscape = first[i] == '\\', isCode = isEscape && first[i + 1] == 'u';
+        value += isCode ? QChar(first.mid(i + 2, 4).toUShort(nullptr, 16)) : first[i + isEscape];
+        i += isCode ? 5 : isEscape;
     }
+    return value;
+}
 
-    QJsonValue object() const { return *this; }
-    QJsonValue toObject() const { return *this; }
-    QString toString() const { return m_value.toString(); }
-    bool toBool() const { return m_value.toBool(); }
-    QList<QJsonValue> toArray() const
-    {
-        QList<QJsonValue> values;
-        for (const QVariant& value : m_value.toList())
-            values << QJsonValue(value);
-        return values;
-    }
-    QJsonValue operator[](const QString& key) const { return m_value.toMap().value(key); }
-    bool operator==(const QJsonValue& other) const { return m_value == other.m_value; }
-
-private:
-    /// Takes one value off the tokens, of the JSON that the checker writes.
-    static QVariant read(QStringList& tokens)
-    {
-        const QString first = tokens.isEmpty() ? QString("null") : tokens.takeFirst();
-        QVariantMap map;
-        QVariantList list;
-        while (first == "{" && !tokens.isEmpty() && tokens.first() != "}") {
-            const QString name = read(tokens).toString();
-            map[name] = read(tokens);
-        }
-        while (first == "[" && !tokens.isEmpty() && tokens.first() != "]")
-            list << read(tokens);
-        if (first == "{" || first == "[")
-            return tokens.removeOne(first == "{" ? "}" : "]"), first == "{" ? QVariant(map) : QVariant(list);
-        if (!first.startsWith('"'))
-            return first == "null" ? QVariant() : QVariant(first);
-        QString value;
-        for (int i = 1; i < first.size() - 1; ++i) {
-            const bool isEscape = first[i] == '\\', isCode = isEscape && first[i + 1] == 'u';
-            value += isCode ? QChar(first.mid(i + 2, 4).toUShort(nullptr, 16)) : first[i + isEscape];
-            i += isCode ? 5 : isEscape;
-        }
-        return value;
-    }
-
-    QVariant m_value;
-};
-
-using QJsonObject = QJsonValue;
-using QJsonDocument = QJsonValue;
-using QJsonArray = QList<QJsonValue>;
+inline QVariantMap readJson(const QByteArray& json)
+{
+    const QString text = QString::fromUtf8(json, json.size());
+    const QRegExp token("\"([^\"\\\\]|\\\\.)*\"|[\\[\\]{}]|[a-z]+");
+    QStringList tokens;
+    for (int at = 0; (at = token.indexIn(text, at)) >= 0; at += token.matchedLength())
+        tokens << token.cap();
+    return takeJson(tokens).toMap();
+}
 
 #    if defined(QT_GUI_LIB)
 /// Where the system delivers the input of a window: to the widgets in it.
@@ -298,10 +244,7 @@ struct WindowInput
     QWidget* window;
 };
 
-inline WindowInput inputOf(QWidget* window)
-{
-    return {window};
-}
+const auto inputOf = [](QWidget* window) { return WindowInput{window}; };
 
 inline QImage pictureOf(QWidget* widget)
 {

@@ -296,7 +296,7 @@ private Q_SLOTS:
     {
         const int seed = qgetenv("WALK_SEED").toInt(), steps = 150, warmUp = 1;
         const int rounds = qMax(8, qgetenv("WALK_ROUNDS").toInt());
-        qInfo("WALK_SEED=%d", seed);
+        qDebug("WALK_SEED=%d", seed);
         std::mt19937 random(static_cast<unsigned>(seed));
         FakeApplication application;
         ZelControlCenter::RegisterSetting(keys::CacheSize, "1024", &ZelControlCenter::noOp);

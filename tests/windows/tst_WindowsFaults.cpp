@@ -13,10 +13,7 @@ namespace {
 const QByteArray Before = "[General]\nengine=deferred\nsettingsVersion=2\n\n[Foreign]\nthing=\xc3\xbc\n";
 const int Patience = 60000; // ms
 
-QByteArray with(const QByteArray& engine)
-{
-    return QByteArray(Before).replace("deferred", engine);
-}
+const auto with = [](const char* engine) { return QByteArray(Before).replace("deferred", engine); };
 
 bool write(QSettings& settings, const QString& engine, QString& error)
 {
@@ -75,35 +72,30 @@ private Q_SLOTS:
 
     void waitsForAHeldFile()
     {
-        const struct
-        {
-            int sharing, time; // ms
-            bool written;
-        } rows[] = {
+        // What the holder shares, how long (ms), and whether the file is written.
+        const std::tuple<int, int, bool> rows[] = {
             {FILE_SHARE_READ, 400, true}, {FILE_SHARE_READ, 8000, false}, {0, 400, true}, {0, 8000, false}};
-        for (const auto& row : rows) {
+        for (const auto& [sharing, time, written] : rows) {
             init();
             const auto settings = ZelSettingsFile::Open(m_path);
             QCOMPARE(settings->value(keys::Engine).toString(), QString("deferred"));
-            const auto holder =
-                another({"hold", m_path, QString::number(row.sharing), QString::number(row.time)});
+            const auto holder = another({"hold", m_path, QString::number(sharing), QString::number(time)});
             QVERIFY(holder->waitForReadyRead(Patience));
             QCOMPARE(holder->readAll().trimmed(), QByteArray("held"));
 
             QElapsedTimer clock;
             clock.start();
             QString error;
-            QCOMPARE(write(*settings, "software", error), row.written);
+            QCOMPARE(write(*settings, "software", error), written);
             QVERIFY2(clock.elapsed() < 5000, "it waits longer than a second");
-            QCOMPARE(bool(error.contains(m_path)), !row.written);
+            QCOMPARE(bool(error.contains(m_path)), !written);
             QVERIFY(holder->waitForFinished(Patience));
-            QCOMPARE(contentOf(m_path), row.written ? with("software") : Before);
-            QCOMPARE(settings->value(keys::Engine).toString(),
-                     QString(row.written ? "software" : "deferred"));
+            QCOMPARE(contentOf(m_path), written ? with("software") : Before);
+            QCOMPARE(settings->value(keys::Engine).toString(), QString(written ? "software" : "deferred"));
             // Nothing is left for later.
             QCoreApplication::processEvents();
             settings->sync();
-            QCOMPARE(contentOf(m_path), row.written ? with("software") : Before);
+            QCOMPARE(contentOf(m_path), written ? with("software") : Before);
         }
     }
 
