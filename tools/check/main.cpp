@@ -208,7 +208,7 @@ QString copyWith(const QByteArray& content, const QString& path)
     for (const QString& copy : backupsOf(path)) {
         QByteArray kept;
         QString ignored;
-        if (!content.isEmpty() && readFile(copy, kept, ignored) && kept == content)
+        if (readFile(copy, kept, ignored) && kept == content)
             return copy;
     }
     return QString();
