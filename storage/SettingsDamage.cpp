@@ -4,6 +4,7 @@
 #include "base/SystemFiles.h"
 
 #include <QSet>
+#include <QStringList>
 #include <QTextCodec>
 
 #include <algorithm>
@@ -211,8 +212,12 @@ bool holdsObject(QString decoded, const QString& before)
 {
     if (!decoded.contains('@'))
         return false;
-    // QSettings skips blanks behind a quotation mark, and Qt's own codec the mark of the encoding.
-    decoded.remove(' ').remove('\t').remove(QString::fromLatin1(Utf8Mark));
+    // QSettings skips blanks behind a quotation mark, and Qt's own codec the mark of the encoding. QString of
+    // Qt 4 moves all the rest for each of them.
+    const auto isBlank = [](QChar character) { return character == ' ' || character == '\t'; };
+    const auto end = std::remove_if(decoded.begin(), decoded.end(), isBlank);
+    decoded.truncate(static_cast<int>(end - decoded.begin()));
+    decoded = decoded.split(QString::fromLatin1(Utf8Mark)).join(QString());
     for (const char* const object : Objects)
         if (decoded.contains(before + object))
             return true;
