@@ -243,7 +243,8 @@ void ControlCenterActions::putBack()
         help->take(StoredValue);
     else
         m_field->setProperty(ValueProperty, m_value);
-    field()->selectAll();
+    if (field()) // The page may be deleted meanwhile.
+        field()->selectAll();
 }
 
 void ControlCenterActions::requestHelp()

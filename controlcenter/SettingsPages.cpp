@@ -181,14 +181,17 @@ void SettingsPages::timerEvent(QTimerEvent*)
         return;
     // A setting that is gone gets its default, as at the next start; without it, the fields would show a
     // minimum.
+    const QPointer<SettingsPages> self(this);
     QString error; // The log has it, too.
-    if (!ZelSettingsFile::ReadAgain(*m_followed, error) ||
-        (lacksRegisteredKey(*m_followed) && !ZelSettingsFile::Repair(*m_followed, error))) {
+    const bool isRead = ZelSettingsFile::ReadAgain(*m_followed, error) &&
+                        (!lacksRegisteredKey(*m_followed) || ZelSettingsFile::Repair(*m_followed, error));
+    if (!self || !m_followed) // A validator may show a dialog.
+        return;
+    if (!isRead) {
         m_timer.start(RetryInterval, this); // Each attempt may wait for a lock.
         return;
     }
     m_stamp = present;
-    const QPointer<SettingsPages> self(this);
     m_pages.forEach([](ZelSettingsPanel* page) {
         if (auto* edits = dynamic_cast<ZelPageEdits*>(page))
             edits->takeStored();

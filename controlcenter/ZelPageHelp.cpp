@@ -5,9 +5,9 @@
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
+#include <QApplication>
 #include <QComboBox>
 #include <QContextMenuEvent>
-#include <QCoreApplication>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QKeySequence>
@@ -88,10 +88,10 @@ void ZelPageHelp::add(const ZelSettingHelp& setting)
     else
         *former = setting;
     ZelSettingHelp& added = isNew ? m_settings.back() : *former;
-    added.take = [this, take = setting.take](ZelSettingSource source) {
+    added.take = [this, fields = setting.fields, take = setting.take](ZelSettingSource source) {
         const QPointer<ZelPageHelp> self(this); // The page may be deleted.
         take(source);
-        if (self)
+        if (self && fields.contains(QApplication::focusWidget()))
             Q_EMIT self->taken();
     };
     if (added.name.isEmpty())

@@ -95,7 +95,7 @@ Q_SIGNALS:
     void reached(QWidget* field);
     /// The user has changed what a field shows.
     void edited();
-    /// A stored value or a default has been put into a field.
+    /// A stored value or a default has been put into the focused field.
     void taken();
     /// The user asks what a field is. Without a receiver the help appears at the field.
     void helpRequested(QWidget* field);

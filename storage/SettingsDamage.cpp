@@ -212,10 +212,10 @@ bool holdsObject(QString decoded, const QString& before)
 {
     if (!decoded.contains('@'))
         return false;
-    // QSettings skips blanks behind a quotation mark, and Qt's own codec the mark of the encoding. QString of
-    // Qt 4 moves all the rest for each of them.
-    const auto isBlank = [](QChar character) { return character == ' ' || character == '\t'; };
-    const auto end = std::remove_if(decoded.begin(), decoded.end(), isBlank);
+    // QSettings skips blanks behind a quotation mark, and Qt's own codec the mark of the encoding. Not by
+    // QString::remove(), which in Qt 4 moves the rest for each character that it removes.
+    const auto isSkipped = [](QChar character) { return character == ' ' || character == '\t'; };
+    const auto end = std::remove_if(decoded.begin(), decoded.end(), isSkipped);
     decoded.truncate(static_cast<int>(end - decoded.begin()));
     decoded = decoded.split(QString::fromLatin1(Utf8Mark)).join(QString());
     for (const char* const object : Objects)

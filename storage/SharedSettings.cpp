@@ -44,18 +44,12 @@ void set(QSettings& settings, const QVariantMap& wanted)
             settings.remove(value.key());
     const QVariantMap left = valuesOf(settings); // A group goes with the key of its name.
     for (auto value = wanted.constBegin(); value != wanted.constEnd(); ++value) {
-        const QVariant present = left.value(value.key());
-        const bool isSame = present.userType() == value->userType() && present == *value;
-        if (!isSame || !left.contains(value.key())) // A float equals its text.
+        // A float equals its text, but QSettings would serialise it.
+        const QVariant held = left.value(value.key());
+        const bool isSame = held.userType() == value->userType() && held == *value;
+        if (!isSame || !left.contains(value.key()))
             settings.setValue(value.key(), *value);
     }
-}
-
-/// A change may have begun a group, outside which no value can be reached.
-void leaveGroups(QSettings& settings)
-{
-    while (!settings.group().isEmpty())
-        settings.endGroup();
 }
 
 /// Makes the same changes in settings that lead from some values to others.
@@ -75,6 +69,17 @@ void change(QSettings& settings, const QVariantMap& from, const QVariantMap& to)
 
 } // namespace
 
+void leaveGroups(QSettings& settings)
+{
+    while (!settings.group().isEmpty())
+        settings.endGroup();
+}
+
+bool hasUnwritten(const QSettings& settings)
+{
+    return settings.property(UnwrittenProperty).toBool();
+}
+
 bool hasPending(QSettings& settings)
 {
     PendingProbe probe;
@@ -83,7 +88,7 @@ bool hasPending(QSettings& settings)
     settings.removeEventFilter(&probe);
     if (probe.isFound) // Without it they would never post one again.
         QCoreApplication::postEvent(&settings, new QEvent(QEvent::UpdateRequest));
-    return probe.isFound || settings.property(UnwrittenProperty).toBool();
+    return probe.isFound || hasUnwritten(settings);
 }
 
 void stopWriting(QSettings& settings)
@@ -104,6 +109,7 @@ void readAgain(QSettings& settings, const QByteArray& content)
     // Not sync(), after which QSettings of Qt 4 posts no event any more.
     QEvent update(QEvent::UpdateRequest);
     QCoreApplication::sendEvent(&settings, &update);
+    QCoreApplication::removePostedEvents(&settings, QEvent::UpdateRequest);
     ZelSettingsFile::UseFileEncoding(settings); // Reading the UTF-8 mark brings Qt's own codec back.
     setRead(settings, content);
 }

@@ -12,8 +12,14 @@ namespace zel {
 class Deadline;
 class WorkingCopy;
 
-/// True when settings hold values that they have not written.
+/// True when settings hold values that they have not written, or have posted an event to write.
 bool hasPending(QSettings& settings);
+
+/// True when settings hold values that they could not write.
+bool hasUnwritten(const QSettings& settings);
+
+/// A change may have begun a group, outside which no value can be reached.
+void leaveGroups(QSettings& settings);
 
 /// Keeps settings from writing what is pending while they live: they would wait for a lock without end, or
 /// write without protection. The next write carries it.

@@ -152,7 +152,7 @@ bool readSafely(QSettings& settings, const QByteArray& content, Deadline& deadli
     return true;
 }
 
-/// Settings that write what is pending with protection, before QSettings writes it without.
+/// Settings that write with protection what they could not write before, as QSettings would without it.
 class ProtectedSettings : public QSettings
 {
 public:
@@ -164,7 +164,8 @@ public:
     ~ProtectedSettings() override
     {
         QString ignored;
-        if (hasPending(*this))
+        leaveGroups(*this);
+        if (hasUnwritten(*this))
             ZelSettingsFile::Write(*this, &changeNothing, ignored);
     }
 };
@@ -233,12 +234,14 @@ bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
     const QString path = settings.fileName();
     QByteArray content;
     QString reason, ignored;
-    if (!makeUsable(path, deadline, content, reason, &settings))
+    if (!makeUsable(path, deadline, content, reason, &settings)) {
+        stopWriting(settings);
         return refuseReading(path, reason, error);
-    readSafely(settings, content, deadline, ignored);
+    }
+    const bool isRead = readSafely(settings, content, deadline, ignored);
 
     std::map<QString, std::pair<QVariant, QString>> values; // What is stored, and what it becomes.
-    bool needsWrite = !settingsDamage(content).isEmpty();
+    bool needsWrite = !settingsDamage(content).isEmpty() || (content.isEmpty() && !isRead);
     const auto keep = [&](const auto& entry, const QVariant& stored, const QString& text) {
         values[entry.first] = {stored, text};
         needsWrite = needsWrite || needsRepair(stored, text);

@@ -189,9 +189,10 @@ private Q_SLOTS:
         QTest::keyClicks(size, "5"); // Less than the minimum, so no value yet.
         store(path, contentOf(path).replace("cacheSize=1234", "cacheSize=345"));
         QTimerEvent tick(0);
+        int ticks = 0;
         for (QObject* child : m_window.findChild<zel::ZelControlCenter*>()->children())
-            if (child->inherits("zel::SettingsPages"))
-                QCoreApplication::sendEvent(child, &tick);
+            ticks += child->inherits("zel::SettingsPages") && QCoreApplication::sendEvent(child, &tick);
+        QCOMPARE(ticks, 1);
         QCOMPARE(size->text().left(2), QString("5 "));
         QTest::keyClick(size, Qt::Key_Escape);
         QTRY_COMPARE(size->value(), 345);

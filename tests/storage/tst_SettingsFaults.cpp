@@ -328,6 +328,7 @@ private Q_SLOTS:
             const auto settings = ZelSettingsFile::Open(m_path);
             QVERIFY(!isHeld || (QFile::remove(m_path) && !ZelSettingsFile::ReadAgain(*settings, error)));
             QVERIFY(!isHeld || settings->value("DBCache/cacheSize").toByteArray() == size);
+            QVERIFY(!isHeld || size != "77" || !ZelSettingsFile::Repair(*settings, error));
         }
     }
 
@@ -504,6 +505,18 @@ private Q_SLOTS:
         store(m_path, "[page]\na=latest\n");
         settings.reset();
         QCOMPARE(contentOf(m_path), QByteArray("[page]\na=latest\n"));
+        settings = ZelSettingsFile::Open(m_path);
+        settings->setValue("page/b", 1);
+        QVERIFY(!ZelSettingsFile::Write(*settings, givesUp, error));
+        store(m_path, "[page]\na=newest\n");
+        settings.reset(); // Writes what has stayed pending, as Write() does.
+        QCOMPARE(contentOf(m_path), QByteArray("[page]\na=newest\nb=1\n"));
+        settings = ZelSettingsFile::Open(m_path);
+        settings->setValue("page/b", 2);
+        settings->sync(); // There is still an event to write it.
+        store(m_path, "[page]\nb=latest\n");
+        settings.reset();
+        QCOMPARE(contentOf(m_path), QByteArray("[page]\nb=latest\n"));
         QSettings host(m_path, QSettings::IniFormat); // Not opened by us.
         store(m_path, contentOf(m_path) + Foreign);
         host.setValue("host/key", 1);
