@@ -107,11 +107,11 @@ bool migrate(const QString& path)
 typedef bool (*Operation)(const QString& path);
 
 enum Fault { NoFault, Fails, Kills };
-Fault faultAtCall = NoFault; ///< What happens at a call of the system.
-int callsLeft = 0;           ///< Before it happens.
-const int NotReached = 2;    ///< Exit code of a child in which it has not happened.
-bool isSynced = true;        ///< What was written last is on the disk.
-bool isSafe = true;          ///< That was so whenever a file got a name beside the settings file.
+Fault faultAtCall = NoFault;           ///< What happens at a call of the system.
+int callsLeft = 0;                     ///< Before it happens.
+const int NotReached = 2;              ///< Exit code of a child in which it has not happened.
+[[maybe_unused]] bool isSynced = true; ///< What was written last is on the disk.
+bool isSafe = true;                    ///< That was so whenever a file got a name beside the settings file.
 
 bool fails()
 {
