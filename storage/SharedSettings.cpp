@@ -46,8 +46,7 @@ void set(QSettings& settings, const QVariantMap& wanted)
     for (auto value = wanted.constBegin(); value != wanted.constEnd(); ++value) {
         // A float equals its text, but QSettings would serialise it.
         const QVariant held = left.value(value.key());
-        const bool isSame = held.userType() == value->userType() && held == *value;
-        if (!isSame || !left.contains(value.key()))
+        if (!left.contains(value.key()) || held.userType() != value->userType() || !isSame(held, *value))
             settings.setValue(value.key(), *value);
     }
 }
@@ -55,14 +54,14 @@ void set(QSettings& settings, const QVariantMap& wanted)
 /// Makes the same changes in settings that lead from some values to others.
 void change(QSettings& settings, const QVariantMap& from, const QVariantMap& to)
 {
-    if (from == to)
+    if (isSame(from, to))
         return;
     QVariantMap wanted = valuesOf(settings);
     for (auto value = from.constBegin(); value != from.constEnd(); ++value)
         if (!to.contains(value.key()))
             wanted.remove(value.key());
     for (auto value = to.constBegin(); value != to.constEnd(); ++value)
-        if (!from.contains(value.key()) || from.value(value.key()) != *value)
+        if (!from.contains(value.key()) || !isSame(from.value(value.key()), *value))
             wanted.insert(value.key(), *value);
     set(settings, wanted);
 }

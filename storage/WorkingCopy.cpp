@@ -112,6 +112,20 @@ QVariantMap valuesOf(const QSettings& settings)
     return values;
 }
 
+bool isSame(const QVariant& first, const QVariant& second)
+{
+    return first == second && first.toString() == second.toString();
+}
+
+bool isSame(const QVariantMap& first, const QVariantMap& second)
+{
+    auto other = second.constBegin();
+    for (auto value = first.constBegin(); value != first.constEnd(); ++value, ++other)
+        if (other == second.constEnd() || other.key() != value.key() || !isSame(*value, *other))
+            return false;
+    return other == second.constEnd();
+}
+
 WorkingCopy* WorkingCopy::Changing = nullptr;
 
 WorkingCopy::WorkingCopy(const SettingsLock& lock)

@@ -18,6 +18,10 @@ namespace zel {
 /// with names that it reads from a file but cannot look up.
 QVariantMap valuesOf(const QSettings& settings);
 
+/// True for values that are equal and have the same text: QVariant takes true and "yes" for equal.
+bool isSame(const QVariant& first, const QVariant& second);
+bool isSame(const QVariantMap& first, const QVariantMap& second);
+
 /// A complete file beside the settings file, in a folder that only its user can enter. It is changed in place
 /// of the settings file, and takes its place when it is known to be good. Its maker holds the lock, except
 /// while the copy is changed.

@@ -100,7 +100,7 @@ Outcome tryWrite(const QString& path, SharedSettings& shared, const ZelSettingsF
     shared.carryOver(copy.settings());
     const QVariantMap after = valuesOf(copy.settings());
     Outcome outcome = Outcome::InPlace;
-    if (after != before || copy.mustBeWritten())
+    if (!isSame(after, before) || copy.mustBeWritten())
         outcome = keepLists(copy, before, reason) && lock.takeAndFinish(reason) && copy.write(reason)
                       ? copy.put(reason)
                       : Outcome::Failed;

@@ -904,6 +904,10 @@ private Q_SLOTS:
         QVERIFY2(write(*shared, {}), qPrintable(error));
         QVERIFY2(contentOf(m_path).contains("\nhalf=0.5\n"), contentOf(m_path));
         QCOMPARE(ZelSettingsFile::Open(m_path)->value("third").toFloat(), 1 / 3.F);
+        QVERIFY(change(m_path, {{"sure", "yes"}}) && change(m_path, {{"sure", true}}));
+        QVERIFY(contentOf(m_path).contains("\nsure=true\n"));
+        shared->setValue("half", QVariant(true));
+        QVERIFY(write(*shared, {}) && contentOf(m_path).contains("\nhalf=true\n"));
         QVERIFY(!change(m_path, {{"lone surrogate", text.left(1)}}) && error.contains("not all values"));
         // Under other names, because QSettings remembers what it has read; at last with Qt's own codec.
         for (const bool own : {true, false}) {
