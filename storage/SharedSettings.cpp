@@ -108,7 +108,7 @@ void readAgain(QSettings& settings, const QByteArray& content)
     // Not sync(), after which QSettings of Qt 4 posts no event any more.
     QEvent update(QEvent::UpdateRequest);
     QCoreApplication::sendEvent(&settings, &update);
-    QCoreApplication::removePostedEvents(&settings, QEvent::UpdateRequest);
+    QCoreApplication::removePostedEvents(&settings, QEvent::UpdateRequest); // It would count as pending.
     ZelSettingsFile::UseFileEncoding(settings); // Reading the UTF-8 mark brings Qt's own codec back.
     setRead(settings, content);
 }

@@ -18,7 +18,7 @@ bool hasPending(QSettings& settings);
 /// True when settings hold values that they could not write.
 bool hasUnwritten(const QSettings& settings);
 
-/// A change may have begun a group, outside which no value can be reached.
+/// Leaves the groups that a change has begun, outside which no value can be reached.
 void leaveGroups(QSettings& settings);
 
 /// Keeps settings from writing what is pending while they live: they would wait for a lock without end, or

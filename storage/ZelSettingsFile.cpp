@@ -79,6 +79,15 @@ bool makeUsable(const QString& path, const Deadline& deadline, QByteArray& conte
     return true;
 }
 
+/// The same for settings, which write nothing by themselves before the next write when it is not possible.
+bool makeUsable(QSettings& settings, const Deadline& deadline, QByteArray& content, QString& reason)
+{
+    const bool isUsable = makeUsable(settings.fileName(), deadline, content, reason, &settings);
+    if (!isUsable)
+        stopWriting(settings);
+    return isUsable;
+}
+
 /// One attempt of write(); another one has to follow when it is outdated.
 Outcome tryWrite(const QString& path, SharedSettings& shared, const ZelSettingsFile::Change& change,
                  Deadline& deadline, QString& reason, QString& error)
@@ -122,10 +131,8 @@ bool write(QSettings& settings, const ZelSettingsFile::Change& change, Deadline&
     if (!reason.isEmpty())
         return refuseWriting(path, reason, error);
     ZelSettingsFile::UseFileEncoding(settings);
-    if (!makeUsable(path, deadline, content, reason, &settings)) {
-        stopWriting(settings);
+    if (!makeUsable(settings, deadline, content, reason))
         return refuseWriting(path, reason, error);
-    }
     SharedSettings shared(settings, deadline);
     int tries = 0;
     Outcome outcome;
@@ -215,11 +222,9 @@ bool ZelSettingsFile::ReadAgain(QSettings& settings, QString& error)
     Deadline deadline;
     QByteArray content;
     QString reason;
-    const QString path = settings.fileName();
-    if (makeUsable(path, deadline, content, reason))
-        return readSafely(settings, content, deadline, error);
-    stopWriting(settings);
-    return refuseReading(path, reason, error);
+    return makeUsable(settings, deadline, content, reason)
+               ? readSafely(settings, content, deadline, error)
+               : refuseReading(settings.fileName(), reason, error);
 }
 
 bool ZelSettingsFile::Write(QSettings& settings, const Change& change, QString& error)
@@ -234,10 +239,8 @@ bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
     const QString path = settings.fileName();
     QByteArray content;
     QString reason, ignored;
-    if (!makeUsable(path, deadline, content, reason, &settings)) {
-        stopWriting(settings);
+    if (!makeUsable(settings, deadline, content, reason))
         return refuseReading(path, reason, error);
-    }
     const bool isRead = readSafely(settings, content, deadline, ignored);
 
     std::map<QString, std::pair<QVariant, QString>> values; // What is stored, and what it becomes.
