@@ -16,6 +16,7 @@ namespace {
 // What QSettings decodes.
 const char* const Objects[] = {"@Variant(", "@DateTime("};
 
+const int UsualLength = 32; ///< Of a value.
 const QChar ElementMark(1); ///< Before each element of a decoded value, which may be a list.
 
 bool isLineEnd(const QByteArray& text, int at)
@@ -147,7 +148,8 @@ private:
     {
         if (!readName(line, '='))
             return false;
-        line.value = ElementMark;
+        line.value.reserve(UsualLength);
+        line.value += ElementMark;
         bool isQuoted = false;
         while (!atLineEnd()) {
             const char character = m_text.at(m_at);
@@ -263,6 +265,8 @@ bool isCut(const QString& value)
 /// Decodes the name of a group or a key: "a%20b" is "a b", "a\b" is "a/b".
 QString decodedName(const QByteArray& name)
 {
+    if (!name.contains('%') && !name.contains('\\')) // Almost all of them.
+        return QString::fromLatin1(name);
     QString decoded;
     for (int i = 0; i < name.size(); ++i) {
         const char character = name.at(i);
@@ -310,15 +314,15 @@ public:
         if (line.value.isNull()) // It has no setting.
             return false;
         const QString name = decodedName(line.name), key = m_group + name;
-        const QString compared = SettingsIgnoreCase ? key.toLower() : key;
-        const bool isKnown = m_keys.contains(compared);
-        m_keys.insert(compared);
+        const int count = m_keys.size();
+        m_keys.insert(SettingsIgnoreCase ? key.toLower() : key);
         // Before the first group QSettings takes the mark of the encoding for a part of the name.
-        return isKnown || m_isMarked || key.startsWith('/') || name.endsWith('/') ||
-               (key.startsWith("general/", Qt::CaseInsensitive) && !key.startsWith("General/"));
+        return m_keys.size() == count || m_isMarked || key.startsWith('/') || name.endsWith('/') ||
+               (key.startsWith(General, Qt::CaseInsensitive) && !key.startsWith(General));
     }
 
 private:
+    const QString General = "General/";
     bool m_isMarked;
     QString m_group;
     QSet<QString> m_keys;

@@ -12,7 +12,7 @@
 #include <QSettings>
 
 #include <algorithm>
-#include <map>
+#include <vector>
 
 namespace zel {
 
@@ -243,18 +243,21 @@ bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
         return refuseReading(path, reason, error);
     const bool isRead = readSafely(settings, content, deadline, ignored);
 
-    std::map<QString, std::pair<QVariant, QString>> values; // What is stored, and what it becomes.
+    // Of the registered keys in their order: what is stored, and what it becomes.
+    std::vector<std::pair<QVariant, QString>> values;
+    values.reserve(ZelSettingsRegistry::GetDefaultSettingsValues().size());
     bool needsWrite = !settingsDamage(content).isEmpty() || (content.isEmpty() && !isRead);
-    const auto keep = [&](const auto& entry, const QVariant& stored, const QString& text) {
-        values[entry.first] = {stored, text};
+    const auto keep = [&](const auto&, const QVariant& stored, const QString& text) {
+        values.emplace_back(stored, text);
         needsWrite = needsWrite || needsRepair(stored, text);
     };
     if (!deadline.pauseFor([&] { return validateSettings(settings, error, keep); }))
         return false;
     const auto change = [&values](QSettings& copy, QString& failure) {
+        auto value = values.begin();
         for (const auto& [key, rule] : ZelSettingsRegistry::GetDefaultSettingsValues()) {
             const auto& [defaultValue, validator] = rule;
-            auto& [known, text] = values[key];
+            auto& [known, text] = *value++;
             const QVariant stored = copy.value(key);
             if (stored != known) { // Another program has written it since.
                 known = stored;
