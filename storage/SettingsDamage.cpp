@@ -316,8 +316,11 @@ public:
         const QString name = decodedName(line.name), key = m_group + name;
         const int count = m_keys.size();
         m_keys.insert(SettingsIgnoreCase ? key.toLower() : key);
+        // Of "=1" in "[a\b]" QSettings makes "b\=1" in "[a]", in which it finds no "=".
+        const bool isHidden = name.isEmpty() && m_group.count('/') > 1;
         // Before the first group QSettings takes the mark of the encoding for a part of the name.
-        return m_keys.size() == count || m_isMarked || key.startsWith('/') || name.endsWith('/') ||
+        return m_keys.size() == count || m_isMarked || isHidden || key.startsWith('/') ||
+               name.endsWith('/') ||
                (key.startsWith(General, Qt::CaseInsensitive) && !key.startsWith(General));
     }
 

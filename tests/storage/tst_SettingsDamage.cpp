@@ -35,6 +35,8 @@ private Q_SLOTS:
             {"quoted assignment", "\"a=1\"\n", "line 1 cannot be read"},
             {"escaped assignment", "; c:\\\na\\=1\n", "line 2 cannot be read"},
             {"group in a group", "[a]\nb\\c=1\n", ""},
+            {"no name in a group", "[a]\n=1\n", ""},
+            {"no name in a group of a group", "[a\\b]\n=1\n", "line 2 has a key twice, or a lost name"},
             {"written as no name", "b%2F=1\n", "line 1 has a key twice, or a lost name"},
             {"name of another", "[%general]\na=1\n", "line 2 has a key twice, or a lost name"},
             {"other note", "# note\n", "line 1 cannot be read"}};
