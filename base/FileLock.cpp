@@ -164,7 +164,8 @@ std::intptr_t create(const QByteArray& path)
         if (claim(unnamed) &&
             ::linkat(AT_FDCWD, opened.constData(), AT_FDCWD, path.constData(), AT_SYMLINK_FOLLOW) == 0)
             return unnamed;
-        if (giveUp(unnamed) == None && errno != ENOENT)
+        giveUp(unnamed);
+        if (errno != ENOENT)
             return None;
     }
     // Not all systems have files without a name, or /proc.

@@ -19,6 +19,9 @@ struct FolderFunctions
 
 extern FolderFunctions folderFunctions;
 
+/// The error where a validator that fails gives none: the program has registered a default that is not valid.
+const char* const InvalidDefault = "The default of a setting is not valid";
+
 /// Runs the validator of every registered key, in key order, on what the settings hold for it, and calls
 /// visit(entry of the registry, stored value, resulting text). The stored value of a missing key is invalid;
 /// its validator sees the default. Stops at a validator that fails, and returns false.

@@ -19,7 +19,7 @@ class ZEL_EXPORT ZelSettingsRegistry
 {
 public:
     /// Checks one value and may rewrite it in place; what it leaves there is written back. False stops the
-    /// pass: only then does the validator set the error text.
+    /// pass: the validator then sets the error text, unless the default itself is not valid.
     using Validator = bool (*)(const QString& key, const QString& defaultValue, QString& value,
                                QString& error);
 

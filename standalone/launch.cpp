@@ -260,7 +260,7 @@ int launch(int argc, char** argv)
     startPlatformLibraries();
     installFonts();
     const std::optional<int> exitCode = runEditor(singleApplication);
-    // After a cancelled choice nothing has used the libraries, and the process ends.
+    // On purpose: a cancelled choice leaves the libraries to the end of the process.
     if (!exitCode)
         return 0;
     ZelControlCenter::ClearSettingsValues();

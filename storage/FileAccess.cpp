@@ -1,9 +1,8 @@
 #include "FileAccess.h"
 
+#include "SettingsReasons.h"
 #include "base/FileLock.h"
 #include "base/SystemFiles.h"
-
-#include "platform/MTLogger.h"
 
 #include <QDir>
 #include <QFile>
@@ -19,13 +18,6 @@ namespace {
 const qint64 MaximumFileSize = qint64{64} * 1024 * 1024;
 const qint64 Reserve = 16384; // Bytes that a write needs besides the content, as for its lock.
 const int MaximumLinks = 40;  // That one name leads through, as for the system.
-
-bool fail(const QString& text, const QString& path, const QString& reason, QString& error)
-{
-    error = text.arg(path, reason);
-    MTLogger::Log("error", error.toUtf8().constData());
-    return false;
-}
 
 bool isFull(const QString& folder, qint64 size)
 {
@@ -55,18 +47,6 @@ QString existingFolder(const QString& path)
 bool canCreateFolder(const QString& path)
 {
     return isWritableFolder(existingFolder(path));
-}
-
-bool refuseReading(const QString& path, const QString& reason, QString& error)
-{
-    return fail(SettingsFileText::tr("Could not read the Torvane settings file \"%1\": %2"), path, reason,
-                error);
-}
-
-bool refuseWriting(const QString& path, const QString& reason, QString& error)
-{
-    return fail(SettingsFileText::tr("Could not write the Torvane settings file \"%1\": %2"), path, reason,
-                error);
 }
 
 QString resolvedPath(const QString& path)
@@ -138,23 +118,6 @@ bool writeFile(const QString& path, const QByteArray& content, QString& reason)
     return false;
 }
 
-QString lockReason(const FileLock& lock, bool isHeld)
-{
-    if (isHeld)
-        return lockedReason();
-    const QString error = systemError(); // Before it is lost.
-    const QFileInfo file(lock.path());
-    return file.exists() || file.isSymLink()
-               ? SettingsFileText::tr("\"%1\" is in the way, which no program uses: remove it")
-                     .arg(lock.path())
-               : error;
-}
-
-QString lockedReason()
-{
-    return SettingsFileText::tr("another program has locked it");
-}
-
 QString unwritableReason(const QString& path)
 {
     QByteArray content;
@@ -163,7 +126,7 @@ QString unwritableReason(const QString& path)
     if (!readFile(path, content, reason, Deadline(), QIODevice::ReadWrite))
         return reason;
     if (exists(target) && !mayReplace(target))
-        return SettingsFileText::tr("it belongs to another user, who would lose it");
+        return foreignReason();
     for (const QString& name : namesOf(path)) {
         const QString folder = QFileInfo(name).path();
         const FileLock lock(name + ".lock");

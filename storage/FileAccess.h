@@ -1,9 +1,9 @@
 #ifndef ZEL_FILEACCESS_H
 #define ZEL_FILEACCESS_H
 
+#include "Deadline.h"
+
 #include <QByteArray>
-#include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QIODevice>
 #include <QString>
 #include <QStringList>
@@ -11,50 +11,6 @@
 class QFile;
 
 namespace zel {
-
-class FileLock;
-
-/// Ends all waits of one operation for other programs, some time after it has begun.
-class Deadline
-{
-public:
-    /// @param time  in milliseconds
-    explicit Deadline(int time = 3000)
-        : m_time(time)
-    {
-        m_clock.start();
-    }
-
-    /// In milliseconds; 0 once it is over.
-    int remaining() const { return static_cast<int>(qMax<qint64>(0, m_time - m_clock.elapsed())); }
-
-    /// Does work of others, whose time does not count.
-    template <typename Work>
-    bool pauseFor(Work work)
-    {
-        const qint64 begin = m_clock.elapsed();
-        const bool isDone = work();
-        m_time += m_clock.elapsed() - begin;
-        return isDone;
-    }
-
-private:
-    QElapsedTimer m_clock;
-    qint64 m_time;
-};
-
-/// Translates the error texts of the settings file.
-struct SettingsFileText
-{
-    Q_DECLARE_TR_FUNCTIONS(ZelControlCenter)
-};
-
-/// @{
-/// Make the error of a file that cannot be read or written, and log it. Always false, for the caller to
-/// return.
-bool refuseReading(const QString& path, const QString& reason, QString& error);
-bool refuseWriting(const QString& path, const QString& reason, QString& error);
-/// @}
 
 /// The file that a link leads to, also through other links, which may not exist; the file itself if it is no
 /// link.
@@ -84,12 +40,6 @@ QString unwritableReason(const QString& path);
 
 /// True when a folder exists and can be written into, or can be created with its missing parents.
 bool canCreateFolder(const QString& path);
-
-/// What it means for the user when a lock file cannot be taken.
-QString lockReason(const FileLock& lock, bool isHeld);
-
-/// The reason when another program keeps a file locked.
-QString lockedReason();
 
 } // namespace zel
 

@@ -2,6 +2,7 @@
 
 #include "FileAccess.h"
 #include "Log.h"
+#include "SettingsReasons.h"
 #include "base/SystemFiles.h"
 
 #include <QDateTime>
@@ -16,6 +17,7 @@ namespace zel {
 namespace {
 
 const int MaximumCopies = 3;
+const QFile::Permissions Private = QFile::ReadOwner | QFile::WriteOwner;
 // In UTC, so that the order of the names is the order of the copies also when summer time ends.
 const char* const NameFormat = "yyyy-MM-dd'T'hh-mm-ss.zzz'Z.bak'";
 
@@ -33,15 +35,8 @@ QString newName(const QString& path)
     return name;
 }
 
-bool hasContent(const QString& copy, const QByteArray& content)
-{
-    QByteArray kept;
-    QString ignored;
-    return readFile(copy, kept, ignored) && kept == content;
-}
-
-} // namespace
-
+/// The dated copies of a settings file, the oldest first; those that are dated in the future come before all
+/// others.
 QStringList backupsOf(const QString& path)
 {
     const QFileInfo file(path);
@@ -58,19 +53,38 @@ QStringList backupsOf(const QString& path)
     return copies;
 }
 
+/// Creates an empty file that only its user can read and write.
+bool createPrivateFile(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.setPermissions(Private);
+}
+
+} // namespace
+
+QString backupWith(const QString& path, const QByteArray& content)
+{
+    const QStringList copies = backupsOf(path);
+    const auto found = std::find_if(copies.begin(), copies.end(), [&content](const QString& copy) {
+        QByteArray kept;
+        QString ignored;
+        return readFile(copy, kept, ignored) && kept == content;
+    });
+    return found == copies.end() ? QString() : *found;
+}
+
 bool keepBackup(const QString& path, const QByteArray& content, const QString& loss,
                 const QString& incomplete, QString& reason)
 {
-    QStringList copies = backupsOf(path);
-    if (content.isEmpty() || std::any_of(copies.begin(), copies.end(), [&content](const QString& copy) {
-            return hasContent(copy, content);
-        }))
+    if (content.isEmpty() || !backupWith(path, content).isEmpty())
         return true;
+    QStringList copies = backupsOf(path);
     const QString copy = newName(path);
-    QFile::remove(incomplete); // It may be a link, or a pipe.
+    QFile::remove(incomplete);     // It may be a link, or a pipe.
+    createPrivateFile(incomplete); // Nobody else may read it before it has its rights.
     const bool isComplete = writeFile(incomplete, content, reason);
     if (isComplete && !copyRights(path, incomplete)) // The copy is good, but for no other user.
-        QFile::setPermissions(incomplete, QFile::ReadOwner | QFile::WriteOwner);
+        QFile::setPermissions(incomplete, Private);
     if (!isComplete || !replaceFile(incomplete, copy)) {
         if (isComplete)
             reason = systemError();

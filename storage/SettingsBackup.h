@@ -3,7 +3,6 @@
 
 #include <QByteArray>
 #include <QString>
-#include <QStringList>
 
 namespace zel {
 
@@ -16,9 +15,8 @@ namespace zel {
 bool keepBackup(const QString& path, const QByteArray& content, const QString& loss,
                 const QString& incomplete, QString& reason);
 
-/// The dated copies of a settings file, the oldest first; those that are dated in the future come before all
-/// others.
-QStringList backupsOf(const QString& path);
+/// The dated copy of a settings file that has a content; empty without one.
+QString backupWith(const QString& path, const QByteArray& content);
 
 } // namespace zel
 

@@ -1,6 +1,7 @@
 #include "SettingsLock.h"
 
 #include "FileAccess.h"
+#include "SettingsReasons.h"
 #include "SpareCopy.h"
 
 #include <QDir>

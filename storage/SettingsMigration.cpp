@@ -2,6 +2,7 @@
 
 #include "FileAccess.h"
 #include "SettingsKeys.h"
+#include "SettingsReasons.h"
 #include "WorkingCopy.h"
 #include "ZelSettingsFile.h"
 

@@ -2,6 +2,7 @@
 
 #include "FileAccess.h"
 #include "SettingsLock.h"
+#include "SettingsValues.h"
 #include "SpareCopy.h"
 #include "WorkingCopy.h"
 #include "ZelSettingsFile.h"
@@ -64,6 +65,24 @@ void change(QSettings& settings, const QVariantMap& from, const QVariantMap& to)
         if (!from.contains(value.key()) || !isSame(from.value(value.key()), *value))
             wanted.insert(value.key(), *value);
     set(settings, wanted);
+}
+
+/// Puts a spare copy beside a file, and gives settings what the file holds, to be written by them. False,
+/// with the reason, when that is not possible, as when the file has lost what they held.
+bool prepareWriting(QSettings& settings, WorkingCopy& copy, const QString& target, const SpareCopy& spare,
+                    QString& reason)
+{
+    const QVariantMap values = valuesOf(copy.settings());
+    if (copy.mustBeWritten() || !copy.write(reason))
+        return false;
+    // The time tells whether QSettings has written, also within a tick of the clock.
+    setTime(target, stampOf(target).time - ClockTick);
+    if (!copy.putAside(spare, reason))
+        return false;
+    set(settings, values);
+    if (!values.isEmpty()) // So that it is known whether QSettings has written.
+        settings.setValue(values.begin().key(), values.begin().value());
+    return true;
 }
 
 } // namespace
@@ -180,18 +199,11 @@ bool SharedSettings::writePending(const QVariantMap& held, QString& reason)
     SettingsLock lock(m_settings.fileName(), m_deadline);
     WorkingCopy copy(lock); // What QSettings will write: a part of that shows that the file is cut.
     const SpareCopy spare(lock.target(), m_deadline);
-    bool isReady = lock.takeAndFinish(reason) && copy.make(held, reason) && !copy.mustBeWritten();
-    const QVariantMap values = isReady ? valuesOf(copy.settings()) : QVariantMap();
-    isReady = isReady && copy.write(reason);
-    if (isReady) // The time tells whether QSettings has written, also within a tick of the clock.
-        setTime(lock.target(), stampOf(lock.target()).time - ClockTick);
-    if (!isReady || !copy.putAside(spare, reason)) {
+    if (!lock.takeAndFinish(reason) || !copy.make(held, reason) ||
+        !prepareWriting(m_settings, copy, lock.target(), spare, reason)) {
         stopWriting(m_settings);
         return false;
     }
-    set(m_settings, values);
-    if (!values.isEmpty()) // So that it is known whether QSettings has written.
-        m_settings.setValue(values.begin().key(), values.begin().value());
     const FileStamp former = stampOf(lock.target());
     lock.release();
     readAgain(m_settings, copy.content());

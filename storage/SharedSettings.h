@@ -41,9 +41,9 @@ class SharedSettings
 public:
     /// @param deadline  ends all waits; outlives this object, as the settings do
     SharedSettings(QSettings& settings, const Deadline& deadline);
-    /// Unless the file has been written, they hold again what they held. What the change has set here would
-    /// stay pending, so they write the values of the file once more if the lock is free and the file is
-    /// whole; else, and when values were pending before, they write nothing before the next write.
+    /// If nothing was written, they hold their former values again. Values that the change has set would stay
+    /// pending: QSettings writes the file's own values once more to forget them. Without the lock, or with
+    /// values that were pending before, nothing is written before the next write.
     ~SharedSettings();
 
     /// What they held before the change.

@@ -2,6 +2,7 @@
 
 #include "FileAccess.h"
 #include "SettingsBackup.h"
+#include "SettingsReasons.h"
 #include "base/SystemFiles.h"
 
 #include <QFile>
@@ -52,8 +53,10 @@ Outcome SpareCopy::overwrite(const QByteArray& expected, const QByteArray& conte
     else if (!lock.take(m_deadline.remaining()))
         reason = lockedReason();
     else if (readOpenFile(file, present, reason)) {
-        if (present != expected)
+        if (present != expected) {
+            reason = lockedReason();
             return Outcome::Outdated;
+        }
         const FileStamp former = stampOf(m_target);
         const bool isWritten =
             file.resize(0) && file.seek(0) && file.write(content) == content.size() && syncToDisk(file);
@@ -88,10 +91,7 @@ bool SpareCopy::restoreIfCut(QString& reason) const
     const bool isCut = present != wanted && wanted.startsWith(present);
     if (isCut &&
         !(SettingsFilesAreReplaced && copyRights(m_target, m_path) && replaceFile(m_path, m_target))) {
-        const Outcome outcome = overwrite(present, wanted, reason);
-        if (outcome == Outcome::Outdated)
-            reason = lockedReason();
-        if (outcome != Outcome::InPlace)
+        if (overwrite(present, wanted, reason) != Outcome::InPlace)
             return false;
     }
     remove();

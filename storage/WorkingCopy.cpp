@@ -4,7 +4,9 @@
 #include "IniCodec.h"
 #include "SettingsBackup.h"
 #include "SettingsDamage.h"
+#include "SettingsReasons.h"
 #include "SettingsValidation.h"
+#include "SettingsValues.h"
 #include "ZelSettingsFile.h"
 #include "base/SystemFiles.h"
 
@@ -99,33 +101,6 @@ void removeOrphans(const QString& target)
 
 } // namespace
 
-QVariantMap valuesOf(const QSettings& settings)
-{
-    const QString general = "General/";
-    QVariantMap values;
-    for (const QString& key : settings.allKeys()) {
-        const bool isGeneral = key.startsWith(general, Qt::CaseInsensitive);
-        if (!key.isEmpty() && !key.startsWith('/') && !key.endsWith('/') && !key.contains("//") &&
-            !key.startsWith(QString::fromLatin1(Utf8Mark)) && settings.contains(key))
-            values.insert(isGeneral ? general + key.mid(general.size()) : key, settings.value(key));
-    }
-    return values;
-}
-
-bool isSame(const QVariant& first, const QVariant& second)
-{
-    return first == second && first.toString() == second.toString();
-}
-
-bool isSame(const QVariantMap& first, const QVariantMap& second)
-{
-    auto other = second.constBegin();
-    for (auto value = first.constBegin(); value != first.constEnd(); ++value, ++other)
-        if (other == second.constEnd() || other.key() != value.key() || !isSame(*value, *other))
-            return false;
-    return other == second.constEnd();
-}
-
 WorkingCopy* WorkingCopy::Changing = nullptr;
 
 WorkingCopy::WorkingCopy(const SettingsLock& lock)
@@ -155,7 +130,7 @@ bool WorkingCopy::make(const QVariantMap& held, QString& reason)
 {
     m_exists = exists(m_target);
     if (m_exists && !mayReplace(m_target)) {
-        reason = SettingsFileText::tr("it belongs to another user, who would lose it");
+        reason = foreignReason();
         return false;
     }
     if (!readFile(m_target, m_content, reason, m_lock.deadline(), QIODevice::ReadWrite))
@@ -180,6 +155,11 @@ bool WorkingCopy::make(const QVariantMap& held, QString& reason)
         return false;
     }
     m_settings->remove(EndKey);
+    return restoreLost(held, reason);
+}
+
+bool WorkingCopy::restoreLost(const QVariantMap& held, QString& reason)
+{
     QVariantMap values = valuesOf(*m_settings);
     if (m_mustBeWritten || m_content.isEmpty() || lacksRegistered(values, held)) {
         for (auto value = held.constBegin(); value != held.constEnd(); ++value) {
@@ -236,7 +216,7 @@ bool WorkingCopy::writeAndCompare(bool isExact, QString& reason)
     // QSettings does not tell why.
     const QString all = QStringList(wanted.keys() + wanted.values()).join(QString());
     if (writeFile(nextName(), QByteArray(all.size() + ProbeSize, '\n'), reason))
-        reason = SettingsFileText::tr("not all values can be kept in it");
+        reason = lossReason();
     return false;
 }
 
@@ -253,7 +233,7 @@ bool WorkingCopy::write(QString& reason)
         return false;
     const bool isGood = settingsDamage(m_result).isEmpty();
     if (!isGood) // As with an object, or with what was left of a longer text.
-        reason = SettingsFileText::tr("not all values can be kept in it");
+        reason = lossReason();
     return isGood;
 }
 
@@ -281,7 +261,7 @@ bool WorkingCopy::putAside(const SpareCopy& spare, QString& reason)
         return true;
     if (takeRights())
         return spare.adopt(m_copy, reason);
-    reason = SettingsFileText::tr("it belongs to another user, who would lose it");
+    reason = foreignReason();
     return false;
 }
 
@@ -311,8 +291,10 @@ Outcome WorkingCopy::replace(QString& reason) const
     if (isThere && !readOpenFile(target, present, reason))
         return Outcome::Failed;
     target.close(); // Windows replaces no open file.
-    if (isThere != m_exists || present != m_content)
+    if (isThere != m_exists || present != m_content) {
+        reason = lockedReason();
         return Outcome::Outdated;
+    }
     makeLater(m_copy, stampOf(m_target));
     if (replaceFile(m_copy, m_target))
         return Outcome::InPlace;

@@ -14,14 +14,6 @@ class QSettings;
 
 namespace zel {
 
-/// All values, by the names that QSettings writes: the group "[%general]" becomes "[%General]". Not those
-/// with names that it reads from a file but cannot look up.
-QVariantMap valuesOf(const QSettings& settings);
-
-/// True for values that are equal and have the same text: QVariant takes true and "yes" for equal.
-bool isSame(const QVariant& first, const QVariant& second);
-bool isSame(const QVariantMap& first, const QVariantMap& second);
-
 /// A complete file beside the settings file, in a folder that only its user can enter. It is changed in place
 /// of the settings file, and takes its place when it is known to be good. Its maker holds the lock, except
 /// while the copy is changed.
@@ -76,6 +68,8 @@ private:
     Q_DISABLE_COPY(WorkingCopy)
 
     QString nextName() const;
+    /// Adds what a damaged, empty or cut file has lost. False, with the reason, when it cannot be kept.
+    bool restoreLost(const QVariantMap& held, QString& reason);
     /// Begins with what QSettings writes of values.
     bool makeOf(const QVariantMap& values, QString& reason);
     /// Writes the values and reads them. False, with the reason, when they are not the same.

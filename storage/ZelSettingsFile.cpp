@@ -5,7 +5,9 @@
 #include "Log.h"
 #include "SettingsDamage.h"
 #include "SettingsLock.h"
+#include "SettingsReasons.h"
 #include "SettingsValidation.h"
+#include "SettingsValues.h"
 #include "SharedSettings.h"
 #include "WorkingCopy.h"
 
@@ -54,37 +56,31 @@ bool dropObjects(const QString& path, const Deadline& deadline, QString& reason)
             lock.takeAndFinish(reason) && copy.make(QVariantMap(), reason) && copy.write(reason);
         outcome = isMade ? copy.put(reason) : Outcome::Failed;
     } while (outcome == Outcome::Outdated && deadline.remaining() > 0);
-    if (outcome == Outcome::Outdated)
-        reason = lockedReason();
     return outcome == Outcome::InPlace;
 }
 
 /// Makes a file one that QSettings can read, and reads it. False, with the reason, when that is not possible.
-/// @param shared  reads the file again if it has changed for that
-bool makeUsable(const QString& path, const Deadline& deadline, QByteArray& content, QString& reason,
-                QSettings* shared = nullptr)
+/// @param hadObjects  set when serialised objects were dropped from it for that
+bool makeUsable(const QString& path, const Deadline& deadline, QByteArray& content, bool& hadObjects,
+                QString& reason)
 {
     if (!finishKilledWrite(path, Deadline(FinishTime), reason))
         logWarning(QString("The write of \"%1\" that was cut short is not finished: %2").arg(path, reason));
     if (!readFile(path, content, reason, deadline))
         return false;
-    if (!holdsObjects(content))
-        return true;
-    if (!dropObjects(path, deadline, reason))
-        return false;
-    if (!readFile(path, content, reason, deadline))
-        return false;
-    if (shared && !hasPending(*shared))
-        readAgain(*shared, content);
-    return true;
+    hadObjects = holdsObjects(content);
+    return !hadObjects || (dropObjects(path, deadline, reason) && readFile(path, content, reason, deadline));
 }
 
-/// The same for settings, which write nothing by themselves before the next write when it is not possible.
+/// The same for settings. If it fails, they write nothing before the next write.
 bool makeUsable(QSettings& settings, const Deadline& deadline, QByteArray& content, QString& reason)
 {
-    const bool isUsable = makeUsable(settings.fileName(), deadline, content, reason, &settings);
+    bool hadObjects = false;
+    const bool isUsable = makeUsable(settings.fileName(), deadline, content, hadObjects, reason);
     if (!isUsable)
         stopWriting(settings);
+    else if (hadObjects && !hasPending(settings))
+        readAgain(settings, content);
     return isUsable;
 }
 
@@ -114,8 +110,9 @@ Outcome tryWrite(const QString& path, SharedSettings& shared, const ZelSettingsF
                       ? copy.put(reason)
                       : Outcome::Failed;
     lock.release();
-    return outcome != Outcome::InPlace || shared.readWritten(copy.content(), reason) ? outcome
-                                                                                     : Outcome::Failed;
+    if (outcome == Outcome::InPlace && !shared.readWritten(copy.content(), reason))
+        return Outcome::Failed;
+    return outcome;
 }
 
 /// ZelSettingsFile::Write() within a time.
@@ -139,8 +136,6 @@ bool write(QSettings& settings, const ZelSettingsFile::Change& change, Deadline&
     do
         outcome = tryWrite(path, shared, change, deadline, reason, error);
     while (outcome == Outcome::Outdated && ++tries < MaximumTries && deadline.remaining() > 0);
-    if (outcome == Outcome::Outdated)
-        reason = lockedReason();
     return outcome == Outcome::InPlace || (outcome != Outcome::GivenUp && refuseWriting(path, reason, error));
 }
 
@@ -199,8 +194,9 @@ void ZelSettingsFile::UseFileEncoding(QSettings& settings)
 bool ZelSettingsFile::IsUsable(const QString& path, QString& error)
 {
     QByteArray content;
+    bool hadObjects = false;
     QString reason;
-    return makeUsable(path, Deadline(), content, reason) || refuseReading(path, reason, error);
+    return makeUsable(path, Deadline(), content, hadObjects, reason) || refuseReading(path, reason, error);
 }
 
 bool ZelSettingsFile::IsWritable(const QString& path, QString& error)
@@ -251,8 +247,10 @@ bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
         values.emplace_back(stored, text);
         needsWrite = needsWrite || needsRepair(stored, text);
     };
-    if (!deadline.pauseFor([&] { return validateSettings(settings, error, keep); }))
+    if (!deadline.pauseFor([&] { return validateSettings(settings, error, keep); })) {
+        error = error.isEmpty() ? InvalidDefault : error;
         return false;
+    }
     const auto change = [&values](QSettings& copy, QString& failure) {
         auto value = values.begin();
         for (const auto& [key, rule] : ZelSettingsRegistry::GetDefaultSettingsValues()) {
@@ -274,7 +272,7 @@ bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
         !deadline.pauseFor([&] { return runEndChecks(settings, error); }))
         return false;
     if (hasPending(settings)) // An end check has set values.
-        readSafely(settings, content, deadline, ignored);
+        write(settings, &changeNothing, deadline, ignored);
     return true;
 }
 

@@ -16,10 +16,10 @@ namespace zel {
 /// full or a read fails, it holds its old content or the new one, with every key that is not ours. Each
 /// change is made to a copy beside the file, which is read back and then takes its place, with the rights of
 /// the file. A write excludes other programs that use this class or QSettings, and waits for them for up to
-/// three seconds. Built with Qt 4 on Unix, where QSettings locks the file itself, and where the rights cannot
-/// be given to a new file, it rewrites the file in place, and QSettings does so with values that a host has
-/// set in it. A copy that is complete stands beside the file meanwhile, from which the next start, reading or
-/// write brings it to its end if the process is killed.
+/// three seconds. With Qt before 5.10 on Unix, where QSettings locks the file itself, and where a new file
+/// cannot get the rights of the old one, the file is rewritten in place. So it is when QSettings writes
+/// values that a host has set. A complete copy stands beside the file meanwhile; after a kill, the next
+/// start, read or write completes the file from it.
 ///
 /// Error texts are translated, name the file and the reason, and are logged. GUI thread only.
 class ZEL_EXPORT ZelSettingsFile
@@ -49,9 +49,9 @@ public:
     /// the change sets in them afterwards; then they read the file again. What others have written in the
     /// meantime stays: the change is called again if another program writes the file while it runs. What a
     /// damaged, empty or cut file has lost comes back from memory; one that lacks a registered key counts as
-    /// cut. False when the change gave up, the file could not be read or written, the change itself writes
-    /// the file, or the settings are within a group; no value of the file is changed then, and the settings
-    /// hold what they held before, or what the file holds.
+    /// cut. False when the change gave up, the file could not be read or written, a change calls it, for
+    /// whatever file, or the settings are within a group; no value of the file is changed then, and the
+    /// settings hold what they held before, or what the file holds.
     static bool Write(QSettings& settings, const Change& change, QString& error);
 
     /// What a page reads and changes: while Write() runs, the copy of the file of these settings; else

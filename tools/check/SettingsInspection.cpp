@@ -4,6 +4,7 @@
 #include "FolderDryRun.h"
 #include "SettingsDamage.h"
 #include "SettingsKeys.h"
+#include "SettingsReasons.h"
 #include "SettingsValidation.h"
 #include "SpareCopy.h"
 #include "ZelSettingsFile.h"
@@ -86,7 +87,7 @@ bool settleValues(const QSettings& settings, QString& error, Visit visit)
         }
     }
     if (!isValid && error.isEmpty())
-        error = "The default of a setting is not valid";
+        error = InvalidDefault;
     for (const Registered& entry : ZelSettingsRegistry::GetDefaultSettingsValues()) {
         if (isValid)
             visit(entry, values[entry.first].first, values[entry.first].second);

@@ -3,6 +3,7 @@
 #include "SettingsBackup.h"
 #include "SettingsKeys.h"
 #include "SettingsLock.h"
+#include "SettingsReasons.h"
 #include "SettingsValidation.h"
 #include "ZelSettingsCatalogue.h"
 #include "ZelSettingsFile.h"
@@ -147,7 +148,7 @@ bool parse(const std::vector<Name>& arguments, Options& options)
     return !files.empty();
 }
 
-/// Stores the new values, with that a migration sets, and runs the pass.
+/// Stores the changes, also those of a migration, and runs the pass.
 bool runPass(const QString& path, const std::vector<SettingsChange>& changes, QString& error)
 {
     const auto store = [&](QSettings& settings, QString&) {
@@ -202,18 +203,6 @@ bool repair(const QString& path, SettingsInspection inspection, CheckReport& rep
     return true;
 }
 
-/// The copy that holds a content; empty without one.
-QString copyWith(const QByteArray& content, const QString& path)
-{
-    for (const QString& copy : backupsOf(path)) {
-        QByteArray kept;
-        QString ignored;
-        if (readFile(copy, kept, ignored) && kept == content)
-            return copy;
-    }
-    return QString();
-}
-
 CheckReport check(const Name& name, bool mayRepair)
 {
     const QString& path = name.text;
@@ -226,8 +215,9 @@ CheckReport check(const Name& name, bool mayRepair)
         report.error = "It does not exist: only the editor creates it, when it starts";
     QByteArray before;
     QString reason;
-    if (!report.error.isEmpty() ||
-        (!readFile(path, before, reason) && !refuseReading(path, reason, report.error)))
+    if (report.error.isEmpty() && !readFile(path, before, reason))
+        refuseReading(path, reason, report.error);
+    if (!report.error.isEmpty())
         return report;
     const SettingsInspection inspection(path);
     report.damage = inspection.damage();
@@ -242,7 +232,7 @@ CheckReport check(const Name& name, bool mayRepair)
     report.isFreshStart =
         exists && inspection.migration() == Migration::FreshStart && report.state != CheckState::Repaired;
     if (mayRepair && report.state != CheckState::Clean)
-        report.copy = copyWith(before, path);
+        report.copy = backupWith(path, before);
     return report;
 }
 

@@ -1,0 +1,37 @@
+#include "SettingsValues.h"
+
+#include "IniCodec.h"
+
+#include <QSettings>
+#include <QStringList>
+
+namespace zel {
+
+QVariantMap valuesOf(const QSettings& settings)
+{
+    const QString general = "General/";
+    QVariantMap values;
+    for (const QString& key : settings.allKeys()) {
+        const bool isGeneral = key.startsWith(general, Qt::CaseInsensitive);
+        if (!key.isEmpty() && !key.startsWith('/') && !key.endsWith('/') && !key.contains("//") &&
+            !key.startsWith(QString::fromLatin1(Utf8Mark)) && settings.contains(key))
+            values.insert(isGeneral ? general + key.mid(general.size()) : key, settings.value(key));
+    }
+    return values;
+}
+
+bool isSame(const QVariant& first, const QVariant& second)
+{
+    return first == second && first.toString() == second.toString();
+}
+
+bool isSame(const QVariantMap& first, const QVariantMap& second)
+{
+    auto other = second.constBegin();
+    for (auto value = first.constBegin(); value != first.constEnd(); ++value, ++other)
+        if (other == second.constEnd() || other.key() != value.key() || !isSame(*value, *other))
+            return false;
+    return other == second.constEnd();
+}
+
+} // namespace zel

@@ -1,0 +1,20 @@
+#ifndef ZEL_SETTINGSVALUES_H
+#define ZEL_SETTINGSVALUES_H
+
+#include <QVariant>
+
+class QSettings;
+
+namespace zel {
+
+/// All values, by the names that QSettings writes: the group "[%general]" becomes "[%General]". Not those
+/// with names that it reads from a file but cannot look up.
+QVariantMap valuesOf(const QSettings& settings);
+
+/// True for values that are equal and have the same text: QVariant takes true and "yes" for equal.
+bool isSame(const QVariant& first, const QVariant& second);
+bool isSame(const QVariantMap& first, const QVariantMap& second);
+
+} // namespace zel
+
+#endif
