@@ -229,8 +229,10 @@ bool WorkingCopy::write(QString& reason)
         reason = systemError();
         return false;
     }
-    if (!readOpenFile(copy, m_result, reason))
+    QByteArray result;
+    if (!readOpenFile(copy, result, reason))
         return false;
+    m_result = result.isNull() ? QByteArray("") : result; // A change may remove all values.
     const bool isGood = settingsDamage(m_result).isEmpty();
     if (!isGood) // As with an object, or with what was left of a longer text.
         reason = lossReason();

@@ -517,6 +517,16 @@ private Q_SLOTS:
         store(m_path, "[page]\nb=latest\n");
         settings.reset();
         QCOMPARE(contentOf(m_path), QByteArray("[page]\nb=latest\n"));
+        settings = ZelSettingsFile::Open(m_path);
+        const auto clear = [](QSettings& copy, QString&) {
+            copy.clear();
+            return true;
+        };
+        QVERIFY(ZelSettingsFile::Write(*settings, clear, error) && contentOf(m_path).isEmpty());
+        store(m_path, "[page]\nb=again\n");
+        settings->setValue("page/c", 1);
+        QVERIFY(write(*settings, {}));
+        QCOMPARE(contentOf(m_path), QByteArray("[page]\nb=again\nc=1\n"));
         QSettings host(m_path, QSettings::IniFormat); // Not opened by us.
         store(m_path, contentOf(m_path) + Foreign);
         host.setValue("host/key", 1);
