@@ -10,8 +10,8 @@ class kqDMIApplication;
 
 namespace zel {
 
-/// Tells that the user clicks into the viewer's main view, outside the menu. Filters the events of the
-/// application, without consuming any.
+/// Tells that the user clicks into the viewer's main view, outside the menu. Its owner filters the events of
+/// the application and passes them to eventFilter(), which consumes none.
 class ClickOutside : public QObject
 {
     Q_OBJECT

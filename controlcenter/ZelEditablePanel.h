@@ -100,7 +100,7 @@ public:
                 if (!contains(edited, field) && isChanged)
                     changed.push_back(&field);
                 else if (isNew(field))
-                    field.copy(m_loaded, stored); // From now on an edit of that, or none.
+                    field.copy(m_loaded, stored); // An edit is now a difference from this.
             }
         }
         m_stored = stored;

@@ -58,7 +58,8 @@ public:
     const QStringList& getSettingsKeys() const;
 
     /// Loads the stored values into the widgets and discards pending edits. Called when the page is
-    /// registered, when the drawer opens, and when pending edits are discarded.
+    /// registered, when the drawer opens, when pending edits are discarded, and during Apply for a page
+    /// without edits whose stored values others have changed.
     virtual void initializeWidget() = 0;
 
     /// True while the widgets differ from what is stored.

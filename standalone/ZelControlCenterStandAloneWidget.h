@@ -29,8 +29,8 @@ class ZelSettingsPanel;
 /// It saves its position and size in "Window.ini" beside the settings file. It is never larger than the
 /// available area of its screen; where that is too narrow, the content below the header scrolls.
 ///
-/// Its keys: Ctrl+S applies; Alt with a letter of a button's text clicks Apply or Reset; F1 shows help;
-/// Ctrl+Q and Ctrl+W close.
+/// Its keys: Ctrl+S applies; Ctrl+Z discards the pending edits, and Ctrl+Shift+Z makes them again; Alt with a
+/// letter of a button's text clicks Apply or Reset; F1 shows help; Ctrl+Q and Ctrl+W close.
 class ZEL_EXPORT ZelControlCenterStandAloneWidget : public QWidget
 {
     Q_OBJECT
