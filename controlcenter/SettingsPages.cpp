@@ -5,10 +5,8 @@
 #include "ZelSettingsFile.h"
 #include "ZelSettingsPanel.h"
 #include "ZelSettingsRegistry.h"
-#include "zelDoubleSpinBox.h"
-#include "zelSpinBox.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QIcon>
 #include <QPointer>
 #include <QSettings>
@@ -18,10 +16,6 @@
 namespace zel {
 
 namespace {
-
-// In milliseconds.
-const int FollowInterval = 1000;
-const int RetryInterval = 10000;
 
 void logUnregisteredKeys(const ZelSettingsPanel& page)
 {
@@ -34,27 +28,6 @@ void logUnregisteredKeys(const ZelSettingsPanel& page)
         logWarning(QString("The page \"%1\" has keys without a default or a validator, because they are not "
                            "registered: %2")
                        .arg(page.getPanelName(), keys.join(", ")));
-}
-
-bool lacksRegisteredKey(const QSettings& settings)
-{
-    const auto& registered = ZelSettingsRegistry::GetDefaultSettingsValues();
-    return std::any_of(registered.begin(), registered.end(),
-                       [&](const auto& entry) { return !settings.contains(entry.first); });
-}
-
-template <class Box>
-bool isTypedIn(const QWidget* widget)
-{
-    const auto* box = qobject_cast<const Box*>(widget);
-    return box && box->isTyping();
-}
-
-/// True while the user is typing a number, which no page knows yet, so that it would not keep it as an edit.
-bool isTyping()
-{
-    const QWidget* focused = QApplication::focusWidget();
-    return isTypedIn<zelSpinBox>(focused) || isTypedIn<zelDoubleSpinBox>(focused);
 }
 
 /// Without pending edits a transparent icon takes the same space.
@@ -115,9 +88,9 @@ QList<ZelSettingsPanel*> PageList::modified() const
 
 SettingsPages::SettingsPages(QObject* parent)
     : QObject(parent)
-    , m_followed(nullptr)
-    , m_stamp()
+    , m_follower(this)
 {
+    connect(&m_follower, SIGNAL(changed()), this, SLOT(takeStored()));
 }
 
 SettingsPages::~SettingsPages()
@@ -160,44 +133,6 @@ bool SettingsPages::load(QSettings& settings, QString& error)
     m_discarded.clear();
     m_pages.forEach([](ZelSettingsPanel* page) { page->initializeWidget(); });
     return usable;
-}
-
-void SettingsPages::follow(QSettings* settings)
-{
-    m_followed = settings;
-    m_timer.stop();
-    if (!settings)
-        return;
-    m_stamp = {-1, -1}; // Others may have written since the pages were loaded.
-    m_timer.start(FollowInterval, this);
-}
-
-void SettingsPages::timerEvent(QTimerEvent*)
-{
-    const FileStamp present = stampOf(m_followed->fileName());
-    const bool isWriting = &ZelSettingsFile::Current(*m_followed) != m_followed;
-    m_timer.start(FollowInterval, this);
-    if (isWriting || isTyping() || (present.size == m_stamp.size && present.time == m_stamp.time))
-        return;
-    // A setting that is gone gets its default, as at the next start; without it, the fields would show a
-    // minimum.
-    const QPointer<SettingsPages> self(this);
-    QString error; // The log has it, too.
-    const bool isRead = ZelSettingsFile::ReadAgain(*m_followed, error) &&
-                        (!lacksRegisteredKey(*m_followed) || ZelSettingsFile::Repair(*m_followed, error));
-    if (!self || !m_followed) // A validator may show a dialog.
-        return;
-    if (!isRead) {
-        m_timer.start(RetryInterval, this); // Each attempt may wait for a lock.
-        return;
-    }
-    m_stamp = present;
-    m_pages.forEach([](ZelSettingsPanel* page) {
-        if (auto* edits = dynamic_cast<ZelPageEdits*>(page))
-            edits->takeStored();
-    });
-    if (self)
-        Q_EMIT stateChanged();
 }
 
 bool SettingsPages::apply(QSettings& settings, bool& restart, QString& error)
@@ -272,6 +207,17 @@ bool SettingsPages::mark() const
         any = any || pending;
     });
     return any;
+}
+
+void SettingsPages::takeStored()
+{
+    const QPointer<SettingsPages> self(this);
+    m_pages.forEach([](ZelSettingsPanel* page) {
+        if (auto* edits = dynamic_cast<ZelPageEdits*>(page))
+            edits->takeStored();
+    });
+    if (self)
+        Q_EMIT stateChanged();
 }
 
 void SettingsPages::onPageDestroyed(QObject* page)

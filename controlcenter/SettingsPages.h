@@ -1,9 +1,8 @@
 #ifndef ZEL_SETTINGSPAGES_H
 #define ZEL_SETTINGSPAGES_H
 
-#include "base/SystemFiles.h"
+#include "SettingsFollower.h"
 
-#include <QBasicTimer>
 #include <QList>
 #include <QMap>
 #include <QObject>
@@ -63,10 +62,9 @@ public:
     /// Reads the file again, which others may have written, and loads the stored values, which discards the
     /// pending edits for good. False, with a translated text, when the file cannot be read or written.
     bool load(QSettings& settings, QString& error);
-    /// Lets the fields without an edit take what other programs write to the file of these settings, but not
-    /// while a number is being typed; null ends it. A file that is gone is written again; a registered key
-    /// that it has lost gets its default.
-    void follow(QSettings* settings);
+    /// Lets the fields without an edit take what other programs write to the file of these settings; null
+    /// ends it. See SettingsFollower.
+    void follow(QSettings* settings) { m_follower.follow(settings); }
     /// Writes the pending edits of all pages at once. False, with a translated text, when the file cannot be
     /// written; the edits then stay pending, and the running application has got the stored values again.
     /// @param restart  becomes true when an edit needs a restart to take effect
@@ -88,18 +86,13 @@ Q_SIGNALS:
     /// The answers of a page may have changed, or a registered page was deleted.
     void stateChanged();
 
-protected:
-    /// Looks whether the file has changed.
-    void timerEvent(QTimerEvent* event) override;
-
 private Q_SLOTS:
+    void takeStored();
     void onPageDestroyed(QObject* page);
 
 private:
     PageList m_pages;
-    QSettings* m_followed; ///< Not owned.
-    FileStamp m_stamp;     ///< Of their file, when it was read.
-    QBasicTimer m_timer;
+    SettingsFollower m_follower;
     QMap<const QObject*, std::function<void()>> m_discarded; ///< What makes its edits again, by page.
 };
 
