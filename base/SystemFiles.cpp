@@ -1,6 +1,5 @@
 #include "SystemFiles.h"
 
-#include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
 

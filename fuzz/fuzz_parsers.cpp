@@ -4,7 +4,6 @@
 #include "SettingsDamage.h"
 #include "SettingsNumbers.h"
 #include "ZelSettingsValidators.h"
-#include "base/ZelQtCompat.h"
 
 #include "platform/kqDMManager.h"
 
