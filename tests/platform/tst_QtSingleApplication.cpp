@@ -230,6 +230,7 @@ private Q_SLOTS:
             QCOMPARE(client->part(), QByteArray("client"));
             QVERIFY(other.waitForNewConnection(Patience));
             QLocalSocket* const answer = other.nextPendingConnection();
+            QVERIFY(answer->waitForReadyRead(Patience));
             for (const QByteArray part : {"tak", isWrong ? "e!" : "en"}) {
                 QVERIFY(answer->write(part) && answer->waitForBytesWritten(Patience));
                 QTest::qWait(50);

@@ -100,26 +100,21 @@ private Q_SLOTS:
         QTest::addColumn<QString>("obstacle");   // A file in the folder of the settings.
         QTest::addColumn<QString>("seen");
         const QByteArray complete("settingsVersion=2\nengine=software\n");
-        const QString error = "Torvane - Fatal Error: Could not ";
-        QTest::newRow("Japanese, with diagnostics")
-            << complete + "language=ja\nenablediag=true\n"
-            << ""
-            << QString::fromUtf8("\343\202\255\343\203\243\343\203\263\343\202\273\343\203\253, ") +
-                   "font-style: normal;, frameless, own fonts";
-        QTest::newRow("no such language") << complete + "language=xx\n"
-                                          << ""
-                                          << "Cancel, , frameless, own fonts";
-        QTest::newRow("settings are a folder")
-            << QByteArray() << "Settings.ini/x"
-            << error + "read the Torvane settings file \"%1/Settings.ini\": it is not a file";
-        QTest::newRow("old settings are locked")
-            << QByteArray("settingsVersion=1\n") << "Settings.ini.lock/x"
-            << error +
-                   "write the Torvane settings file \"%1/Settings.ini\": \"%1/Settings.ini.lock\" is in the "
-                   "way, which no program uses: remove it";
-        QTest::newRow("no folder for the cache")
-            << complete << "cache"
-            << error + "use the 3D database cache, folder \"%1/cache/TorvaneBoundlessX64/";
+        const QString error = "Torvane - Fatal Error: Could not ",
+                      file = " the Torvane settings file \"%1/Settings.ini\": ";
+        const QString cancel =
+            QString::fromUtf8("\343\202\255\343\203\243\343\203\263\343\202\273\343\203\253");
+        const std::tuple<const char*, QByteArray, QString, QString> rows[] = {
+            {"Japanese, with diagnostics", complete + "language=ja\nenablediag=true\n", "",
+             cancel + ", font-style: normal;, frameless, own fonts"},
+            {"no such language", complete + "language=xx\n", "", "Cancel, , frameless, own fonts"},
+            {"settings are a folder", "", "Settings.ini/x", error + "read" + file + "it is not a file"},
+            {"old settings are locked", "settingsVersion=1\n", "Settings.ini.lock/x",
+             error + "write" + file + "\"%1/Settings.ini.lock\" is in the way"},
+            {"no folder for the cache", complete, "cache",
+             error + "use the 3D database cache, folder \"%1/cache/TorvaneBoundlessX64/"}};
+        for (const auto& [name, general, obstacle, seen] : rows)
+            QTest::newRow(name) << general << obstacle << seen;
     }
 
     void firstInstance()
@@ -141,10 +136,9 @@ private Q_SLOTS:
             store(home + '/' + obstacle, "");
 
         QProcess first;
-        QStringList environment("XDG_CACHE_HOME=" + home + "/cache");
-        for (const char* variable : {"XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "TMPDIR"})
-            environment << variable + ('=' + root.path());
-        start(first, "first", {}, root.path(), environment);
+        start(first, "first", {}, root.path(),
+              {"XDG_CACHE_HOME=" + home + "/cache", "XDG_CONFIG_HOME=" + root.path(),
+               "XDG_RUNTIME_DIR=" + root.path(), "TMPDIR=" + root.path()});
         QByteArray output; // It comes at once: the process does not end before it is told.
         while (!output.contains("seen: ") && first.waitForReadyRead(Patience))
             output += first.readAllStandardOutput();
