@@ -151,7 +151,7 @@ private Q_SLOTS:
         QVERIFY2(log.contains("Applied the settings") == isWindow &&
                      log.contains("[debug] seen") == isReported,
                  log);
-        QCOMPARE(contentOf(home + "/Settings.ini").contains("LODTrianglesCap=77777\n"), isWindow);
+        QCOMPARE(bool(contentOf(home + "/Settings.ini").contains("LODTrianglesCap=77777\n")), isWindow);
         QCOMPARE(first.readAllStandardOutput(),
                  QByteArray("ZelKernel kqSimplificationLib kqMeshLib kqSceneGraph kqSystem, 0 settings\n"));
     }
