@@ -37,6 +37,7 @@ private Q_SLOTS:
             pages.insert(page->y(), page->getPanelName() + QString::number(page->getPanelCategory()));
         QCOMPARE(QStringList(pages.values()).join(" "),
                  QString("Display1 Folders1 Simplification0 Tessellation2 About1"));
+        QCOMPARE(qobject_cast<QPushButton*>(m_window.focusWidget())->text(), QString("Display"));
     }
 
     // Windows may take the keyboard away again when a window before this one has closed.
@@ -111,8 +112,8 @@ private Q_SLOTS:
         QCOMPARE(roleOf(&m_window), QAccessible::Window);
         QStringList header; // The product is read as one name, although one half of it is bold.
         for (QLabel* label : m_window.findChild<QFrame*>("headerFrame")->findChildren<QLabel*>())
-            header << readOut(label);
-        header.removeAll("");
+            if (const QString text = readOut(label); !text.isNull())
+                header << text;
         header.sort();
         QCOMPARE(header.join(", "), QString("Control Center, Torvane"));
     }
