@@ -26,15 +26,8 @@ const uid_t OtherUser = 65534;
 const QStringList AsOther = {"30000", "65534"};
 #endif
 
-/// Killed with the object, by a signal that it cannot catch.
-struct Process : QProcess
+struct Process : Program
 {
-    ~Process() override
-    {
-        kill();
-        waitForFinished();
-    }
-
     QByteArray line()
     {
         while (!canReadLine()) {

@@ -351,6 +351,16 @@ inline void mouseClick(const WindowInput& input, Qt::MouseButton button, Qt::Key
 
 #endif
 
+/// Killed with the object, by a signal that it cannot catch.
+struct Program : QProcess
+{
+    ~Program() override
+    {
+        kill();
+        waitForFinished();
+    }
+};
+
 /// Calls a function once, while it lives.
 struct Later : QTimer
 {
