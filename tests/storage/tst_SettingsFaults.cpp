@@ -894,7 +894,7 @@ private Q_SLOTS:
         }
         QCOMPARE(kept, QByteArray("234"));
         QVERIFY(isSafe);
-        QVERIFY(contentOf(log).contains(m_path.toUtf8() + '"'));
+        QVERIFY(contentOf(log).contains("[warning] The settings file \"" + m_path.toUtf8() + '"'));
         QCOMPARE(contentOf(m_path + ".my own.bak"), QByteArray("mine"));
     }
 
