@@ -6,15 +6,6 @@
 /// How long a test waits for what must happen, in milliseconds; for a machine that is busy with a build.
 const int Patience = 20000;
 
-struct Program : QProcess
-{
-    ~Program() override
-    {
-        kill();
-        waitForFinished(Patience);
-    }
-};
-
 /// A screen of its own with a window manager.
 class Desktop
 {

@@ -3,8 +3,6 @@
 #include "ZelPageDefaults.h"
 #include "ZelSettingsRegistry.h"
 
-#include "platform/kqDMIApplication.h"
-
 #include <pwd.h>
 #include <unistd.h>
 
@@ -12,7 +10,6 @@ namespace {
 
 const char* const Selector = "Torvane - Please select your display type";
 const char* const Window = "Torvane - Control Center";
-const char* const FatalError = "Torvane - Fatal Error";
 const char* const Question = "Settings Modification";
 
 // What the user does, in the words of xdotool.
@@ -83,38 +80,6 @@ private Q_SLOTS:
             starts(start);
             if (QTest::currentTestFailed())
                 QFAIL(start.name);
-        }
-    }
-
-    void fatalError()
-    {
-        const std::pair<QString, QString> obstacles[] = {
-            {"config/TorvaneBoundlessX64/Settings.ini/",
-             "Could not read the Torvane settings file "
-             "\"%1/config/TorvaneBoundlessX64/Settings.ini\": it is not a file"},
-            {"cache", "Could not use the 3D database cache, folder "
-                      "\"%1/cache/TorvaneBoundlessX64/%2\" could not be created"}};
-        for (const auto& [path, text] : obstacles) {
-            init();
-            const QString obstacle = m_home + '/' + path;
-            QDir().mkpath(obstacle.section('/', 0, -2));
-            const bool readable = QFile(obstacle).open(QIODevice::WriteOnly);
-            Editor editor(m_home);
-            editor.start();
-            QVERIFY(!readable || editor.isAnswered(Selector, "key Return"));
-            QVERIFY(editor.shows(FatalError));
-            editor.act("mousemove 0 0");
-            const QImage box = editor.picture();
-            editor.act("key Return");
-            QCOMPARE(editor.exitCode(), 0);
-
-            const QString whole = QString(text).replace("%1", m_home).replace("%2", userName());
-            QMessageBox expected(QMessageBox::Information, FatalError, whole, QMessageBox::Ok);
-            expected.setTextFormat(Qt::PlainText);
-            expected.setStyleSheet(kqDMIApplication::GetStylesheet("kqMessageBox"));
-            expected.show();
-            QVERIFY(QTest::qWaitForWindowActive(&expected));
-            QVERIFY2(Desktop::picture(QString::number(expected.winId())) == box, qPrintable(whole));
         }
     }
 

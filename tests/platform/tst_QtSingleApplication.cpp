@@ -1,5 +1,6 @@
 #include "QtTestCompat.h"
 
+#include <QLocalServer>
 #include <QLocalSocket>
 
 #include <algorithm>
@@ -25,15 +26,8 @@ const uid_t OtherUser = 65534;
 const QStringList AsOther = {"30000", "65534"};
 #endif
 
-/// Killed with the object, by a signal that it cannot catch.
-struct Process : QProcess
+struct Process : Program
 {
-    ~Process() override
-    {
-        kill();
-        waitForFinished();
-    }
-
     QByteArray line()
     {
         while (!canReadLine()) {
@@ -160,6 +154,18 @@ private Q_SLOTS:
             QCOMPARE(send(message), QByteArray("sent"));
             QCOMPARE(instance->line(), message.toHex());
         }
+        QLocalSocket slow; // What it sends arrives in parts, and goes on behind the message.
+        slow.connectToServer(server());
+        for (const QByteArray& part :
+             {QByteArray("ms"), QByteArray("g1\0\0\0\4ab", 8), QByteArray("cdmsg1")}) {
+            QVERIFY(!slow.waitForReadyRead(50));
+            QVERIFY(slow.write(part) && slow.waitForBytesWritten(Patience));
+        }
+        QVERIFY(slow.waitForReadyRead(Patience) && slow.readAll() == "taken");
+        slow.write(QByteArray("\0\0\0\4late", 8));
+        QCOMPARE(send("next"), QByteArray("sent"));
+        for (const QByteArray message : {"abcd", "next"})
+            QCOMPARE(instance->line(), message.toHex());
     }
 
 #if !defined(ZEL_LEAVE_OUT_badPeersDoNoHarm)
@@ -175,6 +181,8 @@ private Q_SLOTS:
             const auto instance = start(); // The one before, which was killed, leaves nothing behind.
             QCOMPARE(instance->part(), QByteArray("instance"));
             std::vector<std::unique_ptr<QLocalSocket>> sockets;
+            QElapsedTimer clock;
+            clock.start();
             for (int i = 0; i < peers; ++i) {
                 sockets.emplace_back(new QLocalSocket);
                 sockets.back()->connectToServer(server());
@@ -184,6 +192,9 @@ private Q_SLOTS:
                     ;
                 QVERIFY(sockets.back()->bytesToWrite() >= bytes.size() - 8 * 1024 * 1024);
             }
+            const bool isCrowded = peers > 4 && clock.elapsed() < 1000; // None has been given up yet.
+            QTRY_VERIFY(!isCrowded || sockets.back()->state() == QLocalSocket::UnconnectedState);
+            QVERIFY(!isCrowded || sockets.front()->state() == QLocalSocket::ConnectedState);
             QCOMPARE(send("honest"), QByteArray("sent"));
             QByteArray received;
             for (int i = 0; i <= peers && !received.endsWith(QByteArray("honest").toHex()); ++i)
@@ -202,7 +213,23 @@ private Q_SLOTS:
         // Now this process has the lock, as an instance has before it listens.
         const int lock = ::open(QFile::encodeName(find(m_runtime, "*.lock")).constData(), O_RDWR | O_CLOEXEC);
         QCOMPARE(::flock(lock, LOCK_EX | LOCK_NB), 0);
+        const QString place = server();
         QCOMPARE(send("hasty", {"300"}), QByteArray("failed"));
+        for (const bool isWrong : {true, false}) { // What answers, and in parts.
+            QLocalServer other;
+            QLocalServer::removeServer(place);
+            QVERIFY(other.listen(place));
+            const auto client = start("", isWrong ? QStringList("300") : Patient);
+            QCOMPARE(client->part(), QByteArray("client"));
+            QVERIFY(other.waitForNewConnection(Patience));
+            QLocalSocket* const answer = other.nextPendingConnection();
+            QVERIFY(answer->waitForReadyRead(Patience));
+            for (const QByteArray part : {"tak", isWrong ? "e!" : "en"}) {
+                QVERIFY(answer->write(part) && answer->waitForBytesWritten(Patience));
+                QTest::qWait(50);
+            }
+            QCOMPARE(client->line(), QByteArray(isWrong ? "failed" : "sent"));
+        }
         const auto patient = start("patient");
         QCOMPARE(patient->part(), QByteArray("client"));
         ::close(lock);
@@ -217,8 +244,14 @@ private Q_SLOTS:
 
     void placeIsPrivate()
     {
-        const QString own = m_folder->filePath("single-instance-%1").arg(geteuid());
-        for (const QString& unfit : {m_folder->path(), QString("relative"), m_runtime + QString(80, 'r')}) {
+        const QString name = "single-instance-" + QString::number(::geteuid()),
+                      own = m_folder->filePath(name);
+        // A path of 108 bytes is too long for a socket.
+        const QString tooLong = m_folder->filePath(QString(63 - m_folder->path().size(), 'l'));
+        const QString link = m_folder->filePath("link"), file = m_folder->filePath("file");
+        QVERIFY(QDir().mkdir(tooLong) && ::chmod(qPrintable(tooLong), 0700) == 0 && QFile::link("run", link));
+        QVERIFY(QFile(file).open(QIODevice::WriteOnly) && ::chmod(qPrintable(file), 0700) == 0);
+        for (const QString& unfit : {m_folder->path(), QString("run"), tooLong, link, file}) {
             m_environment.insert("XDG_RUNTIME_DIR", unfit);
             const auto instance = start();
             QCOMPARE(instance->part(), QByteArray("instance"));
@@ -226,6 +259,9 @@ private Q_SLOTS:
             QCOMPARE(QDir(own).entryList({"*.socket"}, QDir::System).size(), 1);
             QCOMPARE(QProcess::execute("rm", {"-r", own}), 0);
         }
+        QVERIFY(QDir().mkdir(own) && ::chmod(qPrintable(own), 0750) == 0);
+        QCOMPARE(start()->part(), QByteArray("instance"));
+        QVERIFY(QDir(own).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).isEmpty());
     }
 
     void otherUserStaysOutside()

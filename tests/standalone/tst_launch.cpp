@@ -1,40 +1,158 @@
-#include "QtTestCompat.h"
+#include "Files.h"
 #include "Version.h"
+#include "ZelSettingsRegistry.h"
 #include "launch.h"
+
+#include "platform/MTLogger.h"
+#include "platform/kqLibraries.h"
 
 #include <QtSingleApplication>
 
 namespace {
 
-const char* const Role = "TST_LAUNCH_ROLE"; // Set in the second instance.
+const char* const Role = "TST_LAUNCH_ROLE"; // Of a process that this test starts: "first" or "second".
 const int Refused = 3;
+const int Patience = 60000; // ms
+QStringList stopped;        ///< The libraries, as launch() stops them.
+
+/// Tells what an editor shows that has started, and closes it when the test has read that.
+struct Onlooker : QTimer
+{
+    Onlooker() { start(20); }
+
+    void timerEvent(QTimerEvent*) override
+    {
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (!window->isVisible())
+                continue;
+            stop();
+            MTLogger::Log("debug", "seen");
+            qWarning("seen: %s", describe(*window).toUtf8().constData());
+            std::getchar();
+            window->close();
+            return;
+        }
+    }
+
+    static QString describe(QWidget& window)
+    {
+        if (const auto* box = qobject_cast<QMessageBox*>(&window))
+            return box->windowTitle() + (box->textFormat() == Qt::PlainText ? ": " : ":: ") + box->text();
+        const QMessageBox question(QMessageBox::NoIcon, "", "", QMessageBox::Cancel);
+        QStringList seen(question.button(QMessageBox::Cancel)->text());
+        seen << window.findChild<QLabel*>("summaryLabel")->styleSheet();
+        if (window.windowFlags() & Qt::FramelessWindowHint)
+            seen << "frameless";
+        if (!QFontDatabase::applicationFontFamilies(0).isEmpty())
+            seen << "own fonts";
+        return seen.join(", ");
+    }
+};
 
 /// Runs inside launch(), as soon as there is an application.
-void writeMessages()
+void act()
 {
-    if (qgetenv(Role).isEmpty())
-        return;
-    for (const char* text : {"QGLShader", "QGLShader: cannot compile", "QGL", "qglshader", " QGLShader"})
-        qWarning("%s", text);
+    if (qgetenv(Role) == "first")
+        new Onlooker;
+    if (qgetenv(Role) == "second")
+        for (const char* text : {"QGLShader", "QGLShader: cannot compile", "QGL", "qglshader", " QGLShader"})
+            qWarning("%s", text);
 }
 
 } // namespace
 
-Q_COREAPP_STARTUP_FUNCTION(writeMessages)
+Q_COREAPP_STARTUP_FUNCTION(act)
 
-/// launch() in a second instance of the editor, and where it cannot work.
+#if !defined(ZEL_LEAVE_OUT_firstInstance)
+// Found before those of the first and of the last library.
+void kq::terminateKqSystem()
+{
+    stopped << "kqSystem";
+}
+void zel::zelTerminateKernelLibrary()
+{
+    stopped << "ZelKernel";
+}
+#endif
+
+/// launch() in a process of its own, and where it cannot work.
 class tst_launch : public QObject
 {
     Q_OBJECT
 
-    static void startSecond(QProcess& process, const QStringList& arguments)
+    static QString stage() { return QCoreApplication::applicationDirPath() + "/../stage"; }
+
+    static void start(QProcess& process, const QString& role, const QStringList& arguments,
+                      const QString& root = stage(), const QStringList& environment = QStringList())
     {
-        process.setEnvironment(QProcess::systemEnvironment() << QString(Role) + "=second");
-        process.setWorkingDirectory(QCoreApplication::applicationDirPath() + "/../stage");
+        process.setEnvironment(QProcess::systemEnvironment() + environment << Role + ('=' + role));
+        process.setWorkingDirectory(root);
         process.start(QCoreApplication::applicationFilePath(), arguments);
     }
 
 private Q_SLOTS:
+#if !defined(ZEL_LEAVE_OUT_firstInstance)
+    void firstInstance_data()
+    {
+        QTest::addColumn<QByteArray>("general"); // What the settings hold.
+        QTest::addColumn<QString>("obstacle");   // A file in the folder of the settings.
+        QTest::addColumn<QString>("seen");
+        const QByteArray complete("settingsVersion=2\nengine=software\n");
+        const QString error = "Torvane - Fatal Error: Could not ",
+                      file = " the Torvane settings file \"%1/Settings.ini\": ";
+        const QString cancel =
+            QString::fromUtf8("\343\202\255\343\203\243\343\203\263\343\202\273\343\203\253");
+        const std::tuple<const char*, QByteArray, QString, QString> rows[] = {
+            {"Japanese, with diagnostics", complete + "language=ja\nenablediag=true\n", "",
+             cancel + ", font-style: normal;, frameless, own fonts"},
+            {"no such language", complete + "language=xx\n", "", "Cancel, , frameless, own fonts"},
+            {"settings are a folder", "", "Settings.ini/x", error + "read" + file + "it is not a file"},
+            {"old settings are locked", "settingsVersion=1\n", "Settings.ini.lock/x",
+             error + "write" + file + "\"%1/Settings.ini.lock\" is in the way"},
+            {"no folder for the cache", complete, "cache",
+             error + "use the 3D database cache, folder \"%1/cache/TorvaneBoundlessX64/"}};
+        for (const auto& [name, general, obstacle, seen] : rows)
+            QTest::newRow(name) << general << obstacle << seen;
+    }
+
+    void firstInstance()
+    {
+        QFETCH(QByteArray, general);
+        QFETCH(QString, obstacle);
+        QFETCH(QString, seen);
+        // An installed tree, in which its user is at home as well.
+        const QTemporaryDir root;
+        const QString home = root.filePath("TorvaneBoundlessX64");
+        QDirIterator font("/usr/share/fonts", {"*.ttf"}, QDir::Files, QDirIterator::Subdirectories);
+        store(root.filePath("resources/Defaults.ini"), "[Resources]\nLODTrianglesCap=77777\n");
+        for (const QString name : {"bin", "resources/languages"})
+            QVERIFY(QFile::link(stage() + '/' + name, root.filePath(name)));
+        QVERIFY(QFile::link(QFileInfo(font.next()).path(), root.filePath("resources/fonts")));
+        if (!general.isEmpty())
+            store(home + "/Settings.ini", general);
+        if (!obstacle.isEmpty())
+            store(home + '/' + obstacle, "");
+
+        QProcess first;
+        start(first, "first", {}, root.path(),
+              {"XDG_CACHE_HOME=" + home + "/cache", "XDG_CONFIG_HOME=" + root.path(),
+               "XDG_RUNTIME_DIR=" + root.path(), "TMPDIR=" + root.path()});
+        QByteArray output; // It comes at once: the process does not end before it is told.
+        while (!output.contains("seen: ") && first.waitForReadyRead(Patience))
+            output += first.readAllStandardOutput();
+        QVERIFY2(QString::fromUtf8(output).contains("seen: " + seen.replace("%1", home)), output);
+        first.closeWriteChannel();
+        QVERIFY(first.waitForFinished(Patience));
+        QCOMPARE(first.exitCode(), Refused);
+        const bool isWindow = seen.contains("frameless"), isReported = general.contains("diag=true");
+        const QByteArray log = contentOf(home + "/log.txt");
+        QVERIFY2(log.contains("Applied the settings") == isWindow, log);
+        QVERIFY2(log.contains("[debug] seen") == isReported, log);
+        QCOMPARE(bool(contentOf(home + "/Settings.ini").contains("LODTrianglesCap=77777\n")), isWindow);
+        QCOMPARE(first.readAllStandardOutput(), QByteArray("ZelKernel kqSystem, 0 settings\n"));
+    }
+#endif
+
     void secondInstancePassesItsArgumentsOn()
     {
         auto* application = static_cast<QtSingleApplication*>(QCoreApplication::instance());
@@ -45,9 +163,9 @@ private Q_SLOTS:
              {QStringList(), QStringList({"a", "b"}), QStringList({"", "c?d", name})}) {
             const QString message = (arguments + QStringList("")).join("?");
             QProcess second;
-            startSecond(second, arguments);
+            start(second, "second", arguments);
             received.clear();
-            QTRY_COMPARE_WITH_TIMEOUT(second.state(), QProcess::NotRunning, 60000);
+            QTRY_COMPARE_WITH_TIMEOUT(second.state(), QProcess::NotRunning, Patience);
             QCOMPARE(second.exitCode(), Refused);
             QVERIFY(second.readAllStandardError().contains("called in this process before"));
             QTRY_COMPARE(received.size(), 1);
@@ -60,8 +178,8 @@ private Q_SLOTS:
     void tellsThatTheFirstInstanceDoesNotAnswer()
     {
         QProcess second;
-        startSecond(second, QStringList("a"));
-        QVERIFY(second.waitForFinished(60000)); // Meanwhile this one does nothing.
+        start(second, "second", QStringList("a"));
+        QVERIFY(second.waitForFinished(Patience)); // Meanwhile this one does nothing.
         QVERIFY(second.readAllStandardError().contains("it does not answer"));
     }
 
@@ -93,7 +211,11 @@ private Q_SLOTS:
 int main(int argc, char** argv)
 {
     if (!qgetenv(Role).isEmpty()) {
+        zelRegisterPageDefaults();
         const int exitCode = launch(argc, argv);
+        if (!stopped.isEmpty())
+            std::printf("%s, %d settings\n", qPrintable(stopped.join(" ")),
+                        int(zel::ZelSettingsRegistry::GetDefaultSettingsValues().size()));
         return exitCode ? exitCode : launch(argc, argv); // The second call is refused.
     }
     // Apart from every other run of this test.

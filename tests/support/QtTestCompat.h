@@ -43,11 +43,11 @@ inline QImage pictureOf(WId window)
 
 const auto useOwnDialogs = [] { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); };
 
-/// As assistive technology reads it.
+/// As assistive technology reads it. Null when it does not see it.
 inline QString readOut(QWidget* widget)
 {
     const QAccessibleInterface* read = QAccessible::queryAccessibleInterface(widget);
-    return read->state().invisible ? QString() : read->text(QAccessible::Name);
+    return read->state().invisible ? QString() : "" + read->text(QAccessible::Name);
 }
 
 const auto roleOf = [](QWidget* widget) { return QAccessible::queryAccessibleInterface(widget)->role(); };
@@ -267,11 +267,11 @@ inline void useOwnDialogs()
     qt_use_native_dialogs = false;
 }
 
-/// As assistive technology reads it.
+/// As assistive technology reads it. Null when it does not see it.
 inline QString readOut(QWidget* widget)
 {
     const std::unique_ptr<QAccessibleInterface> read(QAccessible::queryAccessibleInterface(widget));
-    return read->state(0) & QAccessible::Invisible ? QString() : read->text(QAccessible::Name, 0);
+    return read->state(0) & QAccessible::Invisible ? QString() : "" + read->text(QAccessible::Name, 0);
 }
 
 inline QAccessible::Role roleOf(QWidget* widget)
@@ -350,6 +350,16 @@ inline void mouseClick(const WindowInput& input, Qt::MouseButton button, Qt::Key
 #    endif
 
 #endif
+
+/// Killed with the object, by a signal that it cannot catch.
+struct Program : QProcess
+{
+    ~Program() override
+    {
+        kill();
+        waitForFinished();
+    }
+};
 
 /// Calls a function once, while it lives.
 struct Later : QTimer

@@ -181,6 +181,7 @@ private Q_SLOTS:
         m_config = "config";
         QCOMPARE(run({m_file}), 1);
         QVERIFY2(m_output.contains("\n  missing folder \"" + m_root.toUtf8()), m_output);
+        QVERIFY2(m_output.contains("\n  engine: missing -> \"deferred\"\n"), m_output);
         QCOMPARE(run({"--repair", m_file}), 4);
         QVERIFY2(m_output.contains("\n  created folder \"" + m_root.toUtf8()), m_output);
         QVERIFY2(m_output.contains("\n  a copy of the former file is kept as \""), m_output);
