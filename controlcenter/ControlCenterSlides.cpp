@@ -53,6 +53,11 @@ bool ControlCenterSlides::isDrawerSliding() const
     return m_drawerSlide->state() == QAbstractAnimation::Running;
 }
 
+double ControlCenterSlides::drawerPart() const
+{
+    return static_cast<double>(m_drawerSlide->currentTime()) / m_drawerSlide->duration();
+}
+
 void ControlCenterSlides::slideMenu(bool open, QPushButton* opener)
 {
     const bool wasVisible = m_column.isVisible();

@@ -26,6 +26,7 @@ public:
     }
 
     /// In pixels; 0 at first.
+    int minimumWidth() const { return m_minimumWidth; }
     void setMinimumWidth(int width)
     {
         if (width == m_minimumWidth)

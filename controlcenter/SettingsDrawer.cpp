@@ -7,16 +7,14 @@
 #include "ZelSettingsPanel.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QScrollBar>
 
 #include <algorithm>
+#include <numeric>
 
 namespace zel {
 
 namespace {
-
-const int PreparingTime = 2; // ms of a frame
 
 /// Qt polishes each new widget when it next processes events, even if it is never shown.
 void polishWhenShown(QWidget& tree)
@@ -27,21 +25,10 @@ void polishWhenShown(QWidget& tree)
         QCoreApplication::removePostedEvents(widget, QEvent::PolishRequest);
 }
 
-/// Polishes and measures some widgets, from the leaves to the root. True when nothing is left to do.
-bool preparePartly(const QWidget& tree)
+int heightOf(const QWidget& page, int width)
 {
-    const QList<QWidget*> descendants = tree.findChildren<QWidget*>();
-    QElapsedTimer clock;
-    clock.start();
-    for (int index = descendants.size() - 1; index >= 0; --index) {
-        if (clock.elapsed() >= PreparingTime)
-            return false;
-        QWidget& widget = *descendants[index];
-        widget.ensurePolished();
-        if (widget.layout())
-            widget.layout()->totalSizeHint(); // Which it keeps.
-    }
-    return true;
+    const int height = page.heightForWidth(width);
+    return height >= 0 ? height : page.sizeHint().height();
 }
 
 } // namespace
@@ -59,7 +46,8 @@ SettingsDrawer::SettingsDrawer(QScrollArea* area, QVBoxLayout*& contentLayout, Q
     area->hide();
     // A slide moves and uncovers what has been painted.
     area->setAutoFillBackground(true);
-    for (QWidget* widget : {static_cast<QWidget*>(area), area->viewport(), area->widget()})
+    for (QWidget* widget :
+         {static_cast<QWidget*>(area), area->viewport(), area->widget(), m_pageLayout->parentWidget()})
         widget->setAttribute(Qt::WA_StaticContents);
     m_scrolling->setDuration(SlideTime);
     m_scrolling->setEasingCurve(QEasingCurve::InOutQuad);
@@ -98,7 +86,7 @@ void SettingsDrawer::setWidth(int width)
     area()->setFixedWidth(width);
     const QScrollBar* bar = area()->verticalScrollBar();
     // All pages together are higher than the drawer, so the first ones get their final width at once.
-    const int barWidth = bar->isVisible() || !m_newPages.isEmpty() ? bar->sizeHint().width() : 0;
+    const int barWidth = bar->isVisible() || !m_steps.isEmpty() ? bar->sizeHint().width() : 0;
     m_contentLayout->setMinimumWidth(OpenWidth - barWidth);
     area()->widget()->setFixedWidth(std::max(width - barWidth, 0));
 }
@@ -118,31 +106,77 @@ void SettingsDrawer::showWithoutNewPages()
         if (page->isHidden() || page->testAttribute(Qt::WA_WState_Polished))
             continue;
         page->hide();
-        m_newPages << page;
+        addSteps(*page);
     }
+    m_work = m_workLeft = std::accumulate(m_steps.begin(), m_steps.end(), 0,
+                                          [](int work, const Step& step) { return work + step.kind; });
     area()->show();
 }
 
-void SettingsDrawer::showNextPage()
+void SettingsDrawer::addSteps(QWidget& page)
 {
-    if (m_newPages.isEmpty() || (m_newPages.first() && !preparePartly(*m_newPages.first())))
-        return;
-    QWidget* page = m_newPages.takeFirst();
-    if (page && page->parentWidget() == m_pageLayout->parentWidget())
-        page->show();
+    // From the leaves to the root. All are polished first: when the page is, it may tell them of their style,
+    // which forgets their sizes.
+    QList<QWidget*> widgets = page.findChildren<QWidget*>();
+    widgets.prepend(&page);
+    for (int index = widgets.size() - 1; index >= 0; --index)
+        m_steps << Step{Polish, widgets[index]};
+    for (int index = widgets.size() - 1; index >= 0; --index)
+        if (widgets[index]->layout())
+            m_steps << Step{Measure, widgets[index]};
+    m_steps << Step{Show, &page};
+}
+
+void SettingsDrawer::showNewPages(double part)
+{
+    const double workAtEnd = m_work * (1 - part);
+    for (bool first = true; m_workLeft > workAtEnd && !m_steps.isEmpty(); first = false) {
+        if (m_steps.first().kind == Show && !first)
+            return; // To appear is enough work for one frame.
+        const Step step = m_steps.takeFirst();
+        m_workLeft -= step.kind;
+        if (!step.widget)
+            continue;
+        if (step.kind == Polish)
+            step.widget->ensurePolished();
+        else if (step.kind == Measure && step.widget->layout())
+            step.widget->layout()->totalSizeHint(); // Which it keeps.
+        else if (step.kind == Show)
+            return show(QList<QWidget*>() << step.widget);
+    }
 }
 
 void SettingsDrawer::showAllPages()
 {
-    while (!m_newPages.isEmpty())
-        showNextPage();
+    QList<QWidget*> pages;
+    for (const Step& step : m_steps)
+        if (step.widget && step.kind == Show)
+            pages << step.widget;
+    m_steps.clear();
+    show(pages);
+}
+
+void SettingsDrawer::show(const QList<QWidget*>& pages)
+{
     if (!area())
         return;
+    // Else it squeezes them into the old height first, and all are moved and painted again.
+    m_pageLayout->setEnabled(false);
+    const int width = m_contentLayout->minimumWidth();
+    for (QWidget* page : pages) {
+        if (page->parentWidget() != m_pageLayout->parentWidget() || !page->isHidden())
+            continue;
+        // Below those that are seen, so that they need not be painted either.
+        page->setGeometry(0, m_pageLayout->parentWidget()->height(), width, heightOf(*page, width));
+        page->show();
+    }
     // Without waiting for events, so that the places of the pages and the scroll range are right.
-    m_pageLayout->activate();
-    m_contentLayout->activate();
+    m_pageLayout->parentWidget()->updateGeometry();
     QEvent request(QEvent::LayoutRequest);
     QCoreApplication::sendEvent(area(), &request);
+    m_contentLayout->activate();
+    m_pageLayout->setEnabled(true);
+    m_pageLayout->activate();
 }
 
 void SettingsDrawer::scrollTo(const QWidget& widget)

@@ -19,7 +19,7 @@ class ZelSettingsPanel;
 /// it is ZelControlCenter.
 ///
 /// A page is styled and laid out when it is first shown, which takes as long as half a frame. While the
-/// drawer slides open for the first time, its pages are shown one by one.
+/// drawer slides open for the first time, this is done in steps, which are spread evenly over the slide.
 class SettingsDrawer : public QObject
 {
     Q_OBJECT
@@ -46,9 +46,10 @@ public:
     /// Moves a drawer that stands right of a growing column, before the layout does. Once the column has
     /// covered a part of it, Qt would have to paint all of it again.
     void makeRoom(const QWidget& column, int columnWidth);
-    /// Shows the drawer, but the pages that have not been seen yet only by showNextPage().
+    /// Shows the drawer, but the pages that have not been seen yet only by showNewPages().
     void showWithoutNewPages();
-    void showNextPage();
+    /// Shows as many of them as belong to this part of the slide, from 0 to 1.
+    void showNewPages(double part);
     void showAllPages();
 
     /// Scrolls to a page, or until the drawer cannot scroll further.
@@ -64,11 +65,24 @@ private Q_SLOTS:
     void onRangeChanged();
 
 private:
+    /// What there is to do for a page that has not been seen yet, and how much work it is beside the others.
+    enum StepKind { Polish = 1, Measure = 2, Show = 20 };
+    struct Step
+    {
+        StepKind kind;
+        QPointer<QWidget> widget;
+    };
+
+    void addSteps(QWidget& page);
+    void show(const QList<QWidget*>& pages);
+
     const QPointer<QWidget> m_area;
     QBoxLayout* const m_pageLayout;
     DrawerLayout* const m_contentLayout;
     QPropertyAnimation* const m_scrolling;
-    QList<QPointer<QWidget>> m_newPages; ///< Those that showNextPage() will show.
+    QList<Step> m_steps;
+    int m_work = 0; ///< Of all steps, when the slide began.
+    int m_workLeft = 0;
 };
 
 } // namespace zel

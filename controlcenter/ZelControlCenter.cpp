@@ -216,6 +216,7 @@ int ZelControlCenter::settingsWidth() const
 
 void ZelControlCenter::setSettingsWidth(int width)
 {
+    const bool wasVisible = m_parts->drawer.isVisible();
     m_parts->drawer.setWidth(width);
     if (!m_parts->drawer.isVisible())
         return;
@@ -223,7 +224,8 @@ void ZelControlCenter::setSettingsWidth(int width)
         m_parts->drawer.showAllPages();
         return;
     }
-    m_parts->drawer.showNextPage();
+    if (wasVisible) // To appear is enough work for one frame.
+        m_parts->drawer.showNewPages(m_parts->slides->drawerPart());
     // An opening drawer has not scrolled yet, so nothing else has checked the button of its page.
     onScrollBarValueChanged(m_parts->drawer.area()->verticalScrollBar()->value());
 }

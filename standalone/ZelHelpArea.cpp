@@ -135,6 +135,7 @@ void ZelHelpArea::useColumn(QWidget* column, QWidget* above)
     m_columnHost->hide();
     column->installEventFilter(this);
     above->installEventFilter(this);
+    installEventFilter(this);
     place();
 }
 
@@ -151,8 +152,8 @@ bool ZelHelpArea::eventFilter(QObject* watched, QEvent* event)
     // Queued, because the layout of the column is still at work.
     if (type == QEvent::Resize || type == QEvent::Move || type == QEvent::Show || type == QEvent::Hide)
         QMetaObject::invokeMethod(this, "place", Qt::QueuedConnection);
-    // It takes some milliseconds, which the first frame does not have.
-    if (type == QEvent::Paint && m_columnLayout->indexOf(m_help) < 0)
+    // It takes some milliseconds, which neither the first frame has nor the first one of a slide.
+    if (type == QEvent::Paint && m_columnHost && m_columnLayout->indexOf(m_help) < 0)
         QMetaObject::invokeMethod(this, "moveToColumn", Qt::QueuedConnection);
     return false;
 }
