@@ -4,7 +4,6 @@
 #include <QList>
 #include <QMap>
 #include <QObject>
-#include <QPointer>
 
 class QAbstractButton;
 class QBoxLayout;

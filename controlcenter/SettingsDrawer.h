@@ -15,8 +15,8 @@ namespace zel {
 class DrawerLayout;
 class ZelSettingsPanel;
 
-/// The drawer of the control center: a scroll area with the pages, one below the other. What opens and closes
-/// it is ZelControlCenter.
+/// The drawer of the control center: a scroll area with the pages, one below the other. ControlCenterSlides
+/// opens and closes it.
 ///
 /// A page is styled and laid out when it is first shown, which takes as long as half a frame. While the
 /// drawer slides open for the first time, this is done in steps, which are spread evenly over the slide.

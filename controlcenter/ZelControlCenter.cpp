@@ -15,7 +15,6 @@
 #include "WriteNotice.h"
 #include "ZelPageHelp.h"
 #include "ZelSettingsPanel.h"
-#include "base/ZelQtCompat.h"
 
 #include "platform/kqDMIApplication.h"
 #include "platform/kqMessageBox.h"
