@@ -119,6 +119,13 @@ private Q_SLOTS:
         point("helpFrame");
         rest();
         QCOMPARE(said("nameLabel"), QString("Screenshot folder"));
+        point("databaseSpinBox");
+        QTest::mouseMove(find("databaseSpinBox"), QPoint(2, 2)); // It does not rest yet.
+        for (const char* name : {"Screenshot folder", "Cache size"}) {
+            rest();
+            QCOMPARE(said("nameLabel"), QString(name));
+        }
+        QCOMPARE(find<QTimer>("rest")->interval(), 400); // Milliseconds.
     }
 
     void showsTheHelpWhereThereIsRoom()
@@ -187,10 +194,14 @@ private Q_SLOTS:
             type("databaseSpinBox", "512");
             QCOMPARE(marked(), QString(stored == ratios ? "Folders" : "Folders Simplification"));
             QTRY_COMPARE(pending().size(), stored == ratios ? 1 : 2);
+            const auto lines = find("pendingList")->findChildren<QAbstractButton*>("editButton");
+            QCOMPARE(lines.last()->isEnabled(), stored == ratios);
             for (auto* button : find("pendingList")->findChildren<QAbstractButton*>())
                 button->click();
             QCOMPARE(marked(), QString(stored == ratios ? "" : "Simplification"));
         }
+        ZelHelpArea own; // As a host has one beside pages of its own.
+        own.watchPages(m_window.get());
         auto* resetAll = find("frame_4")->findChild<QWidget*>("resetButton");
         for (QWidget* button : {find("putBackButton"), resetAll, find("applyButton")}) {
             type("databaseSpinBox", "512");
@@ -198,6 +209,9 @@ private Q_SLOTS:
             QVERIFY(said("stateLabel").startsWith("Changed") && marked() == "Folders");
             QTest::mouseClick(button, Qt::LeftButton);
             QVERIFY(!said("stateLabel").startsWith("Changed") && marked().isEmpty());
+            QVERIFY(button == find("applyButton") ||
+                    own.findChild<QLabel*>("stateLabel")->text() == said("stateLabel"));
+            QCOMPARE(find("defaultButton")->isEnabled(), !said("stateLabel").isEmpty());
         }
         QCOMPARE(said("storedLabel") + said("stateLabel"), QString("512 MoNot the default."));
 
@@ -325,10 +339,14 @@ private Q_SLOTS:
                      QString());
         }
         QVERIFY2(controls > 60, qPrintable(QString::number(controls)));
-        const auto* quality = QAccessible::queryAccessibleInterface(find("qualitySlider"));
-        QCOMPARE(quality->text(QAccessible::Value), QString("Medium"));
-        QVERIFY(quality->text(QAccessible::Description).startsWith("Medium. "));
-        auto* value = const_cast<QAccessibleInterface*>(quality)->valueInterface();
+        for (const QString slider : {"coreUsed", "quality"}) {
+            const auto* read = QAccessible::queryAccessibleInterface(find(slider + "Slider"));
+            const QString shown = find<QLabel>(slider + "Label")->text();
+            QCOMPARE(read->text(QAccessible::Value), shown);
+            QVERIFY(read->text(QAccessible::Description).startsWith(shown + ". "));
+        }
+        auto* quality = QAccessible::queryAccessibleInterface(find("qualitySlider"));
+        auto* value = quality->valueInterface();
         QCOMPARE(value->minimumStepSize().toInt(), 1);
         value->setCurrentValue(0);
         QCOMPARE(find<QSlider>("qualitySlider")->value(), 0);

@@ -142,6 +142,8 @@ private Q_SLOTS:
         const QString shots = folder("shots of R&D");
         m_application->manager.cacheSizes.clear();
         m_application->imageFolders.clear();
+        QTest::keyClick(page.find("databaseSpinBox"), Qt::Key_Delete, Qt::AltModifier);
+        QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->value(), 500); // There is no default.
         page.type("databaseSpinBox", "2048");
         choose(page, "screenshotFolderButton", shots);
         QVERIFY(m_application->manager.cacheSizes.isEmpty() && m_application->imageFolders.isEmpty());

@@ -86,6 +86,18 @@ private Q_SLOTS:
                      qPrintable(focused->objectName() + " is out of sight"));
             reached << focused;
         }
+        auto* first = m_window.findChild<QWidget*>("deferredButton");
+        auto* last = m_window.findChild<QWidget*>("copyButton");
+        const auto place = [&] { return first->mapTo(&m_window, QPoint()); };
+        for (const bool held : {true, false}) { // Nothing moves under a mouse button that is held down.
+            last->setFocus();
+            const QPoint before = place();
+            if (held)
+                QTest::mousePress(inputOf(&m_window), Qt::LeftButton, Qt::NoModifier, QPoint(5, 15));
+            first->setFocus();
+            QCOMPARE(place() == before, held);
+            QTest::mouseRelease(inputOf(&m_window), Qt::LeftButton, Qt::NoModifier, QPoint(5, 15));
+        }
         m_window.resize(800, 600);
         m_window.setMinimumSize(702, 300);
         for (QWidget* widget : m_window.findChildren<QWidget*>()) {
@@ -109,10 +121,11 @@ private Q_SLOTS:
         }
         QVERIFY(!m_window.isMaximized() && !m_window.windowIcon().isNull());
         QCOMPARE(roleOf(&m_window), QAccessible::Window);
-        QString product; // Is read as one name, although one half of it is bold.
-        for (QLabel* label : m_window.findChild<QFrame*>("appFrame")->findChildren<QLabel*>())
-            product += readOut(label);
-        QCOMPARE(product, QString("Torvane"));
+        QStringList title; // The product is read as one name, although one half of it is bold.
+        for (QLabel* label : m_window.findChild<QFrame*>("headerFrame")->findChildren<QLabel*>())
+            title << readOut(label);
+        title.sort();
+        QCOMPARE(title.join("|"), QString("||Control Center|Torvane"));
     }
 
     void shortcuts()

@@ -105,8 +105,6 @@ public:
             take(find("applyButton"), m_shown, m_stored);
         else if (choice < 85)
             take(resetButton(), m_defaults, m_shown);
-        else if (choice < 88)
-            reopenDrawer();
         else if (choice < 91)
             closeMenu(), openMenu();
         else
@@ -239,15 +237,6 @@ private:
             if (differ(from, before, field.page))
                 to[field.widget->objectName()] = from[field.widget->objectName()];
         m_announced = true;
-    }
-
-    void reopenDrawer()
-    {
-        for (const bool visible : {false, true}) {
-            m_controlCenter.setControlCenterVisible(visible);
-            settle();
-        }
-        reload();
     }
 
     void scroll()
