@@ -32,6 +32,9 @@ private Q_SLOTS:
         m_window.openMenu();
         QVERIFY(QTest::qWaitForWindowActive(&m_window));
         QTRY_VERIFY(showsPages(*m_window.findChild<zel::ZelControlCenter*>()));
+        const auto* drawer = m_window.findChild<zel::ZelControlCenter*>()->settingsWidget();
+        const auto* shadow = m_window.findChild<QWidget*>("drawerShadow");
+        QCOMPARE(shadow->mapTo(&m_window, QPoint()), drawer->mapTo(&m_window, QPoint(drawer->width(), 0)));
         QMap<int, QString> pages;
         for (const auto* page : m_window.findChildren<zel::ZelSettingsPanel*>())
             pages.insert(page->y(), page->getPanelName() + QString::number(page->getPanelCategory()));
@@ -125,7 +128,7 @@ private Q_SLOTS:
         for (QLabel* label : m_window.findChild<QFrame*>("headerFrame")->findChildren<QLabel*>())
             title << readOut(label);
         title.sort();
-        QCOMPARE(title.join("|"), QString("||Control Center|Torvane"));
+        QCOMPARE(title.join("|"), QString("Control Center|Torvane|silent|silent"));
     }
 
     void shortcuts()
@@ -312,6 +315,10 @@ private Q_SLOTS:
         window.showMaximized();
         window.showNormal();
         QTRY_VERIFY(QApplication::desktop()->availableGeometry(&window).contains(window.geometry()));
+        window.hide();
+        window.show();
+        window.move(700, 40); // As a window manager places it.
+        QTRY_COMPARE(window.geometry().right(), QApplication::desktop()->availableGeometry(&window).right());
     }
 
     void headerMovesAndMaximizes()
