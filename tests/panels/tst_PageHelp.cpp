@@ -131,7 +131,9 @@ private Q_SLOTS:
         find("databaseButton")->setFocus(); // The keyboard came later.
         QVERIFY(!find<QTimer>("rest")->isActive());
         m_window->resize(1600, 600);
-        QTRY_COMPARE(find("helpFrame")->width(), 520); // Longer lines are hard to read.
+        QTRY_COMPARE(find("helpFrame")->width(), 520);           // Longer lines are hard to read.
+        find<ZelHelpArea>("helpArea")->showHelp(find("ratio1")); // Which never changes.
+        QVERIFY(!find("actionsFrame")->isVisible());
     }
 
     void showsTheHelpWhereThereIsRoom()

@@ -126,6 +126,7 @@ private Q_SLOTS:
         choose(page, "databaseButton", QString());
         QVERIFY(page.changes.isEmpty() && !page.page.hasModifications());
         // Only another cache folder than the running one needs a restart, "!".
+        page.page.resize(600, page.page.height());
         const QString longName = QString("long/").repeated(30) + "end";
         for (const QString& step : ("b! " + longName + "! cache cache b! b").split(' ')) {
             const QString chosen = folder(step.section('!', 0, 0));
@@ -133,7 +134,7 @@ private Q_SLOTS:
             QCOMPARE(page.page.applyModifications(), step.endsWith('!'));
             QCOMPARE(stored(keys::CacheDirectory), chosen);
             const auto* button = page.find<QPushButton>("databaseButton");
-            for (const int width : {435, 400}) {
+            for (const int width : {435, 600}) {
                 page.page.resize(width, page.page.height());
                 const QString shown = button->text();
                 QVERIFY(shown.startsWith(QChar(0x2026)) || !chosen.contains("long"));

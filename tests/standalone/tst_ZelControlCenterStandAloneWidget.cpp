@@ -32,6 +32,7 @@ private Q_SLOTS:
         m_window.openMenu();
         QVERIFY(QTest::qWaitForWindowActive(&m_window));
         QTRY_VERIFY(showsPages(*m_window.findChild<zel::ZelControlCenter*>()));
+        QCOMPARE(m_window.focusWidget()->property("text").toString(), QString("Display"));
         const auto* drawer = m_window.findChild<zel::ZelControlCenter*>()->settingsWidget();
         const auto* shadow = m_window.findChild<QWidget*>("drawerShadow");
         QCOMPARE(shadow->mapTo(&m_window, QPoint()), drawer->mapTo(&m_window, QPoint(drawer->width(), 0)));
@@ -78,6 +79,12 @@ private Q_SLOTS:
     void tabReachesEveryControl()
     {
         QSet<const QWidget*> reached;
+        const QString ends = "putBackButton minimizeButton maximizeButton closeButton";
+        QStringList order; // The help, then the header.
+        for (QWidget* widget = &m_window; (widget = widget->nextInFocusChain()) != &m_window;)
+            if (ends.split(' ').contains(widget->objectName()))
+                order << widget->objectName();
+        QCOMPARE(order.join(" "), ends);
         m_window.setMinimumSize(400, 250); // As on a screen that is too small.
         m_window.resize(400, 250);
         QTRY_VERIFY(!m_window.findChild<QWidget*>("helpFrame")->isVisible()); // No room is left for it.
@@ -155,7 +162,8 @@ private Q_SLOTS:
         for (const Qt::Key key : {Qt::Key_Q, Qt::Key_W}) {
             BoxAnswer answer({Qt::Key_Return});
             press(key, Qt::ControlModifier);
-            QCOMPARE(answer.texts.size(), 1);
+            QCOMPARE(answer.texts, QStringList("Your current changes will be discarded.\n"
+                                               "Continue and close the application ?"));
             QVERIFY(m_window.isVisible() && check->isChecked());
         }
         QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
