@@ -119,7 +119,9 @@ private Q_SLOTS:
         point("helpFrame");
         rest();
         QCOMPARE(said("nameLabel"), QString("Screenshot folder"));
+        find<QTimer>("rest")->stop();
         point("databaseSpinBox");
+        QTRY_VERIFY(find<QTimer>("rest")->isActive());
         QTest::mouseMove(find("databaseSpinBox"), QPoint(2, 2)); // It does not rest yet.
         for (const char* name : {"Screenshot folder", "Cache size"}) {
             rest();

@@ -65,7 +65,7 @@ private:
         const Later answer(10, [folder, former, isCache] {
             auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
             QVERIFY(former.isEmpty() || dialog->directory() == QDir(former)); // It begins where it is.
-            QCOMPARE(dialog->windowTitle().contains("cache"), isCache);
+            QVERIFY(dialog->windowTitle().contains("cache") == isCache);
             dialog->findChild<QLineEdit*>("fileNameEdit")->setText(folder);
             QTest::keyClick(dialog, folder.isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
         });
