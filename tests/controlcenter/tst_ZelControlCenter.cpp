@@ -198,6 +198,7 @@ private Q_SLOTS:
             QCOMPARE(notices.count, 2);
             QVERIFY(canApply() && page.hasModifications() && m_controlCenter->hasModifications());
             QVERIFY2(error->isVisible() && error->text().contains(file), qPrintable(error->text()));
+            QCOMPARE(error->accessibleDescription(), error->text());
             QVERIFY(Qt::mightBeRichText(error->toolTip()) && error->toolTip().contains("Settings.ini"));
             QCOMPARE(int(m_application->manager.cacheSizes.last()), size->value() - 1); // The stored one.
             QVERIFY(clear());
@@ -599,6 +600,8 @@ private Q_SLOTS:
         QCOMPARE(columnText(), QString("b,twice,before a,a,Settings,last,twice"));
         for (const auto* item : m_controlCenter->findChildren<ZelCCActionItem*>())
             QCOMPARE(item->isWorkflowSpecific(), item == column()->itemAt(6)->widget());
+        QCOMPARE(column()->itemAt(4)->widget()->statusTip(),
+                 QString("Changes the settings of the application"));
         int visited = 0; // By the Tab key, from top to bottom.
         for (QWidget* widget = m_window.get(); (widget = widget->nextInFocusChain()) != m_window.get();)
             if (widget->objectName() == "actionButton")

@@ -61,9 +61,11 @@ private:
     static void choose(General& page, const char* button, const QString& folder)
     {
         const QString former = page.find(button)->toolTip();
-        const Later answer(10, [folder, former] {
+        const bool isCache = button == std::string("databaseButton");
+        const Later answer(10, [folder, former, isCache] {
             auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
             QVERIFY(former.isEmpty() || dialog->directory() == QDir(former)); // It begins where it is.
+            QVERIFY(dialog->windowTitle().contains("cache") == isCache);
             dialog->findChild<QLineEdit*>("fileNameEdit")->setText(folder);
             QTest::keyClick(dialog, folder.isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
         });
@@ -124,15 +126,21 @@ private Q_SLOTS:
         choose(page, "databaseButton", QString());
         QVERIFY(page.changes.isEmpty() && !page.page.hasModifications());
         // Only another cache folder than the running one needs a restart, "!".
+        page.page.resize(600, page.page.height());
         const QString longName = QString("long/").repeated(30) + "end";
         for (const QString& step : ("b! " + longName + "! cache cache b! b").split(' ')) {
             const QString chosen = folder(step.section('!', 0, 0));
             choose(page, "databaseButton", chosen);
             QCOMPARE(page.page.applyModifications(), step.endsWith('!'));
             QCOMPARE(stored(keys::CacheDirectory), chosen);
-            const QString shown = page.find<QPushButton>("databaseButton")->text();
-            QVERIFY(shown.startsWith(QChar(0x2026)) || !chosen.contains("long"));
-            QCOMPARE(shown.section('/', -1), chosen.section('/', -1));
+            const auto* button = page.find<QPushButton>("databaseButton");
+            for (const int width : {435, 600}) {
+                page.page.resize(width, page.page.height());
+                const QString shown = button->text();
+                QVERIFY(shown.startsWith(QChar(0x2026)) || !chosen.contains("long"));
+                QVERIFY(button->fontMetrics().size(0, shown).width() <= button->width() - 12);
+                QCOMPARE(shown.section('/', -1), chosen.section('/', -1));
+            }
         }
         QCOMPARE(page.changes.count(), 6);
 
@@ -142,6 +150,8 @@ private Q_SLOTS:
         const QString shots = folder("shots of R&D");
         m_application->manager.cacheSizes.clear();
         m_application->imageFolders.clear();
+        QTest::keyClick(page.find("databaseSpinBox"), Qt::Key_Delete, Qt::AltModifier);
+        QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->value(), 500); // There is no default.
         page.type("databaseSpinBox", "2048");
         choose(page, "screenshotFolderButton", shots);
         QVERIFY(m_application->manager.cacheSizes.isEmpty() && m_application->imageFolders.isEmpty());
@@ -150,6 +160,10 @@ private Q_SLOTS:
         QCOMPARE(m_application->imageFolders, QList<QString>({shots, shots}));
         QVERIFY(shotsButton->shortcut().isEmpty() && shotsButton->icon().isNull());
         QVERIFY(shotsButton->accessibleDescription().startsWith(shots + " Where"));
+        page.find("databaseSpinBox")->setFocus();
+        QPushButton sameText(shotsButton->text().replace('&', "&&"), shotsButton->parentWidget());
+        sameText.setGeometry(shotsButton->geometry());
+        QCOMPARE(pictureOf(shotsButton), pictureOf(&sameText));
     }
 
     void editsAreMergedWithWhatOthersStore()

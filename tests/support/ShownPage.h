@@ -82,7 +82,8 @@ struct BoxAnswer : QTimer
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (!box || !box->isVisible())
             return;
-        texts << box->text();
+        const bool isUsual = box->windowTitle() == "Settings Modification" && !box->styleSheet().isEmpty();
+        texts << (isUsual ? box->text() : "unusual title or look");
         if (beforeAnswer)
             beforeAnswer();
         for (const Qt::Key key : keys)

@@ -99,18 +99,14 @@ public:
     void step()
     {
         const int choice = below(100);
-        if (choice < 75)
+        if (choice < 85)
             edit(m_fields[below(static_cast<int>(m_fields.size()))]);
-        else if (choice < 81)
+        else if (choice < 92)
             take(find("applyButton"), m_shown, m_stored);
-        else if (choice < 85)
+        else if (choice < 96)
             take(resetButton(), m_defaults, m_shown);
-        else if (choice < 88)
-            reopenDrawer();
-        else if (choice < 91)
-            closeMenu(), openMenu();
         else
-            scroll();
+            closeMenu(), openMenu();
     }
 
     void openMenu()
@@ -239,25 +235,6 @@ private:
             if (differ(from, before, field.page))
                 to[field.widget->objectName()] = from[field.widget->objectName()];
         m_announced = true;
-    }
-
-    void reopenDrawer()
-    {
-        for (const bool visible : {false, true}) {
-            m_controlCenter.setControlCenterVisible(visible);
-            settle();
-        }
-        reload();
-    }
-
-    void scroll()
-    {
-        if (below(2))
-            m_controlCenter.settingsWidget()->verticalScrollBar()->setValue(below(2000));
-        else
-            QTest::mouseClick(find("applicationSettings")->findChildren<QPushButton*>()[below(5)],
-                              Qt::LeftButton);
-        settle();
     }
 
     /// Waits for the end of all slides, and chooses how long the next ones take.
