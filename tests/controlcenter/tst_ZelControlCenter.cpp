@@ -600,8 +600,6 @@ private Q_SLOTS:
         QCOMPARE(columnText(), QString("b,twice,before a,a,Settings,last,twice"));
         for (const auto* item : m_controlCenter->findChildren<ZelCCActionItem*>())
             QCOMPARE(item->isWorkflowSpecific(), item == column()->itemAt(6)->widget());
-        QCOMPARE(column()->itemAt(4)->widget()->statusTip(),
-                 QString("Changes the settings of the application"));
         int visited = 0; // By the Tab key, from top to bottom.
         for (QWidget* widget = m_window.get(); (widget = widget->nextInFocusChain()) != m_window.get();)
             if (widget->objectName() == "actionButton")

@@ -181,8 +181,6 @@ private Q_SLOTS:
             const auto instance = start(); // The one before, which was killed, leaves nothing behind.
             QCOMPARE(instance->part(), QByteArray("instance"));
             std::vector<std::unique_ptr<QLocalSocket>> sockets;
-            QElapsedTimer clock;
-            clock.start();
             for (int i = 0; i < peers; ++i) {
                 sockets.emplace_back(new QLocalSocket);
                 sockets.back()->connectToServer(server());
@@ -192,9 +190,6 @@ private Q_SLOTS:
                     ;
                 QVERIFY(sockets.back()->bytesToWrite() >= bytes.size() - 8 * 1024 * 1024);
             }
-            const bool isCrowded = peers > 4 && clock.elapsed() < 1000; // None has been given up yet.
-            QTRY_VERIFY(!isCrowded || sockets.back()->state() == QLocalSocket::UnconnectedState);
-            QVERIFY(!isCrowded || sockets.front()->state() == QLocalSocket::ConnectedState);
             QCOMPARE(send("honest"), QByteArray("sent"));
             QByteArray received;
             for (int i = 0; i <= peers && !received.endsWith(QByteArray("honest").toHex()); ++i)

@@ -139,21 +139,6 @@ private Q_SLOTS:
         QCOMPARE(title.join("|"), QString("Control Center|Torvane|silent|silent"));
     }
 
-#if !defined(ZEL_LEAVE_OUT_pressedFieldStaysInPlace)
-    void pressedFieldStaysInPlace()
-    {
-        auto* check = m_window.findChild<QCheckBox*>("deferredFXAACheckBox");
-        QScrollArea* drawer = m_window.findChild<zel::ZelControlCenter*>()->settingsWidget();
-        const QPoint lower(8, check->height() - 2);
-        m_window.setFocus();
-        const bool isChecked = check->isChecked();
-        drawer->verticalScrollBar()->setValue(check->mapTo(drawer->widget(), check->rect().center()).y());
-        QTest::mouseClick(inputOf(&m_window), Qt::LeftButton, Qt::NoModifier, check->mapTo(&m_window, lower));
-        QVERIFY(check->hasFocus() && check->isChecked() != isChecked);
-        check->setChecked(isChecked);
-    }
-#endif
-
     void shortcuts()
     {
         auto* controlCenter = m_window.findChild<zel::ZelControlCenter*>();

@@ -260,7 +260,7 @@ inline void useOwnDialogs()
     qt_use_native_dialogs = false;
 }
 
-/// As assistive technology reads it. Null when it does not see it.
+/// As assistive technology reads it; "silent" for what it leaves out.
 inline QString readOut(QWidget* widget)
 {
     const std::unique_ptr<QAccessibleInterface> read(QAccessible::queryAccessibleInterface(widget));
