@@ -50,8 +50,9 @@ struct Onlooker : QTimer
 /// Runs inside launch(), as soon as there is an application.
 void act()
 {
-    if (qgetenv(Role) == "first")
-        new Onlooker;
+    if (qgetenv(Role) == "first") {
+        static Onlooker onlooker;
+    }
     if (qgetenv(Role) == "second")
         for (const char* text : {"QGLShader", "QGLShader: cannot compile", "QGL", "qglshader", " QGLShader"})
             qWarning("%s", text);

@@ -153,7 +153,7 @@ public:
     ~QTemporaryDir()
     {
         std::error_code ignored;
-        std::filesystem::remove_all(m_path.toStdWString(), ignored);
+        std::filesystem::remove_all(QFile::encodeName(m_path).constData(), ignored);
     }
 
     QTemporaryDir(const QTemporaryDir&) = delete;
