@@ -313,6 +313,7 @@ public:
         }
         if (line.value.isNull()) // It has no setting.
             return false;
+        static const QString general = "General/";
         const QString name = decodedName(line.name), key = m_group + name;
         const int count = m_keys.size();
         m_keys.insert(SettingsIgnoreCase ? key.toLower() : key);
@@ -321,11 +322,10 @@ public:
         // Before the first group QSettings takes the mark of the encoding for a part of the name.
         return m_keys.size() == count || m_isMarked || isHidden || key.startsWith('/') ||
                name.endsWith('/') ||
-               (key.startsWith(General, Qt::CaseInsensitive) && !key.startsWith(General));
+               (key.startsWith(general, Qt::CaseInsensitive) && !key.startsWith(general));
     }
 
 private:
-    const QString General = "General/";
     bool m_isMarked;
     QString m_group;
     QSet<QString> m_keys;

@@ -67,8 +67,8 @@ void change(QSettings& settings, const QVariantMap& from, const QVariantMap& to)
     set(settings, wanted);
 }
 
-/// Puts a spare copy beside a file, and gives settings what the file holds, to be written by them. False,
-/// with the reason, when that is not possible, as when the file has lost what they held.
+/// Puts a spare copy beside a file, and gives settings what the file holds, to be written by them. False
+/// when that is not possible; the reason is set unless the file has lost what they held.
 bool prepareWriting(QSettings& settings, WorkingCopy& copy, const QString& target, const SpareCopy& spare,
                     QString& reason)
 {

@@ -14,7 +14,7 @@
 #include <QSettings>
 
 #include <algorithm>
-#include <vector>
+#include <map>
 
 namespace zel {
 
@@ -239,23 +239,16 @@ bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
         return refuseReading(path, reason, error);
     const bool isRead = readSafely(settings, content, deadline, ignored);
 
-    // Of the registered keys in their order: what is stored, and what it becomes.
-    std::vector<std::pair<QVariant, QString>> values;
-    values.reserve(ZelSettingsRegistry::GetDefaultSettingsValues().size());
+    std::map<QString, std::pair<QVariant, QString>> values; // What is stored, and what it becomes.
     bool needsWrite = !settingsDamage(content).isEmpty() || (content.isEmpty() && !isRead);
-    const auto keep = [&](const auto&, const QVariant& stored, const QString& text) {
-        values.emplace_back(stored, text);
+    const auto keep = [&](const auto& entry, const QVariant& stored, const QString& text) {
+        values.emplace_hint(values.end(), entry.first, std::make_pair(stored, text)); // They come in order.
         needsWrite = needsWrite || needsRepair(stored, text);
     };
-    if (!deadline.pauseFor([&] { return validateSettings(settings, error, keep); })) {
-        error = error.isEmpty() ? InvalidDefault : error;
-        return false;
-    }
     const auto change = [&values](QSettings& copy, QString& failure) {
-        auto value = values.begin();
         for (const auto& [key, rule] : ZelSettingsRegistry::GetDefaultSettingsValues()) {
             const auto& [defaultValue, validator] = rule;
-            auto& [known, text] = *value++;
+            auto& [known, text] = values[key];
             const QVariant stored = copy.value(key);
             if (stored != known) { // Another program has written it since.
                 known = stored;
@@ -268,8 +261,10 @@ bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
         }
         return true;
     };
-    if ((needsWrite && !write(settings, change, deadline, error)) ||
-        !deadline.pauseFor([&] { return runEndChecks(settings, error); }))
+    if (!deadline.pauseFor([&] { return validateSettings(settings, error, keep); }) ||
+        (needsWrite && !write(settings, change, deadline, error)))
+        return !error.isEmpty() ? false : refuseWriting(path, InvalidDefault, error);
+    if (!deadline.pauseFor([&] { return runEndChecks(settings, error); }))
         return false;
     if (hasPending(settings)) // An end check has set values.
         write(settings, &changeNothing, deadline, ignored);
