@@ -53,7 +53,7 @@ bool ControlCenterSlides::isDrawerSliding() const
     return m_drawerSlide->state() == QAbstractAnimation::Running;
 }
 
-double ControlCenterSlides::drawerPart() const
+double ControlCenterSlides::drawerProgress() const
 {
     return static_cast<double>(m_drawerSlide->currentTime()) / m_drawerSlide->duration();
 }
@@ -95,7 +95,7 @@ void ControlCenterSlides::slideDrawer(bool open, bool keepEdits)
             Q_EMIT aboutToOpen();
         if (!self)
             return;
-        m_drawer.showWithoutNewPages();
+        m_drawer.showWithoutNewPages(drawerProgress());
     }
     m_drawerSlide->setEasingCurve(open ? QEasingCurve::OutQuad : QEasingCurve::InQuad);
     m_drawerSlide->setDirection(open ? QAbstractAnimation::Forward : QAbstractAnimation::Backward);

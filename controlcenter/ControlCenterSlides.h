@@ -38,8 +38,8 @@ public:
     /// True when the drawer is open or opens, also in a hidden window.
     bool isDrawerToBeOpen() const;
     bool isDrawerSliding() const;
-    /// The part of the drawer's opening slide that has passed, from 0 to 1.
-    double drawerPart() const;
+    /// How far the drawer's opening slide is in time, from 0 to 1.
+    double drawerProgress() const;
 
     /// Slides the menu column open or closed; closing closes the drawer too, opening hides the list of pages.
     /// The opener, if any, is checked while the column is open.

@@ -25,6 +25,7 @@ public:
         widget->setLayout(this);
     }
 
+    /// @{
     /// In pixels; 0 at first.
     int minimumWidth() const { return m_minimumWidth; }
     void setMinimumWidth(int width)
@@ -34,6 +35,7 @@ public:
         m_minimumWidth = width;
         update();
     }
+    /// @}
 
     int heightForWidth(int width) const override
     {

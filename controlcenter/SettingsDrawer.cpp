@@ -85,7 +85,7 @@ void SettingsDrawer::setWidth(int width)
     area()->setVisible(width >= 1);
     area()->setFixedWidth(width);
     const QScrollBar* bar = area()->verticalScrollBar();
-    // All pages together are higher than the drawer, so the first ones get their final width at once.
+    // All pages together are usually higher than the drawer: the first ones get their final width at once.
     const int barWidth = bar->isVisible() || !m_steps.isEmpty() ? bar->sizeHint().width() : 0;
     m_contentLayout->setMinimumWidth(OpenWidth - barWidth);
     area()->widget()->setFixedWidth(std::max(width - barWidth, 0));
@@ -99,7 +99,7 @@ void SettingsDrawer::makeRoom(const QWidget& column, int columnWidth)
         area()->move(area()->x() + distance, area()->y());
 }
 
-void SettingsDrawer::showWithoutNewPages()
+void SettingsDrawer::showWithoutNewPages(double progress)
 {
     for (int index = 0; index < m_pageLayout->count(); ++index) {
         QWidget* page = m_pageLayout->itemAt(index)->widget();
@@ -108,6 +108,7 @@ void SettingsDrawer::showWithoutNewPages()
         page->hide();
         addSteps(*page);
     }
+    m_begin = progress;
     m_work = m_workLeft = std::accumulate(m_steps.begin(), m_steps.end(), 0,
                                           [](int work, const Step& step) { return work + step.kind; });
     area()->show();
@@ -127,9 +128,9 @@ void SettingsDrawer::addSteps(QWidget& page)
     m_steps << Step{Show, &page};
 }
 
-void SettingsDrawer::showNewPages(double part)
+void SettingsDrawer::showNewPages(double progress)
 {
-    const double workAtEnd = m_work * (1 - part);
+    const double workAtEnd = m_begin < 1 ? m_work * (1 - progress) / (1 - m_begin) : 0;
     for (bool first = true; m_workLeft > workAtEnd && !m_steps.isEmpty(); first = false) {
         if (m_steps.first().kind == Show && !first)
             return; // To appear is enough work for one frame.
@@ -142,41 +143,65 @@ void SettingsDrawer::showNewPages(double part)
         else if (step.kind == Measure && step.widget->layout())
             step.widget->layout()->totalSizeHint(); // Which it keeps.
         else if (step.kind == Show)
-            return show(QList<QWidget*>() << step.widget);
+            return show(QList<QPointer<QWidget>>() << step.widget);
     }
 }
 
 void SettingsDrawer::showAllPages()
 {
-    QList<QWidget*> pages;
+    QList<QPointer<QWidget>> pages;
     for (const Step& step : m_steps)
-        if (step.widget && step.kind == Show)
+        if (step.kind == Show)
             pages << step.widget;
     m_steps.clear();
+    const QPointer<SettingsDrawer> self(this);
     show(pages);
+    if (self && isVisible())
+        setWidth(width()); // The scroll bar may not be needed after all.
 }
 
-void SettingsDrawer::show(const QList<QWidget*>& pages)
+void SettingsDrawer::show(const QList<QPointer<QWidget>>& pages)
 {
+    QWidget* const frame = m_pageLayout->parentWidget();
+    const QPointer<SettingsDrawer> self(this);
+    for (const QPointer<QWidget>& page : pages) {
+        if (!area())
+            return;
+        if (!page || page->parentWidget() != frame || !page->isHidden())
+            continue;
+        makeRoomFor(*page);
+        page->show();
+        if (!self) // A page may delete the control center.
+            return;
+    }
     if (!area())
         return;
-    // Else it squeezes them into the old height first, and all are moved and painted again.
-    m_pageLayout->setEnabled(false);
+    frame->setMinimumHeight(0);
+    layOutContent();
+    m_pageLayout->activate();
+}
+
+void SettingsDrawer::makeRoomFor(const QWidget& page)
+{
+    QWidget* const frame = m_pageLayout->parentWidget();
     const int width = m_contentLayout->minimumWidth();
-    for (QWidget* page : pages) {
-        if (page->parentWidget() != m_pageLayout->parentWidget() || !page->isHidden())
-            continue;
-        // Below those that are seen, so that they need not be painted either.
-        page->setGeometry(0, m_pageLayout->parentWidget()->height(), width, heightOf(*page, width));
-        page->show();
-    }
-    // Without waiting for events, so that the places of the pages and the scroll range are right.
+    const int height = m_pageLayout->hasHeightForWidth() ? m_pageLayout->totalHeightForWidth(width)
+                                                         : m_pageLayout->totalSizeHint().height();
+    // Else the pages are squeezed into the old height first, and all are moved and painted again. The page
+    // layout waits for the new page, or it would stretch the others.
+    m_pageLayout->setEnabled(false);
+    frame->setMinimumHeight(height + m_pageLayout->spacing() + heightOf(page, width));
+    layOutContent();
+    m_pageLayout->setEnabled(true);
+}
+
+/// Without waiting for events, so that the places of the pages and the scroll range are right.
+void SettingsDrawer::layOutContent()
+{
     m_pageLayout->parentWidget()->updateGeometry();
     QEvent request(QEvent::LayoutRequest);
     QCoreApplication::sendEvent(area(), &request);
     m_contentLayout->activate();
-    m_pageLayout->setEnabled(true);
-    m_pageLayout->activate();
 }
 
 void SettingsDrawer::scrollTo(const QWidget& widget)

@@ -47,9 +47,10 @@ public:
     /// covered a part of it, Qt would have to paint all of it again.
     void makeRoom(const QWidget& column, int columnWidth);
     /// Shows the drawer, but the pages that have not been seen yet only by showNewPages().
-    void showWithoutNewPages();
-    /// Shows as many of them as belong to this part of the slide, from 0 to 1.
-    void showNewPages(double part);
+    /// @param progress  of the opening slide, from 0 to 1, which may begin anywhere
+    void showWithoutNewPages(double progress);
+    /// Shows as many of them as belong to this progress.
+    void showNewPages(double progress);
     void showAllPages();
 
     /// Scrolls to a page, or until the drawer cannot scroll further.
@@ -74,14 +75,18 @@ private:
     };
 
     void addSteps(QWidget& page);
-    void show(const QList<QWidget*>& pages);
+    /// Shows pages, each of which may remove or delete pages, or delete this object, when it appears.
+    void show(const QList<QPointer<QWidget>>& pages);
+    void makeRoomFor(const QWidget& page);
+    void layOutContent();
 
     const QPointer<QWidget> m_area;
     QBoxLayout* const m_pageLayout;
     DrawerLayout* const m_contentLayout;
     QPropertyAnimation* const m_scrolling;
     QList<Step> m_steps;
-    int m_work = 0; ///< Of all steps, when the slide began.
+    double m_begin = 0; ///< The progress from which on the steps are spread over the slide.
+    int m_work = 0;     ///< Of all steps.
     int m_workLeft = 0;
 };
 

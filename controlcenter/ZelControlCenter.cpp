@@ -223,8 +223,8 @@ void ZelControlCenter::setSettingsWidth(int width)
         m_parts->drawer.showAllPages();
         return;
     }
-    if (wasVisible) // To appear is enough work for one frame.
-        m_parts->drawer.showNewPages(m_parts->slides->drawerPart());
+    if (wasVisible) // The drawer has just appeared otherwise, which is enough work for one frame.
+        m_parts->drawer.showNewPages(m_parts->slides->drawerProgress());
     // An opening drawer has not scrolled yet, so nothing else has checked the button of its page.
     onScrollBarValueChanged(m_parts->drawer.area()->verticalScrollBar()->value());
 }

@@ -150,10 +150,12 @@ bool ZelHelpArea::eventFilter(QObject* watched, QEvent* event)
         return false;
     }
     // Queued, because the layout of the column is still at work.
-    if (type == QEvent::Resize || type == QEvent::Move || type == QEvent::Show || type == QEvent::Hide)
+    if (watched != this &&
+        (type == QEvent::Resize || type == QEvent::Move || type == QEvent::Show || type == QEvent::Hide))
         QMetaObject::invokeMethod(this, "place", Qt::QueuedConnection);
     // It takes some milliseconds, which neither the first frame has nor the first one of a slide.
-    if (type == QEvent::Paint && m_columnHost && m_columnLayout->indexOf(m_help) < 0)
+    if (type == QEvent::Paint && m_columnHost && m_columnLayout->indexOf(m_help) < 0 &&
+        roomOf(*this) < MinimumWidth)
         QMetaObject::invokeMethod(this, "moveToColumn", Qt::QueuedConnection);
     return false;
 }

@@ -260,7 +260,7 @@ int launch(int argc, char** argv)
     startPlatformLibraries();
     installFonts();
     const std::optional<int> exitCode = runEditor(singleApplication);
-    // On purpose: a cancelled choice leaves the libraries to the end of the process.
+    // After a cancelled choice the process ends at once, with the libraries as they are.
     if (!exitCode)
         return 0;
     ZelControlCenter::ClearSettingsValues();
