@@ -142,7 +142,7 @@ void SettingsDrawer::showNewPages(double progress)
             step.widget->ensurePolished();
         else if (step.kind == Measure && step.widget->layout())
             step.widget->layout()->totalSizeHint(); // Which it keeps.
-        else if (step.kind == Show)
+        if (step.kind == Show)
             return show(QList<QPointer<QWidget>>() << step.widget);
     }
 }

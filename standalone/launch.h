@@ -18,8 +18,8 @@ ZEL_EXPORT void zelRegisterPageDefaults(void);
 ///
 /// The library's own keys are registered by launch(). Before it, the host registers those of the settings
 /// pages, by zelRegisterPageDefaults() or one by one: without them Reset has no defaults for the pages, and
-/// their values are not validated. A launch() that has used the settings file empties the
-/// registry, unless the user cancels the choice of the renderer.
+/// their values are not validated. launch() empties the registry, except when it refuses, another instance
+/// runs, or the user cancels the choice of the renderer.
 ///
 /// Returns the exit code of the process:
 /// - 0 when another instance runs, when the user cancels the choice of the renderer, or when the settings

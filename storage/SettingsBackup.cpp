@@ -81,7 +81,7 @@ bool keepBackup(const QString& path, const QByteArray& content, const QString& l
     QStringList copies = backupsOf(path);
     const QString copy = newName(path);
     QFile::remove(incomplete);     // It may be a link, or a pipe.
-    createPrivateFile(incomplete); // Nobody else may read it before it has its rights.
+    createPrivateFile(incomplete); // So that nobody else reads it before it has its rights.
     const bool isComplete = writeFile(incomplete, content, reason);
     if (isComplete && !copyRights(path, incomplete)) // The copy is good, but for no other user.
         QFile::setPermissions(incomplete, Private);

@@ -42,8 +42,8 @@ public:
     /// @param deadline  ends all waits; outlives this object, as the settings do
     SharedSettings(QSettings& settings, const Deadline& deadline);
     /// If nothing was written, they hold their former values again. Values that the change has set would stay
-    /// pending: QSettings writes the file's own values once more to forget them. If that is not
-    /// possible, or values were pending before, nothing is written before the next write.
+    /// pending: QSettings writes the file's own values once more to forget them. If that is not possible, or
+    /// values were pending before, nothing is written before the next write.
     ~SharedSettings();
 
     /// What they held before the change.

@@ -263,7 +263,7 @@ bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
     };
     if (!deadline.pauseFor([&] { return validateSettings(settings, error, keep); }) ||
         (needsWrite && !write(settings, change, deadline, error)))
-        return !error.isEmpty() ? false : refuseWriting(path, InvalidDefault, error);
+        return error.isEmpty() && refuseWriting(path, InvalidDefault, error);
     if (!deadline.pauseFor([&] { return runEndChecks(settings, error); }))
         return false;
     if (hasPending(settings)) // An end check has set values.

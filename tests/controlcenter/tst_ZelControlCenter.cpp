@@ -269,6 +269,17 @@ private Q_SLOTS:
         QVERIFY(m_application->engineUpdates.isEmpty() || m_application->engineUpdates.last());
     }
 
+    void pageMayLeaveWhileAnotherAppears()
+    {
+        addPages(3);
+        m_pages[0]->whenAsked = [this] {
+            if (m_pages[0]->isVisible())
+                m_pages[1].reset();
+        };
+        openEverything();
+        QVERIFY(!m_pages[1] && m_pages[2]->y() == m_pages[0]->height());
+    }
+
 #if !defined(ZEL_LEAVE_OUT_nothingSlidesWhereTheStyleAnimatesNothing)
     void nothingSlidesWhereTheStyleAnimatesNothing()
     {

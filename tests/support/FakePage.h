@@ -42,6 +42,7 @@ public:
     bool canResetContent() const override { return answer(resettable); }
     void resetContent() override { note("reset"); }
     bool cancelModifications() override { return false; }
+    void showEvent(QShowEvent*) override { whenAsked(); }
 
 Q_SIGNALS:
     void stateChanged();
