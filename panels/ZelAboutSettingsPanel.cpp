@@ -123,6 +123,8 @@ void ZelAboutSettingsPanel::resizeEvent(QResizeEvent* event)
 
 void ZelAboutSettingsPanel::fitHeights()
 {
+    if (!testAttribute(Qt::WA_WState_Polished))
+        return; // The page gets its size, and a resize event, before it is first seen.
     // The texts wrap, so their height depends on the width.
     showAllRows(*m_ui->tableWidget);
     m_ui->scrollArea->setFixedHeight(
@@ -163,7 +165,7 @@ void ZelAboutSettingsPanel::fillPlugins()
         ++row;
     }
     m_ui->pluginsFrame->setVisible(!plugins.empty());
-    showAllRows(*m_ui->tableWidget);
+    fitHeights();
 }
 
 } // namespace zel

@@ -12,6 +12,7 @@
 #include "ZelAboutSettingsPanel.h"
 #include "ZelControlCenter.h"
 #include "ZelGeneralSettingsPanel.h"
+#include "ZelHelpArea.h"
 #include "ZelImportSettingsPanel.h"
 #include "ZelRendererSettingsPanel.h"
 #include "ZelSimplificationSettingsPanel.h"
@@ -65,7 +66,7 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
     keepSilent(*m_ui->label_3);
     keepSilent(*m_ui->label_4);
     setWindowIcon(createWindowIcon());
-    makeContentScrollable();
+    connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
     new FrameResizer(this);
     new ReturnKey(this);
 
@@ -92,12 +93,14 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
     m_panels.push_back(createPanel<ZelAboutSettingsPanel>(application));
     for (const auto& panel : m_panels)
         m_controlCenter->registerSettingsPanel(panel.get());
-    m_ui->helpArea->watchPages(m_controlCenter->settingsWidget());
-    m_ui->helpArea->useColumn(m_controlCenter.get(), m_controlCenter->findChild<QWidget*>("preferenceFrame"));
-    connect(m_controlCenter.get(), SIGNAL(pagesChanged()), m_ui->helpArea, SLOT(refresh()));
-    connect(m_controlCenter.get(), SIGNAL(helpRequested(QWidget*)), m_ui->helpArea,
-            SLOT(showHelpOfFocusedField()));
-    connect(m_ui->helpArea, SIGNAL(discardRequested()), m_controlCenter->findChild<QAction*>("discard"),
+    // Not in the form, which would style it twice: without the sheet of the window, and with it.
+    auto* helpArea = new ZelHelpArea(m_ui->uiDummyContent);
+    m_ui->helpLayout->addWidget(helpArea);
+    helpArea->watchPages(m_controlCenter->settingsWidget());
+    helpArea->useColumn(m_controlCenter.get(), m_controlCenter->findChild<QWidget*>("preferenceFrame"));
+    connect(m_controlCenter.get(), SIGNAL(pagesChanged()), helpArea, SLOT(refresh()));
+    connect(m_controlCenter.get(), SIGNAL(helpRequested(QWidget*)), helpArea, SLOT(showHelpOfFocusedField()));
+    connect(helpArea, SIGNAL(discardRequested()), m_controlCenter->findChild<QAction*>("discard"),
             SLOT(trigger()));
 
     addWindowShortcuts(*this, *m_controlCenter);
@@ -119,19 +122,6 @@ ZelControlCenterStandAloneWidget::~ZelControlCenterStandAloneWidget()
         m_controlCenter->unregisterSettingsPanel(panel->get(), true);
     while (!m_panels.empty())
         m_panels.pop_back(); // Deletes the last page first.
-}
-
-void ZelControlCenterStandAloneWidget::makeContentScrollable()
-{
-    m_scrollArea = new QScrollArea(this);
-    m_scrollArea->setObjectName("contentArea");
-    m_scrollArea->setFrameShape(QFrame::NoFrame);
-    m_scrollArea->setFocusPolicy(Qt::NoFocus);
-    m_scrollArea->setWidgetResizable(true);
-    m_ui->verticalLayout->removeWidget(m_ui->controlCenterContentFrame);
-    m_scrollArea->setWidget(m_ui->controlCenterContentFrame);
-    m_ui->verticalLayout->addWidget(m_scrollArea);
-    connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
 }
 
 void ZelControlCenterStandAloneWidget::setTexts(kqDMIApplication& application)
@@ -191,7 +181,7 @@ void ZelControlCenterStandAloneWidget::parseMessage(const QString&)
 bool ZelControlCenterStandAloneWidget::eventFilter(QObject* watched, QEvent* event)
 {
     // While the column was hidden, the focus could only go to the buttons of the window.
-    if (event->type() == QEvent::Show && !m_scrollArea->isAncestorOf(focusWidget()))
+    if (event->type() == QEvent::Show && !m_ui->contentArea->isAncestorOf(focusWidget()))
         m_panels.front()->getActionWidget()->setFocus();
     return QWidget::eventFilter(watched, event);
 }
@@ -221,12 +211,12 @@ void ZelControlCenterStandAloneWidget::nameMaximizeButton()
 
 void ZelControlCenterStandAloneWidget::onFocusChanged(QWidget*, QWidget* current)
 {
-    if (!m_scrollArea->isAncestorOf(current) || QApplication::mouseButtons() != Qt::NoButton)
+    if (!m_ui->contentArea->isAncestorOf(current) || QApplication::mouseButtons() != Qt::NoButton)
         return; // Do not scroll while a mouse button is down.
     // From the inside out, because each area moves what is in it.
     for (QWidget* around = current->parentWidget(); around != this; around = around->parentWidget())
         if (auto* area = qobject_cast<QScrollArea*>(around))
-            area->ensureWidgetVisible(current, 0, area == m_scrollArea ? 0 : InnerMargin);
+            area->ensureWidgetVisible(current, 0, area == m_ui->contentArea ? 0 : InnerMargin);
 }
 
 bool ZelControlCenterStandAloneWidget::mayDiscardModifications()

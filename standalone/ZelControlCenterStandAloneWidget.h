@@ -8,7 +8,6 @@
 #include <memory>
 #include <vector>
 
-class QScrollArea;
 class kqDMIApplication;
 class kqMovableObject;
 
@@ -66,7 +65,6 @@ private Q_SLOTS:
     void onFocusChanged(QWidget* previous, QWidget* current);
 
 private:
-    void makeContentScrollable();
     /// Sets the texts that are not in the form, and how they look in the language.
     void setTexts(kqDMIApplication& application);
     void nameMaximizeButton();
@@ -77,7 +75,6 @@ private:
     std::unique_ptr<ZelControlCenter> m_controlCenter;
     std::unique_ptr<kqMovableObject> m_movable;
     WindowGeometry* m_geometry;
-    QScrollArea* m_scrollArea;
     /// From top to bottom.
     std::vector<std::unique_ptr<ZelSettingsPanel>> m_panels;
 };
