@@ -86,7 +86,8 @@ void SettingsDrawer::setWidth(int width)
     area()->setFixedWidth(width);
     const QScrollBar* bar = area()->verticalScrollBar();
     // All pages together are usually higher than the drawer: the first ones get their final width at once.
-    const int barWidth = bar->isVisible() || !m_steps.isEmpty() ? bar->sizeHint().width() : 0;
+    // It stays while the drawer is hidden, or all would be laid out again when it closes and opens.
+    const int barWidth = bar->isVisibleTo(area()) || !m_steps.isEmpty() ? bar->sizeHint().width() : 0;
     m_contentLayout->setMinimumWidth(OpenWidth - barWidth);
     area()->widget()->setFixedWidth(std::max(width - barWidth, 0));
 }
