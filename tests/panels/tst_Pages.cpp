@@ -146,7 +146,8 @@ private Q_SLOTS:
 
         auto* const shotsButton = page.find<QPushButton>("screenshotFolderButton");
         QVERIFY(shotsButton->accessibleDescription().startsWith("No folder is set. Where"));
-        QVERIFY(!shotsButton->icon().isNull() && page.find<QPushButton>("databaseButton")->icon().isNull());
+        QVERIFY(!shotsButton->icon().pixmap(16).isNull() &&
+                page.find<QPushButton>("databaseButton")->icon().isNull());
         const QString shots = folder("shots of R&D");
         m_application->manager.cacheSizes.clear();
         m_application->imageFolders.clear();
@@ -160,7 +161,10 @@ private Q_SLOTS:
         QCOMPARE(m_application->imageFolders, QList<QString>({shots, shots}));
         QVERIFY(shotsButton->shortcut().isEmpty() && shotsButton->icon().isNull());
         QVERIFY(shotsButton->accessibleDescription().startsWith(shots + " Where"));
-        page.find("databaseSpinBox")->setFocus();
+
+        General alone(nullptr, settings());
+        alone.type("databaseSpinBox", "99");
+        QVERIFY(!alone.page.applyModifications() && stored(keys::CacheSize) == "99");
     }
 
     void editsAreMergedWithWhatOthersStore()
@@ -169,7 +173,7 @@ private Q_SLOTS:
         page.type("databaseSpinBox", "512");
         store(settings(), {{keys::CacheSize, "700"}, {keys::ScreenshotFolder, "/others"}});
         page.page.takeStored();
-        QCOMPARE(page.find("screenshotFolderButton")->toolTip(), QString("/others"));
+        QCOMPARE(page.find<QPushButton>("screenshotFolderButton")->text(), QString("/others"));
         const auto edits = page.page.pendingEdits();
         QCOMPARE(edits.size(), std::size_t(1));
         QCOMPARE(edits[0].name + ": " + edits[0].stored + ", " + edits[0].shown,
@@ -248,6 +252,9 @@ private Q_SLOTS:
         QCOMPARE(page.changes.count(), 6 + 4 + 1);
         page.page.initializeWidget(); // The focus stays in the choice.
         QVERIFY(page.find("defaultQuality")->hasFocus());
+        page.click("lowQuality");
+        page.page.applyModifications();
+        QCOMPARE(stored(keys::TessellationQualitySet) + stored(keys::MaxFaceSagSet), QString("truefalse"));
     }
 
     void ratiosReachTheSimplifier()

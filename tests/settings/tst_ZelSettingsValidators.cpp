@@ -36,7 +36,7 @@ private Q_SLOTS:
             {&V::ensureTesselationMaxFaceLength,
              {"250.5", "100", "-3",    "0", "0.1234567", "0.123457", "1e-3", "0.001", "nan", no,
               "inf",   "100", "1e-50", no,  "1e50",      no,         "1,5",  no,      "",    no}},
-            {&V::ensureTesselationMaxFaceSag, {"100.01", "100"}},
+            {&V::ensureTesselationMaxFaceSag, {"100.01", "100", "0", "0"}},
             {&V::ensureLODTrianglesCap, {"1", "50000", "500000001", "500000000", "60000", "60000", "-5", no}},
             {&V::ensureMaxGPUMemory, {"1", "134217728", "8489271297", "8489271296", "much", no}},
             {&V::ensureMaxCPUMemoryRaytracer, {"1", "134217728"}},
@@ -76,6 +76,7 @@ private Q_SLOTS:
              "Could not use the 3D database cache, folder \"%1\" could not be created"},
             {&V::ensureFile, "there\\log.txt", "new/log", "there/log.txt", ""},
             {&V::ensureFile, "gone/log", "n\\m/log", "n/m/log", ""},
+            {&V::ensureFile, "", "log", "log", ""},
             {&V::ensureFile, "gone/log", "file/log", "file/log",
              "Could not use the Torvane log file, file \"%1\" could not be created"},
             {&V::ensureTmpFolder, "there\\", "deep/made", "there", ""},
@@ -85,7 +86,7 @@ private Q_SLOTS:
             const QTemporaryDir folder;
             const QString root = folder.path() + "/", expected = root + after;
             QVERIFY(QDir(root).mkdir("there") && QFile(root + "file").open(QIODevice::WriteOnly));
-            QString value = root + before, error;
+            QString value = before.isEmpty() ? before : root + before, error;
             const bool good = validator("key", root + byDefault, value, error);
             QCOMPARE(error, QString(failure).replace("%1", expected));
             QCOMPARE(good, failure.isEmpty());

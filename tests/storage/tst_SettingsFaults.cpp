@@ -433,17 +433,18 @@ private Q_SLOTS:
 
     void changesOfTheSharedSettings()
     {
-        store(m_path, Foreign);
+        store(m_path, Foreign + "[gone]\nkey=1\n");
         const auto settings = ZelSettingsFile::Open(m_path);
         const auto mixed = [&](QSettings& changed, QString&) {
             changed.setValue("own/key", 1);
             settings->setValue("page/key", 2);
+            settings->remove("gone");
             settings->sync(); // As many a page does.
             const int rights = QFile::permissions(QFileInfo(changed.fileName()).path());
             return &ZelSettingsFile::Current(*settings) == &changed && rights == 0x7700;
         };
         QVERIFY(ZelSettingsFile::Write(*settings, mixed, error));
-        QVERIFY(holds({"[own]\nkey=1\n", "[page]\nkey=2\n"}));
+        QVERIFY(holds({"[own]\nkey=1\n", "[page]\nkey=2\n"}) && !contentOf(m_path).contains("[gone]"));
         QCOMPARE(files("*").join(" "), QString("Settings.ini"));
         // Nothing is pending: what another program writes stays.
         const uint time = QFileInfo(m_path).lastModified().toTime_t();
@@ -831,6 +832,10 @@ private Q_SLOTS:
         ZelSettingsRegistry::RegisterSetting("Foreign", "text", &ZelSettingsValidators::noOp);
         store(m_path, Foreign);
         QVERIFY(validate(m_path) && holds());
+        // A default that its validator refuses without a reason.
+        ZelSettingsRegistry::RegisterSetting("bad", "1/2",
+                                             &ZelSettingsValidators::ensureSimplificationRatios);
+        QVERIFY(!validate(m_path) && error.contains("not valid"));
     }
 
     void nothingToWrite()
@@ -930,7 +935,8 @@ private Q_SLOTS:
         QVERIFY(contentOf(m_path).contains("\nsure=true\n"));
         shared->setValue("half", QVariant(true));
         QVERIFY(write(*shared, {}) && contentOf(m_path).contains("\nhalf=true\n"));
-        QVERIFY(!change(m_path, {{"lone surrogate", text.left(1)}}) && error.contains("not all values"));
+        for (const QVariant& lost : {QVariant(QStringList({text.left(1), "b"})), QVariant(QDate(2000, 1, 1))})
+            QVERIFY(!change(m_path, {{"lost", lost}}) && error.contains("not all values"));
         // Under other names, because QSettings remembers what it has read; at last with Qt's own codec.
         for (const bool own : {true, false}) {
             const QString path = m_folder.filePath(own ? "own" : "other");
