@@ -174,6 +174,9 @@ private Q_SLOTS:
         store(settings(), {{keys::CacheSize, "700"}, {keys::ScreenshotFolder, "/others"}});
         page.page.takeStored();
         QCOMPARE(page.find<QPushButton>("screenshotFolderButton")->text(), QString("/others"));
+        store(settings(), {{keys::ScreenshotFolder, ""}});
+        page.page.takeStored();
+        QVERIFY(page.find("screenshotFolderButton")->toolTip().isEmpty());
         const auto edits = page.page.pendingEdits();
         QCOMPARE(edits.size(), std::size_t(1));
         QCOMPARE(edits[0].name + ": " + edits[0].stored + ", " + edits[0].shown,
@@ -192,7 +195,7 @@ private Q_SLOTS:
         page.page.pushStored();
         QCOMPARE(m_application->manager.cacheSizes, QList<unsigned int>({512, 700}));
         QCOMPARE(page.page.pendingEdits().size(), std::size_t(1));
-        edits[0].putBack();
+        page.page.pendingEdits()[0].putBack();
         QVERIFY(page.find<QSpinBox>("databaseSpinBox")->value() == 700 && !page.page.hasModifications());
         store(settings(), {{keys::CacheSize, "512"}}); // By another program: what was not written here.
         page.page.takeStored();
@@ -211,7 +214,12 @@ private Q_SLOTS:
         QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->value(), 800);
         page.type("databaseSpinBox", "600");
         makeAgain(); // Not over a newer edit.
-        QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->value(), 600);
+        for (const char* others : {"900", "300"}) {
+            store(settings(), {{keys::CacheSize, others}});
+            page.page.takeStored();
+            QCOMPARE(page.type("databaseSpinBox", "800"),
+                     QString("800 Mo")); // An edit, though it was stored.
+        }
 
         Import import(nullptr, settings());
         import.click("sag"); // The choice is edited, but not the value.
@@ -221,7 +229,9 @@ private Q_SLOTS:
         QCOMPARE(import.find<QDoubleSpinBox>("faceSagSpin")->value(), 3.0);
         QCOMPARE(import.page.pendingEdits()[0].stored, QString("chosen by Torvane"));
         import.click("lowQuality");
+        import.type("faceSagSpin", "4"); // The limit is one edit.
         QCOMPARE(import.page.pendingEdits()[0].shown, QString("Low Quality"));
+        QCOMPARE(import.page.pendingEdits().size(), std::size_t(2));
     }
 
     void limitsAndQualityWorkTheResetButton()
@@ -309,7 +319,12 @@ private Q_SLOTS:
             for (const int role : {Qt::DisplayRole, Qt::ToolTipRole})
                 QCOMPARE(table->item(cell / 2, cell % 2)->data(role).toString(), texts[cell]);
         QVERIFY(table->isVisible() && table->rowHeight(1) > table->rowHeight(0));
-        QVERIFY(table->viewport()->rect().contains(table->visualItemRect(table->item(1, 1))));
+        QCOMPARE(table->viewport()->height(), table->verticalHeader()->length());
+        const auto* scrolled = page.find<QScrollArea>("scrollArea");
+        for (const int width : {700, 435}) {
+            page.page.resize(width, 2000);
+            QCOMPARE(scrolled->height(), scrolled->widget()->heightForWidth(scrolled->viewport()->width()));
+        }
         page.click("copyButton");
         QStringList report = QApplication::clipboard()->text().split('\n');
         QVERIFY(report.takeAt(1).startsWith(QString("Qt %1, ").arg(qVersion())));
@@ -361,6 +376,8 @@ private Q_SLOTS:
             {"raytracer/coreNumber", "100000", QString::number(QThread::idealThreadCount())},
             {"Resources/LODTrianglesCap", "1", "50000"},
             {"deferred/useED", "yes", "false"},
+            {"deferred/sceneUnits", "7", "1000"},
+            {"Tesselation/TesselationMaxFaceAngle", "90.5", "20"},
             {"deferred/useSSAO", "", "true"},
             {"Simplification/Ratios", "1/0.5", DefaultRatios},
             {"screenshot/ImageFolder", folderName, folderName},

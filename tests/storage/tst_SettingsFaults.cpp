@@ -172,8 +172,11 @@ class tst_SettingsFaults : public QObject
     Q_OBJECT
 
 private:
-    QStringList files(const QString& pattern) const { return m_folder.entryList({pattern}, QDir::Files); }
-    QStringList copies() const { return files("Settings.ini.2*.bak"); }
+    QStringList files(const QString& pattern) const
+    {
+        return m_folder.entryList({pattern}, QDir::Files | QDir::Hidden);
+    }
+    QStringList copies() const { return files("*Settings.ini.2*.bak"); }
 
     /// True when the settings file still has the foreign groups, and has these texts.
     bool holds(const QList<QByteArray>& texts = QList<QByteArray>()) const
@@ -893,7 +896,10 @@ private Q_SLOTS:
     {
         const QString log = m_folder.filePath("log.txt");
         MTLogger::InstallFileHandler(log.toStdString(), false, "");
-        store(m_path + ".my own.bak", "mine");
+        m_path = m_folder.filePath(".Settings.ini"); // Hidden, with hidden copies.
+        const QString other = m_folder.filePath(".Settings.inf.2000-01-01T00-00-00.000Z.bak");
+        for (const QString& name : {m_path + ".my own.bak", other})
+            store(name, "mine");
         store(m_path + ".2999-01-01T00-00-00.000Z.bak", "of a clock that was wrong");
         qputenv("TZ", "UTC-9");
         isSafe = true;
@@ -912,7 +918,7 @@ private Q_SLOTS:
         QCOMPARE(kept, QByteArray("234"));
         QVERIFY(isSafe);
         QVERIFY(contentOf(log).contains("[warning] The settings file \"" + m_path.toUtf8() + '"'));
-        QCOMPARE(contentOf(m_path + ".my own.bak"), QByteArray("mine"));
+        QCOMPARE(contentOf(m_path + ".my own.bak") + contentOf(other), QByteArray("minemine"));
     }
 
     void everyCharacterIsKept()
