@@ -243,6 +243,7 @@ private Q_SLOTS:
             QCOMPARE(selector.useGPURenderer(), before);
             QTest::mouseRelease(child(name), Qt::LeftButton);
             QCOMPARE(selector.useGPURenderer(), gpu);
+            QCOMPARE(isReadAsChecked(child("deferredButton")), gpu);
             QCOMPARE(child(name)->hasFocus(), name != std::string("label_2"));
             child("okButton")->setFocus();
             QCOMPARE(pixel("deferredButton", 1) == ring, gpu);
@@ -260,6 +261,8 @@ private Q_SLOTS:
             QTest::keyClick(engine, key);
             QCOMPARE(selector.useGPURenderer(), !before);
         }
+        pressByReader(child("deferredButton"));
+        QVERIFY(selector.useGPURenderer() && roleOf(child("deferredButton")) == QAccessible::RadioButton);
         for (const auto& [key, gpu] : {std::make_pair(Qt::Key_Right, true),
                                        {Qt::Key_Up, false},
                                        {Qt::Key_Down, true},

@@ -76,7 +76,6 @@ private Q_SLOTS:
              "Could not use the 3D database cache, folder \"%1\" could not be created"},
             {&V::ensureFile, "there\\log.txt", "new/log", "there/log.txt", ""},
             {&V::ensureFile, "gone/log", "n\\m/log", "n/m/log", ""},
-            {&V::ensureFile, "", "log", "log", ""},
             {&V::ensureFile, "gone/log", "file/log", "file/log",
              "Could not use the Torvane log file, file \"%1\" could not be created"},
             {&V::ensureTmpFolder, "there\\", "deep/made", "there", ""},
@@ -86,7 +85,7 @@ private Q_SLOTS:
             const QTemporaryDir folder;
             const QString root = folder.path() + "/", expected = root + after;
             QVERIFY(QDir(root).mkdir("there") && QFile(root + "file").open(QIODevice::WriteOnly));
-            QString value = before.isEmpty() ? before : root + before, error;
+            QString value = root + before, error;
             const bool good = validator("key", root + byDefault, value, error);
             QCOMPARE(error, QString(failure).replace("%1", expected));
             QCOMPARE(good, failure.isEmpty());

@@ -64,8 +64,7 @@ private:
         QCOMPARE(run({"--json", m_file}), 1);
         QCOMPARE(everything(), untouched);
         QCOMPARE(m_json["file"].toString(), m_file);
-        QCOMPARE(m_json["damage"].toString(), damage);
-        QCOMPARE(m_json["damage"].isNull(), damage.isEmpty());
+        QVERIFY(m_json["damage"].toString() == damage && m_json["damage"].isNull() == damage.isEmpty());
         QCOMPARE(m_json["freshStart"].toBool(), fresh);
         const QVariantList changes = m_json["changes"].toList();
         QVariantMap change;
