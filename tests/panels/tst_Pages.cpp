@@ -270,6 +270,9 @@ private Q_SLOTS:
         page.click("lowQuality");
         page.page.applyModifications();
         QCOMPARE(stored(keys::TessellationQualitySet) + stored(keys::MaxFaceSagSet), QString("truefalse"));
+        page.click("defaultQuality");
+        page.page.applyModifications();
+        QCOMPARE(stored(keys::TessellationHighQuality), QString("true"));
     }
 
     void ratiosReachTheSimplifier()
