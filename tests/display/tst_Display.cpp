@@ -102,12 +102,27 @@ private Q_SLOTS:
         QCOMPARE(empty.getSettings().allKeys().size(), Plain.size());
     }
 
+    void sceneUnits()
+    {
+        Viewer viewer({{"deferred/sceneUnits", "nan"}});
+        DisplayPage display(viewer);
+        auto* units = display.find<QComboBox>("sceneUnitComboBox");
+        QString texts = units->currentText();
+        for (int unit = units->count() - 1; unit >= 0; --unit) {
+            units->setCurrentIndex(unit);
+            display.page.applyModifications();
+            texts += ' ' + viewer.getSettings().value("deferred/sceneUnits").toString();
+        }
+        QCOMPARE(texts, QString("Meter (m) 1000 100 10 1 0.1 0.01 0.001"));
+    }
+
     void restarts()
     {
-        // The engine at the start, the stored one, and steps: an engine, or a slider and its position; "!"
-        // needs a restart.
+        // The engine at the start, the stored one, and steps: an engine, or a slider, its position and a box;
+        // "!" needs a restart.
         const QString rows[][3] = {
-            {"deferred", "deferred", "raytracer!,cores 1!,quality 3!,cores 0,deferred,raytracer!"},
+            {"deferred", "deferred",
+             "raytracer!,cores 1!,quality 3!,cores 0,deferred,cores 2 FXAA,raytracer!"},
             {"deferred", "software", "deferred"}, // Back to the running renderer.
             {"software", "software",
              "cores 1!,cores 0,cores 2!,quality 2!,cores 1!,quality 1,cores 0,quality 0!"},
@@ -123,6 +138,8 @@ private Q_SLOTS:
                     display.slide(words[0] == "cores" ? "coreUsedSlider" : "qualitySlider", words[1].toInt());
                 else
                     display.click(words[0] + "Button");
+                if (words.size() > 2)
+                    display.click("deferred" + words[2] + "CheckBox");
                 QVERIFY2(display.page.hasModifications(), qPrintable(step));
                 QVERIFY2(display.page.applyModifications() == step.endsWith('!'), qPrintable(step));
             }
@@ -184,15 +201,18 @@ private Q_SLOTS:
         for (const auto& [steps, interval] : {std::make_pair(3, 1), {75, 1}, {120, 2}, {1200, 16}}) {
             display.find<QSlider>("qualitySlider")->setMaximum(steps);
             const QImage image = pictureOf(display.find("qualitySlider"));
-            QMap<int, int> marks; // How many have each length; 0 where there is none.
+            QMap<int, QList<int>> marks; // The places of each length; 0 where there is none.
             for (int x = 1; x < image.width() - 1; ++x) {
                 int length = 0;
                 for (int y = image.height() - 6; y < image.height(); ++y)
                     length += image.pixel(x, y) == QColor(Qt::white).rgb();
-                ++marks[length];
+                marks[length] << x;
             }
             QVERIFY(marks.size() == 2 && marks.keys().last() > 1);
-            QCOMPARE(marks.values().last(), steps / interval + 1);
+            const QList<int> places = marks.values().last();
+            QCOMPARE(places.size(), steps / interval + 1);
+            QVERIFY(qAbs(places.first() + places.last() + 1 - image.width()) <
+                    3); // Below the handle's centre.
         }
     }
 
@@ -204,6 +224,8 @@ private Q_SLOTS:
         selector.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&selector));
         QCOMPARE(selector.focusWidget(), child("okButton"));
+        QVERIFY(selector.windowFlags() & Qt::FramelessWindowHint &&
+                selector.testAttribute(Qt::WA_TranslucentBackground));
         QCOMPARE(child("raytracerButton")->accessibleName(), QString("Low (Run everywhere)"));
         QVERIFY(!child("label")->property("pixmap").value<QPixmap>().isNull());
         selector.move(0, 0);
@@ -221,6 +243,7 @@ private Q_SLOTS:
             QCOMPARE(selector.useGPURenderer(), before);
             QTest::mouseRelease(child(name), Qt::LeftButton);
             QCOMPARE(selector.useGPURenderer(), gpu);
+            QCOMPARE(isReadAsChecked(child("deferredButton")), gpu);
             QCOMPARE(child(name)->hasFocus(), name != std::string("label_2"));
             child("okButton")->setFocus();
             QCOMPARE(pixel("deferredButton", 1) == ring, gpu);
@@ -238,6 +261,8 @@ private Q_SLOTS:
             QTest::keyClick(engine, key);
             QCOMPARE(selector.useGPURenderer(), !before);
         }
+        pressByReader(child("deferredButton"));
+        QVERIFY(selector.useGPURenderer() && roleOf(child("deferredButton")) == QAccessible::RadioButton);
         for (const auto& [key, gpu] : {std::make_pair(Qt::Key_Right, true),
                                        {Qt::Key_Up, false},
                                        {Qt::Key_Down, true},

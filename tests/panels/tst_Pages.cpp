@@ -146,7 +146,8 @@ private Q_SLOTS:
 
         auto* const shotsButton = page.find<QPushButton>("screenshotFolderButton");
         QVERIFY(shotsButton->accessibleDescription().startsWith("No folder is set. Where"));
-        QVERIFY(!shotsButton->icon().isNull() && page.find<QPushButton>("databaseButton")->icon().isNull());
+        QVERIFY(!shotsButton->icon().pixmap(16).isNull() &&
+                page.find<QPushButton>("databaseButton")->icon().isNull());
         const QString shots = folder("shots of R&D");
         m_application->manager.cacheSizes.clear();
         m_application->imageFolders.clear();
@@ -160,7 +161,10 @@ private Q_SLOTS:
         QCOMPARE(m_application->imageFolders, QList<QString>({shots, shots}));
         QVERIFY(shotsButton->shortcut().isEmpty() && shotsButton->icon().isNull());
         QVERIFY(shotsButton->accessibleDescription().startsWith(shots + " Where"));
-        page.find("databaseSpinBox")->setFocus();
+
+        General alone(nullptr, settings());
+        alone.type("databaseSpinBox", "99");
+        QVERIFY(!alone.page.applyModifications() && stored(keys::CacheSize) == "99");
     }
 
     void editsAreMergedWithWhatOthersStore()
@@ -169,7 +173,10 @@ private Q_SLOTS:
         page.type("databaseSpinBox", "512");
         store(settings(), {{keys::CacheSize, "700"}, {keys::ScreenshotFolder, "/others"}});
         page.page.takeStored();
-        QCOMPARE(page.find("screenshotFolderButton")->toolTip(), QString("/others"));
+        QCOMPARE(page.find<QPushButton>("screenshotFolderButton")->text(), QString("/others"));
+        store(settings(), {{keys::ScreenshotFolder, ""}});
+        page.page.takeStored();
+        QVERIFY(page.find("screenshotFolderButton")->toolTip().isEmpty());
         const auto edits = page.page.pendingEdits();
         QCOMPARE(edits.size(), std::size_t(1));
         QCOMPARE(edits[0].name + ": " + edits[0].stored + ", " + edits[0].shown,
@@ -179,7 +186,9 @@ private Q_SLOTS:
         const auto makeAgain = page.page.discardEdits();
         QVERIFY(!page.page.hasModifications() && page.page.pendingEdits().empty() &&
                 !page.page.discardEdits());
+        page.changes.clear();
         makeAgain();
+        QCOMPARE(page.changes.count(), 1);
         store(settings(), {{keys::ScreenshotFolder, "/newer"}});
         page.page.applyModifications();
         QCOMPARE(stored(keys::CacheSize) + stored(keys::ScreenshotFolder), QString("512/newer"));
@@ -188,7 +197,7 @@ private Q_SLOTS:
         page.page.pushStored();
         QCOMPARE(m_application->manager.cacheSizes, QList<unsigned int>({512, 700}));
         QCOMPARE(page.page.pendingEdits().size(), std::size_t(1));
-        edits[0].putBack();
+        page.page.pendingEdits()[0].putBack();
         QVERIFY(page.find<QSpinBox>("databaseSpinBox")->value() == 700 && !page.page.hasModifications());
         store(settings(), {{keys::CacheSize, "512"}}); // By another program: what was not written here.
         page.page.takeStored();
@@ -197,6 +206,7 @@ private Q_SLOTS:
         store(settings(), {{keys::CacheSize, "5"}}); // Which the field cannot show.
         page.page.initializeWidget();
         QCOMPARE(page.page.pendingEdits()[0].stored + page.page.pendingEdits()[0].shown, QString("510 Mo"));
+        QVERIFY(!page.page.pendingEdits()[0].putBack); // Nor is it an edit.
 
         // After a write that succeeded the edit is no longer one.
         page.type("databaseSpinBox", "640");
@@ -207,7 +217,12 @@ private Q_SLOTS:
         QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->value(), 800);
         page.type("databaseSpinBox", "600");
         makeAgain(); // Not over a newer edit.
-        QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->value(), 600);
+        store(settings(), {{keys::CacheSize, "900"}});
+        page.page.takeStored();
+        page.type("databaseSpinBox", "800"); // What was stored before is an edit now.
+        store(settings(), {{keys::CacheSize, "300"}});
+        page.page.takeStored();
+        QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->value(), 800);
 
         Import import(nullptr, settings());
         import.click("sag"); // The choice is edited, but not the value.
@@ -217,7 +232,11 @@ private Q_SLOTS:
         QCOMPARE(import.find<QDoubleSpinBox>("faceSagSpin")->value(), 3.0);
         QCOMPARE(import.page.pendingEdits()[0].stored, QString("chosen by Torvane"));
         import.click("lowQuality");
+        import.type("faceSagSpin", "4"); // The limit is one edit.
+        import.type("faceAngleSpin", "30");
+        QCOMPARE(import.page.pendingEdits().back().field, import.find("faceAngleSpin"));
         QCOMPARE(import.page.pendingEdits()[0].shown, QString("Low Quality"));
+        QCOMPARE(import.page.pendingEdits().size(), std::size_t(3));
     }
 
     void limitsAndQualityWorkTheResetButton()
@@ -248,6 +267,12 @@ private Q_SLOTS:
         QCOMPARE(page.changes.count(), 6 + 4 + 1);
         page.page.initializeWidget(); // The focus stays in the choice.
         QVERIFY(page.find("defaultQuality")->hasFocus());
+        page.click("lowQuality");
+        page.page.applyModifications();
+        QCOMPARE(stored(keys::TessellationQualitySet) + stored(keys::MaxFaceSagSet), QString("truefalse"));
+        page.click("defaultQuality");
+        page.page.applyModifications();
+        QCOMPARE(stored(keys::TessellationHighQuality), QString("true"));
     }
 
     void ratiosReachTheSimplifier()
@@ -302,7 +327,10 @@ private Q_SLOTS:
             for (const int role : {Qt::DisplayRole, Qt::ToolTipRole})
                 QCOMPARE(table->item(cell / 2, cell % 2)->data(role).toString(), texts[cell]);
         QVERIFY(table->isVisible() && table->rowHeight(1) > table->rowHeight(0));
-        QVERIFY(table->viewport()->rect().contains(table->visualItemRect(table->item(1, 1))));
+        QCOMPARE(table->viewport()->height(), table->verticalHeader()->length());
+        page.page.resize(700, 2000);
+        const auto* area = page.find<QScrollArea>("scrollArea");
+        QCOMPARE(area->height(), area->widget()->heightForWidth(area->viewport()->width()));
         page.click("copyButton");
         QStringList report = QApplication::clipboard()->text().split('\n');
         QVERIFY(report.takeAt(1).startsWith(QString("Qt %1, ").arg(qVersion())));
@@ -354,6 +382,8 @@ private Q_SLOTS:
             {"raytracer/coreNumber", "100000", QString::number(QThread::idealThreadCount())},
             {"Resources/LODTrianglesCap", "1", "50000"},
             {"deferred/useED", "yes", "false"},
+            {"deferred/sceneUnits", "7", "1000"},
+            {"Tesselation/TesselationMaxFaceAngle", "90.5", "20"},
             {"deferred/useSSAO", "", "true"},
             {"Simplification/Ratios", "1/0.5", DefaultRatios},
             {"screenshot/ImageFolder", folderName, folderName},

@@ -36,7 +36,7 @@ private Q_SLOTS:
             {&V::ensureTesselationMaxFaceLength,
              {"250.5", "100", "-3",    "0", "0.1234567", "0.123457", "1e-3", "0.001", "nan", no,
               "inf",   "100", "1e-50", no,  "1e50",      no,         "1,5",  no,      "",    no}},
-            {&V::ensureTesselationMaxFaceSag, {"100.01", "100"}},
+            {&V::ensureTesselationMaxFaceSag, {"100.01", "100", "0", "0"}},
             {&V::ensureLODTrianglesCap, {"1", "50000", "500000001", "500000000", "60000", "60000", "-5", no}},
             {&V::ensureMaxGPUMemory, {"1", "134217728", "8489271297", "8489271296", "much", no}},
             {&V::ensureMaxCPUMemoryRaytracer, {"1", "134217728"}},

@@ -58,12 +58,13 @@ private:
         QCOMPARE(run({m_file}), 1);
         QCOMPARE(m_output.count("fresh start: its version is too old"), int(fresh));
         QVERIFY2(!m_output.contains('\x1b') && !m_output.contains("\342\200"), m_output);
-        QVERIFY2(m_output.contains("needs repair"), m_output);
+        QVERIFY2(m_output.startsWith('"' + m_file.toUtf8() + "\": needs repair\n"), m_output);
+        QVERIFY2(m_output.contains(", for the old value ") == !oldText.isNull(), m_output);
         QCOMPARE(bool(m_output.contains("\n  damaged: " + damage.toUtf8() + '\n')), !damage.isEmpty());
         QCOMPARE(run({"--json", m_file}), 1);
         QCOMPARE(everything(), untouched);
         QCOMPARE(m_json["file"].toString(), m_file);
-        QCOMPARE(m_json["damage"].toString(), damage);
+        QVERIFY(m_json["damage"].toString() == damage && m_json["damage"].isNull() == damage.isEmpty());
         QCOMPARE(m_json["freshStart"].toBool(), fresh);
         const QVariantList changes = m_json["changes"].toList();
         QVariantMap change;
@@ -122,8 +123,8 @@ private Q_SLOTS:
             {"settingsVersion=1\nengine=a, b\n", "a, b", {"engine", "deferred", "list"}},
             {"settingsVersion=1\nengine=software\n", "software", {"engine", "deferred", "older version"}},
             {"[Logging]\nlogFile=%1/cache/log.txt\n", {}, {"engine", "deferred", "missing"}}, // It stays.
-            {"[General]\nenablediag=\"a\\\"\\n\\x1b[31m\\x2028\\x202e\\xd83d\"\n",
-             QString("a\"\n\x1b[31m") + QChar(0x2028) + QChar(0x202e) + QChar(0xd83d),
+            {"[General]\nenablediag=\"a\\\"\\n\\x1b[31m\\x2028\\x2029\\x202e\\xd83d\"\n",
+             QString("a\"\n\x1b[31m") + QChar(0x2028) + QChar(0x2029) + QChar(0x202e) + QChar(0xd83d),
              {"enablediag", "false", "true nor", "line 2 cannot be read"}},
             {"[DBCache]\ncacheDirectory=/gone\n",
              "/gone",
@@ -187,10 +188,13 @@ private Q_SLOTS:
         QVERIFY2(m_output.contains("\n  a copy of the former file is kept as \""), m_output);
         QVERIFY(QDir().mkdir(m_file + ".lock"));
         QCOMPARE(run({m_file}), 0); // It need not be written.
-        QVERIFY(QDir().rmdir(m_file + ".lock"));
+        QVERIFY(QDir().rmdir(m_file + ".lock") && QDir().rename(m_root + "/cache", m_root + "/away"));
+        QCOMPARE(run({m_file}), 1); // Only a folder is missing.
+        QVERIFY(QDir().rename(m_root + "/away", m_root + "/cache"));
         const QByteArray before = "[DBCache]\ncacheDirectory=/gone\n";
         store(m_file, before);
-        m_config = QString(300, 'a'); // Too long to be created.
+        QVERIFY(run({m_file}) == 1 && !m_output.contains("missing folder")); // That of the default is there.
+        m_config = QString(300, 'a');                                        // Too long to be created.
         QCOMPARE(run({"--repair", m_file}), 2);
         m_config = "config";
         QCOMPARE(contentOf(m_file), before);

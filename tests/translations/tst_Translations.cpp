@@ -1,5 +1,4 @@
 #include "ShownPage.h"
-#include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
 #include "ZelPageDefaults.h"
 #include "ZelRendererSelector.h"
