@@ -99,11 +99,11 @@ private Q_SLOTS:
             m_controlCenter->openMenu(open);
             QVERIFY(external.isChecked() == open && m_controlCenter->isMenuOpen() != open);
             QVERIFY(!m_application->engineUpdates.contains(true));
-            QPropertyAnimation* slide = pausedHalfWay("controlCenterWidth");
+            QPropertyAnimation* slide = halfWay("controlCenterWidth");
             QVERIFY(m_controlCenter->width() % 250 > 0);
             QCOMPARE(slide->easingCurve().type(), open ? QEasingCurve::OutQuad : QEasingCurve::InQuad);
-            QCOMPARE(slide->duration(), 350);
-            slide->resume();
+            for (const auto* each : m_controlCenter->findChildren<QPropertyAnimation*>())
+                QCOMPARE(each->duration(), 350);
             QTRY_COMPARE(m_controlCenter->isMenuOpen(), open);
             QCOMPARE(m_controlCenter->isVisible() ? m_controlCenter->width() : 0, open ? 250 : 0);
             QCOMPARE(m_application->engineUpdates.count(true), 1);
@@ -114,18 +114,25 @@ private Q_SLOTS:
     void drawerSlides()
     {
         addPages(2);
+        auto* text = new QLabel(QString("A long text wraps. ").repeated(40));
+        text->setWordWrap(true);
+        (new QVBoxLayout(m_pages[0].get()))->addWidget(text);
         m_controlCenter->openMenu(true);
         QTRY_VERIFY(m_controlCenter->isMenuOpen());
         m_calls.clear();
         QTest::mouseClick(button("actionButton"), Qt::LeftButton);
         QCOMPARE(m_calls, QStringList({"P0 initialize", "P1 initialize"}));
-        // The drawer uncovers pages that have their final width from the start.
-        QPropertyAnimation* slide = pausedHalfWay("settingsWidth");
-        QTRY_VERIFY(m_controlCenter->settingsWidth() > 50 && m_controlCenter->settingsWidth() < 400);
-        const int pageWidth = m_pages.front()->width();
-        slide->resume();
+        // The drawer uncovers pages that have their final size from the start.
+        QPropertyAnimation* slide = halfWay("settingsWidth");
+        QCOMPARE(slide->easingCurve().type(), QEasingCurve::OutQuad);
+        QVERIFY(m_controlCenter->settingsWidth() > 50 && m_controlCenter->settingsWidth() < 400);
+        for (int frame = 0; frame < 5; ++frame)
+            slide->setCurrentTime(slide->currentTime() + 16);
+        const QRect place = m_pages[0]->geometry();
+        QVERIFY(m_pages[0]->isVisible() && m_pages[0]->getActionWidget()->isChecked());
         QTRY_VERIFY(m_controlCenter->isSettingsOpen());
-        QCOMPARE(pageWidth, m_pages.front()->width());
+        QCOMPARE(place, m_pages[0]->geometry());
+        QCOMPARE(m_pages[0]->visibleRegion().boundingRect().width(), place.width()); // Nothing is clipped.
         QVERIFY(m_controlCenter->isMenuOpen() && showsActions(false)); // "Settings" does not close the menu.
         QTRY_COMPARE(m_window->findChild<QWidget*>("settingsContent")->width(), 450 - scrollBar()->width());
 
@@ -157,10 +164,12 @@ private Q_SLOTS:
             for (const bool byButton : {true, false}) {
                 container.show();
                 openEverything();
-                m_controlCenter->setControlCenterVisible(true); // It is already.
+                m_controlCenter->openMenu(true); // It is already, and hides the list of pages.
+                QVERIFY(!m_controlCenter->findChild<QFrame*>("preferenceFrame")->isVisible());
+                m_controlCenter->setControlCenterVisible(true);
                 hidden ? container.hide() : m_controlCenter->setSettingsWidth(0);
                 byButton ? m_controlCenter->openSettings() : m_controlCenter->setControlCenterVisible(false);
-                QCOMPARE(m_application->engineUpdates, QList<bool>({false, true, false, true}));
+                QCOMPARE(m_application->engineUpdates, QList<bool>({false, true, false, true, false, true}));
                 QVERIFY(!m_controlCenter->isSettingsOpen() && showsActions(true));
             }
         m_controlCenter->settingsWidget()->setParent(nullptr);
@@ -237,9 +246,11 @@ private Q_SLOTS:
     void mayBeDeletedAtAnyTime_data()
     {
         QTest::addColumn<QString>("when");
-        for (const QString when : {"closing the menu", "clicking outside", "telling of a restart", "sliding"})
+        for (const QString when : {"closing the menu", "clicking outside", "telling of a restart"})
             for (const char* answer : {", Ok", ", Escape"})
                 QTest::newRow(qPrintable(when + answer)) << when + answer;
+        for (const char* when : {"sliding", "loading the pages"}) // Nothing is asked.
+            QTest::newRow(when) << when;
     }
 
     void mayBeDeletedAtAnyTime()
@@ -263,9 +274,14 @@ private Q_SLOTS:
         } else {
             m_controlCenter->setControlCenterVisible(false);
             QCOMPARE(m_application->engineUpdates, QList<bool>{false});
+            if (when.startsWith("loading")) {
+                QTRY_VERIFY(!m_controlCenter->isSettingsOpen());
+                m_pages[0]->whenAsked = answer.beforeAnswer;
+                m_controlCenter->setControlCenterVisible(true);
+            }
             m_controlCenter.reset();
         }
-        QVERIFY(!m_controlCenter && answer.texts.size() == (when.startsWith("sliding") ? 0 : 1));
+        QVERIFY(!m_controlCenter && answer.texts.size() == when.count(","));
         QVERIFY(m_application->engineUpdates.isEmpty() || m_application->engineUpdates.last());
     }
 
@@ -363,9 +379,16 @@ private Q_SLOTS:
         addPages(1);
         m_application->guiPlugin = &m_guiPlugin;
         for (const int answerAfter : {0, 200}) { // During the slide, and when it is over.
-            openEverything();
+            m_controlCenter->openMenu(true);
+            QTRY_VERIFY(m_controlCenter->isMenuOpen());
             m_pages[0]->edit();
             BoxAnswer answer({Qt::Key_Return}); // What is not destructive is the default.
+            m_controlCenter->openMenu(false);   // A closed drawer stays so.
+            QVERIFY(m_application->engineUpdates.last() && m_controlCenter->isMenuOpen());
+            QVERIFY(answer.texts.size() == 1 && showsActions(true));
+            openEverything();
+            QCOMPARE(m_pages[0]->width(), 450); // No scroll bar is needed.
+            m_pages[0]->edit();
             answer.setInterval(answerAfter);
             m_controlCenter->openMenu(false);
             QTRY_VERIFY(m_controlCenter->isSettingsOpen());
@@ -373,27 +396,28 @@ private Q_SLOTS:
             m_controlCenter->openSettings();
             QTRY_VERIFY(!m_controlCenter->isSettingsOpen() && m_application->engineUpdates.last());
         }
-        m_pages[0]->edit();
-        m_application->engineUpdates.clear();
-        BoxAnswer answer({Qt::Key_Escape});
-        m_controlCenter->openMenu(false); // With the drawer closed, it stays so.
-        QCOMPARE(answer.texts.size(), 1);
-        QVERIFY(m_application->engineUpdates.last() && m_controlCenter->isMenuOpen());
-        QVERIFY(!m_controlCenter->isSettingsOpen() && showsActions(true));
     }
 
     void pageButtonsAndScrollingKeepInStep()
     {
         addPages(4);
-        for (const auto& page : m_pages)
-            (new QPushButton(page.get()))->show();
+        for (const auto& page : m_pages) {
+            auto* button = new QPushButton(page.get());
+            button->setCheckable(true);
+            button->show();
+        }
+        m_controlCenter->openMenu(true);
+        m_controlCenter->setControlCenterVisible(true);
+        m_pages[1]->getActionWidget()->click(); // While the drawer slides open.
+        QTRY_VERIFY(scrollBar()->value() > 0 && scrollBar()->value() == m_pages[1]->y());
         openEverything();
         for (const int page : {2, 3}) { // The last page cannot reach the top.
             QTest::mouseClick(m_pages[page]->getActionWidget(), Qt::LeftButton);
             QTRY_COMPARE(scrollBar()->value(), qMin(m_pages[page]->y(), scrollBar()->maximum()));
             QVERIFY(m_pages[page]->getActionWidget()->isChecked());
             press(Qt::Key_Tab);
-            QVERIFY(m_pages[page]->isAncestorOf(QApplication::focusWidget()));
+            press(Qt::Key_Return);
+            QVERIFY(m_pages[page]->findChild<QPushButton*>()->isChecked());
         }
         QVERIFY(m_pages[3]->y() > scrollBar()->maximum());
         scrollBar()->setValue(m_pages[1]->y() + 5);
@@ -447,7 +471,8 @@ private Q_SLOTS:
         inView.resize(m_view->size());
         inView.show();
         for (const QString press : {"later in a foreign window", "at once", "later after a resize", "later",
-                                    "later", "later without edits"}) {
+                                    "later", "later without edits", "later on the closed menu"}) {
+            m_application->engineUpdates.clear();
             m_controlCenter->setGUIHandler(press.contains("foreign") ? &foreign : m_window.get());
             QTest::qWait(press.startsWith("later") ? GuardTime : 0);
             if (press.contains("resize"))
@@ -459,7 +484,7 @@ private Q_SLOTS:
                               inView.mapTo(m_window.get(), QPoint(10, 10)));
             QCOMPARE(answer.texts.size(), press == "later" ? 1 : 0);
             // Whatever closes stops the engine first.
-            QCOMPARE(m_application->engineUpdates.isEmpty(), m_pages[0]->modified);
+            QCOMPARE(m_application->engineUpdates.contains(false), !m_pages[0]->modified);
         }
         QTRY_VERIFY(!m_controlCenter->isMenuOpen() && !m_controlCenter->isSettingsOpen());
     }
@@ -486,7 +511,7 @@ private Q_SLOTS:
         QTest::keyClicks(&box, "55");
         m_controlCenter->findChild<QAction*>("apply")->trigger();
         press(Qt::Key_Escape); // What is applied is not what is typed.
-        QCOMPARE(box.value(), 55);
+        QVERIFY(box.value() == 55 && box.findChild<QLineEdit*>()->selectedText().isEmpty());
         zel::zelSpinBox last(m_pages[2].get());
         last.show();
         QWidget* const pageButton = m_pages[0]->getActionWidget();
@@ -506,7 +531,7 @@ private Q_SLOTS:
                                          {Qt::Key_PageUp, bottom - page},
                                          {Qt::Key_Home, 0},
                                          {Qt::Key_PageDown, page}}) {
-            press(key);
+            press(key, place ? Qt::KeypadModifier : Qt::NoModifier);
             QCOMPARE(scrollBar()->value(), qBound(0, place, bottom));
         }
         // A button that has been pressed hands the focus on to the page in view.
@@ -533,6 +558,7 @@ private Q_SLOTS:
         const auto* apply = m_controlCenter->findChild<QAction*>("apply");
         QVERIFY(!apply->isEnabled() && apply->toolTip() == "Applies your changes");
         QSignalSpy help(m_controlCenter.get(), SIGNAL(helpRequested(QWidget*)));
+        QSignalSpy typed(&box, SIGNAL(editingFinished()));
         QDialog other(m_window.get(), Qt::Tool);
         QLineEdit field(&other);
         m_view->setFocusPolicy(Qt::StrongFocus);
@@ -543,9 +569,11 @@ private Q_SLOTS:
             widget->window()->show();
             QApplication::setActiveWindow(widget->window());
             widget->setFocus();
-            for (key = Qt::Key_1; key <= Qt::Key_3; ++key)
-                press(static_cast<Qt::Key>(key), Qt::ControlModifier);
+            QTest::keyClicks(widget, "5");
+            for (const Qt::Key each : {Qt::Key_3, Qt::Key_1, Qt::Key_2})
+                press(each, Qt::ControlModifier);
         }
+        QCOMPARE(typed.count(), 1); // Only Apply ends what is being typed.
         QCOMPARE(m_calls.join(","), QString("P0 apply,P0 reset"));
         QCOMPARE(help.value(0).value(0).value<QWidget*>(), &box);
         QVERIFY(box.hasFocus());
@@ -681,12 +709,11 @@ private:
         }
     }
 
-    QPropertyAnimation* pausedHalfWay(const char* property) const
+    QPropertyAnimation* halfWay(const char* property) const
     {
         QPropertyAnimation* found = nullptr;
         for (QPropertyAnimation* slide : m_controlCenter->findChildren<QPropertyAnimation*>())
             found = slide->propertyName() == property ? slide : found;
-        found->pause();
         found->setCurrentTime(found->duration() / 2);
         return found;
     }
