@@ -119,6 +119,7 @@ private Q_SLOTS:
         (new QVBoxLayout(m_pages[0].get()))->addWidget(text);
         m_controlCenter->openMenu(true);
         QTRY_VERIFY(m_controlCenter->isMenuOpen());
+        QVERIFY(button("actionButton")->mapTo(m_window.get(), QPoint()).y() < 60); // At the top.
         m_calls.clear();
         QTest::mouseClick(button("actionButton"), Qt::LeftButton);
         QCOMPARE(m_calls, QStringList({"P0 initialize", "P1 initialize"}));
@@ -171,6 +172,7 @@ private Q_SLOTS:
                 byButton ? m_controlCenter->openSettings() : m_controlCenter->setControlCenterVisible(false);
                 QCOMPARE(m_application->engineUpdates, QList<bool>({false, true, false, true, false, true}));
                 QVERIFY(!m_controlCenter->isSettingsOpen() && showsActions(true));
+                QCOMPARE(button("controlCenterButton")->isChecked(), !byButton);
             }
         m_controlCenter->settingsWidget()->setParent(nullptr);
     }
@@ -345,14 +347,14 @@ private Q_SLOTS:
     void openPagesFollowTheFile()
     {
         const FoldersPage page(*m_controlCenter, *m_application);
-        openEverything();
+        m_controlCenter->setControlCenterVisible(true);
         const auto write = [this](int value) {
             const auto other = zel::ZelSettingsFile::Open(m_application->getSettings().fileName());
             other->setValue("DBCache/cacheSize", value);
             other->setValue("other/key", value);
             other->sync();
         };
-        write(1234);
+        write(1234); // While the drawer opens.
         QTRY_COMPARE(page.size->value(), 1234);
         page.size->setValue(77);
         write(2345); // An edit stays.
@@ -402,6 +404,7 @@ private Q_SLOTS:
     {
         addPages(4);
         for (const auto& page : m_pages) {
+            (new QSpinBox(page.get()))->hide();
             auto* button = new QPushButton(page.get());
             button->setCheckable(true);
             button->show();
@@ -419,6 +422,9 @@ private Q_SLOTS:
             press(Qt::Key_Return);
             QVERIFY(m_pages[page]->findChild<QPushButton*>()->isChecked());
         }
+        m_pages[3]->getActionWidget()->setFocus(); // Without a click.
+        press(Qt::Key_Tab);
+        QVERIFY(!m_pages[3]->isAncestorOf(QApplication::focusWidget()));
         QVERIFY(m_pages[3]->y() > scrollBar()->maximum());
         scrollBar()->setValue(m_pages[1]->y() + 5);
         QVERIFY(m_pages[1]->getActionWidget()->isChecked() && !m_pages[3]->getActionWidget()->isChecked());
@@ -456,6 +462,7 @@ private Q_SLOTS:
     {
         addPages(1);
         m_application->guiPlugin = &m_guiPlugin;
+        m_window->move(1500, 0);
         openEverything();
         QDialog dialog(m_window.get()); // A press in it answers it.
         dialog.setModal(true);
@@ -474,7 +481,7 @@ private Q_SLOTS:
                                     "later", "later without edits", "later on the closed menu"}) {
             m_application->engineUpdates.clear();
             m_controlCenter->setGUIHandler(press.contains("foreign") ? &foreign : m_window.get());
-            QTest::qWait(press.startsWith("later") ? GuardTime : 0);
+            QTest::qWait(press.startsWith("later") ? GuardTime : 100);
             if (press.contains("resize"))
                 m_view->resize(m_view->size() - QSize(0, 1));
             m_pages[0]->modified = !press.contains("without");
@@ -526,6 +533,7 @@ private Q_SLOTS:
         }
         pageButton->setFocus();
         QVERIFY(!putBack->isEnabled());
+        QCOMPARE(button("resetButton")->nextInFocusChain(), button("applyButton"));
         const int bottom = scrollBar()->maximum(), page = scrollBar()->pageStep();
         for (const auto& [key, place] : {std::make_pair(Qt::Key_End, bottom),
                                          {Qt::Key_PageUp, bottom - page},
@@ -561,6 +569,7 @@ private Q_SLOTS:
         QSignalSpy typed(&box, SIGNAL(editingFinished()));
         QDialog other(m_window.get(), Qt::Tool);
         QLineEdit field(&other);
+        QCheckBox check(&other);
         m_view->setFocusPolicy(Qt::StrongFocus);
         m_pages[0]->edit();
         // They do not work in its other widgets and windows.
@@ -573,6 +582,8 @@ private Q_SLOTS:
             for (const Qt::Key each : {Qt::Key_3, Qt::Key_1, Qt::Key_2})
                 press(each, Qt::ControlModifier);
         }
+        QTest::keyClick(&check, Qt::Key_Return); // Is the other window's.
+        QVERIFY(!check.isChecked());
         QCOMPARE(typed.count(), 1); // Only Apply ends what is being typed.
         QCOMPARE(m_calls.join(","), QString("P0 apply,P0 reset"));
         QCOMPARE(help.value(0).value(0).value<QWidget*>(), &box);
