@@ -30,21 +30,6 @@ struct NoticeCounter : QObject
     int count = 0;
 };
 
-/// A page of the product, registered while it lives.
-struct FoldersPage : zel::ZelGeneralSettingsPanel
-{
-    FoldersPage(ZelControlCenter& owner, FakeApplication& application)
-        : ZelGeneralSettingsPanel(&application, application.getSettings(), nullptr, Qt::WindowFlags())
-        , controlCenter(owner)
-    {
-        controlCenter.registerSettingsPanel(this);
-    }
-    ~FoldersPage() override { controlCenter.unregisterSettingsPanel(this, true); }
-
-    ZelControlCenter& controlCenter;
-    QSpinBox* const size = findChild<QSpinBox*>("databaseSpinBox");
-};
-
 /// A window with a view and a control center, as a viewer has them.
 class tst_ZelControlCenter : public QObject
 {
@@ -85,6 +70,7 @@ private Q_SLOTS:
     {
         m_controlCenter.reset(); // Leaves registered pages to their owner.
         m_pages.clear();
+        m_folders.reset();
         m_window.reset();
     }
 
@@ -114,9 +100,6 @@ private Q_SLOTS:
     void drawerSlides()
     {
         addPages(2);
-        auto* text = new QLabel(QString("A long text wraps. ").repeated(40));
-        text->setWordWrap(true);
-        (new QVBoxLayout(m_pages[0].get()))->addWidget(text);
         m_controlCenter->openMenu(true);
         QTRY_VERIFY(m_controlCenter->isMenuOpen());
         QVERIFY(button("actionButton")->mapTo(m_window.get(), QPoint()).y() < 60); // At the top.
@@ -183,8 +166,7 @@ private Q_SLOTS:
         const QString file = settings.fileName(), folder = QFileInfo(file).path(), aside = folder + ".aside";
         settings.setValue("DBCache/cacheSize", 1000);
         settings.sync();
-        const FoldersPage page(*m_controlCenter, *m_application);
-        auto* size = page.size;
+        auto* size = addFoldersPage();
         auto* error = m_controlCenter->findChild<QLabel*>("writeErrorLabel");
         for (const bool locked : {true, false}) { // What cannot be written is told when the drawer opens.
             QVERIFY(locked ? QDir().mkpath(file + ".lock") : QDir().rmdir(file + ".lock"));
@@ -207,7 +189,7 @@ private Q_SLOTS:
             for (int twice = 0; twice < 2; ++twice)
                 QTest::mouseClick(button("applyButton"), Qt::LeftButton);
             QCOMPARE(notices.count, 2);
-            QVERIFY(canApply() && page.hasModifications() && m_controlCenter->hasModifications());
+            QVERIFY(canApply() && m_folders->hasModifications() && m_controlCenter->hasModifications());
             QVERIFY2(error->isVisible() && error->text().contains(file), qPrintable(error->text()));
             QCOMPARE(error->accessibleDescription(), error->text());
             QVERIFY(Qt::mightBeRichText(error->toolTip()) && error->toolTip().contains("Settings.ini"));
@@ -325,20 +307,19 @@ private Q_SLOTS:
     void discardedEditsCanBeMadeAgain()
     {
         addPages(1);
-        const FoldersPage page(*m_controlCenter, *m_application);
-        page.size->setValue(1000);
-        const int stored = page.size->value();
+        auto* size = addFoldersPage();
+        size->setValue(1000);
+        const int stored = size->value();
         QVERIFY(!m_controlCenter->applyModifications());
-        page.size->setValue(stored + 1);
+        size->setValue(stored + 1);
         m_pages[0]->edit(); // Cannot make its edits again.
         auto* discard = m_controlCenter->findChild<QAction*>("discard");
         auto* restore = m_controlCenter->findChild<QAction*>("restore");
         QVERIFY(discard->isEnabled() && !restore->isEnabled());
         discard->trigger();
-        QVERIFY(page.size->value() == stored && !m_pages[0]->modified && !canApply() &&
-                !discard->isEnabled());
+        QVERIFY(size->value() == stored && !m_pages[0]->modified && !canApply() && !discard->isEnabled());
         restore->trigger();
-        QVERIFY(page.size->value() == stored + 1 && canApply() && !restore->isEnabled());
+        QVERIFY(size->value() == stored + 1 && canApply() && !restore->isEnabled());
         discard->trigger();
         openEverything(); // Reads the file: what was discarded belongs to an earlier state.
         QVERIFY(!restore->isEnabled());
@@ -346,7 +327,7 @@ private Q_SLOTS:
 
     void openPagesFollowTheFile()
     {
-        const FoldersPage page(*m_controlCenter, *m_application);
+        auto* size = addFoldersPage();
         m_controlCenter->setControlCenterVisible(true);
         const auto write = [this](int value) {
             const auto other = zel::ZelSettingsFile::Open(m_application->getSettings().fileName());
@@ -355,23 +336,23 @@ private Q_SLOTS:
             other->sync();
         };
         write(1234); // While the drawer opens.
-        QTRY_COMPARE(page.size->value(), 1234);
-        page.size->setValue(77);
+        QTRY_COMPARE(size->value(), 1234);
+        size->setValue(77);
         write(2345); // An edit stays.
         QTRY_COMPARE(m_application->getSettings().value("other/key").toInt(), 2345);
-        QVERIFY(page.size->value() == 77 && canApply());
+        QVERIFY(size->value() == 77 && canApply());
         write(77); // It is stored.
         QTRY_VERIFY(!canApply());
         const QString file = m_application->getSettings().fileName();
         QVERIFY(QFile::remove(file)); // It comes back, with what it held.
         QTRY_VERIFY(QFile::exists(file));
-        QTRY_VERIFY(page.size->value() == 77 && !canApply());
+        QTRY_VERIFY(size->value() == 77 && !canApply());
         // Without the key, the next start would take the default.
         zel::ZelSettingsRegistry::RegisterSetting("DBCache/cacheSize", "99", &ZelControlCenter::noOp);
         const auto other = zel::ZelSettingsFile::Open(file);
         other->remove("DBCache/cacheSize");
         other->sync();
-        QTRY_COMPARE(page.size->value(), 99);
+        QTRY_COMPARE(size->value(), 99);
         QVERIFY(!canApply());
         zel::ZelSettingsRegistry::ClearSettingsValues();
     }
@@ -720,6 +701,15 @@ private:
         }
     }
 
+    /// A page of the product. Returns one of its fields.
+    QSpinBox* addFoldersPage()
+    {
+        m_folders = std::make_unique<zel::ZelGeneralSettingsPanel>(
+            m_application.get(), m_application->getSettings(), nullptr, Qt::WindowFlags());
+        m_controlCenter->registerSettingsPanel(m_folders.get());
+        return m_folders->findChild<QSpinBox*>("databaseSpinBox");
+    }
+
     QPropertyAnimation* halfWay(const char* property) const
     {
         QPropertyAnimation* found = nullptr;
@@ -758,6 +748,7 @@ private:
     std::unique_ptr<QWidget> m_window;
     QWidget* m_view = nullptr;
     std::vector<std::unique_ptr<FakePage>> m_pages;
+    std::unique_ptr<zel::ZelGeneralSettingsPanel> m_folders;
     std::unique_ptr<ZelControlCenter> m_controlCenter;
 };
 
