@@ -199,6 +199,8 @@ private Q_SLOTS:
             QVERIFY(!reset->shortcut().isEmpty() && reset->shortcut() != apply->shortcut());
             QCOMPARE(controlCenter->findChild<QAction*>("reset")->text(), QString(text));
         }
+        size->setValue(size->maximum());
+        press(Qt::Key_S, Qt::ControlModifier);
         for (const Qt::Key key : {Qt::Key_Q, Qt::Key_W}) {
             typeOver("1");
             BoxAnswer answer({Qt::Key_Return});
