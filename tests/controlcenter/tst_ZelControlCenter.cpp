@@ -30,21 +30,6 @@ struct NoticeCounter : QObject
     int count = 0;
 };
 
-/// A page of the product, registered while it lives.
-struct FoldersPage : zel::ZelGeneralSettingsPanel
-{
-    FoldersPage(ZelControlCenter& owner, FakeApplication& application)
-        : ZelGeneralSettingsPanel(&application, application.getSettings(), nullptr, Qt::WindowFlags())
-        , controlCenter(owner)
-    {
-        controlCenter.registerSettingsPanel(this);
-    }
-    ~FoldersPage() override { controlCenter.unregisterSettingsPanel(this, true); }
-
-    ZelControlCenter& controlCenter;
-    QSpinBox* const size = findChild<QSpinBox*>("databaseSpinBox");
-};
-
 /// A window with a view and a control center, as a viewer has them.
 class tst_ZelControlCenter : public QObject
 {
@@ -85,6 +70,7 @@ private Q_SLOTS:
     {
         m_controlCenter.reset(); // Leaves registered pages to their owner.
         m_pages.clear();
+        m_folders.reset();
         m_window.reset();
     }
 
@@ -99,11 +85,11 @@ private Q_SLOTS:
             m_controlCenter->openMenu(open);
             QVERIFY(external.isChecked() == open && m_controlCenter->isMenuOpen() != open);
             QVERIFY(!m_application->engineUpdates.contains(true));
-            QPropertyAnimation* slide = pausedHalfWay("controlCenterWidth");
+            QPropertyAnimation* slide = halfWay("controlCenterWidth");
             QVERIFY(m_controlCenter->width() % 250 > 0);
             QCOMPARE(slide->easingCurve().type(), open ? QEasingCurve::OutQuad : QEasingCurve::InQuad);
-            QCOMPARE(slide->duration(), 350);
-            slide->resume();
+            for (const auto* each : m_controlCenter->findChildren<QPropertyAnimation*>())
+                QCOMPARE(each->duration(), 350);
             QTRY_COMPARE(m_controlCenter->isMenuOpen(), open);
             QCOMPARE(m_controlCenter->isVisible() ? m_controlCenter->width() : 0, open ? 250 : 0);
             QCOMPARE(m_application->engineUpdates.count(true), 1);
@@ -116,16 +102,21 @@ private Q_SLOTS:
         addPages(2);
         m_controlCenter->openMenu(true);
         QTRY_VERIFY(m_controlCenter->isMenuOpen());
+        QVERIFY(button("actionButton")->mapTo(m_window.get(), QPoint()).y() < 60); // At the top.
         m_calls.clear();
         QTest::mouseClick(button("actionButton"), Qt::LeftButton);
         QCOMPARE(m_calls, QStringList({"P0 initialize", "P1 initialize"}));
-        // The drawer uncovers pages that have their final width from the start.
-        QPropertyAnimation* slide = pausedHalfWay("settingsWidth");
-        QTRY_VERIFY(m_controlCenter->settingsWidth() > 50 && m_controlCenter->settingsWidth() < 400);
-        const int pageWidth = m_pages.front()->width();
-        slide->resume();
+        // The drawer uncovers pages that have their final size from the start.
+        QPropertyAnimation* slide = halfWay("settingsWidth");
+        QCOMPARE(slide->easingCurve().type(), QEasingCurve::OutQuad);
+        QVERIFY(m_controlCenter->settingsWidth() > 50 && m_controlCenter->settingsWidth() < 400);
+        for (int frame = 0; frame < 5; ++frame)
+            slide->setCurrentTime(slide->currentTime() + 16);
+        const QRect place = m_pages[0]->geometry();
+        QVERIFY(m_pages[0]->isVisible() && m_pages[0]->getActionWidget()->isChecked());
         QTRY_VERIFY(m_controlCenter->isSettingsOpen());
-        QCOMPARE(pageWidth, m_pages.front()->width());
+        QCOMPARE(place, m_pages[0]->geometry());
+        QCOMPARE(m_pages[0]->visibleRegion().boundingRect().width(), place.width()); // Nothing is clipped.
         QVERIFY(m_controlCenter->isMenuOpen() && showsActions(false)); // "Settings" does not close the menu.
         QTRY_COMPARE(m_window->findChild<QWidget*>("settingsContent")->width(), 450 - scrollBar()->width());
 
@@ -157,11 +148,14 @@ private Q_SLOTS:
             for (const bool byButton : {true, false}) {
                 container.show();
                 openEverything();
-                m_controlCenter->setControlCenterVisible(true); // It is already.
+                m_controlCenter->openMenu(true); // It is already, and hides the list of pages.
+                QVERIFY(!m_controlCenter->findChild<QFrame*>("preferenceFrame")->isVisible());
+                m_controlCenter->setControlCenterVisible(true);
                 hidden ? container.hide() : m_controlCenter->setSettingsWidth(0);
                 byButton ? m_controlCenter->openSettings() : m_controlCenter->setControlCenterVisible(false);
-                QCOMPARE(m_application->engineUpdates, QList<bool>({false, true, false, true}));
+                QCOMPARE(m_application->engineUpdates, QList<bool>({false, true, false, true, false, true}));
                 QVERIFY(!m_controlCenter->isSettingsOpen() && showsActions(true));
+                QCOMPARE(button("controlCenterButton")->isChecked(), !byButton);
             }
         m_controlCenter->settingsWidget()->setParent(nullptr);
     }
@@ -172,8 +166,7 @@ private Q_SLOTS:
         const QString file = settings.fileName(), folder = QFileInfo(file).path(), aside = folder + ".aside";
         settings.setValue("DBCache/cacheSize", 1000);
         settings.sync();
-        const FoldersPage page(*m_controlCenter, *m_application);
-        auto* size = page.size;
+        auto* size = addFoldersPage();
         auto* error = m_controlCenter->findChild<QLabel*>("writeErrorLabel");
         for (const bool locked : {true, false}) { // What cannot be written is told when the drawer opens.
             QVERIFY(locked ? QDir().mkpath(file + ".lock") : QDir().rmdir(file + ".lock"));
@@ -196,7 +189,7 @@ private Q_SLOTS:
             for (int twice = 0; twice < 2; ++twice)
                 QTest::mouseClick(button("applyButton"), Qt::LeftButton);
             QCOMPARE(notices.count, 2);
-            QVERIFY(canApply() && page.hasModifications() && m_controlCenter->hasModifications());
+            QVERIFY(canApply() && m_folders->hasModifications() && m_controlCenter->hasModifications());
             QVERIFY2(error->isVisible() && error->text().contains(file), qPrintable(error->text()));
             QCOMPARE(error->accessibleDescription(), error->text());
             QVERIFY(Qt::mightBeRichText(error->toolTip()) && error->toolTip().contains("Settings.ini"));
@@ -237,9 +230,11 @@ private Q_SLOTS:
     void mayBeDeletedAtAnyTime_data()
     {
         QTest::addColumn<QString>("when");
-        for (const QString when : {"closing the menu", "clicking outside", "telling of a restart", "sliding"})
+        for (const QString when : {"closing the menu", "clicking outside", "telling of a restart"})
             for (const char* answer : {", Ok", ", Escape"})
                 QTest::newRow(qPrintable(when + answer)) << when + answer;
+        for (const char* when : {"sliding", "loading the pages"}) // Nothing is asked.
+            QTest::newRow(when) << when;
     }
 
     void mayBeDeletedAtAnyTime()
@@ -263,9 +258,15 @@ private Q_SLOTS:
         } else {
             m_controlCenter->setControlCenterVisible(false);
             QCOMPARE(m_application->engineUpdates, QList<bool>{false});
-            m_controlCenter.reset();
+            m_pages[0]->whenAsked = answer.beforeAnswer;
+            if (when == "loading the pages") {
+                m_controlCenter->settingsWidget()->hide();
+                m_controlCenter->setControlCenterVisible(true);
+            } else {
+                m_controlCenter.reset();
+            }
         }
-        QVERIFY(!m_controlCenter && answer.texts.size() == (when.startsWith("sliding") ? 0 : 1));
+        QVERIFY(!m_controlCenter && answer.texts.size() == when.count(","));
         QVERIFY(m_application->engineUpdates.isEmpty() || m_application->engineUpdates.last());
     }
 
@@ -307,20 +308,19 @@ private Q_SLOTS:
     void discardedEditsCanBeMadeAgain()
     {
         addPages(1);
-        const FoldersPage page(*m_controlCenter, *m_application);
-        page.size->setValue(1000);
-        const int stored = page.size->value();
+        auto* size = addFoldersPage();
+        size->setValue(1000);
+        const int stored = size->value();
         QVERIFY(!m_controlCenter->applyModifications());
-        page.size->setValue(stored + 1);
+        size->setValue(stored + 1);
         m_pages[0]->edit(); // Cannot make its edits again.
         auto* discard = m_controlCenter->findChild<QAction*>("discard");
         auto* restore = m_controlCenter->findChild<QAction*>("restore");
         QVERIFY(discard->isEnabled() && !restore->isEnabled());
         discard->trigger();
-        QVERIFY(page.size->value() == stored && !m_pages[0]->modified && !canApply() &&
-                !discard->isEnabled());
+        QVERIFY(size->value() == stored && !m_pages[0]->modified && !canApply() && !discard->isEnabled());
         restore->trigger();
-        QVERIFY(page.size->value() == stored + 1 && canApply() && !restore->isEnabled());
+        QVERIFY(size->value() == stored + 1 && canApply() && !restore->isEnabled());
         discard->trigger();
         openEverything(); // Reads the file: what was discarded belongs to an earlier state.
         QVERIFY(!restore->isEnabled());
@@ -328,32 +328,32 @@ private Q_SLOTS:
 
     void openPagesFollowTheFile()
     {
-        const FoldersPage page(*m_controlCenter, *m_application);
-        openEverything();
+        auto* size = addFoldersPage();
+        m_controlCenter->setControlCenterVisible(true);
         const auto write = [this](int value) {
             const auto other = zel::ZelSettingsFile::Open(m_application->getSettings().fileName());
             other->setValue("DBCache/cacheSize", value);
             other->setValue("other/key", value);
             other->sync();
         };
-        write(1234);
-        QTRY_COMPARE(page.size->value(), 1234);
-        page.size->setValue(77);
+        write(1234); // While the drawer opens.
+        QTRY_COMPARE(size->value(), 1234);
+        size->setValue(77);
         write(2345); // An edit stays.
         QTRY_COMPARE(m_application->getSettings().value("other/key").toInt(), 2345);
-        QVERIFY(page.size->value() == 77 && canApply());
+        QVERIFY(size->value() == 77 && canApply());
         write(77); // It is stored.
         QTRY_VERIFY(!canApply());
         const QString file = m_application->getSettings().fileName();
         QVERIFY(QFile::remove(file)); // It comes back, with what it held.
         QTRY_VERIFY(QFile::exists(file));
-        QTRY_VERIFY(page.size->value() == 77 && !canApply());
+        QTRY_VERIFY(size->value() == 77 && !canApply());
         // Without the key, the next start would take the default.
         zel::ZelSettingsRegistry::RegisterSetting("DBCache/cacheSize", "99", &ZelControlCenter::noOp);
         const auto other = zel::ZelSettingsFile::Open(file);
         other->remove("DBCache/cacheSize");
         other->sync();
-        QTRY_COMPARE(page.size->value(), 99);
+        QTRY_COMPARE(size->value(), 99);
         QVERIFY(!canApply());
         zel::ZelSettingsRegistry::ClearSettingsValues();
     }
@@ -363,9 +363,16 @@ private Q_SLOTS:
         addPages(1);
         m_application->guiPlugin = &m_guiPlugin;
         for (const int answerAfter : {0, 200}) { // During the slide, and when it is over.
-            openEverything();
+            m_controlCenter->openMenu(true);
+            QTRY_VERIFY(m_controlCenter->isMenuOpen());
             m_pages[0]->edit();
             BoxAnswer answer({Qt::Key_Return}); // What is not destructive is the default.
+            m_controlCenter->openMenu(false);   // A closed drawer stays so.
+            QVERIFY(m_application->engineUpdates.last() && m_controlCenter->isMenuOpen());
+            QVERIFY(answer.texts.size() == 1 && showsActions(true));
+            openEverything();
+            QCOMPARE(m_pages[0]->width(), 450); // No scroll bar is needed.
+            m_pages[0]->edit();
             answer.setInterval(answerAfter);
             m_controlCenter->openMenu(false);
             QTRY_VERIFY(m_controlCenter->isSettingsOpen());
@@ -373,28 +380,33 @@ private Q_SLOTS:
             m_controlCenter->openSettings();
             QTRY_VERIFY(!m_controlCenter->isSettingsOpen() && m_application->engineUpdates.last());
         }
-        m_pages[0]->edit();
-        m_application->engineUpdates.clear();
-        BoxAnswer answer({Qt::Key_Escape});
-        m_controlCenter->openMenu(false); // With the drawer closed, it stays so.
-        QCOMPARE(answer.texts.size(), 1);
-        QVERIFY(m_application->engineUpdates.last() && m_controlCenter->isMenuOpen());
-        QVERIFY(!m_controlCenter->isSettingsOpen() && showsActions(true));
     }
 
     void pageButtonsAndScrollingKeepInStep()
     {
         addPages(4);
-        for (const auto& page : m_pages)
-            (new QPushButton(page.get()))->show();
+        for (const auto& page : m_pages) {
+            (new QSpinBox(page.get()))->hide();
+            auto* button = new QPushButton(page.get());
+            button->setCheckable(true);
+            button->show();
+        }
+        m_controlCenter->openMenu(true);
+        m_controlCenter->setControlCenterVisible(true);
+        m_pages[1]->getActionWidget()->click(); // While the drawer slides open.
+        QTRY_VERIFY(scrollBar()->value() > 0 && scrollBar()->value() == m_pages[1]->y());
         openEverything();
         for (const int page : {2, 3}) { // The last page cannot reach the top.
             QTest::mouseClick(m_pages[page]->getActionWidget(), Qt::LeftButton);
             QTRY_COMPARE(scrollBar()->value(), qMin(m_pages[page]->y(), scrollBar()->maximum()));
             QVERIFY(m_pages[page]->getActionWidget()->isChecked());
             press(Qt::Key_Tab);
-            QVERIFY(m_pages[page]->isAncestorOf(QApplication::focusWidget()));
+            press(Qt::Key_Return);
+            QVERIFY(m_pages[page]->findChild<QPushButton*>()->isChecked());
         }
+        m_pages[3]->getActionWidget()->setFocus(); // Without a click.
+        press(Qt::Key_Tab);
+        QVERIFY(!m_pages[3]->isAncestorOf(QApplication::focusWidget()));
         QVERIFY(m_pages[3]->y() > scrollBar()->maximum());
         scrollBar()->setValue(m_pages[1]->y() + 5);
         QVERIFY(m_pages[1]->getActionWidget()->isChecked() && !m_pages[3]->getActionWidget()->isChecked());
@@ -432,6 +444,7 @@ private Q_SLOTS:
     {
         addPages(1);
         m_application->guiPlugin = &m_guiPlugin;
+        m_window->move(1500, 0);
         openEverything();
         QDialog dialog(m_window.get()); // A press in it answers it.
         dialog.setModal(true);
@@ -447,9 +460,10 @@ private Q_SLOTS:
         inView.resize(m_view->size());
         inView.show();
         for (const QString press : {"later in a foreign window", "at once", "later after a resize", "later",
-                                    "later", "later without edits"}) {
+                                    "later", "later without edits", "later on the closed menu"}) {
+            m_application->engineUpdates.clear();
             m_controlCenter->setGUIHandler(press.contains("foreign") ? &foreign : m_window.get());
-            QTest::qWait(press.startsWith("later") ? GuardTime : 0);
+            QTest::qWait(press.startsWith("later") ? GuardTime : 100);
             if (press.contains("resize"))
                 m_view->resize(m_view->size() - QSize(0, 1));
             m_pages[0]->modified = !press.contains("without");
@@ -459,7 +473,7 @@ private Q_SLOTS:
                               inView.mapTo(m_window.get(), QPoint(10, 10)));
             QCOMPARE(answer.texts.size(), press == "later" ? 1 : 0);
             // Whatever closes stops the engine first.
-            QCOMPARE(m_application->engineUpdates.isEmpty(), m_pages[0]->modified);
+            QCOMPARE(m_application->engineUpdates.count(false) > 0, !m_pages[0]->modified);
         }
         QTRY_VERIFY(!m_controlCenter->isMenuOpen() && !m_controlCenter->isSettingsOpen());
     }
@@ -486,7 +500,7 @@ private Q_SLOTS:
         QTest::keyClicks(&box, "55");
         m_controlCenter->findChild<QAction*>("apply")->trigger();
         press(Qt::Key_Escape); // What is applied is not what is typed.
-        QCOMPARE(box.value(), 55);
+        QVERIFY(box.value() == 55 && box.findChild<QLineEdit*>()->selectedText().isEmpty());
         zel::zelSpinBox last(m_pages[2].get());
         last.show();
         QWidget* const pageButton = m_pages[0]->getActionWidget();
@@ -501,12 +515,13 @@ private Q_SLOTS:
         }
         pageButton->setFocus();
         QVERIFY(!putBack->isEnabled());
+        QCOMPARE(button("resetButton")->nextInFocusChain(), button("applyButton"));
         const int bottom = scrollBar()->maximum(), page = scrollBar()->pageStep();
         for (const auto& [key, place] : {std::make_pair(Qt::Key_End, bottom),
                                          {Qt::Key_PageUp, bottom - page},
                                          {Qt::Key_Home, 0},
                                          {Qt::Key_PageDown, page}}) {
-            press(key);
+            press(key, place ? Qt::KeypadModifier : Qt::NoModifier);
             QCOMPARE(scrollBar()->value(), qBound(0, place, bottom));
         }
         // A button that has been pressed hands the focus on to the page in view.
@@ -533,8 +548,10 @@ private Q_SLOTS:
         const auto* apply = m_controlCenter->findChild<QAction*>("apply");
         QVERIFY(!apply->isEnabled() && apply->toolTip() == "Applies your changes");
         QSignalSpy help(m_controlCenter.get(), SIGNAL(helpRequested(QWidget*)));
+        QSignalSpy typed(&box, SIGNAL(editingFinished()));
         QDialog other(m_window.get(), Qt::Tool);
         QLineEdit field(&other);
+        QCheckBox check(&other);
         m_view->setFocusPolicy(Qt::StrongFocus);
         m_pages[0]->edit();
         // They do not work in its other widgets and windows.
@@ -543,9 +560,13 @@ private Q_SLOTS:
             widget->window()->show();
             QApplication::setActiveWindow(widget->window());
             widget->setFocus();
-            for (key = Qt::Key_1; key <= Qt::Key_3; ++key)
-                press(static_cast<Qt::Key>(key), Qt::ControlModifier);
+            QTest::keyClicks(widget, "5");
+            for (const Qt::Key each : {Qt::Key_3, Qt::Key_1, Qt::Key_2})
+                press(each, Qt::ControlModifier);
         }
+        QTest::keyClick(&check, Qt::Key_Return); // Is the other window's.
+        QVERIFY(!check.isChecked());
+        QCOMPARE(typed.count(), 1); // Only Apply ends what is being typed.
         QCOMPARE(m_calls.join(","), QString("P0 apply,P0 reset"));
         QCOMPARE(help.value(0).value(0).value<QWidget*>(), &box);
         QVERIFY(box.hasFocus());
@@ -681,12 +702,20 @@ private:
         }
     }
 
-    QPropertyAnimation* pausedHalfWay(const char* property) const
+    /// A page of the product. Returns one of its fields.
+    QSpinBox* addFoldersPage()
+    {
+        m_folders = std::make_unique<zel::ZelGeneralSettingsPanel>(
+            m_application.get(), m_application->getSettings(), nullptr, Qt::WindowFlags());
+        m_controlCenter->registerSettingsPanel(m_folders.get());
+        return m_folders->findChild<QSpinBox*>("databaseSpinBox");
+    }
+
+    QPropertyAnimation* halfWay(const char* property) const
     {
         QPropertyAnimation* found = nullptr;
         for (QPropertyAnimation* slide : m_controlCenter->findChildren<QPropertyAnimation*>())
             found = slide->propertyName() == property ? slide : found;
-        found->pause();
         found->setCurrentTime(found->duration() / 2);
         return found;
     }
@@ -720,6 +749,7 @@ private:
     std::unique_ptr<QWidget> m_window;
     QWidget* m_view = nullptr;
     std::vector<std::unique_ptr<FakePage>> m_pages;
+    std::unique_ptr<zel::ZelGeneralSettingsPanel> m_folders;
     std::unique_ptr<ZelControlCenter> m_controlCenter;
 };
 

@@ -32,10 +32,14 @@ private Q_SLOTS:
         m_window.openMenu();
         QVERIFY(QTest::qWaitForWindowActive(&m_window));
         QTRY_VERIFY(showsPages(*m_window.findChild<zel::ZelControlCenter*>()));
-        QCOMPARE(m_window.focusWidget()->property("text").toString(), QString("Display"));
-        const auto* drawer = m_window.findChild<zel::ZelControlCenter*>()->settingsWidget();
+        auto* controlCenter = m_window.findChild<zel::ZelControlCenter*>();
+        const auto* drawer = controlCenter->settingsWidget();
         const auto* shadow = m_window.findChild<QWidget*>("drawerShadow");
         QCOMPARE(shadow->mapTo(&m_window, QPoint()), drawer->mapTo(&m_window, QPoint(drawer->width(), 0)));
+        QCOMPARE(shadow->size(), QSize(12, drawer->height())); // Of its image.
+        controlCenter->setSettingsWidth(0);
+        QVERIFY(!shadow->isVisible());
+        controlCenter->setSettingsWidth(450);
         QMap<int, QString> pages;
         for (const auto* page : m_window.findChildren<zel::ZelSettingsPanel*>())
             pages.insert(page->y(), page->getPanelName() + QString::number(page->getPanelCategory()));
@@ -160,22 +164,18 @@ private Q_SLOTS:
         }
         check->setChecked(false);
         press(Qt::Key_Space, Qt::NoModifier);
-        for (const Qt::Key key : {Qt::Key_Q, Qt::Key_W}) {
-            BoxAnswer answer({Qt::Key_Return});
-            press(key, Qt::ControlModifier);
-            QCOMPARE(answer.texts, QStringList("Your current changes will be discarded.\n"
-                                               "Continue and close the application ?"));
-            QVERIFY(m_window.isVisible() && check->isChecked());
-        }
         QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
         QCoreApplication::sendEvent(check, &held);
         QVERIFY(check->isChecked());
         press(Qt::Key_R, Qt::AltModifier);
         QTRY_VERIFY(!check->isChecked());
         auto* size = m_window.findChild<QSpinBox*>("databaseSpinBox");
+        const auto typeOver = [&](const char* number) { // It counts before it is an edit.
+            size->selectAll();
+            QTest::keyClicks(size, number);
+        };
         size->setFocus();
-        size->selectAll();
-        QTest::keyClicks(size, "1"); // Less than the minimum.
+        typeOver("1"); // Less than the minimum.
         press(Qt::Key_C, Qt::ControlModifier);
         QVERIFY(size->text().startsWith("1 "));
         check->setChecked(true);
@@ -194,13 +194,28 @@ private Q_SLOTS:
         for (const char* text : {"Annuler", "Reset"}) { // The first one as in another language.
             reset->setText(text);
             QEvent change(QEvent::LanguageChange);
-            QCoreApplication::sendEvent(apply, &change);
+            for (QPushButton* button : {reset, apply})
+                QCoreApplication::sendEvent(button, &change);
             QVERIFY(!reset->shortcut().isEmpty() && reset->shortcut() != apply->shortcut());
+            QCOMPARE(controlCenter->findChild<QAction*>("reset")->text(), QString(text));
         }
-        size->selectAll();
-        QTest::keyClicks(size, "9999"); // What is being typed counts, and is brought into the range.
+        size->setValue(size->maximum());
         press(Qt::Key_S, Qt::ControlModifier);
-        QTRY_COMPARE(m_application.getSettings().value("DBCache/cacheSize").toInt(), size->maximum());
+        for (const Qt::Key key : {Qt::Key_Q, Qt::Key_W}) {
+            typeOver("1");
+            BoxAnswer answer({Qt::Key_Return});
+            press(key, Qt::ControlModifier);
+            QCOMPARE(answer.texts, QStringList("Your current changes will be discarded.\n"
+                                               "Continue and close the application ?"));
+            QVERIFY(m_window.isVisible());
+            press(Qt::Key_Z, Qt::ControlModifier);
+        }
+        for (const bool alt : {true, false}) { // It is brought into the range.
+            typeOver(alt ? "1" : "9999");
+            alt ? press(Qt::Key_A, Qt::AltModifier) : press(Qt::Key_S, Qt::ControlModifier);
+            QTRY_COMPARE(m_application.getSettings().value("DBCache/cacheSize").toInt(),
+                         alt ? size->minimum() : size->maximum());
+        }
     }
 
     void appliesOnlyWhatTheUserHasEdited()
@@ -227,6 +242,12 @@ private Q_SLOTS:
         QCOMPARE(size->text().left(2), QString("5 "));
         QTest::keyClick(size, Qt::Key_Escape);
         QTRY_COMPARE(size->value(), 345);
+        for (const Qt::Key end : {Qt::Key_Return, Qt::Key_Escape}) { // Back to the edit, not to the file.
+            size->selectAll();
+            QTest::keyClicks(size, end == Qt::Key_Return ? "400" : "500");
+            QTest::keyClick(size, end);
+            QCOMPARE(size->value(), 400);
+        }
     }
 
     void edgesAndCornersResize()
@@ -234,18 +255,18 @@ private Q_SLOTS:
         const QRect start(30, 40, 740, 500);
         // Where the mouse presses, how far it moves, its cursor, and the window's new geometry.
         const std::tuple<QPoint, QPoint, Qt::CursorShape, QRect> rows[] = {
-            {{2, 250}, {-20, 7}, Qt::SizeHorCursor, {10, 40, 760, 500}},
-            {{737, 250}, {10, 7}, Qt::SizeHorCursor, {30, 40, 750, 500}},
-            {{300, 2}, {7, -30}, Qt::SizeVerCursor, {30, 10, 740, 530}},
-            {{300, 498}, {7, 30}, Qt::SizeVerCursor, {30, 40, 740, 530}},
-            {{3, 9}, {10, 20}, Qt::SizeFDiagCursor, {40, 60, 730, 480}},
-            {{730, 497}, {10, 20}, Qt::SizeFDiagCursor, {30, 40, 750, 520}},
+            {{4, 250}, {-20, 7}, Qt::SizeHorCursor, {10, 40, 760, 500}},
+            {{735, 250}, {10, 7}, Qt::SizeHorCursor, {30, 40, 750, 500}},
+            {{300, 4}, {7, -30}, Qt::SizeVerCursor, {30, 10, 740, 530}},
+            {{300, 495}, {7, 30}, Qt::SizeVerCursor, {30, 40, 740, 530}},
+            {{3, 13}, {10, 20}, Qt::SizeFDiagCursor, {40, 60, 730, 480}},
+            {{726, 497}, {10, 20}, Qt::SizeFDiagCursor, {30, 40, 750, 520}},
             {{736, 9}, {10, 20}, Qt::SizeBDiagCursor, {30, 60, 750, 480}},
             {{9, 497}, {10, 20}, Qt::SizeBDiagCursor, {40, 40, 730, 520}},
             {{2, 250}, {300, 0}, Qt::SizeHorCursor, {68, 40, 702, 500}}, // Menu, drawer and frame.
             {{300, 498}, {0, 700}, Qt::SizeVerCursor, {30, 40, 740, 600}},
             {{300, 498}, {0, -700}, Qt::SizeVerCursor, {30, 40, 740, 300}},
-            {{9, 250}, {10, 10}, Qt::ArrowCursor, start},
+            {{5, 250}, {10, 10}, Qt::ArrowCursor, start},
         };
         for (const auto& [press, way, pointer, result] : rows) {
             m_window.setGeometry(start);
@@ -326,6 +347,11 @@ private Q_SLOTS:
     {
         FakeApplication application;
         NextWindow window(application);
+        for (const char* change : {"resized", "workAreaResized", "screenCountChanged"}) {
+            window.resize(2000, 400);
+            QMetaObject::invokeMethod(QApplication::desktop(), change, Q_ARG(int, 0));
+            QCOMPARE(window.width(), QApplication::desktop()->availableGeometry(&window).width());
+        }
         window.setGeometry(3000, 40, 720, 400);
         window.showMaximized();
         window.showNormal();
