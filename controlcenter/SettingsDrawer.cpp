@@ -28,7 +28,7 @@ void polishWhenShown(QWidget& tree)
 int heightOf(const QWidget& page, int width)
 {
     const int height = page.heightForWidth(width);
-    return height >= 0 ? height : page.sizeHint().height();
+    return height >= 0 ? height : std::max(page.sizeHint().height(), 0); // Negative without a layout.
 }
 
 } // namespace
