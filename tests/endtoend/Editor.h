@@ -6,55 +6,28 @@
 /// How long a test waits for what must happen, in milliseconds; for a machine that is busy with a build.
 const int Patience = 20000;
 
-/// A screen of its own with a window manager.
-class Desktop
+/// What a tool that sees the screen writes, without white space around it.
+inline QString ask(const QString& tool, const QStringList& arguments)
 {
-public:
-    /// Takes a free display and puts it into the environment, so that this process can use it too.
-    bool start()
-    {
-        for (QProcess* process : {&m_windowManager, &m_server})
-            process->setStandardErrorFile("/dev/null");
-        // A server that resets itself when its only client has left throws out the one that is just coming.
-        const QString server = "-screen 0 1000x800x24 -dpi 96 -displayfd 1 -noreset -nolisten tcp";
-        m_server.start("Xvfb", server.split(' '));
-        if (!m_server.waitForReadyRead(Patience))
-            return false;
-        qputenv("DISPLAY", ':' + m_server.readLine().trimmed());
+    QProcess process;
+    process.start(tool, arguments);
+    process.waitForFinished(Patience);
+    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+}
 
-        m_windowManager.start("openbox", {"--sm-disable"});
-        const auto manages = [] {
-            return ask("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains("window id");
-        };
-        return QTest::qWaitFor(manages, Patience);
-    }
-
-    /// What a tool that sees the screen writes, without white space around it.
-    static QString ask(const QString& tool, const QStringList& arguments)
-    {
-        QProcess process;
-        process.start(tool, arguments);
-        process.waitForFinished(Patience);
-        return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
-    }
-
-    /// What a window shows as soon as nothing in it moves any more. A window is named by its X11 id.
-    static QImage picture(const QString& window)
-    {
-        const int stillTime = 250; // Milliseconds. Even a slow animation shows something new within them.
-        QImage now;
-        const auto rests = [&] {
-            const QImage before = now;
-            QTest::qWait(stillTime);
-            now = pictureOf(window.toUInt());
-            return now == before;
-        };
-        return QTest::qWaitFor(rests, Patience) ? now : QImage();
-    }
-
-private:
-    Program m_server, m_windowManager;
-};
+/// What a window shows as soon as nothing in it moves any more. A window is named by its X11 id.
+inline QImage pictureAtRest(const QString& window)
+{
+    const int stillTime = 250; // Milliseconds. Even a slow animation shows something new within them.
+    QImage now;
+    const auto rests = [&] {
+        const QImage before = now;
+        QTest::qWait(stillTime);
+        now = pictureOf(window.toUInt());
+        return now == before;
+    };
+    return QTest::qWaitFor(rests, Patience) ? now : QImage();
+}
 
 /// The editor's executable, as a user runs it who has nothing but a home folder. Killed with the object.
 class Editor
@@ -100,14 +73,14 @@ public:
         const QString visible = QString("search --all --onlyvisible --pid %1 --name").arg(idOf(m_process));
         const QStringList search = visible.split(' ') << '^' + title + '$';
         const auto appears = [&] {
-            m_window = Desktop::ask("xdotool", {"getactivewindow"});
-            return !m_window.isEmpty() && Desktop::ask("xdotool", search).split('\n').contains(m_window);
+            m_window = ask("xdotool", {"getactivewindow"});
+            return !m_window.isEmpty() && ask("xdotool", search).split('\n').contains(m_window);
         };
         return m_process.waitForStarted(Patience) && QTest::qWaitFor(appears, Patience);
     }
 
     /// Moves the mouse, clicks and types, in the words of xdotool; %1 stands for the window.
-    void act(QString action) const { Desktop::ask("xdotool", action.replace("%1", m_window).split(' ')); }
+    void act(QString action) const { ask("xdotool", action.replace("%1", m_window).split(' ')); }
 
     /// Waits for a window, then does something that closes it.
     bool isAnswered(const QString& title, const QString& action)
@@ -121,30 +94,14 @@ public:
 
     bool has(const QString& property, const QString& state) const
     {
-        return Desktop::ask("xprop", {"-id", m_window, property}).contains(state);
+        return ask("xprop", {"-id", m_window, property}).contains(state);
     }
 
-    QImage picture() const { return Desktop::picture(m_window); }
+    QImage picture() const { return pictureAtRest(m_window); }
 
 private:
     QString m_window;
     Program m_process;
 };
-
-template <class Test>
-int runOnDesktop(int argc, char** argv)
-{
-    qputenv("LC_ALL", "C.UTF-8");
-    qputenv("QT_QPA_PLATFORM", "xcb");
-    // Neither a bus, because one would be started, nor the graphics driver, which leaks.
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-    qputenv("QT_XCB_GL_INTEGRATION", "none");
-    Desktop desktop;
-    if (!desktop.start())
-        return qWarning("Xvfb or openbox does not start"), 1;
-    QApplication application(argc, argv);
-    Test test;
-    return QTest::qExec(&test, argc, argv);
-}
 
 #endif

@@ -203,8 +203,5 @@ private:
     QString m_home;
 };
 
-int main(int argc, char** argv)
-{
-    return runOnDesktop<tst_EndToEnd>(argc, argv);
-}
+QTEST_MAIN(tst_EndToEnd)
 #include "tst_EndToEnd.moc"

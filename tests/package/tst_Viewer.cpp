@@ -95,8 +95,5 @@ private:
     std::unique_ptr<Editor> m_viewer;
 };
 
-int main(int argc, char** argv)
-{
-    return runOnDesktop<tst_Viewer>(argc, argv);
-}
+QTEST_MAIN(tst_Viewer)
 #include "tst_Viewer.moc"
