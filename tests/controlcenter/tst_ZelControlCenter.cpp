@@ -611,9 +611,6 @@ private Q_SLOTS:
             QTest::mouseClick(button, Qt::LeftButton);
         }
         QCOMPARE(triggered.count(), 1);
-        action.setStatusTip("status");
-        action.setToolTip("tip");
-        QCOMPARE(item.statusTip() + ' ' + item.toolTip(), QString("status tip"));
         action.setVisible(false);
         QVERIFY(item.isHidden());
         action.setVisible(true);

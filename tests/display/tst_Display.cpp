@@ -76,10 +76,9 @@ private Q_SLOTS:
             {"deferred deferred/sceneUnits", {{"0.0015", {}}, {"999.9995", {}}, {"nan", {}}, {"", {}}}},
             {"deferred deferred/useED", {{"true", {}}, {"1", {}}, {"false", {}}, {"0", {}}, {"", {}}}}};
         for (const auto& [key, texts] : keys)
-            for (const QString& stored : texts.keys())
+            for (const auto& [stored, applied] : texts)
                 QTest::newRow(qPrintable(QString(key) + ' ' + stored))
-                    << QString(key).section(' ', 0, 0) << QString(key).section(' ', 1) << stored
-                    << texts[stored];
+                    << QString(key).section(' ', 0, 0) << QString(key).section(' ', 1) << stored << applied;
     }
 
     void storedValues()
@@ -104,7 +103,7 @@ private Q_SLOTS:
 
     void sceneUnits()
     {
-        Viewer viewer({{"deferred/sceneUnits", "nan"}});
+        Viewer viewer(SettingsTexts{{"deferred/sceneUnits", "nan"}});
         DisplayPage display(viewer);
         auto* units = display.find<QComboBox>("sceneUnitComboBox");
         QString texts = units->currentText();
@@ -180,11 +179,11 @@ private Q_SLOTS:
 
     void resetShowsTheDefaults()
     {
-        SettingsTexts defaults = Plain;
-        defaults.insert(
-            {{"engine", "software"}, {"raytracer/quality", "Ultra"}, {"Resources/LODTrianglesCap", "50000"}});
+        SettingsTexts defaults = {
+            {"engine", "software"}, {"raytracer/quality", "Ultra"}, {"Resources/LODTrianglesCap", "50000"}};
+        defaults.insert(Plain.begin(), Plain.end());
         registerDefaults(defaults);
-        Viewer viewer({{"raytracer/coreNumber", "0"}});
+        Viewer viewer(SettingsTexts{{"raytracer/coreNumber", "0"}});
         DisplayPage display(viewer);
         QCOMPARE(display.text("coreUsedLabel"), QString("0 core"));
         QCOMPARE(display.reset(), 1);

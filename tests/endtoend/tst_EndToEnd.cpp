@@ -33,7 +33,7 @@ const QByteArray Binary = QByteArray("\0\xFF[\xFE]\n=\x01\0=[[%\\x\n\"", 18).rep
 const char* const FrenchSelector = "Torvane - Veuillez choisir .*";
 const char* const FrenchWindow = "Torvane - Centre de contr.*le";
 
-using Texts = Table<QString, QString>;
+using Texts = std::map<QString, QString>;
 const Texts NewerTexts = {
     {"engine", "software"}, {"DBCache/cacheSize", "77"}, {"debuglogtypeblacklist", "info"}};
 
@@ -175,9 +175,7 @@ private:
     Texts completed(const Texts& others) const
     {
         zel::ZelPageDefaults::Register(QSettings(QString(), QSettings::IniFormat));
-        Texts texts;
-        for (const auto& [key, setting] : zel::ZelSettingsRegistry::GetDefaultSettingsValues())
-            texts[key] = setting.first;
+        Texts texts = others;
         texts.insert({{"DBCache/cacheDirectory", m_home + "/cache/TorvaneBoundlessX64/" + userName()},
                       {"DBCache/cacheSize", "4096"},
                       {"Logging/logFile", settingsFolder() + "/log.txt"},
@@ -186,7 +184,8 @@ private:
                       {"engine", "deferred"},
                       {"raytracer/coreNumber", QString::number(QThread::idealThreadCount())},
                       {"settingsVersion", "2"}});
-        texts.insert(others);
+        for (const auto& [key, setting] : zel::ZelSettingsRegistry::GetDefaultSettingsValues())
+            texts.emplace(key, setting.first);
         return texts;
     }
 

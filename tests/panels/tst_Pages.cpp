@@ -53,8 +53,8 @@ private:
     template <class Page>
     void checkUntouched(const char* key, const SettingsTexts& texts)
     {
-        for (const QString& text : texts.keys())
-            QCOMPARE(writtenUntouched<Page>(*m_application, {{key, text}}, key), texts[text]);
+        for (const auto& [stored, written] : texts)
+            QCOMPARE(writtenUntouched<Page>(*m_application, {{key, stored}}, key), written);
     }
 
     /// Answers the folder dialog of a button; an empty folder cancels it.
@@ -114,7 +114,7 @@ private Q_SLOTS:
         }
         for (const auto& limit : Limits) {
             checkUntouched<ZelImportSettingsPanel>(limit.key,
-                                                   {{limit.texts.keys().last(), {}}}); // Not in force.
+                                                   {{limit.texts.rbegin()->first, {}}}); // Not in force.
             store(settings(), {{limit.set, "true"}});
             checkUntouched<ZelImportSettingsPanel>(limit.key, limit.texts);
         }

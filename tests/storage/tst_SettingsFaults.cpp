@@ -64,17 +64,17 @@ bool succeeds(pid_t child)
 
 QString error; ///< Of the last operation that failed.
 
-bool write(QSettings& settings, const Table<QString, QVariant>& values)
+bool write(QSettings& settings, const std::map<QString, QVariant>& values)
 {
     const auto change = [&values](QSettings& changed, QString&) {
-        for (const QString& key : values.keys())
-            changed.setValue(key, values[key]);
+        for (const auto& [key, value] : values)
+            changed.setValue(key, value);
         return true;
     };
     return ZelSettingsFile::Write(settings, change, error);
 }
 
-bool change(const QString& path, const Table<QString, QVariant>& values)
+bool change(const QString& path, const std::map<QString, QVariant>& values)
 {
     return write(*ZelSettingsFile::Open(path), values);
 }

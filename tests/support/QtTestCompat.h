@@ -17,9 +17,6 @@
 
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
 
-template <class Key, class Value>
-using Table = QMap<Key, Value>;
-
 const QProcess::ProcessChannelMode ForwardedErrors = QProcess::ForwardedErrorChannel;
 
 /// Empty when it is no object.
@@ -114,24 +111,6 @@ inline void turnWheel(QWidget& window, const QPoint& place)
             });
 
 const QProcess::ProcessChannelMode ForwardedErrors = QProcess::SeparateChannels;
-
-template <class Key, class Value>
-struct Table : QMap<Key, Value>
-{
-    Table() = default;
-    Table(std::initializer_list<std::pair<Key, Value>> rows)
-    {
-        for (const auto& [key, value] : rows)
-            QMap<Key, Value>::insert(key, value);
-    }
-
-    using QMap<Key, Value>::insert;
-    void insert(const Table& others)
-    {
-        for (const Key& key : others.keys())
-            insert(key, others[key]);
-    }
-};
 
 #    if !defined(_WIN32)
 const auto idOf = [](const QProcess& process) { return process.pid(); };

@@ -9,20 +9,20 @@
 #include <functional>
 
 /// Key and text, as a settings file or the registry holds them.
-using SettingsTexts = Table<QString, QString>;
+using SettingsTexts = std::map<QString, QString>;
 
 /// Replaces all registered defaults.
 inline void registerDefaults(const SettingsTexts& defaults)
 {
     zel::ZelSettingsRegistry::ClearSettingsValues();
-    for (const QString& key : defaults.keys())
-        zel::ZelSettingsRegistry::RegisterSetting(key, defaults[key], &zel::ZelSettingsValidators::noOp);
+    for (const auto& [key, text] : defaults)
+        zel::ZelSettingsRegistry::RegisterSetting(key, text, &zel::ZelSettingsValidators::noOp);
 }
 
 inline void store(QSettings& settings, const SettingsTexts& texts)
 {
-    for (const QString& key : texts.keys())
-        settings.setValue(key, texts[key]);
+    for (const auto& [key, text] : texts)
+        settings.setValue(key, text);
 }
 
 /// True as soon as the drawer is open and shows its pages, which are laid out when the slide has ended.
