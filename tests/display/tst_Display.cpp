@@ -98,7 +98,7 @@ private Q_SLOTS:
         ShownPage<Page> display(nullptr, empty.getSettings());
         display.click("raytracerButton");
         QVERIFY(display.page.applyModifications() && empty.storedFile().contains("engine=software"));
-        QCOMPARE(empty.getSettings().allKeys().size(), Plain.size());
+        QCOMPARE(empty.getSettings().allKeys().size(), int(Plain.size()));
     }
 
     void sceneUnits()

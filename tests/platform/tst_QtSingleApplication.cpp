@@ -31,7 +31,7 @@ struct Process : Program
     QByteArray line()
     {
         while (!canReadLine()) {
-            if (!waitForReadyRead(Patience))
+            if (!waitForReadyRead(Patience) && !canReadLine()) // False as well when the process ends with it.
                 return "(nothing)";
         }
         return readLine().trimmed();
