@@ -221,7 +221,7 @@ private Q_SLOTS:
     void appliesOnlyWhatTheUserHasEdited()
     {
         const QString path = m_application.getSettings().fileName();
-        store(path, contentOf(path).replace("cacheSize=4096", "cacheSize=1234")); // As another program does.
+        store(path, "[DBCache]\ncacheSize=1234\n"); // As another program does.
         auto* size = m_window.findChild<QSpinBox*>("databaseSpinBox");
         size->setFocus();
         auto* check = m_window.findChild<QCheckBox*>("deferredFXAACheckBox");
