@@ -1,5 +1,6 @@
 #include "SettingsKeys.h"
 #include "ShownPage.h"
+#include "Version.h"
 #include "ZelAboutSettingsPanel.h"
 #include "ZelGeneralSettingsPanel.h"
 #include "ZelImportSettingsPanel.h"
@@ -339,6 +340,8 @@ private Q_SLOTS:
                                         .arg(kqDMIApplication::GetKernelVersion(),
                                              QDir::toNativeSeparators(settings().fileName()),
                                              QDir::toNativeSeparators("/logs/log.txt"), second.name));
+        const QString notice = page.find<QLabel>("noticeLabel")->text();
+        QVERIFY(notice.contains(QString(" - %1 ").arg(::ZelControlCenter::Version::GetYear())));
         QCOMPARE(page.find("applicationIcon")->property("pixmap").value<QPixmap>().size(), QSize(96, 96));
     }
 
