@@ -66,7 +66,8 @@ private:
         const Later answer(10, [folder, former, isCache] {
             auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
             QVERIFY(former.isEmpty() || dialog->directory() == QDir(former)); // It begins where it is.
-            QVERIFY(dialog->windowTitle().contains("cache") == isCache);
+            QVERIFY(dialog->windowTitle().contains("cache") == isCache &&
+                    dialog->testOption(QFileDialog::ShowDirsOnly));
             dialog->findChild<QLineEdit*>("fileNameEdit")->setText(folder);
             QTest::keyClick(dialog, folder.isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
         });
@@ -157,11 +158,17 @@ private Q_SLOTS:
         page.type("databaseSpinBox", "2048");
         choose(page, "screenshotFolderButton", shots);
         QVERIFY(m_application->manager.cacheSizes.isEmpty() && m_application->imageFolders.isEmpty());
-        page.page.applyModifications();
+        QVERIFY(!page.page.applyModifications());
         QCOMPARE(m_application->manager.cacheSizes, QList<unsigned int>{2048});
         QCOMPARE(m_application->imageFolders, QList<QString>({shots, shots}));
         QVERIFY(shotsButton->shortcut().isEmpty() && shotsButton->icon().isNull());
         QVERIFY(shotsButton->accessibleDescription().startsWith(shots + " Where"));
+        shotsButton->setToolTip("&"); // Would be left out if it announced a shortcut.
+        page.page.hide();
+        page.page.show();
+        const QImage painted = pictureOf(shotsButton);
+        shotsButton->setText(QString());
+        QVERIFY(pictureOf(shotsButton) != painted);
 
         General alone(nullptr, settings());
         alone.type("databaseSpinBox", "99");
@@ -187,27 +194,24 @@ private Q_SLOTS:
         const auto makeAgain = page.page.discardEdits();
         QVERIFY(!page.page.hasModifications() && page.page.pendingEdits().empty() &&
                 !page.page.discardEdits());
+        page.page.pushStored(); // Nothing, because the application has it.
         page.changes.clear();
         makeAgain();
         QCOMPARE(page.changes.count(), 1);
         store(settings(), {{keys::ScreenshotFolder, "/newer"}});
         page.page.applyModifications();
         QCOMPARE(stored(keys::CacheSize) + stored(keys::ScreenshotFolder), QString("512/newer"));
-        store(settings(), {{keys::CacheSize, "700"}}); // As after a write that failed.
+        store(settings(), {{keys::CacheSize, "5"}}); // As after a write that failed.
         page.page.takeStored();
         page.page.pushStored();
-        QCOMPARE(m_application->manager.cacheSizes, QList<unsigned int>({512, 700}));
+        QCOMPARE(m_application->manager.cacheSizes, QList<unsigned int>({512, 5}));
         QCOMPARE(page.page.pendingEdits().size(), std::size_t(1));
-        page.page.pendingEdits()[0].putBack();
-        QVERIFY(page.find<QSpinBox>("databaseSpinBox")->value() == 700 && !page.page.hasModifications());
+        page.page.pendingEdits()[0].putBack(); // The field cannot show it, but that is no edit.
+        QCOMPARE(page.page.pendingEdits()[0].stored + page.page.pendingEdits()[0].shown, QString("510 Mo"));
+        QVERIFY(!page.page.pendingEdits()[0].putBack);
         store(settings(), {{keys::CacheSize, "512"}}); // By another program: what was not written here.
         page.page.takeStored();
         QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->value(), 512);
-
-        store(settings(), {{keys::CacheSize, "5"}}); // Which the field cannot show.
-        page.page.initializeWidget();
-        QCOMPARE(page.page.pendingEdits()[0].stored + page.page.pendingEdits()[0].shown, QString("510 Mo"));
-        QVERIFY(!page.page.pendingEdits()[0].putBack); // Nor is it an edit.
 
         // After a write that succeeded the edit is no longer one.
         page.type("databaseSpinBox", "640");
@@ -218,6 +222,7 @@ private Q_SLOTS:
         QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->value(), 800);
         page.type("databaseSpinBox", "600");
         makeAgain(); // Not over a newer edit.
+        QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->value(), 600);
         store(settings(), {{keys::CacheSize, "900"}});
         page.page.takeStored();
         page.type("databaseSpinBox", "800"); // What was stored before is an edit now.
@@ -226,18 +231,30 @@ private Q_SLOTS:
         QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->value(), 800);
 
         Import import(nullptr, settings());
-        import.click("sag"); // The choice is edited, but not the value.
-        store(settings(), {{keys::MaxFaceSag, "3"}, {keys::MaxFaceAngleSet, "true"}});
+        store(settings(), {{keys::MaxFaceAngleSet, "true"}});
         import.page.takeStored();
-        QVERIFY(import.find<QRadioButton>("sag")->isChecked() && import.find("faceAngleSpin")->isEnabled());
+        QVERIFY(import.find("faceAngleSpin")->isEnabled() && import.canClickReset());
+        import.click("sag"); // The choice is edited, but not the value.
+        store(settings(), {{keys::MaxFaceSag, "3"}});
+        import.page.takeStored();
+        QVERIFY(import.find<QRadioButton>("sag")->isChecked());
         QCOMPARE(import.find<QDoubleSpinBox>("faceSagSpin")->value(), 3.0);
-        QCOMPARE(import.page.pendingEdits()[0].stored, QString("chosen by Torvane"));
         import.click("lowQuality");
         import.type("faceSagSpin", "4"); // The limit is one edit.
+        import.click("length");
+        import.type("faceLengthSpin", "42");
+        import.click("defaultLength"); // Without effect, but stored, too.
         import.type("faceAngleSpin", "30");
-        QCOMPARE(import.page.pendingEdits().back().field, import.find("faceAngleSpin"));
-        QCOMPARE(import.page.pendingEdits()[0].shown, QString("Low Quality"));
-        QCOMPARE(import.page.pendingEdits().size(), std::size_t(3));
+        QString lines;
+        for (const auto& edit : import.page.pendingEdits())
+            lines +=
+                edit.name + ", " + edit.stored + ", " + edit.shown + ", " + edit.field->objectName() + '\n';
+        QCOMPARE(lines, QString::fromUtf8("Tessellation Quality, chosen by Torvane, Low Quality, lowQuality\n"
+                                          "Max Face Sag, chosen by Torvane, 4.000, sag\n"
+                                          "Max Face Length, 5.000, 42.000, defaultLength\n"
+                                          "Max Face Angle, 5 \302\260, 30 \302\260, faceAngleSpin\n"));
+        import.page.pendingEdits()[1].putBack();
+        QCOMPARE(import.find<QDoubleSpinBox>("faceSagSpin")->value(), 3.0);
     }
 
     void limitsAndQualityWorkTheResetButton()
@@ -252,6 +269,7 @@ private Q_SLOTS:
             page.type(limit.spinBox, "42"); // Numbers are not announced.
             page.click(limit.byDefault);
             QVERIFY(!page.find(limit.spinBox)->isEnabled() && !page.canClickReset());
+            QVERIFY(page.page.pendingEdits().empty()); // Apply would store nothing.
         }
         store(settings(), {{keys::TessellationHighQuality, "false"}}); // Is not set, so does not count.
         page.page.initializeWidget();
@@ -264,13 +282,18 @@ private Q_SLOTS:
             QCOMPARE(page.canClickReset(), canClickReset);
         }
         QTest::keyClick(page.find("defaultQuality"), Qt::Key_Down);
+        store(settings(), {{keys::TessellationQualitySet, "true"}}); // To the low one, by another program.
+        page.page.takeStored();
         QVERIFY(page.find<QRadioButton>("highQuality")->isChecked() && page.find("highQuality")->hasFocus());
         QCOMPARE(page.changes.count(), 6 + 4 + 1);
+        store(settings(), {{keys::TessellationQualitySet, "false"}});
         page.page.initializeWidget(); // The focus stays in the choice.
         QVERIFY(page.find("defaultQuality")->hasFocus());
         page.click("lowQuality");
         page.page.applyModifications();
         QCOMPARE(stored(keys::TessellationQualitySet) + stored(keys::MaxFaceSagSet), QString("truefalse"));
+        page.click("highQuality");
+        QCOMPARE(page.page.pendingEdits()[0].field, page.find("highQuality"));
         page.click("defaultQuality");
         page.page.applyModifications();
         QCOMPARE(stored(keys::TessellationHighQuality), QString("true"));
@@ -307,7 +330,7 @@ private Q_SLOTS:
         registerDefaults({}); // Without them the page keeps what it shows.
         settings().remove(keys::SimplificationRatios);
         Simplification page(nullptr, settings());
-        QVERIFY(page.reset() == 1 && page.canClickReset() && !page.page.applyModifications());
+        QVERIFY(page.reset() == 2 && page.canClickReset() && !page.page.applyModifications());
         QCOMPARE(stored(keys::SimplificationRatios), QString("1/0.75/0.5/0.25/0.01"));
     }
 
@@ -329,9 +352,13 @@ private Q_SLOTS:
                 QCOMPARE(table->item(cell / 2, cell % 2)->data(role).toString(), texts[cell]);
         QVERIFY(table->isVisible() && table->rowHeight(1) > table->rowHeight(0));
         QCOMPARE(table->viewport()->height(), table->verticalHeader()->length());
-        page.page.resize(700, 2000);
-        const auto* area = page.find<QScrollArea>("scrollArea");
-        QCOMPARE(area->height(), area->widget()->heightForWidth(area->viewport()->width()));
+        auto* area = page.find<QScrollArea>("scrollArea");
+        QEvent language(QEvent::LanguageChange);
+        for (const bool resized : {false, true}) {
+            area->setFixedHeight(9);
+            resized ? page.page.resize(700, 2000) : void(QCoreApplication::sendEvent(&page.page, &language));
+            QCOMPARE(area->height(), area->widget()->heightForWidth(area->viewport()->width()));
+        }
         page.click("copyButton");
         QStringList report = QApplication::clipboard()->text().split('\n');
         QVERIFY(report.takeAt(1).startsWith(QString("Qt %1, ").arg(qVersion())));
@@ -351,12 +378,19 @@ private Q_SLOTS:
         About page(nullptr, settings());
         QVERIFY(!page.find("pluginsFrame")->isVisible());
         auto* components = page.find<QLabel>("libUseLabel_2");
+        auto* notice = components->findChild<QLabel*>();
         components->setFocus(Qt::TabFocusReason);
-        for (int link = 0; link < 3; ++link)
+        for (const char* link : {"Qt", "Qt Solutions, QtSingleApplication", "Open Sans"}) {
             for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Return})
                 QTest::keyClick(components, key);
+            QTRY_COMPARE(notice->accessibleName(), QString(link));
+        }
         QDesktopServices::unsetUrlHandler("https");
         QCOMPARE(m_openedHosts.join(" "), QString("www.qt.io github.com fonts.google.com"));
+        for (QWidget* active : {static_cast<QWidget*>(nullptr), page.window}) { // Read again.
+            QApplication::setActiveWindow(active);
+            QTRY_COMPARE(notice->isVisible(), active == page.window);
+        }
     }
 
     void defaultsAreWhatTheValidatorsAccept()
