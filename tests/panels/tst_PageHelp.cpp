@@ -5,6 +5,7 @@
 #include "ZelPageHelp.h"
 #include "ZelRendererSelector.h"
 #include "ZelRendererSettingsPanel.h"
+#include "zelSpinBox.h"
 
 using namespace zel;
 
@@ -92,11 +93,14 @@ private Q_SLOTS:
 
     void tellsOfTheSettingReachedLast()
     {
+        QCOMPARE(said("nameLabel"), QString("Help")); // How to get it.
+        QVERIFY(!find("factsFrame")->isVisible() && !find("actionsFrame")->isVisible());
         find("databaseSpinBox")->setFocus();
         QVERIFY(find("helpFrame")->isVisible());
+        QVERIFY(Qt::mightBeRichText(find("databaseSpinBox")->toolTip())); // Wraps.
         QCOMPARE(said("nameLabel"), QString("Cache size"));
-        QCOMPARE(said("rangeLabel"), QString("10 Mo to 4,096 Mo"));
-        QCOMPARE(said("defaultLabel"), QString("1,024 Mo"));
+        QCOMPARE(said("rangeLabel") + ", " + said("defaultLabel") + ", " + said("effectLabel"),
+                 QString("10 Mo to 4,096 Mo, 1,024 Mo, at once"));
         const QString tip = QTextDocumentFragment::fromHtml(find("databaseSpinBox")->toolTip()).toPlainText();
         QVERIFY(tip.contains(said("descriptionLabel")) && tip.contains(said("effectLabel")));
         QCOMPARE(find("databaseSpinBox")->accessibleDescription(), tip);
@@ -111,7 +115,7 @@ private Q_SLOTS:
         };
         QTRY_COMPARE(restOnLabel(), QString("Screenshot folder"));
         QVERIFY(find("screenshotFolderButton")->toolTip().isEmpty() && find("actionsFrame")->isVisible());
-        QVERIFY(!find("rangeTitle")->isVisible()); // A folder has none.
+        QVERIFY(!find("rangeTitle")->isVisible() && !find("rangeLabel")->isVisible()); // A folder has none.
 
         point("databaseSpinBox"); // On its way to the help the pointer crosses other fields.
         QTRY_VERIFY(find<QTimer>("rest")->isActive());
@@ -129,12 +133,25 @@ private Q_SLOTS:
         QCOMPARE(find<QTimer>("rest")->interval(), 400); // Milliseconds.
         point("label_29");
         QTRY_VERIFY(find<QTimer>("rest")->isActive());
+        const QString path = QString::fromUtf8("/\360\237\230\200a");
+        settings().setValue("DBCache/cacheDirectory", path);
         find("databaseButton")->setFocus(); // The keyboard came later.
         QVERIFY(!find<QTimer>("rest")->isActive());
+        QCOMPARE(find("storedLabel")->accessibleName(), path);
+        QCOMPARE(said("storedLabel").split(QChar(0x200B)).join("|"), // Where it may wrap.
+                 QString::fromUtf8("/|\360\237\230\200|a"));
         m_window->resize(1600, 600);
-        QTRY_COMPARE(find("helpFrame")->width(), 520);           // Longer lines are hard to read.
+        QTRY_COMPARE(find("helpFrame")->width(), 520); // Longer lines are hard to read.
+        find("sceneUnitComboBox")->setEnabled(false);
+        find<ZelHelpArea>("helpArea")->showHelp(find("sceneUnitComboBox")); // Can be edited another time.
+        QVERIFY(find("actionsFrame")->isVisible());
         find<ZelHelpArea>("helpArea")->showHelp(find("ratio1")); // Which never changes.
         QVERIFY(!find("actionsFrame")->isVisible() && said("descriptionLabel").contains("cannot be changed"));
+        auto* name = find<QLabel>("nameLabel");
+        QVERIFY(name->toolTip().isEmpty());
+        find("helpFrame")->setFixedWidth(120); // It is cut, and told in full elsewhere.
+        QTRY_COMPARE(name->toolTip() + name->accessibleName(), QString("No compression").repeated(2));
+        QVERIFY(name->sizeHint().width() <= 120 - 24);
     }
 
     void showsTheHelpWhereThereIsRoom()
@@ -155,6 +172,7 @@ private Q_SLOTS:
             QHelpEvent rest(QEvent::ToolTip, QPoint(1, 1), size->mapToGlobal({1, 1}));
             QCoreApplication::sendEvent(size, &rest); // A field shows its tool tip where there is no help.
             QCOMPARE(QToolTip::isVisible(), !shown);
+            QVERIFY(find<QTimer>("rest")->isActive()); // It may have come by scrolling.
             find<ZelHelpArea>("helpArea")->showHelp(size);
             QCOMPARE(QApplication::activePopupWidget() == nullptr, whole);
             if (shown && !whole)
@@ -162,10 +180,12 @@ private Q_SLOTS:
         }
         QToolTip::hideText();
         auto* opened = QApplication::activePopupWidget();
+        settings().setValue("DBCache/cacheSize", 600);
         find<QSpinBox>("databaseSpinBox")->setValue(512);
-        QVERIFY(!opened->findChild<QLabel*>("stateLabel")->text().isEmpty() && pending().size() == 1);
+        QVERIFY(opened->findChild<QLabel*>("stateLabel")->text().startsWith("Changed") &&
+                pending().size() == 1);
         opened->findChild<QPushButton*>("putBackButton")->click();
-        QVERIFY(opened->findChild<QLabel*>("stateLabel")->text().isEmpty());
+        QCOMPARE(opened->findChild<QLabel*>("stateLabel")->text(), QString("Not the default."));
         QCOMPARE(opened->findChild<QLabel*>("rangeLabel")->text(), QString("10 Mo to 4,096 Mo"));
         QTest::keyClick(opened, Qt::Key_Escape);
         QTRY_VERIFY(!find("openedHelp"));
@@ -222,6 +242,7 @@ private Q_SLOTS:
             QVERIFY(said("stateLabel").startsWith("Changed") && marked() == "Folders");
             QTest::mouseClick(button, Qt::LeftButton);
             QVERIFY(!said("stateLabel").startsWith("Changed") && marked().isEmpty());
+            QVERIFY(!find("putBackButton")->isEnabled());
             QVERIFY(button == find("applyButton") ||
                     own.findChild<QLabel*>("stateLabel")->text() == said("stateLabel"));
             QCOMPARE(find("defaultButton")->isEnabled(), find("stateLabel")->isVisible());
@@ -233,13 +254,18 @@ private Q_SLOTS:
         QCOMPARE(type("ratio2", "30"), QString("30"));
         QTest::mouseClick(find("applyButton"), Qt::LeftButton);
         find("ratio2")->setFocus();
-        QCOMPARE(said("rangeLabel") + ", " + said("storedLabel"), QString("1 % to 100 %, 30 %"));
+        QCOMPARE(said("rangeLabel") + ", " + said("storedLabel") + ", " + said("defaultLabel"),
+                 QString("1 % to 100 %, 30 %, 75 %"));
         QTest::mouseClick(find("defaultButton"), Qt::LeftButton);
         QCOMPARE(find<QDoubleSpinBox>("ratio2")->value(), 75.0);
         QCOMPARE(find<QDoubleSpinBox>("ratio3")->value(), 20.0);
         QCOMPARE(marked(), QString("Simplification"));
         const QString shown[][3] = {
             {"maxGPUSPinBox", "128 Mo to 8,096 Mo", "2,048 Mo"},
+            {"sceneUnitComboBox", "Kilometer (km) to Millimeter (mm)", "Millimeter (mm)"},
+            {"deferredFXAACheckBox", "on or off", "on"},
+            {"deferredButton", "High Mode (Discrete Graphic Card) / Low Mode (Run everywhere)",
+             "High Mode (Discrete Graphic Card)"},
             {"defaultQuality", "Default / High Quality / Low Quality", "chosen by Torvane"},
             {"defaultSag", "0.000 to 99.990", "chosen by Torvane"}};
         for (const auto& [field, range, byDefault] : shown) {
@@ -290,6 +316,11 @@ private Q_SLOTS:
         QTRY_COMPARE(pending().join("\n"), texts);
         const auto lines = find("pendingList")->findChildren<QAbstractButton*>("editButton");
         QVERIFY(lines[1]->toolTip().isEmpty() && !lines[1]->isEnabled()); // Its field is hidden.
+        QHelpEvent rest(QEvent::ToolTip, QPoint(1, 1), QPoint(1, 1));
+        QCoreApplication::sendEvent(find("screenshotFolderButton"), &rest);
+        QCOMPARE(QToolTip::text(), folder); // Also beside the help.
+        m_window->resize(1200, 1000);
+        QTRY_COMPARE(find("helpFrame")->visibleRegion().boundingRect(), find("helpFrame")->rect());
         m_window->resize(702, 600); // The texts are too long for the column.
         QTRY_COMPARE(lines[0]->toolTip(), lines[0]->accessibleName());
         QTRY_VERIFY(lines[2]->text().endsWith("/R&&D"));  // As it is, and with its end.
@@ -315,21 +346,31 @@ private Q_SLOTS:
 
     void fieldsHaveCommandsOfTheirOwn()
     {
-        auto* box = find<QSpinBox>("databaseSpinBox");
-        settings().setValue("DBCache/cacheSize", 300);
+        auto* box = find<zelSpinBox>("databaseSpinBox");
+        auto* help = find("ZelGeneralSettingsPanel")->findChild<ZelPageHelp*>();
+        const QSignalSpy reached(help, SIGNAL(reached(QWidget*))),
+            requests(help, SIGNAL(helpRequested(QWidget*)));
+        settings().setValue("DBCache/cacheSize", 10);
         for (const bool byKeys : {true, false}) {
-            for (const auto& [command, key, value] : {std::make_tuple("Put back", Qt::Key_Backspace, 300),
-                                                      std::make_tuple("Default", Qt::Key_Delete, 1024)}) {
+            for (const auto& [command, key, value, typed] :
+                 {std::make_tuple("Put back", Qt::Key_Backspace, 10, "5000"),
+                  std::make_tuple("Default", Qt::Key_Delete, 1024, "5")}) { // Outside the range.
                 box->setFocus();
+                box->setValue(value);
                 box->selectAll();
-                QTest::keyClicks(box, "5"); // Less than the minimum.
-                const Later choose(0, [name = QString(command)] {
-                    if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
-                        QVERIFY(menu->actions().size() > 8); // Those of the editor, too.
-                        for (QAction* action : menu->actions())
-                            if (action->text().startsWith(name + '\t'))
-                                menu->setActiveAction(action), QTest::keyClick(menu, Qt::Key_Return);
-                    }
+                QTest::keyClicks(box, typed);
+                const Later choose(0, [box, isDefault = value == 1024] {
+                    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+                    if (!menu)
+                        return;
+                    QCOMPARE(menu->x(), box->mapToGlobal(QPoint(5, 5)).x());
+                    const auto own = menu->actions().mid(menu->actions().size() - 4);
+                    QVERIFY(own[0]->isSeparator() && menu->actions().size() > 8); // Those of the editor, too.
+                    QCOMPARE(own[1]->text() + own[2]->text() + own[3]->text(),
+                             QString("Put back\tAlt+BackspaceDefault\tAlt+DelWhat is this?\tShift+F1"));
+                    QCOMPARE(own[1]->isEnabled(), !isDefault); // The minimum is stored.
+                    menu->setActiveAction(own[1 + isDefault]);
+                    QTest::keyClick(menu, Qt::Key_Return);
                 });
                 QContextMenuEvent asked(QContextMenuEvent::Mouse, QPoint(5, 5), box->mapToGlobal({5, 5}));
                 if (byKeys)
@@ -338,20 +379,20 @@ private Q_SLOTS:
                                         (key == Qt::Key_Delete ? Qt::KeypadModifier : Qt::NoModifier));
                 else
                     QCoreApplication::sendEvent(box, &asked);
+                QCOMPARE(box->text(), box->shownText(value));
                 QTest::keyClick(box, Qt::Key_Escape); // Makes no edit again.
                 QCOMPARE(box->value(), value);
             }
         }
-        auto* help = find("ZelGeneralSettingsPanel")->findChild<ZelPageHelp*>();
-        const QSignalSpy requests(help, SIGNAL(helpRequested(QWidget*)));
         QTest::keyClick(box, Qt::Key_F1, Qt::ShiftModifier);
-        QCOMPARE(requests.value(0).value(0).value<QWidget*>(), box);
+        for (const QSignalSpy* spy : {&reached, &requests})
+            QCOMPARE(spy->value(0).value(0).value<QWidget*>(), box);
     }
 
     void numbersFollowTheLanguage()
     {
         const char* const rows[][4] = {{"ja", "5", "10 MB", "0.125"},
-                                       {"en", "4100", "4,096 Mo", "0.125"},
+                                       {"en", "41,00", "4,096 Mo", "0.125"},
                                        {"en", "1.5", "15 Mo", "0.125"},
                                        {"de", "4.095", "4.095 MB", "0,125"},
                                        {"fr", "5", "10 Mo", "0,125"}};
@@ -391,14 +432,15 @@ private Q_SLOTS:
         QCOMPARE(find<QSlider>("qualitySlider")->value(), 0);
         auto* units = find<QComboBox>("sceneUnitComboBox");
         const auto namesItem = [units] {
-            return units->accessibleDescription().startsWith(units->currentText() + ". ");
+            return units->accessibleDescription() ==
+                   units->currentText() + ". " + ZelPageHelp::HelpOn(units)->summary();
         };
         units->setFocus();
         QVERIFY(namesItem());
         QTest::keyClick(units, Qt::Key_Home);
         QVERIFY(namesItem());
         const auto* list = QAccessible::queryAccessibleInterface(find("libUseLabel_2"));
-        QVERIFY(list->text(QAccessible::Name).contains("Open Sans"));
+        QVERIFY(list->text(QAccessible::Name).startsWith("Qt, application toolkit\n"));
 
         ZelRendererSelector selector(nullptr, Qt::WindowFlags());
         selector.show();

@@ -154,7 +154,12 @@ private Q_SLOTS:
         m_application->manager.cacheSizes.clear();
         m_application->imageFolders.clear();
         QTest::keyClick(page.find("databaseSpinBox"), Qt::Key_Delete, Qt::AltModifier);
-        QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->value(), 500); // There is no default.
+        QCOMPARE(page.find<QSpinBox>("databaseSpinBox")->value(), 500);               // There is no default.
+        QTest::keyClick(page.find("databaseSpinBox"), Qt::Key_F1, Qt::ShiftModifier); // Nor a help area.
+        const QWidgetList shown = QApplication::topLevelWidgets();
+        QVERIFY(std::any_of(shown.begin(), shown.end(),
+                            [](QWidget* each) { return each->inherits("QWhatsThat"); }));
+        QWhatsThis::hideText();
         page.type("databaseSpinBox", "2048");
         choose(page, "screenshotFolderButton", shots);
         QVERIFY(m_application->manager.cacheSizes.isEmpty() && m_application->imageFolders.isEmpty());
