@@ -55,11 +55,9 @@ class tst_Display : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void storedValues_data()
+    void storedValues()
     {
-        // Applied is null where the page can show what is stored, and writes nothing.
-        for (const char* column : {"engine", "key", "stored", "applied"})
-            QTest::addColumn<QString>(column);
+        // By engine and key: what is stored, and what Apply writes; null where it can be shown as it is.
         const std::pair<const char*, SettingsTexts> keys[] = {
             {"deferred Resources/LODTrianglesCap",
              {{"50000", {}}, {"49999", "50000"}, {"500000000", {}}, {"4294967297", "500000000"}}},
@@ -76,20 +74,14 @@ private Q_SLOTS:
             {"deferred deferred/sceneUnits", {{"0.0015", {}}, {"999.9995", {}}, {"nan", {}}, {"", {}}}},
             {"deferred deferred/useED", {{"true", {}}, {"1", {}}, {"false", {}}, {"0", {}}, {"", {}}}}};
         for (const auto& [key, texts] : keys)
-            for (const auto& [stored, applied] : texts)
-                QTest::newRow(qPrintable(QString(key) + ' ' + stored))
-                    << QString(key).section(' ', 0, 0) << QString(key).section(' ', 1) << stored << applied;
-    }
-
-    void storedValues()
-    {
-        QFETCH(QString, engine);
-        QFETCH(QString, key);
-        QFETCH(QString, stored);
-        QFETCH(QString, applied);
-        Viewer viewer({{"engine", engine}});
-        QCOMPARE(writtenUntouched<Page>(viewer, {{key, stored}}, key), applied);
-        QCOMPARE(viewer.renderer.triangles.isEmpty(), applied.isEmpty());
+            for (const auto& [stored, applied] : texts) {
+                const QString setting = QString(key).section(' ', 1);
+                Viewer viewer({{"engine", QString(key).section(' ', 0, 0)}});
+                const QString written = writtenUntouched<Page>(viewer, {{setting, stored}}, setting);
+                QCOMPARE(key + (' ' + stored) + ": " + written, key + (' ' + stored) + ": " + applied);
+                QVERIFY(viewer.renderer.triangles.isEmpty() == applied.isEmpty() &&
+                        written.isNull() == applied.isNull());
+            }
     }
 
     void worksWithoutAnApplication()
@@ -110,9 +102,10 @@ private Q_SLOTS:
         for (int unit = units->count() - 1; unit >= 0; --unit) {
             units->setCurrentIndex(unit);
             display.page.applyModifications();
-            texts += ' ' + viewer.getSettings().value("deferred/sceneUnits").toString();
+            texts += ' ' + viewer.getSettings().value("deferred/sceneUnits").toString() +
+                     units->currentText().section(' ', 1);
         }
-        QCOMPARE(texts, QString("Meter (m) 1000 100 10 1 0.1 0.01 0.001"));
+        QCOMPARE(texts, QString("Meter (m) 1000(mm) 100(cm) 10(dm) 1(m) 0.1(dam) 0.01(hm) 0.001(km)"));
     }
 
     void restarts()
@@ -121,13 +114,13 @@ private Q_SLOTS:
         // "!" needs a restart.
         const QString rows[][3] = {
             {"deferred", "deferred",
-             "raytracer!,cores 1!,quality 3!,cores 0,deferred,cores 2 FXAA,raytracer!"},
+             "raytracer!,cores 0!,quality 3!,cores 1,deferred,cores 2 FXAA,raytracer!"},
             {"deferred", "software", "deferred"}, // Back to the running renderer.
             {"software", "software",
-             "cores 1!,cores 0,cores 2!,quality 2!,cores 1!,quality 1,cores 0,quality 0!"},
+             "cores 0!,cores 1,cores 2!,quality 2!,cores 0!,quality 1,cores 1,quality 0!"},
             {"software", "software", "deferred!,raytracer"}};
         for (const auto& [started, stored, steps] : rows) {
-            Viewer viewer({{"engine", started}});
+            Viewer viewer({{"engine", started}, {"raytracer/coreNumber", "2"}});
             DisplayPage display(viewer);
             store(viewer.getSettings(), {{"engine", stored}});
             display.page.initializeWidget();
@@ -154,6 +147,7 @@ private Q_SLOTS:
             renderingMode->setEnabled(!started);
             viewer.actionManager = &actions;
             DisplayPage display(viewer);
+            QVERIFY(!display.find("sceneUnitComboBox")->isEnabled());
             display.find("resetButton")->setFocus();
             QTest::keyClick(display.find("resetButton"), Qt::Key_Tab);
             QVERIFY(display.find(started ? "deferredButton" : "raytracerButton")->hasFocus());
@@ -172,6 +166,7 @@ private Q_SLOTS:
                     QVERIFY2(display.find(name)->isVisible() == gpu, name);
                 for (const char* name : {"softwareFrame", "basicOptionFrame", "CPUMemoryFrame"})
                     QVERIFY2(display.find(name)->isVisible() != gpu, name);
+                QVERIFY(!display.find("extendOptionFrame")->isVisible()); // Nothing works in it.
                 QCOMPARE(renderingMode->isEnabled(), started);
             }
         }
@@ -185,7 +180,8 @@ private Q_SLOTS:
         registerDefaults(defaults);
         Viewer viewer(SettingsTexts{{"raytracer/coreNumber", "0"}});
         DisplayPage display(viewer);
-        QCOMPARE(display.text("coreUsedLabel"), QString("0 core"));
+        QCOMPARE(display.text("coreUsedLabel") + ' ' + display.text("qualityLabel"),
+                 QString("0 core Medium"));
         QCOMPARE(display.reset(), 1);
         QVERIFY(!display.canClickReset() && !QApplication::focusWidget());
         QCOMPARE(display.text("qualityLabel"), QString("Ultra"));
@@ -195,7 +191,10 @@ private Q_SLOTS:
 
         QCOMPARE(display.text("coreUsedLabel"), QString("1 core"));
         display.slide("coreUsedSlider", 1);
-        QCOMPARE(display.text("coreUsedLabel"), QString("2 cores"));
+        const QImage ultra = pictureOf(display.find("qualitySlider"));
+        display.slide("qualitySlider", 2);
+        QVERIFY(pictureOf(display.find("qualitySlider")) != ultra);
+        QCOMPARE(display.text("coreUsedLabel") + ' ' + display.text("qualityLabel"), QString("2 cores High"));
         // A mark for each step, or for every second, fourth and so on where they would be too close.
         for (const auto& [steps, interval] : {std::make_pair(3, 1), {75, 1}, {120, 2}, {1200, 16}}) {
             display.find<QSlider>("qualitySlider")->setMaximum(steps);
@@ -274,6 +273,12 @@ private Q_SLOTS:
         QTest::keyClick(selector.focusWidget(), Qt::Key_Return);
         QVERIFY(!selector.isVisible() && !selector.useGPURenderer());
         QCOMPARE(selector.result(), int(QDialog::Accepted));
+        for (const char* name : {"closeButton", "deferredButton"}) { // Both close without a choice.
+            selector.show();
+            selector.setResult(QDialog::Accepted);
+            QTest::keyClick(child(name), name == std::string("closeButton") ? Qt::Key_Space : Qt::Key_Escape);
+            QVERIFY(!selector.isVisible() && selector.result() == QDialog::Rejected);
+        }
     }
 };
 

@@ -83,10 +83,7 @@ private:
 private Q_SLOTS:
     void init()
     {
-        registerDefaults({{"screenshot/ImageFolder", ""},
-                          {"DBCache/cacheDirectory", ""},
-                          {"DBCache/cacheSize", "1024"},
-                          {"engine", "deferred"}});
+        registerDefaults({{"DBCache/cacheSize", "1024"}, {"engine", "deferred"}});
         ZelPageDefaults::Register(QSettings(QString(), QSettings::IniFormat));
         open("en");
     }
@@ -224,6 +221,7 @@ private Q_SLOTS:
             QCOMPARE(marked(), QString(stored == ratios ? "Folders" : "Folders Simplification"));
             QTRY_COMPARE(pending().size(), stored == ratios ? 1 : 2);
             QVERIFY(stored != "1/0.5" || pending()[1].startsWith("Simplification: 1/0.5 "));
+            QVERIFY(stored != "1/0.5" || pending()[1].endsWith(" 1/0.75/0.5/0.25/0.1"));
             QVERIFY(find("discardButton")->isVisible());
             for (const char* button : {"editButton", "takeBack"})
                 QCOMPARE(find("pendingList")->findChildren<QWidget*>(button).last()->isEnabled(),
@@ -320,6 +318,7 @@ private Q_SLOTS:
         QCoreApplication::sendEvent(find("screenshotFolderButton"), &rest);
         QCOMPARE(QToolTip::text(), folder); // Also beside the help.
         m_window->resize(1200, 1000);
+        find("raytracerButton")->setFocus();
         QTRY_COMPARE(find("helpFrame")->visibleRegion().boundingRect(), find("helpFrame")->rect());
         m_window->resize(702, 600); // The texts are too long for the column.
         QTRY_COMPARE(lines[0]->toolTip(), lines[0]->accessibleName());
@@ -424,12 +423,14 @@ private Q_SLOTS:
             const QString shown = find<QLabel>(slider + "Label")->text();
             QCOMPARE(read->text(QAccessible::Value), shown);
             QVERIFY(read->text(QAccessible::Description).startsWith(shown + ". "));
+            QCOMPARE(read->role(), QAccessible::Slider);
         }
-        auto* quality = QAccessible::queryAccessibleInterface(find("qualitySlider"));
-        auto* value = quality->valueInterface();
-        QCOMPARE(value->minimumStepSize().toInt(), 1);
-        value->setCurrentValue(0);
-        QCOMPARE(find<QSlider>("qualitySlider")->value(), 0);
+        auto* value = QAccessible::queryAccessibleInterface(find("qualitySlider"))->valueInterface();
+        value->setCurrentValue(2);
+        QCOMPARE(QVariantList({value->minimumValue(), value->currentValue(), value->maximumValue(),
+                               value->minimumStepSize()}),
+                 QVariantList({0, find<QSlider>("qualitySlider")->value(), 3, 1}));
+        QCOMPARE(value->currentValue().toInt(), 2);
         auto* units = find<QComboBox>("sceneUnitComboBox");
         const auto namesItem = [units] {
             return units->accessibleDescription() ==
