@@ -58,8 +58,6 @@ protected:
         double number = 0;
         if (parse(input, number))
             input = nearestText(number);
-        else
-            Box::fixup(input);
     }
 
 private:

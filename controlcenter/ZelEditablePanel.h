@@ -212,10 +212,8 @@ protected:
             m_rows[i].help = rows[i].help;
             addHelp(m_rows[i]);
         }
-        if (!again)
-            return;
-        fill(currentModel(), {});
-        changeState();
+        if (again)
+            fill(currentModel(), {});
     }
 
     /// Reads the stored values.

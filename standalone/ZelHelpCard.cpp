@@ -56,10 +56,7 @@ ZelHelpCard::ZelHelpCard(QWidget* parent)
     m_ui->setupUi(this);
     setObjectName("helpFrame");
     refresh();
-    new LanguageFollower(this, [this] {
-        m_ui->retranslateUi(this);
-        refresh();
-    });
+    new LanguageFollower(this, [this] { m_ui->retranslateUi(this); }); // The help area refreshes it.
 }
 
 ZelHelpCard::~ZelHelpCard() = default;

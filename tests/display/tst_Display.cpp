@@ -184,6 +184,7 @@ private Q_SLOTS:
                  QString("0 core Medium"));
         QCOMPARE(display.reset(), 1);
         QVERIFY(!display.canClickReset() && !QApplication::focusWidget());
+        QVERIFY(display.elsewhere.focusWidget()); // The button of the page.
         QCOMPARE(display.text("qualityLabel"), QString("Ultra"));
         QVERIFY(display.find("qualitySlider")->toolTip().contains("Range: Low to Ultra. Default: Ultra."));
         QVERIFY(display.page.applyModifications());

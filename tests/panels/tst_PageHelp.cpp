@@ -291,6 +291,8 @@ private Q_SLOTS:
         QMessageBox question(QMessageBox::Question, "Title", "Text", QMessageBox::Ok);
         question.setStyleSheet(kqDMIApplication::GetStylesheet("kqMessageBox"));
         for (QWidget* box : {find("helpFrame"), find("pendingList"), find("ZelGeneralSettingsPanel"),
+                             find("ZelImportSettingsPanel"), find("ZelSimplificationSettingsPanel"),
+                             find("ZelRendererSettingsPanel"), find("ZelAboutSettingsPanel"),
                              static_cast<QWidget*>(&selector), static_cast<QWidget*>(&question)}) {
             const QImage picture = pictureOf(box);
             for (QWidget* in : box->findChildren<QWidget*>())
@@ -319,6 +321,7 @@ private Q_SLOTS:
         QCOMPARE(QToolTip::text(), folder); // Also beside the help.
         m_window->resize(1200, 1000);
         find("raytracerButton")->setFocus();
+        QCoreApplication::processEvents();
         QTRY_COMPARE(find("helpFrame")->visibleRegion().boundingRect(), find("helpFrame")->rect());
         m_window->resize(702, 600); // The texts are too long for the column.
         QTRY_COMPARE(lines[0]->toolTip(), lines[0]->accessibleName());

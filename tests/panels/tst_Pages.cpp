@@ -316,7 +316,8 @@ private Q_SLOTS:
             // Only the levels beside it follow, the one above upwards and the one below downwards.
             const char* const edits[][3] = {{"ratio4", "60", "1/0.7/0.6/0.6/0.1"},
                                             {"ratio3", "80", "1/0.8/0.8/0.6/0.1"},
-                                            {"ratio2", "20", "1/0.2/0.2/0.6/0.1"}};
+                                            {"ratio2", "20", "1/0.2/0.2/0.6/0.1"},
+                                            {"ratio4", "5", "1/0.2/0.2/0.05/0.05"}};
             for (const auto& [level, percentage, ratios] : edits) {
                 page.type(level, percentage);
                 QVERIFY(!page.page.applyModifications());
