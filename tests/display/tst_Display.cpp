@@ -183,6 +183,8 @@ private Q_SLOTS:
         QCOMPARE(display.text("coreUsedLabel") + ' ' + display.text("qualityLabel"),
                  QString("0 core Medium"));
         QCOMPARE(display.reset(), 1);
+        display.page.resetContent(); // Not again.
+        QCOMPARE(display.changes.count(), 1);
         QVERIFY(!display.canClickReset() && !QApplication::focusWidget());
         QVERIFY(display.elsewhere.focusWidget()); // The button of the page.
         QCOMPARE(display.text("qualityLabel"), QString("Ultra"));

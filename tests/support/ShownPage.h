@@ -119,7 +119,6 @@ struct ShownPage : User
         find("resetButton")->setFocus();
         changes.clear();
         QTest::keyClick(find("resetButton"), Qt::Key_Space);
-        page.resetContent(); // Nothing, where the defaults are shown.
         return changes.count();
     }
 
