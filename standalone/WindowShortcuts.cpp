@@ -37,10 +37,8 @@ void setAltKeys(const QWidget& controlCenter)
 
 void addWindowShortcuts(QWidget& window, const QWidget& controlCenter)
 {
-    for (QAction* action : controlCenter.actions()) {
-        action->setShortcutContext(Qt::WindowShortcut);
+    for (QAction* action : controlCenter.actions())
         window.addAction(action);
-    }
     const std::pair<const char*, const char*> keys[] = {
         {"apply", "Ctrl+S"}, {"help", "F1"}, {"discard", "Ctrl+Z"}, {"restore", "Ctrl+Shift+Z"}};
     for (const auto& [action, key] : keys)

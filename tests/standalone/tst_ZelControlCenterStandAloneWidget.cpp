@@ -28,6 +28,7 @@ class tst_ZelControlCenterStandAloneWidget : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
+        QVERIFY(m_window.minimumSize() == QSize(702, 300) && !m_window.testAttribute(Qt::WA_Moved));
         m_window.show();
         m_window.openMenu();
         QVERIFY(QTest::qWaitForWindowActive(&m_window));
@@ -35,8 +36,12 @@ private Q_SLOTS:
         auto* controlCenter = m_window.findChild<zel::ZelControlCenter*>();
         const auto* drawer = controlCenter->settingsWidget();
         const auto* shadow = m_window.findChild<QWidget*>("drawerShadow");
-        QCOMPARE(shadow->mapTo(&m_window, QPoint()), drawer->mapTo(&m_window, QPoint(drawer->width(), 0)));
-        QCOMPARE(shadow->size(), QSize(12, drawer->height())); // Of its image.
+        const QPoint right = drawer->mapTo(&m_window, QPoint(drawer->width(), 0));
+        QCOMPARE(QRect(shadow->mapTo(&m_window, QPoint()), shadow->size()),
+                 QRect(701, right.y(), 12, drawer->height())); // The size is that of its image.
+        const QImage picture = pictureOf(&m_window).copy(QRect(right + QPoint(0, 300), QSize(13, 1)));
+        QVERIFY(qGray(picture.pixel(0, 0)) < qGray(picture.pixel(12, 0)));
+        QVERIFY(m_window.childAt(right + QPoint(1, 300)) != shadow); // The mouse passes it by.
         controlCenter->setSettingsWidth(0);
         QVERIFY(!shadow->isVisible());
         controlCenter->setSettingsWidth(450);
@@ -84,12 +89,14 @@ private Q_SLOTS:
     void tabReachesEveryControl()
     {
         QSet<const QWidget*> reached;
-        const QString ends = "putBackButton minimizeButton maximizeButton closeButton";
+        const QString ends =
+            "putBackButton defaultButton discardButton minimizeButton maximizeButton closeButton";
         QStringList order; // The help, then the header.
         for (QWidget* widget = &m_window; (widget = widget->nextInFocusChain()) != &m_window;)
             if (ends.split(' ').contains(widget->objectName()))
                 order << widget->objectName();
         QCOMPARE(order.join(" "), ends);
+        const QSize least = m_window.minimumSize();
         m_window.setMinimumSize(400, 250); // As on a screen that is too small.
         m_window.resize(400, 250);
         QTRY_VERIFY(!m_window.findChild<QWidget*>("helpFrame")->isVisible()); // No room is left for it.
@@ -114,7 +121,7 @@ private Q_SLOTS:
             QTest::mouseRelease(inputOf(&m_window), Qt::LeftButton, Qt::NoModifier, QPoint(5, 15));
         }
         m_window.resize(800, 600);
-        m_window.setMinimumSize(702, 300);
+        m_window.setMinimumSize(least);
         for (QWidget* widget : m_window.findChildren<QWidget*>()) {
             const auto* button = qobject_cast<QAbstractButton*>(widget);
             const bool arrowKeys = button && button->autoExclusive() && !button->isChecked();
@@ -134,7 +141,8 @@ private Q_SLOTS:
             QTest::keyClick(inputOf(&m_window), Qt::Key_Return);
             QTRY_COMPARE(button->toolTip() + button->accessibleName(), QString(tip) + tip);
         }
-        QVERIFY(!m_window.isMaximized() && !m_window.windowIcon().isNull());
+        QVERIFY(!m_window.isMaximized());
+        QCOMPARE(m_window.windowIcon().actualSize(QSize(200, 200)), QSize(128, 128));
         QCOMPARE(roleOf(&m_window), QAccessible::Window);
         QStringList title; // The product is read as one name, although one half of it is bold.
         for (QLabel* label : m_window.findChild<QFrame*>("headerFrame")->findChildren<QLabel*>())
@@ -186,21 +194,29 @@ private Q_SLOTS:
         QTest::keyClick(inputOf(&m_window), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
         QVERIFY(check->isChecked());
         QSignalSpy help(controlCenter, SIGNAL(helpRequested(QWidget*)));
-        press(Qt::Key_F1, Qt::NoModifier);
+        for (const Qt::KeyboardModifier modifier : {Qt::NoModifier, Qt::ShiftModifier}) {
+            press(Qt::Key_F1, modifier);
+            QWidget* opened = QApplication::activePopupWidget();
+            QVERIFY(opened &&
+                    QApplication::desktop()->availableGeometry(opened).contains(opened->geometry()));
+            QTest::keyClick(opened, Qt::Key_Escape);
+        }
         QCOMPARE(help.count(), 1);
-        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
         auto *apply = m_window.findChild<QPushButton*>("applyButton"),
              *reset = m_window.findChild<QPushButton*>("resetButton");
-        for (const char* text : {"Annuler", "Reset"}) { // The first one as in another language.
-            reset->setText(text);
+        for (const char* text : {"\346\210\273\343\201\231", "Annuler", "Reset"}) { // As in other languages.
+            reset->setText(QString::fromUtf8(text));
             QEvent change(QEvent::LanguageChange);
             for (QPushButton* button : {reset, apply})
                 QCoreApplication::sendEvent(button, &change);
             QVERIFY(!reset->shortcut().isEmpty() && reset->shortcut() != apply->shortcut());
-            QCOMPARE(controlCenter->findChild<QAction*>("reset")->text(), QString(text));
+            QCOMPARE(controlCenter->findChild<QAction*>("reset")->text(), QString::fromUtf8(text));
         }
         size->setValue(size->maximum());
+        m_window.findChild<QWidget*>("closeButton")->setFocus(); // Neither in the column nor in the drawer.
         press(Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(!controlCenter->hasModifications());
+        size->setFocus();
         for (const Qt::Key key : {Qt::Key_Q, Qt::Key_W}) {
             typeOver("1");
             BoxAnswer answer({Qt::Key_Return});
@@ -216,6 +232,42 @@ private Q_SLOTS:
             QTRY_COMPARE(m_application.getSettings().value("DBCache/cacheSize").toInt(),
                          alt ? size->minimum() : size->maximum());
         }
+    }
+
+    void pendingEditsAreReachedByKeyboard()
+    {
+        auto* check = m_window.findChild<QCheckBox*>("deferredFXAACheckBox");
+        auto* sag = m_window.findChild<QDoubleSpinBox*>("faceSagSpin"); // Its page does not tell of edits.
+        m_window.findChild<QRadioButton*>("sag")->click();
+        sag->setValue(1);
+        m_window.findChild<zel::ZelControlCenter*>()->applyModifications();
+        check->toggle();
+        sag->setFocus();
+        sag->setValue(2);
+        QVERIFY(m_window.findChild<QLabel*>("stateLabel")->text().startsWith("Changed"));
+        auto* discard = m_window.findChild<QPushButton*>("discardButton");
+        const auto tab = [&](int times) {
+            for (discard->setFocus(); times > 0; --times)
+                QTest::keyClick(inputOf(&m_window), Qt::Key_Tab);
+            return QApplication::focusWidget();
+        };
+        QStringList reached;
+        for (int times = 0; times < 6; ++times)
+            reached << tab(times)->objectName();
+        QCOMPARE(reached.join(" "),
+                 QString("discardButton editButton takeBack editButton takeBack minimizeButton"));
+        QTest::keyClick(tab(3), Qt::Key_Return);
+        QVERIFY(sag->hasFocus());
+        const QWidget* first = tab(1);
+        sag->setValue(1);
+        QVERIFY(first->hasFocus()); // Only the line below has gone.
+        sag->setValue(2);
+        tab(3);
+        m_window.findChild<QAction*>("discard")->trigger();
+        QVERIFY(sag->hasFocus() && sag->value() == 1);
+        m_window.findChild<QAction*>("restore")->trigger();
+        QTest::keyClick(tab(0), Qt::Key_Space);
+        QVERIFY(check->hasFocus() && sag->value() == 1);
     }
 
     void appliesOnlyWhatTheUserHasEdited()
@@ -345,8 +397,7 @@ private Q_SLOTS:
 
     void comesBackFromALostScreen()
     {
-        FakeApplication application;
-        NextWindow window(application);
+        auto& window = m_window;
         for (const char* change : {"resized", "workAreaResized", "screenCountChanged"}) {
             window.resize(2000, 400);
             QMetaObject::invokeMethod(QApplication::desktop(), change, Q_ARG(int, 0));
