@@ -109,7 +109,7 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
         m_ui->retranslateUi(this);
         setTexts(*application);
     });
-    orderFocus();
+    m_controlCenter->installEventFilter(this);
     const QString folder = QFileInfo(application->getSettings().fileName()).path();
     m_geometry = new WindowGeometry(
         this, QSize(ZelControlCenter::OpenWidth() + 2 * FrameWidth, MinimumHeight), folder + "/Window.ini");
@@ -135,19 +135,6 @@ void ZelControlCenterStandAloneWidget::setTexts(kqDMIApplication& application)
         for (QLabel* summary : panel->findChildren<QLabel*>("summaryLabel"))
             if (summary->styleSheet() != sheet)
                 summary->setStyleSheet(sheet);
-}
-
-void ZelControlCenterStandAloneWidget::orderFocus()
-{
-    m_controlCenter->installEventFilter(this);
-    // The Tab key reaches those of the help after the pages, and the buttons of the window last.
-    QWidget* last = previousInFocusChain();
-    for (const char* name : {"putBackButton", "defaultButton", "discardButton", "minimizeButton",
-                             "maximizeButton", "closeButton"}) {
-        auto* button = findChild<QPushButton*>(name);
-        setTabOrder(last, button);
-        last = button;
-    }
 }
 
 void ZelControlCenterStandAloneWidget::triggerMinimize()
