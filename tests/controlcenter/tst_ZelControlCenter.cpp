@@ -127,6 +127,7 @@ private Q_SLOTS:
         QCOMPARE(m_controlCenter->settingsWidth(), 450);
 
         m_controlCenter->setControlCenterVisible(false);
+        QCOMPARE(slide->easingCurve().type(), QEasingCurve::InQuad);
         const auto* pages = m_controlCenter->findChild<QFrame*>("preferenceFrame");
         while (m_controlCenter->isSettingsOpen()) {
             QCOMPARE(pages->isVisible() ? pages->y() : 0, 0); // The column stands still.
@@ -336,8 +337,10 @@ private Q_SLOTS:
             other->setValue("other/key", value);
             other->sync();
         };
-        write(1234); // While the drawer opens.
-        QTRY_COMPARE(size->value(), 1234);
+        for (const int value : {1234, 3456}) { // While the drawer opens, and then in as many bytes.
+            write(value);
+            QTRY_COMPARE(size->value(), value);
+        }
         size->setValue(77);
         write(2345); // An edit stays.
         QTRY_COMPARE(m_application->getSettings().value("other/key").toInt(), 2345);
@@ -371,7 +374,10 @@ private Q_SLOTS:
             QVERIFY(m_application->engineUpdates.last() && m_controlCenter->isMenuOpen());
             QVERIFY(answer.texts.size() == 1 && showsActions(true));
             openEverything();
-            QCOMPARE(m_pages[0]->width(), 450); // No scroll bar is needed.
+            for (const int height : {700, 300, 700}) { // The drawer scrolls only where it is too low.
+                m_window->resize(1200, height);
+                QTRY_COMPARE(m_pages[0]->width(), height == 300 ? 450 - scrollBar()->width() : 450);
+            }
             m_pages[0]->edit();
             answer.setInterval(answerAfter);
             m_controlCenter->openMenu(false);
@@ -387,6 +393,7 @@ private Q_SLOTS:
         addPages(4);
         for (const auto& page : m_pages) {
             (new QSpinBox(page.get()))->hide();
+            (new QSpinBox(page.get()))->setEnabled(false);
             auto* button = new QPushButton(page.get());
             button->setCheckable(true);
             button->show();
@@ -491,16 +498,19 @@ private Q_SLOTS:
             for (const Qt::Key end : {Qt::Key_Return, Qt::Key_Escape}) {
                 box.selectAll();
                 QTest::keyClicks(&box, end == Qt::Key_Return ? QString::number(value) : "44");
-                press(end);
+                press(end == Qt::Key_Return && value == 33 ? Qt::Key_Enter : end);
                 QCOMPARE(box.value(), value);
             }
         }
         QCOMPARE(box.findChild<QLineEdit*>()->selectedText(), QString("33")); // To be typed over.
-        m_pages[0]->edit();
-        QTest::keyClicks(&box, "55");
-        m_controlCenter->findChild<QAction*>("apply")->trigger();
-        press(Qt::Key_Escape); // What is applied is not what is typed.
-        QVERIFY(box.value() == 55 && box.findChild<QLineEdit*>()->selectedText().isEmpty());
+        for (const auto& [command, number] : {std::make_pair("apply", 55), {"reset", 66}, {"discard", 77}}) {
+            m_pages[0]->edit();
+            box.selectAll();
+            QTest::keyClicks(&box, QString::number(number));
+            m_controlCenter->findChild<QAction*>(command)->trigger();
+            press(Qt::Key_Escape); // What is applied is not what is typed.
+            QVERIFY(box.value() == number && box.findChild<QLineEdit*>()->selectedText().isEmpty());
+        }
         zel::zelSpinBox last(m_pages[2].get());
         last.show();
         QWidget* const pageButton = m_pages[0]->getActionWidget();
@@ -604,6 +614,10 @@ private Q_SLOTS:
         auto* shortcut = item.findChild<QLabel*>("shortcut");
         item.show();
         QSignalSpy triggered(&action, SIGNAL(triggered()));
+        action.setText("Text");
+        action.setToolTip("Tip");
+        action.setStatusTip("Status");
+        QCOMPARE(button->text() + item.toolTip() + item.statusTip(), QString("TextTipStatus"));
         for (const QString keys : {"Ctrl+O", ""}) {
             action.setShortcut(QKeySequence(keys));
             action.setEnabled(!keys.isEmpty());
@@ -660,7 +674,7 @@ private Q_SLOTS:
         openEverything();
         action("closing").trigger();
         QCOMPARE(m_application->engineUpdates.count(false), 3); // It closes once.
-        QTRY_VERIFY(!m_controlCenter->isMenuOpen());
+        QTRY_VERIFY(!m_controlCenter->isMenuOpen() && !button("controlCenterButton")->isChecked());
         openEverything();
         m_controlCenter->unregisterCCAction(&action("closing"));
         action("closing").trigger();

@@ -34,8 +34,10 @@ struct Onlooker : QTimer
 
     static QString describe(QWidget& window)
     {
-        if (const auto* box = qobject_cast<QMessageBox*>(&window))
-            return box->windowTitle() + (box->textFormat() == Qt::PlainText ? ": " : ":: ") + box->text();
+        if (const auto* box = qobject_cast<QMessageBox*>(&window)) {
+            const bool isUsual = box->textFormat() == Qt::PlainText && !box->styleSheet().isEmpty();
+            return box->windowTitle() + (isUsual ? ": " : ":: ") + box->text();
+        }
         const QMessageBox question(QMessageBox::NoIcon, "", "", QMessageBox::Cancel);
         QStringList seen(question.button(QMessageBox::Cancel)->text());
         seen << window.findChild<QLabel*>("summaryLabel")->styleSheet();
@@ -43,6 +45,8 @@ struct Onlooker : QTimer
             seen << "frameless";
         if (!QFontDatabase::applicationFontFamilies(0).isEmpty())
             seen << "own fonts";
+        if (QCoreApplication::libraryPaths().contains("bin"))
+            seen << "own plug-ins";
         return seen.join(", ");
     }
 };
@@ -91,7 +95,7 @@ private Q_SLOTS:
             QString::fromUtf8("\343\202\255\343\203\243\343\203\263\343\202\273\343\203\253");
         const std::tuple<const char*, QByteArray, QString, QString> rows[] = {
             {"Japanese, with diagnostics", complete + "language=ja\nenablediag=true\n", "",
-             cancel + ", font-style: normal;, frameless, own fonts"},
+             cancel + ", font-style: normal;, frameless, own fonts, own plug-ins"},
             {"settings are a folder", "", "Settings.ini/x", error + "read" + file + "it is not a file"},
             {"no folder for the cache", complete, "cache",
              error + "use the 3D database cache, folder \"%1/cache/TorvaneBoundlessX64/"}};
@@ -108,7 +112,7 @@ private Q_SLOTS:
         const QTemporaryDir root;
         const QString home = root.filePath("TorvaneBoundlessX64");
         QDirIterator font("/usr/share/fonts", {"*.ttf"}, QDir::Files, QDirIterator::Subdirectories);
-        store(root.filePath("resources/Defaults.ini"), "[Resources]\nLODTrianglesCap=77777\n");
+        store(root.filePath("resources/Defaults.ini"), "[screenshot]\nImageFolder=/\303\274\n");
         for (const QString name : {"bin", "resources/languages"})
             QVERIFY(QFile::link(stage() + '/' + name, root.filePath(name)));
         QVERIFY(QFile::link(QFileInfo(font.next()).path(), root.filePath("resources/fonts")));
@@ -132,7 +136,7 @@ private Q_SLOTS:
         const QByteArray log = contentOf(home + "/log.txt");
         QVERIFY2(log.contains("Applied the settings") == isWindow, log);
         QVERIFY2(log.contains("[debug] seen") == isReported, log);
-        QCOMPARE(bool(contentOf(home + "/Settings.ini").contains("LODTrianglesCap=77777\n")), isWindow);
+        QCOMPARE(bool(contentOf(home + "/Settings.ini").contains("ImageFolder=/\303\274\n")), isWindow);
         QCOMPARE(first.readAllStandardOutput(), QByteArray("0 settings\n"));
     }
 #endif

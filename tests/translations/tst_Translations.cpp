@@ -1,9 +1,12 @@
 #include "ShownPage.h"
+#include "ZelCCActionItem.h"
 #include "ZelControlCenterStandAloneWidget.h"
 #include "ZelPageDefaults.h"
 #include "ZelRendererSelector.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsPanel.h"
+
+#include "platform/zelAction.h"
 
 using namespace zel;
 
@@ -73,6 +76,7 @@ struct EditedWindow : User
         editor.openMenu();
         QTRY_VERIFY(find<ZelControlCenter>("ZelControlCenter")->isSettingsOpen());
         QApplication::setActiveWindow(&editor);
+        action.setShortcut(QKeySequence("Ctrl+Del"));
         click("deferredFXAACheckBox");
         type("databaseSpinBox", "1234567");
         find("maxTrianglesSpinBox")->setFocus();
@@ -82,11 +86,13 @@ struct EditedWindow : User
     QStringList texts()
     {
         QCoreApplication::processEvents();
-        return textsOf(&editor) + textsOf(&selector);
+        return textsOf(&editor) + textsOf(&selector) + textsOf(&item);
     }
 
     ZelControlCenterStandAloneWidget editor;
     ZelRendererSelector selector;
+    zelAction action{"open", "", nullptr};
+    ZelCCActionItem item{&action, nullptr, Qt::WindowFlags()}; // A viewer has more of them.
 };
 
 } // namespace
@@ -142,6 +148,7 @@ private Q_SLOTS:
 
         speak(m_language, &QCoreApplication::installTranslator);
         QTRY_COMPARE(shown.texts(), translated);
+        QVERIFY(m_language != "de" || translated.contains("shortcut text: Strg+Entf"));
         QCOMPARE(QApplication::focusWidget(), focused);
         speak("en", &QCoreApplication::removeTranslator);
         QTRY_COMPARE(shown.texts(), untranslated);
