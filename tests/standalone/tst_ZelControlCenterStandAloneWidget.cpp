@@ -421,7 +421,7 @@ private Q_SLOTS:
         const QPoint onHeader(300, 15), way(30, 20);
         m_window.setGeometry(0, 0, 720, 500);
         const QRect moved = m_window.geometry().translated(way);
-        drag(m_window, onHeader, QPoint(2, 2), onHeader + QPoint(2, 2)); // Less than a drag.
+        drag(m_window, onHeader, QPoint(1, 1), onHeader + QPoint(1, 1)); // Less than a drag.
         drag(m_window, onHeader, way, onHeader);
         QCOMPARE(m_window.geometry(), moved);
         for (const Qt::MouseButton button : {Qt::RightButton, Qt::LeftButton}) {
