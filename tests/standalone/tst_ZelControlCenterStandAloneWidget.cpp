@@ -21,30 +21,30 @@ struct NextWindow : ZelControlCenterStandAloneWidget
 
 } // namespace
 
-class tst_ZelControlCenterStandAloneWidget : public QObject
+class tst_ZelControlCenterStandAloneWidget : public QObject, private User
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase()
     {
+        window = &m_window;
         QVERIFY(m_window.minimumSize() == QSize(702, 300) && !m_window.testAttribute(Qt::WA_Moved));
         m_window.show();
         m_window.openMenu();
         QVERIFY(QTest::qWaitForWindowActive(&m_window));
-        QTRY_VERIFY(showsPages(*m_window.findChild<zel::ZelControlCenter*>()));
-        auto* controlCenter = m_window.findChild<zel::ZelControlCenter*>();
-        const auto* drawer = controlCenter->settingsWidget();
-        const auto* shadow = m_window.findChild<QWidget*>("drawerShadow");
+        QTRY_VERIFY(showsPages(*m_controlCenter));
+        const auto* drawer = m_controlCenter->settingsWidget();
+        const auto* shadow = find("drawerShadow");
         const QPoint right = drawer->mapTo(&m_window, QPoint(drawer->width(), 0));
         QCOMPARE(QRect(shadow->mapTo(&m_window, QPoint()), shadow->size()),
                  QRect(701, right.y(), 12, drawer->height())); // The size is that of its image.
         const QImage picture = pictureOf(&m_window).copy(QRect(right + QPoint(0, 300), QSize(13, 1)));
         QVERIFY(qGray(picture.pixel(0, 0)) < qGray(picture.pixel(12, 0)));
         QVERIFY(m_window.childAt(right + QPoint(1, 300)) != shadow); // The mouse passes it by.
-        controlCenter->setSettingsWidth(0);
+        m_controlCenter->setSettingsWidth(0);
         QVERIFY(!shadow->isVisible());
-        controlCenter->setSettingsWidth(450);
+        m_controlCenter->setSettingsWidth(450);
         QMap<int, QString> pages;
         for (const auto* page : m_window.findChildren<zel::ZelSettingsPanel*>())
             pages.insert(page->y(), page->getPanelName() + QString::number(page->getPanelCategory()));
@@ -58,10 +58,10 @@ private Q_SLOTS:
 
     void wheelScrollsTheDrawerUntilAFieldHasTheFocus()
     {
-        QScrollArea* drawer = m_window.findChild<zel::ZelControlCenter*>()->settingsWidget();
+        QScrollArea* drawer = m_controlCenter->settingsWidget();
         const QScrollBar* bar = drawer->verticalScrollBar();
         QSet<QString> turned;
-        m_window.findChild<QCheckBox*>("deferredSSAOCheckBox")->setChecked(true); // Enables the scene units.
+        find<QCheckBox>("deferredSSAOCheckBox")->setChecked(true); // Enables the scene units.
         for (const char* engine : {"raytracerButton", "deferredButton"}) {
             m_window.findChild<QRadioButton*>(engine)->click();
             for (QWidget* field : m_window.findChildren<QWidget*>()) {
@@ -92,7 +92,7 @@ private Q_SLOTS:
         const QString ends = "putBackButton defaultButton discardButton editButton takeBack minimizeButton "
                              "maximizeButton closeButton";
         QStringList order; // The help, then the header.
-        for (QWidget *apply = m_window.findChild<QWidget*>("applyButton"), *widget = apply;
+        for (QWidget *apply = find("applyButton"), *widget = apply;
              (widget = widget->nextInFocusChain()) != apply;)
             if (ends.split(' ').contains(widget->objectName()))
                 order << widget->objectName();
@@ -101,7 +101,7 @@ private Q_SLOTS:
         const QSize least = m_window.minimumSize();
         m_window.setMinimumSize(400, 250); // As on a screen that is too small.
         m_window.resize(400, 250);
-        QTRY_VERIFY(!m_window.findChild<QWidget*>("helpFrame")->isVisible()); // No room is left for it.
+        QTRY_VERIFY(!find("helpFrame")->isVisible()); // No room is left for it.
         for (int i = 0; i < 100; ++i) {
             QTest::keyClick(inputOf(&m_window), Qt::Key_Tab);
             const QWidget* focused = QApplication::focusWidget();
@@ -110,8 +110,8 @@ private Q_SLOTS:
                      qPrintable(focused->objectName() + " is out of sight"));
             reached << focused;
         }
-        auto* first = m_window.findChild<QWidget*>("deferredButton");
-        auto* last = m_window.findChild<QWidget*>("copyButton");
+        auto* first = find("deferredButton");
+        auto* last = find("copyButton");
         const auto place = [&] { return first->mapTo(&m_window, QPoint()); };
         for (const bool held : {true, false}) { // Nothing moves under a mouse button that is held down.
             last->setFocus();
@@ -135,9 +135,9 @@ private Q_SLOTS:
 
     void windowButtonsWorkByKeyboard()
     {
-        for (const auto* button : m_window.findChild<QFrame*>("buttonsFrame")->findChildren<QPushButton*>())
+        for (const auto* button : find<QFrame>("buttonsFrame")->findChildren<QPushButton*>())
             QVERIFY(qMin(button->width(), button->height()) >= 24 && !button->accessibleName().isEmpty());
-        auto* button = m_window.findChild<QPushButton*>("maximizeButton");
+        auto* button = find<QPushButton>("maximizeButton");
         button->setFocus();
         for (const char* tip : {"Restore", "Maximize"}) {
             QTest::keyClick(inputOf(&m_window), Qt::Key_Return);
@@ -147,7 +147,7 @@ private Q_SLOTS:
         QCOMPARE(m_window.windowIcon().actualSize(QSize(200, 200)), QSize(128, 128));
         QCOMPARE(roleOf(&m_window), QAccessible::Window);
         QStringList title; // The product is read as one name, although one half of it is bold.
-        for (QLabel* label : m_window.findChild<QFrame*>("headerFrame")->findChildren<QLabel*>())
+        for (QLabel* label : find<QFrame>("headerFrame")->findChildren<QLabel*>())
             title << readOut(label);
         title.sort();
         QCOMPARE(title.join("|"), QString("Control Center|Torvane|silent|silent"));
@@ -155,47 +155,44 @@ private Q_SLOTS:
 
     void shortcuts()
     {
-        auto* controlCenter = m_window.findChild<zel::ZelControlCenter*>();
-        auto* check = m_window.findChild<QCheckBox*>("deferredFXAACheckBox");
         const auto press = [this](Qt::Key key, Qt::KeyboardModifier modifier) {
             QApplication::setActiveWindow(&m_window); // After a box, too.
             QTest::keyClick(inputOf(&m_window), key, modifier);
         };
-        check->setFocus();
+        m_check->setFocus();
         for (const bool alt : {false, true}) {
-            const bool checked = check->isChecked();
+            const bool checked = m_check->isChecked();
             press(Qt::Key_Return, Qt::ControlModifier);
-            QCOMPARE(check->isChecked(), checked);
+            QCOMPARE(m_check->isChecked(), checked);
             press(alt ? Qt::Key_Enter : Qt::Key_Return, alt ? Qt::KeypadModifier : Qt::NoModifier);
-            QVERIFY(check->isChecked() != checked && controlCenter->hasModifications());
+            QVERIFY(m_check->isChecked() != checked && m_controlCenter->hasModifications());
             alt ? press(Qt::Key_A, Qt::AltModifier) : press(Qt::Key_S, Qt::ControlModifier);
-            QTRY_VERIFY(!controlCenter->hasModifications());
-            QVERIFY(check->hasFocus());
+            QTRY_VERIFY(!m_controlCenter->hasModifications());
+            QVERIFY(m_check->hasFocus());
         }
-        check->setChecked(false);
+        m_check->setChecked(false);
         press(Qt::Key_Space, Qt::NoModifier);
         QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
-        QCoreApplication::sendEvent(check, &held);
-        QVERIFY(check->isChecked());
+        QCoreApplication::sendEvent(m_check, &held);
+        QVERIFY(m_check->isChecked());
         press(Qt::Key_R, Qt::AltModifier);
-        QTRY_VERIFY(!check->isChecked());
-        auto* size = m_window.findChild<QSpinBox*>("databaseSpinBox");
+        QTRY_VERIFY(!m_check->isChecked());
         const auto typeOver = [&](const char* number) { // It counts before it is an edit.
-            size->selectAll();
-            QTest::keyClicks(size, number);
+            m_size->selectAll();
+            QTest::keyClicks(m_size, number);
         };
-        size->setFocus();
+        m_size->setFocus();
         typeOver("1"); // Less than the minimum.
         press(Qt::Key_C, Qt::ControlModifier);
-        QVERIFY(size->text().startsWith("1 "));
-        check->setChecked(true);
+        QVERIFY(m_size->text().startsWith("1 "));
+        m_check->setChecked(true);
         for (const bool typed : {true, false}) { // Undoes what is typed, then discards.
             press(Qt::Key_Z, Qt::ControlModifier);
-            QVERIFY(!size->text().startsWith("1 ") && check->isChecked() == typed && size->hasFocus());
+            QVERIFY(!m_size->text().startsWith("1 ") && m_check->isChecked() == typed && m_size->hasFocus());
         }
         QTest::keyClick(inputOf(&m_window), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-        QVERIFY(check->isChecked());
-        QSignalSpy help(controlCenter, SIGNAL(helpRequested(QWidget*)));
+        QVERIFY(m_check->isChecked());
+        QSignalSpy help(m_controlCenter, SIGNAL(helpRequested(QWidget*)));
         for (const Qt::KeyboardModifier modifier : {Qt::NoModifier, Qt::ShiftModifier}) {
             press(Qt::Key_F1, modifier);
             QWidget* opened = QApplication::activePopupWidget();
@@ -204,21 +201,20 @@ private Q_SLOTS:
             QTest::keyClick(opened, Qt::Key_Escape);
         }
         QCOMPARE(help.count(), 1);
-        auto *apply = m_window.findChild<QPushButton*>("applyButton"),
-             *reset = m_window.findChild<QPushButton*>("resetButton");
+        auto *apply = find<QPushButton>("applyButton"), *reset = find<QPushButton>("resetButton");
         for (const char* text : {"\346\210\273\343\201\231", "Annuler", "Reset"}) { // As in other languages.
             reset->setText(QString::fromUtf8(text));
             QEvent change(QEvent::LanguageChange);
             for (QPushButton* button : {reset, apply})
                 QCoreApplication::sendEvent(button, &change);
             QVERIFY(!reset->shortcut().isEmpty() && reset->shortcut() != apply->shortcut());
-            QCOMPARE(controlCenter->findChild<QAction*>("reset")->text(), QString::fromUtf8(text));
+            QCOMPARE(m_controlCenter->findChild<QAction*>("reset")->text(), QString::fromUtf8(text));
         }
-        size->setValue(size->maximum());
-        m_window.findChild<QWidget*>("closeButton")->setFocus(); // Neither in the column nor in the drawer.
+        m_size->setValue(m_size->maximum());
+        find("closeButton")->setFocus(); // Neither in the column nor in the drawer.
         press(Qt::Key_S, Qt::ControlModifier);
-        QVERIFY(!controlCenter->hasModifications());
-        size->setFocus();
+        QVERIFY(!m_controlCenter->hasModifications());
+        m_size->setFocus();
         for (const Qt::Key key : {Qt::Key_Q, Qt::Key_W}) {
             typeOver("1");
             BoxAnswer answer({Qt::Key_Return});
@@ -232,22 +228,21 @@ private Q_SLOTS:
             typeOver(alt ? "1" : "9999");
             alt ? press(Qt::Key_A, Qt::AltModifier) : press(Qt::Key_S, Qt::ControlModifier);
             QTRY_COMPARE(m_application.getSettings().value("DBCache/cacheSize").toInt(),
-                         alt ? size->minimum() : size->maximum());
+                         alt ? m_size->minimum() : m_size->maximum());
         }
     }
 
     void pendingEditsAreReachedByKeyboard()
     {
-        auto* check = m_window.findChild<QCheckBox*>("deferredFXAACheckBox");
-        auto* sag = m_window.findChild<QDoubleSpinBox*>("faceSagSpin"); // Its page does not tell of edits.
-        m_window.findChild<QRadioButton*>("sag")->click();
+        auto* sag = find<QDoubleSpinBox>("faceSagSpin"); // Its page does not tell of edits.
+        find<QRadioButton>("sag")->click();
         sag->setValue(1);
-        m_window.findChild<QPushButton*>("applyButton")->click();
-        check->toggle();
+        find<QPushButton>("applyButton")->click();
+        m_check->toggle();
         sag->setFocus();
         sag->setValue(2);
-        QVERIFY(m_window.findChild<QLabel*>("stateLabel")->text().startsWith("Changed"));
-        auto* discard = m_window.findChild<QPushButton*>("discardButton");
+        QVERIFY(find<QLabel>("stateLabel")->text().startsWith("Changed"));
+        auto* discard = find<QPushButton>("discardButton");
         const auto tab = [&](int times) {
             QCoreApplication::processEvents(); // New lines appear.
             for (discard->setFocus(); times > 0; --times)
@@ -266,42 +261,40 @@ private Q_SLOTS:
         QVERIFY(first->hasFocus()); // Only the line below has gone.
         sag->setValue(2);
         tab(3);
-        m_window.findChild<QAction*>("discard")->trigger();
+        find<QAction>("discard")->trigger();
         QVERIFY(sag->hasFocus() && sag->value() == 1);
-        m_window.findChild<QAction*>("restore")->trigger();
+        find<QAction>("restore")->trigger();
         QTest::keyClick(tab(0), Qt::Key_Space);
-        QVERIFY(check->hasFocus() && sag->value() == 1);
+        QVERIFY(m_check->hasFocus() && sag->value() == 1);
     }
 
     void appliesOnlyWhatTheUserHasEdited()
     {
         const QString path = m_application.getSettings().fileName();
         store(path, "[DBCache]\ncacheSize=1234\n"); // As another program does.
-        auto* size = m_window.findChild<QSpinBox*>("databaseSpinBox");
-        size->setFocus();
-        auto* check = m_window.findChild<QCheckBox*>("deferredFXAACheckBox");
-        check->toggle();
-        m_window.findChild<QPushButton*>("applyButton")->click();
-        QVERIFY(contentOf(path).contains(check->isChecked() ? "useFXAA=true" : "useFXAA=false"));
+        m_size->setFocus();
+        m_check->toggle();
+        find<QPushButton>("applyButton")->click();
+        QVERIFY(contentOf(path).contains(m_check->isChecked() ? "useFXAA=true" : "useFXAA=false"));
         QVERIFY(contentOf(path).contains("cacheSize=1234"));
-        QTest::keyClick(size, Qt::Key_Escape); // Does not bring back the former value.
-        QCOMPARE(size->value(), 1234);
-        size->selectAll();
-        QTest::keyClicks(size, "5"); // Less than the minimum, so no value yet.
+        QTest::keyClick(m_size, Qt::Key_Escape); // Does not bring back the former value.
+        QCOMPARE(m_size->value(), 1234);
+        m_size->selectAll();
+        QTest::keyClicks(m_size, "5"); // Less than the minimum, so no value yet.
         store(path, contentOf(path).replace("cacheSize=1234", "cacheSize=345"));
         QTimerEvent tick(0);
         int ticks = 0;
-        for (QObject* child : m_window.findChild<zel::ZelControlCenter*>()->children())
+        for (QObject* child : m_controlCenter->children())
             ticks += child->inherits("zel::SettingsPages") && QCoreApplication::sendEvent(child, &tick);
         QCOMPARE(ticks, 1);
-        QCOMPARE(size->text().left(2), QString("5 "));
-        QTest::keyClick(size, Qt::Key_Escape);
-        QTRY_COMPARE(size->value(), 345);
+        QCOMPARE(m_size->text().left(2), QString("5 "));
+        QTest::keyClick(m_size, Qt::Key_Escape);
+        QTRY_COMPARE(m_size->value(), 345);
         for (const Qt::Key end : {Qt::Key_Return, Qt::Key_Escape}) { // Back to the edit, not to the file.
-            size->selectAll();
-            QTest::keyClicks(size, end == Qt::Key_Return ? "400" : "500");
-            QTest::keyClick(size, end);
-            QCOMPARE(size->value(), 400);
+            m_size->selectAll();
+            QTest::keyClicks(m_size, end == Qt::Key_Return ? "400" : "500");
+            QTest::keyClick(m_size, end);
+            QCOMPARE(m_size->value(), 400);
         }
     }
 
@@ -400,20 +393,20 @@ private Q_SLOTS:
 
     void comesBackFromALostScreen()
     {
-        auto& window = m_window;
         for (const char* change : {"resized", "workAreaResized", "screenCountChanged"}) {
-            window.resize(2000, 400);
+            m_window.resize(2000, 400);
             QMetaObject::invokeMethod(QApplication::desktop(), change, Q_ARG(int, 0));
-            QCOMPARE(window.width(), QApplication::desktop()->availableGeometry(&window).width());
+            QCOMPARE(m_window.width(), QApplication::desktop()->availableGeometry(&m_window).width());
         }
-        window.setGeometry(3000, 40, 720, 400);
-        window.showMaximized();
-        window.showNormal();
-        QTRY_VERIFY(QApplication::desktop()->availableGeometry(&window).contains(window.geometry()));
-        window.hide();
-        window.show();
-        window.move(700, 40); // As a window manager places it.
-        QTRY_COMPARE(window.geometry().right(), QApplication::desktop()->availableGeometry(&window).right());
+        m_window.setGeometry(3000, 40, 720, 400);
+        m_window.showMaximized();
+        m_window.showNormal();
+        QTRY_VERIFY(QApplication::desktop()->availableGeometry(&m_window).contains(m_window.geometry()));
+        m_window.hide();
+        m_window.show();
+        m_window.move(700, 40); // As a window manager places it.
+        QTRY_COMPARE(m_window.geometry().right(),
+                     QApplication::desktop()->availableGeometry(&m_window).right());
     }
 
     void headerMovesAndMaximizes()
@@ -425,7 +418,7 @@ private Q_SLOTS:
         drag(m_window, onHeader, way, onHeader);
         QCOMPARE(m_window.geometry(), moved);
         for (const Qt::MouseButton button : {Qt::RightButton, Qt::LeftButton}) {
-            QTest::mouseDClick(m_window.findChild<QWidget*>("headerFrame"), button);
+            QTest::mouseDClick(find("headerFrame"), button);
             QCOMPARE(m_window.isMaximized(), button == Qt::LeftButton);
         }
         QTRY_COMPARE(m_window.pos(), QPoint());
@@ -438,6 +431,9 @@ private Q_SLOTS:
 private:
     FakeApplication m_application;
     ZelControlCenterStandAloneWidget m_window{&m_application, nullptr, Qt::FramelessWindowHint};
+    QCheckBox* const m_check = m_window.findChild<QCheckBox*>("deferredFXAACheckBox");
+    QSpinBox* const m_size = m_window.findChild<QSpinBox*>("databaseSpinBox");
+    zel::ZelControlCenter* const m_controlCenter = m_window.findChild<zel::ZelControlCenter*>();
 };
 
 QTEST_MAIN(tst_ZelControlCenterStandAloneWidget)
