@@ -45,8 +45,7 @@ struct Onlooker : QTimer
             seen << "frameless";
         if (!QFontDatabase::applicationFontFamilies(0).isEmpty())
             seen << "own fonts";
-        if (QCoreApplication::libraryPaths().contains("bin"))
-            seen << "own plug-ins";
+        seen << QCoreApplication::libraryPaths().filter(QRegExp("^bin$")); // The plug-ins.
         return seen.join(", ");
     }
 };
@@ -93,7 +92,7 @@ private Q_SLOTS:
         // What the settings hold, a file in the folder of the settings, and what is seen.
         const std::tuple<QByteArray, QString, QString> rows[] = {
             {complete + "language=ja\nenablediag=true\n", "",
-             cancel + ", font-style: normal;, frameless, own fonts, own plug-ins"},
+             cancel + ", font-style: normal;, frameless, own fonts, bin"},
             {"", "Settings.ini/x", error + "read" + file + "it is not a file"},
             {complete, "cache", error + "use the 3D database cache, folder \"%1/cache/TorvaneBoundlessX64/"}};
         for (const auto& [general, obstacle, seen] : rows) {
