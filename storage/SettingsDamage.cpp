@@ -182,7 +182,7 @@ private:
                 return true;
             }
             if (character == '"' || character == ';' ||
-                (character == '\\' && QByteArray("=\n\r").contains(m_text.mid(m_at + 1, 1))))
+                (character == '\\' && m_text.mid(m_at + 1, 1) == "="))
                 return false;
         }
         return false;

@@ -12,20 +12,22 @@ private Q_SLOTS:
     {
         // That QSettings keeps what is not called damaged is for the fuzzer to refute.
         const std::tuple<const char*, QByteArray, QString> rows[] = {
-            {"usual", "[General]\nkey=value\n; note\n\n[a b]\nk = \"x;y=z\" ; note = \"\r\n", ""},
+            {"usual", "[General]\t; note\nkey=value\n\t; note\n\n[a b]\nk = \"x;y=z\"\t; note = \"\r\n", ""},
             {"mark of the encoding", "\xEF\xBB\xBF[General]\nkey=\xC3\xBC\n", ""},
             {"mark as a name", "\xEF\xBB\xBFkey=1\n", "line 1 has a key twice, or a lost name"},
             {"line goes on", "key=\"a\\\nb\"\nother=\"\\\"\"\n", ""},
             {"takes in the next line", "key=C:\\\nb=1\n", "line 1 cannot be read"},
+            {"goes on only once", "key=\"a\\\n\nb\"\n", "line 2 cannot be read"},
             {"cut value", "a=1 ; 2\npath=/a;/b\n", "line 2 cannot be read"},
             {"escapes", "a=\"\\x1f642\"\n", "line 1 cannot be read"},
             {"escapes of QSettings", "a=\\?\\0\\x1f\\xfeff\\n\\\"\\\\,@Invalid()\n", ""},
             {"no escape", "a=\"C:\\Users\"\n", "line 1 cannot be read"},
             {"zero bytes", QByteArray("key=\0\n", 6), "it holds zero bytes"},
             {"cut character", "key=\xE6\x97", "it is not UTF-8 text"},
+            {"Latin 1", "key=\xFC\n", "it is not UTF-8 text"},
             {"no character", "key=\xEF\xB7\xAF\n", "it is not UTF-8 text"},
-            {"half a character", "key=\"\\xde42\"\n", "line 1 cannot be read"},
-            {"key twice", "a=1\n[General]\na=2\n", "line 3 has a key twice, or a lost name"},
+            {"half a character", "key=\"\\xd83dz\"\n", "line 1 cannot be read"},
+            {"key twice", "a =1\n[ general ]\na=2\n", "line 3 has a key twice, or a lost name"},
             {"long escape in a name", "%U0061=1\na=2\n", "line 2 has a key twice, or a lost name"},
             {"comment in a name", "a;b=1\n", "line 1 cannot be read"},
             {"no value", "[a]\nkey=\n\nkey\nb=1\n", "line 4 cannot be read"},
@@ -33,9 +35,9 @@ private Q_SLOTS:
             {"open group", "a=1\r\n[b\r\nc=2\r\n", "line 2 cannot be read"},
             {"value behind a group", "[a]b=1\n", "line 1 cannot be read"},
             {"open quotation", "a=\"1\nb=2\n", "line 1 cannot be read"},
-            {"quoted assignment", "\"a=1\"\n", "line 1 cannot be read"},
+            {"quoted name", "\"a\"=1\n", "line 1 cannot be read"},
             {"escaped assignment", "; c:\\\na\\=1\n", "line 2 cannot be read"},
-            {"group in a group", "[a]\nb\\c=1\n", ""},
+            {"group in a group", "[a\\b]\nc\\d=1\n", ""},
             {"no name in a group", "[a]\n=1\n", ""},
             {"no name in a group of a group", "[a\\b]\n=1\n", "line 2 has a key twice, or a lost name"},
             {"no name before a slash", "/b=1\n", "line 1 has a key twice, or a lost name"},
@@ -82,7 +84,7 @@ private Q_SLOTS:
         const QByteArray end = "Variant(\\x0)\"\n";
         const std::pair<const char*, QByteArray> rows[] = {
             {"in a list", "x=a, \"@" + end},
-            {"escaped", "x=\"\\x40" + end},
+            {"escaped", "x=\"\\x100000040" + end},
             {"octal", "x=\"\\0100" + end},
             {"unknown escape", "x=\"@\\q" + end},
             {"after a mark", "x=\"@\xEF\xBB\xBF" + end},
@@ -94,9 +96,9 @@ private Q_SLOTS:
         for (const auto& [name, line] : rows)
             QTest::newRow(name) << "a=1\n" + line + "b=@\n" << QByteArray("a=1\nb=@\n");
         QTest::newRow("nothing but escapes") << "x=\"\\x40" + end << QByteArray("");
-        QTest::newRow("among junk") << QByteArray("junk\nx=\"a;b\", \"@" + end) << QByteArray("junk\n");
+        QTest::newRow("among junk") << QByteArray("junk\nx=\"a;b\", \"@" + end + "\n") << QByteArray("junk\n\n");
         QTest::newRow("quotes among junk")
-            << QByteArray("junk\nx=\"@\\x56\"\"ariant(\"\n") << QByteArray("junk\n");
+            << QByteArray("junk\nx=\"@\\x56\" \t\"ariant(\"\n") << QByteArray("junk\n");
         for (const QByteArray text :
              {"a=@@Variant(\n", "a=\"b, @Variant(\"\n", "a=the @Variant(\n", "a=@ByteArray(x)\n"})
             QTest::newRow(text) << text << text;
