@@ -62,6 +62,7 @@ private Q_SLOTS:
         for (const QString& name : {path, QString("Q:Settings.ini"), QString("Q:/a/Settings.ini")})
             QVERIFY(zel::ZelSettingsFile::IsWritable(name, error) || error.contains(name));
         QVERIFY(clock.elapsed() < 900);
+        QVERIFY(zel::ZelSettingsFile::IsWritable(folder.path() + "/new/new/Settings.ini", error));
     }
 
     /// Streams of others, which ask for a codec by its name and split characters, do not get that of the
@@ -96,7 +97,8 @@ private Q_SLOTS:
         for (const auto& [name, line] : rows)
             QTest::newRow(name) << "a=1\n" + line + "b=@\n" << QByteArray("a=1\nb=@\n");
         QTest::newRow("nothing but escapes") << "x=\"\\x40" + end << QByteArray("");
-        QTest::newRow("among junk") << QByteArray("junk\nx=\"a;b\", \"@" + end + "\n") << QByteArray("junk\n\n");
+        QTest::newRow("among junk") << QByteArray("junk\nx=\"a;b\", \"@" + end + "\n")
+                                    << QByteArray("junk\n\n");
         QTest::newRow("quotes among junk")
             << QByteArray("junk\nx=\"@\\x56\" \t\"ariant(\"\n") << QByteArray("junk\n");
         for (const QByteArray text :
