@@ -29,11 +29,7 @@ class PendingProbe : public QObject
 public:
     bool isFound = false;
 
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        isFound = isFound || event->type() == QEvent::UpdateRequest;
-        return true;
-    }
+    bool eventFilter(QObject*, QEvent*) override { return isFound = true; }
 };
 
 /// Makes settings hold these values, and no others.
@@ -103,7 +99,6 @@ bool hasPending(QSettings& settings)
     PendingProbe probe;
     settings.installEventFilter(&probe);
     QCoreApplication::sendPostedEvents(&settings, QEvent::UpdateRequest);
-    settings.removeEventFilter(&probe);
     if (probe.isFound) // Without it they would never post one again.
         QCoreApplication::postEvent(&settings, new QEvent(QEvent::UpdateRequest));
     return probe.isFound || hasUnwritten(settings);

@@ -176,7 +176,7 @@ private Q_SLOTS:
 
     void repairsAllOrNothing()
     {
-        store(m_file, "//=1\ngarbage\n"); // One pass does not repair it completely.
+        store(m_file, "//=1\ngarbage\n");
         m_config = "cache"; // The folder of the log is above that of the cache, and created with it.
         QVERIFY(run({m_file}) == 1 && m_output.count("missing folder") == 1);
         m_config = "config";
@@ -191,10 +191,13 @@ private Q_SLOTS:
         QVERIFY(QDir().rmdir(m_file + ".lock") && QDir().rename(m_root + "/cache", m_root + "/away"));
         QCOMPARE(run({m_file}), 1); // Only a folder is missing.
         QVERIFY(QDir().rename(m_root + "/away", m_root + "/cache"));
-        const QByteArray before = "[DBCache]\ncacheDirectory=/gone\n";
+        const QByteArray before = "[DBCache]\ncacheDirectory=/gone\ncacheSize=1\n";
         store(m_file, before);
         QVERIFY(run({m_file}) == 1 && !m_output.contains("missing folder")); // That of the default is there.
-        m_config = QString(300, 'a');                                        // Too long to be created.
+        QVERIFY2(m_output.contains("Directory: \"/gone\" -> \"" + m_root.toUtf8()), m_output);
+        QVERIFY2(m_output.contains("\", for the old value is not an existing folder\n"), m_output);
+        QVERIFY2(!m_output.contains("cacheSize"), m_output);
+        m_config = QString(300, 'a'); // Too long to be created.
         QCOMPARE(run({"--repair", m_file}), 2);
         m_config = "config";
         QCOMPARE(contentOf(m_file), before);
@@ -205,7 +208,10 @@ private Q_SLOTS:
         const QString clean = m_root + "/cl\nean.ini", broken = m_file, folder = m_root;
         store(clean, "");
         QCOMPARE(run({"--repair", clean}), 4);
-        store(broken, "garbage\n");
+        QVERIFY(run({clean}) == 0 && m_output.endsWith("/cl\\u000aean.ini\": clean\n"));
+        const QByteArray content = contentOf(clean);
+        QVERIFY(content.contains("\ncacheSize=4096\n") && content.contains("\ndebuglogtypeblacklist=\n"));
+        store(broken, content + "garbage\n");
         // Standard input, arguments, the exit code, and the state of each file.
         const std::tuple<QByteArray, QStringList, int, QString> rows[] = {
             {"", {clean, broken}, 1, "clean, needs repair"},
@@ -213,7 +219,7 @@ private Q_SLOTS:
             {broken.toUtf8() + "\n\n", {"-", clean}, 1, "needs repair, clean"},
             {clean.toUtf8() + '\0' + broken.toUtf8() + '\0', {"-"}, 1, "clean, needs repair"},
             {"caf\351\n" + broken.toUtf8(), {clean, "-"}, 2, "clean, not repairable, needs repair"},
-            {"", {"--repair", broken, clean}, 4, "repaired, clean"}};
+            {"", {"--repair", broken, folder}, 2, "repaired, not repairable"}};
         for (const auto& [input, arguments, exitCode, expected] : rows) {
             m_input = input;
             QCOMPARE(run(arguments + QStringList("--json")), exitCode);
@@ -242,6 +248,10 @@ private Q_SLOTS:
         QCOMPARE(shell("exec \"$0\" --help >/dev/full"), 2);
         QCOMPARE(shell("exec \"$0\" /gone >/dev/full"), 2);
         QCOMPARE(shell("exec \"$0\" - <&-"), 2);
+        for (const char* told : {"\"$0\" - <&- 2>&1 >/dev/null | grep 'list of files cannot be read'",
+                                 "\"$0\" -h 2>&1 >/dev/full | grep 'report cannot be written: No space'",
+                                 "\"$0\" 2>&1 >/dev/null | grep ^usage:"})
+            QCOMPARE(shell(told), 0);
         QCOMPARE(shell("test $(ldd \"$0\" | grep -c libQt) = 1"), 0); // It needs no graphical libraries.
         // An empty entry in a run path would stand for the working directory.
         QCOMPARE(shell("cd \"${0%/*}\" && all=$(readelf -d torvane* ../lib/*.so) &&"

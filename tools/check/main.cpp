@@ -148,8 +148,8 @@ bool parse(const std::vector<Name>& arguments, Options& options)
     return !files.empty();
 }
 
-/// Stores the changes, also those of a migration, and runs the pass.
-bool runPass(const QString& path, const std::vector<SettingsChange>& changes, QString& error)
+/// Stores the changes, also those of a migration.
+bool storeChanges(const QString& path, const std::vector<SettingsChange>& changes, QString& error)
 {
     const auto store = [&](QSettings& settings, QString&) {
         for (const SettingsChange& change : changes) {
@@ -158,8 +158,7 @@ bool runPass(const QString& path, const std::vector<SettingsChange>& changes, QS
         }
         return true;
     };
-    return (changes.empty() || ZelSettingsFile::Write(*ZelSettingsFile::Open(path), store, error)) &&
-           ZelSettingsFile::Repair(*ZelSettingsFile::Open(path), error);
+    return ZelSettingsFile::Write(*ZelSettingsFile::Open(path), store, error);
 }
 
 /// Adds what one more pass changes to what the earlier ones have changed.
@@ -195,7 +194,7 @@ bool repair(const QString& path, SettingsInspection inspection, CheckReport& rep
             report.error = "It still changes whenever it is repaired: repair it again";
             return false;
         }
-        if (!runPass(path, inspection.changes(), report.error))
+        if (!storeChanges(path, inspection.changes(), report.error))
             return false;
         inspection = SettingsInspection(path);
         add(inspection, report);
