@@ -576,35 +576,29 @@ private Q_SLOTS:
     void writersAtTheSameTime()
     {
         store(m_path, Foreign);
-        const int writers = 3, end = 100 + Writes;
-        const QString key = "writer%1/key%2";
+        const auto line = [](int writer, int value) {
+            return QString("[writer%1]\nkey=%2\n").arg(writer).arg(value).toUtf8();
+        };
         std::vector<pid_t> children;
-        for (int writer = 0; writer < writers; ++writer) {
+        for (int writer = 0; writer < 3; ++writer) {
             children.push_back(startChild([=] {
                 std::srand(unsigned(writer));
                 const auto settings = ZelSettingsFile::Open(m_path);
-                for (int i = 100; i < end; ++i) {
-                    if (!write(*settings, {{key.arg(writer).arg(i % 3), i}}))
+                for (int i = 1; i <= Writes; ++i) {
+                    QByteArray content;
+                    if (!write(*settings, {{QString("writer%1/key").arg(writer), i}}))
                         return false;
                     ::usleep(useconds_t(std::rand() % 3000));
-                    // The others may write, but not over this one's values.
-                    QByteArray content;
-                    if (!readFile(m_path, content, error))
+                    // The others may write, but not over this one's value.
+                    if (!readFile(m_path, content, error) || !content.contains(line(writer, i)))
                         return false;
-                    for (int j = std::max(100, i - 2); j <= i; ++j) {
-                        if (!content.contains(QString("key%1=%2\n").arg(j % 3).arg(j).toUtf8()))
-                            return false;
-                    }
                 }
                 return true;
             }));
         }
         for (const pid_t child : children)
             QCOMPARE(statusOf(child), 0);
-        const QSettings settings(m_path, QSettings::IniFormat);
-        for (int writer = 0; writer < writers; ++writer)
-            QCOMPARE(settings.value(key.arg(writer).arg((end - 1) % 3)).toInt(), end - 1);
-        QVERIFY(holds());
+        QVERIFY(holds({line(0, Writes), line(1, Writes), line(2, Writes)}));
     }
 
     void fullDisk()
@@ -789,14 +783,12 @@ private Q_SLOTS:
         const std::tuple<Operation, QByteArray, int> rows[] = {
             {&apply, version2 + "[open\n", 1},
             {&migrate, "settingsVersion=1\nx\n", 1},
-            {&validate, version2 + "key=a" + QByteArray(9, '\0'), 1},
             {&validate, "=1\n[open\n", 1}, // A key without a name.
             {&validate, version2 + "[DBCache]\ncacheSize=1, 2\n", 1},
             {&apply, "; mine\n" + version2, 1},
             {&validate, version2 + "own=1, 2\n", 0},
             {&apply, version2 + "Engine=1\nENGINE=2\n", SettingsIgnoreCase},
             {&apply, version2 + "gr\303\266\303\237e=5\n", SettingsIgnoreCase},
-            {&validate, "a=\"\\xffff\"\n[DBCache]\ncacheSize=77\n" + version2, 1},
             {&apply, version2 + "own=\357\277\276\n", 1},
             {&apply, version2 + "own=\357\267\220\n", 1},
             {&apply, version2 + "own=text\\t , b\n", SettingsDropBlanks},
