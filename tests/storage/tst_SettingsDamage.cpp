@@ -12,7 +12,7 @@ private Q_SLOTS:
     {
         // That QSettings keeps what is not called damaged is for the fuzzer to refute.
         const std::tuple<const char*, QByteArray, QString> rows[] = {
-            {"usual", "=1\n[General]\t; note\nkey=value\n\t; note\n\n[a b]\nk = \"x;y=z\"\t; note = \"\r\n",
+            {"usual", "=1\n[general]\t; note\nkey=value\n\t; note\n\n[a b]\nk = \"x;y=z\"\t; note = \"\r\n",
              ""},
             {"mark of the encoding", "\xEF\xBB\xBF[General]\nkey=\xC3\xBC\n", ""},
             {"mark as a name", "\xEF\xBB\xBFkey=1\n", "line 1 has a key twice, or a lost name"},

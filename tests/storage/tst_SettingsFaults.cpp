@@ -688,7 +688,8 @@ private Q_SLOTS:
             {"rm *; mkdir Settings.ini", "it is not a file"},
             {"cd ..; rm -r folder; touch folder", "Not a directory"},
             {"prlimit --pid $PPID --fsize=200", "too large"},
-            {"prlimit --pid $PPID --fsize=511", "too large"},
+            {"echo ';' >>Settings.ini; prlimit --pid $PPID --fsize=1000",
+             "a copy of it cannot be kept: File too"},
             {"prlimit --pid $PPID --fsize=1000", "too large"}};
         const QByteArray content = Foreign + "[other]\n" + QByteArray(2000, 'x') + "=1\n";
         ::signal(SIGXFSZ, SIG_IGN);
@@ -706,13 +707,13 @@ private Q_SLOTS:
                 const QVariant former = settings->value("Foreign/list");
                 return ::system(command) == 0 && !write(*settings, {{"Foreign/list", "none"}}) &&
                        error.contains(m_path) && error.contains(reason) &&
-                       ZelSettingsFile::IsWritable(m_path, error) == QString(command).startsWith("prl") &&
+                       ZelSettingsFile::IsWritable(m_path, error) == QString(command).contains("prl") &&
                        error.startsWith("Could not write") && error.contains(reason) &&
                        settings->value("Foreign/list") == former;
             }));
             ::chmod(qPrintable(m_folder.path()), 0755);
             QVERIFY2(status == 0, obstacle);
-            QVERIFY2(!QFileInfo(m_path).isFile() || contentOf(m_path) == content, obstacle);
+            QVERIFY2(!QFileInfo(m_path).isFile() || contentOf(m_path).startsWith(content), obstacle);
             QVERIFY(copies().isEmpty());
         }
     }
@@ -883,11 +884,11 @@ private Q_SLOTS:
         const QString other = m_folder.filePath(".Settings.inf.2000-01-01T00-00-00.000Z.bak");
         for (const QString& name : {m_path + ".my own.bak", other})
             store(name, "mine");
-        store(m_path + ".2999-01-01T00-00-00.000Z.bak", "of a clock that was wrong");
         isSafe = true;
         for (char damage = '0'; damage < '5'; ++damage) {
             fixedTime.tv_sec = 1000000000 + damage / 2; // Two copies within one millisecond.
             qputenv("TZ", damage % 2 ? "UTC-9" : "UTC+9");
+            store(m_path + ".2999-01-01T00-00-00.000Z.bak", "of a clock that was wrong");
             for (int twice = 0; twice < 2; ++twice) { // The second time it is kept already.
                 store(m_path, QByteArray(1, damage));
                 QVERIFY(apply(m_path));
