@@ -288,6 +288,7 @@ private Q_SLOTS:
             {"touch -d +1hour $lock", false, ""},
             {"printf '4194305\nprogram\nelsewhere\n' >$lock", false, held},
             {"touch $lock", false, held},
+            {"printf '" + own + "\n/bin/tst_SettingsFaults\n' >$lock", false, held},
             {"true", true, held},
             {"touch -d -1hour $lock", true, held},
             {"ln -s nowhere $lock", false, inTheWay},
@@ -322,6 +323,10 @@ private Q_SLOTS:
     {
         FileLock lock(m_path + ".lock");
         QVERIFY(lock.take(0) == FileLock::Free);
+        qint64 process;
+        QString host, program;
+        QVERIFY(QLockFile(m_path + ".lock").getLockInfo(&process, &host, &program));
+        QCOMPARE(host + ' ' + program, QSysInfo::machineHostName() + " tst_SettingsFaults");
         QCOMPARE(::system("touch -d -1hour " + m_path.toUtf8() + ".lock"), 0);
         QVERIFY(!QLockFile(m_path + ".lock").tryLock(500) &&
                 FileLock(m_path + ".lock").take(100) == FileLock::Held);
@@ -398,7 +403,8 @@ private Q_SLOTS:
     void changesOfTheSharedSettings()
     {
         Deadline deadline(300); // The time of a change does not count.
-        deadline.pauseFor([&] { return QTest::qWaitFor([&] { return deadline.remaining() == 0; }); });
+        QVERIFY(
+            deadline.pauseFor([&] { return QTest::qWaitFor([&] { return deadline.remaining() == 0; }); }));
         QVERIFY(deadline.remaining() > 0);
         store(m_path, Foreign);
         const auto settings = ZelSettingsFile::Open(m_path);
