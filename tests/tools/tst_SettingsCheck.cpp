@@ -238,18 +238,18 @@ private Q_SLOTS:
             {{"--help"}, 0}, {{"--", "--help"}, 1}}; // A file like an option.
         for (const auto& [arguments, exitCode] : rows) {
             QCOMPARE(run(arguments), exitCode);
-            QCOMPARE(m_output.startsWith("usage:"), exitCode == 0);
+            QCOMPARE(m_output.startsWith("usage:") && m_output.contains("\nExit codes"), exitCode == 0);
         }
         QVERIFY(run({"--version"}) == 0 && m_output.startsWith("torvane-settings-check 1."));
         const auto shell = [](const char* command) {
             return QProcess::execute("sh", {"-c", command, TORVANE_SETTINGS_CHECK});
         };
-        QCOMPARE(shell("exec \"$0\" \"$(printf 'caf\\351')\""), 2);
         QCOMPARE(shell("exec \"$0\" --help >/dev/full"), 2);
         QCOMPARE(shell("exec \"$0\" /gone >/dev/full"), 2);
         QCOMPARE(shell("exec \"$0\" - <&-"), 2);
         for (const char* told : {"\"$0\" - <&- 2>&1 >/dev/null | grep 'list of files cannot be read'",
                                  "\"$0\" -h 2>&1 >/dev/full | grep 'report cannot be written: No space'",
+                                 "\"$0\" \"$(printf 'caf\\351')\" | grep 'name is not UTF-8 text'",
                                  "\"$0\" 2>&1 >/dev/null | grep ^usage:"})
             QCOMPARE(shell(told), 0);
         QCOMPARE(shell("test $(ldd \"$0\" | grep -c libQt) = 1"), 0); // It needs no graphical libraries.

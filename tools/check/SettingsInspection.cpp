@@ -51,13 +51,10 @@ QString cleanedUp(QString path)
 
 QString reasonFor(const Registered& entry, const QVariant& oldValue, const QString& newText)
 {
-    const auto& defaultValue = entry.second.first;
     if (isList(oldValue))
         return "is a list: a text with a comma needs quotation marks";
     if (cleanedUp(oldValue.toString()) == newText)
         return "is not written the usual way";
-    if (newText != defaultValue && newText != cleanedUp(defaultValue))
-        return "is out of range, or not written the usual way";
     const auto* found = std::find_if(std::begin(Reasons), std::end(Reasons), [&entry](const auto& row) {
         return row.validator == entry.second.second;
     });

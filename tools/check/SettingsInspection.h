@@ -17,7 +17,7 @@ struct SettingsChange
     QString key;
     QVariant old; ///< Invalid for a missing key.
     QString newText;
-    QString reason; ///< Why, in English, as a predicate of the old value: "is out of range".
+    QString reason; ///< Why, in English, as a predicate of the old value: "is missing".
 };
 
 /// The text of a stored value, which may be a list.
