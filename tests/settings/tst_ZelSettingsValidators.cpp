@@ -1,4 +1,6 @@
 #include "QtTestCompat.h"
+#include "SettingsKeys.h"
+#include "ZelPageDefaults.h"
 #include "ZelSettingsRegistry.h"
 #include "ZelSettingsValidators.h"
 
@@ -62,6 +64,11 @@ private Q_SLOTS:
         }
         QString value("1/2"), error; // Neither they nor the default are well formed.
         QVERIFY(!V::ensureSimplificationRatios("key", "1/0.5", value, error) && error.isEmpty());
+        ZelPageDefaults::Register(QSettings(QString(), QSettings::IniFormat));
+        for (const auto& [key, rule] : ZelSettingsRegistry::GetDefaultSettingsValues()) {
+            QVERIFY(rule.second(key, rule.first, value = "?", error));
+            QVERIFY2((value == "?") == (key == keys::ScreenshotFolder), qPrintable(key));
+        }
     }
 
     void folders()
