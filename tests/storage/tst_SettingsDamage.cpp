@@ -27,6 +27,7 @@ private Q_SLOTS:
             {"cut character", "key=\xE6\x97", "it is not UTF-8 text"},
             {"Latin 1", "key=\xFC\n", "it is not UTF-8 text"},
             {"no character", "key=\xEF\xB7\xAF\n", "it is not UTF-8 text"},
+            {"last of a plane", "key=\xEF\xBF\xBF\n", "it is not UTF-8 text"},
             {"half a character", "key=\"\\xd83dz\"\n", "line 1 cannot be read"},
             {"key twice", "a =1\n[ general ]\na=2\n", "line 3 has a key twice, or a lost name"},
             {"long escape in a name", "%U0061=1\na=2\n", "line 2 has a key twice, or a lost name"},

@@ -798,7 +798,7 @@ private Q_SLOTS:
             {&validate, version2 + "own=1, 2\n", 0},
             {&apply, version2 + "Engine=1\nENGINE=2\n", SettingsIgnoreCase},
             {&apply, version2 + "gr\303\266\303\237e=5\n", SettingsIgnoreCase},
-            {&apply, version2 + "own=\357\277\276\n", 1},
+            {&validate, version2 + "own=\357\277\276\n[DBCache]\ncacheSize=77\n", 1},
             {&apply, version2 + "own=\357\267\220\n", 1},
             {&apply, version2 + "own=text\\t , b\n", SettingsDropBlanks},
             {&validate, version2 + "own=\"text\\t\"\n", SettingsDropBlanks},
