@@ -749,11 +749,11 @@ private Q_SLOTS:
             QStringList own = QString(contentOf(m_path)).split('\n').filter(QRegExp("^o"));
             own.sort();
             QCOMPARE(own.join(" "), kept);
-            store(m_path, "[DBCache]\ncacheSize=1\n");
-            QVERIFY(ZelSettingsFile::ReadAgain(*settings, error) && settings->allKeys().size() == 1);
+            store(m_path, "settingsVersion=2\n[DBCache]\ncacheSize=11\n");
+            QVERIFY(ZelSettingsFile::ReadAgain(*settings, error) && settings->allKeys().size() == 2);
             store(m_path, "");
-            QVERIFY(ZelSettingsFile::ReadAgain(*settings, error) && contentOf(m_path).contains("=1\n"));
-            store(m_path, "[DBCache]\ncacheSize=2\n");
+            QVERIFY(ZelSettingsFile::ReadAgain(*settings, error) && contentOf(m_path).contains("=11\n"));
+            store(m_path, "settingsVersion=2\n[DBCache]\ncacheSize=2\n");
             QVERIFY(ZelSettingsFile::Repair(*settings, error) && contentOf(m_path).contains("=4096\n"));
         }
     }
