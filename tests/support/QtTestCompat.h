@@ -34,11 +34,6 @@ inline QImage pictureOf(QWidget* widget)
     return widget->grab().toImage();
 }
 
-inline QImage pictureOf(WId window)
-{
-    return QGuiApplication::primaryScreen()->grabWindow(window).toImage();
-}
-
 const auto useOwnDialogs = [] { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); };
 
 /// As assistive technology reads it; "silent" for what it leaves out.
@@ -221,11 +216,6 @@ const auto inputOf = [](QWidget* window) { return WindowInput{window}; };
 inline QImage pictureOf(QWidget* widget)
 {
     return QPixmap::grabWidget(widget).toImage();
-}
-
-inline QImage pictureOf(WId window)
-{
-    return QPixmap::grabWindow(window).toImage();
 }
 
 #        if defined(Q_OS_WIN)

@@ -1,17 +1,45 @@
-# What drives the editor under Wine: to be sourced by the scripts beside it. They need a screen with a window manager, and
-# a WINEPREFIX of their own.
+# What drives the editor as a user does, by mouse and keyboard: to be sourced. Needs a screen with a window manager. The
+# programs are those for Windows where WINEPREFIX names a Windows of their own.
 
-wine=/usr/lib/wine/wine64
 patience=90 # Seconds; what is waited for happens at once unless the machine is busy.
-settings=$WINEPREFIX/drive_c/users/$(id -un)/AppData/Roaming/TorvaneBoundlessX64
+on_windows() { [ -n "${WINEPREFIX:-}" ]; }
+if on_windows; then
+    scratch=$WINEPREFIX
+    suffix=.exe
+    launcher=(/usr/lib/wine/wine64)
+    configuration=$WINEPREFIX/drive_c/users/$(id -un)/AppData/Roaming
+else
+    scratch=$(mktemp -d)
+    trap 'end_programs; rm -rf "$scratch"' EXIT
+    suffix=
+    home=$scratch/$(printf 'Gr\303\274\303\237e, \350\250\255\345\256\232 & <b>\360\237\231\202')
+    configuration=$home/config
+    mkdir -p "$configuration" "$home/runtime"
+    chmod 700 "$home/runtime" # The single instance takes no folder that others can enter.
+    # A user who has nothing but a home folder. What a sanitizer finds must not look like a first start.
+    launcher=(env -i LC_ALL=C ASAN_OPTIONS=exitcode=99 "HOME=$home" "XDG_CONFIG_HOME=$configuration"
+        "XDG_CACHE_HOME=$home/cache" "XDG_RUNTIME_DIR=$home/runtime")
+    for variable in PATH DISPLAY LSAN_OPTIONS QT_XCB_GL_INTEGRATION DBUS_SESSION_BUS_ADDRESS; do
+        [ -z "${!variable:-}" ] || launcher+=("$variable=${!variable}")
+    done
+fi
+settings=$configuration/TorvaneBoundlessX64
 file=$settings/Settings.ini
+output=$scratch/output
 
 selector="Torvane - Please select your display type"
 window="Torvane - Control Center"
 fatal_error="Torvane - Fatal Error"
 question="Settings Modification"
 
+programs=()
+end_programs() {
+    [ ${#programs[@]} -eq 0 ] || kill "${programs[@]}" 2>/dev/null || true
+    wait
+}
+
 fail() {
+    tail -n 50 "$output" >&2 || true
     echo "Failed: $1" >&2
     import -window root "${SCREENSHOT:-/dev/null}" 2>/dev/null || true
     exit 1
@@ -29,8 +57,9 @@ await() {
 
 # start PROGRAM ARGUMENT...: leaves the number of its process in $process
 start() {
-    timeout -k 5 300 "$wine" "$@" </dev/null >/dev/null 2>&1 &
+    timeout -k 5 300 "${launcher[@]}" "$@" </dev/null >>"$output" 2>&1 &
     process=$!
+    programs+=("$process")
 }
 
 # ends_with CODE [PROCESS]: waits for the end of what has been started
@@ -49,10 +78,10 @@ shows() {
     }
     await "The window \"$1\"" has_window "$1"
     rests() {
-        import -window "$shown" "rgba:$WINEPREFIX/before"
+        import -window "$shown" "rgba:$scratch/before"
         sleep 0.4
-        import -window "$shown" "rgba:$WINEPREFIX/now"
-        cmp "$WINEPREFIX/before" "$WINEPREFIX/now"
+        import -window "$shown" "rgba:$scratch/now"
+        cmp "$scratch/before" "$scratch/now"
     }
     await "A still picture of \"$1\"" rests
 }
@@ -65,6 +94,9 @@ click() {
 }
 
 close_window() { click 785 15; }
+
+# window_is STATE: "Iconic" or "Normal"
+window_is() { xprop -id "$shown" WM_STATE | grep -q "$1"; }
 
 # holds LINE...: whether the settings file has these lines
 holds() {
