@@ -85,11 +85,15 @@ void SettingsDrawer::setWidth(int width)
     area()->setVisible(width >= 1);
     area()->setFixedWidth(width);
     const QScrollBar* bar = area()->verticalScrollBar();
-    // All pages together are usually higher than the drawer: the first ones get their final width at once.
-    // It stays while the drawer is hidden, or all would be laid out again when it closes and opens.
-    const int barWidth = bar->isVisibleTo(area()) || !m_steps.isEmpty() ? bar->sizeHint().width() : 0;
-    m_contentLayout->setMinimumWidth(OpenWidth - barWidth);
-    area()->widget()->setFixedWidth(std::max(width - barWidth, 0));
+    const auto besideBar = [&](int whole, bool hasBar) {
+        // All pages together are usually higher than the drawer: the first ones get their final width at
+        // once.
+        return std::max(hasBar || !m_steps.isEmpty() ? whole - bar->sizeHint().width() : whole, 0);
+    };
+    // Pages keep their width while the drawer is hidden, or all would be laid out again when it closes and
+    // opens.
+    m_contentLayout->setMinimumWidth(besideBar(OpenWidth, bar->isVisibleTo(area())));
+    area()->widget()->setFixedWidth(besideBar(width, bar->isVisible()));
 }
 
 void SettingsDrawer::makeRoom(const QWidget& column, int columnWidth)

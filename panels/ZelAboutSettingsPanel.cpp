@@ -64,7 +64,6 @@ QTableWidgetItem* newItem(const QString& text)
 // The table does not take the focus, so it must not need to scroll; the drawer scrolls instead.
 void showAllRows(QTableWidget& table)
 {
-    table.ensurePolished();
     table.setColumnWidth(0, PluginNameWidth);
     table.resizeRowsToContents();
     table.setFixedHeight(table.horizontalHeader()->sizeHint().height() + table.verticalHeader()->length() +

@@ -95,6 +95,8 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
         m_controlCenter->registerSettingsPanel(panel.get());
     // Not in the form, which would style it twice: without the sheet of the window, and with it.
     auto* helpArea = new ZelHelpArea(m_ui->uiDummyContent);
+    helpArea->setObjectName("helpArea");
+    helpArea->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_ui->helpLayout->addWidget(helpArea);
     helpArea->watchPages(m_controlCenter->settingsWidget());
     helpArea->useColumn(m_controlCenter.get(), m_controlCenter->findChild<QWidget*>("preferenceFrame"));

@@ -87,8 +87,6 @@ ZelHelpArea::ZelHelpArea(QWidget* parent)
     , m_areaLayout(newLayout(this, Margin))
     , m_rest(new QTimer(this))
 {
-    setObjectName("helpArea");
-    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_help->setMaximumWidth(MaximumWidth);
     static_cast<QBoxLayout*>(m_cardArea->widget()->layout())->insertWidget(0, m_card);
     auto* layout = newLayout(m_help, 0);

@@ -136,7 +136,7 @@ QString unwritableReason(const QString& path)
             return QString::fromLocal8Bit(
                 std::make_error_code(std::errc::no_space_on_device).message().c_str());
         if (lock.state() == FileLock::Blocked)
-            return noLockReason(lock, false);
+            return untakenLockReason(lock, false);
     }
     return QString();
 }

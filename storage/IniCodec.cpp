@@ -30,10 +30,8 @@ protected:
         return hasMark ? QChar(QChar::ByteOrderMark) + decoded : decoded;
     }
 
-    QByteArray convertFromUnicode(const QChar* text, int length, ConverterState* state) const override
+    QByteArray convertFromUnicode(const QChar* text, int length, ConverterState*) const override
     {
-        if (state)
-            return utf8().fromUnicode(text, length, state);
         QString whole(text, length);
         // A first half whose other half does not follow is dropped: this may already be another value.
         if (!m_firstHalf.isNull() && !whole.isEmpty() && whole.at(0).isLowSurrogate())

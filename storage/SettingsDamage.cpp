@@ -181,8 +181,7 @@ private:
                 ++m_at;
                 return true;
             }
-            if (character == '"' || character == ';' ||
-                (character == '\\' && m_text.mid(m_at + 1, 1) == "="))
+            if (character == '"' || character == ';' || (character == '\\' && m_text.mid(m_at + 1, 1) == "="))
                 return false;
         }
         return false;

@@ -26,7 +26,7 @@ FileLock::State SettingsLock::take(QString& reason)
     for (const auto& lock : m_locks) {
         const FileLock::State state = lock->take(m_deadline.remaining());
         if (state != FileLock::Free) {
-            reason = noLockReason(*lock, state == FileLock::Held);
+            reason = untakenLockReason(*lock, state == FileLock::Held);
             release();
             return state;
         }

@@ -37,7 +37,7 @@ QString lockedReason()
     return SettingsFileText::tr("another program has locked it");
 }
 
-QString noLockReason(const FileLock& lock, bool isHeld)
+QString untakenLockReason(const FileLock& lock, bool isHeld)
 {
     if (isHeld)
         return lockedReason();

@@ -25,7 +25,7 @@ bool refuseWriting(const QString& path, const QString& reason, QString& error);
 QString lockedReason();
 
 /// What it means for the user when a lock file cannot be taken.
-QString noLockReason(const FileLock& lock, bool isHeld);
+QString untakenLockReason(const FileLock& lock, bool isHeld);
 
 /// The reason when the rights of a file cannot be given to a new one.
 QString foreignReason();

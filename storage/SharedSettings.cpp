@@ -29,7 +29,11 @@ class PendingProbe : public QObject
 public:
     bool isFound = false;
 
-    bool eventFilter(QObject*, QEvent*) override { return isFound = true; }
+    bool eventFilter(QObject*, QEvent*) override
+    {
+        isFound = true;
+        return true;
+    }
 };
 
 /// Makes settings hold these values, and no others.

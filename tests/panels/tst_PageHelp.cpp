@@ -467,6 +467,7 @@ private Q_SLOTS:
     {
         auto* page = m_window->findChild<ZelRendererSettingsPanel*>();
         auto* help = page->findChild<ZelPageHelp*>();
+        find<QSlider>("coreUsedSlider")->setMaximum(9); // Also on a machine with one core.
         QSignalSpy edits(help, SIGNAL(edited())), states(page, SIGNAL(stateChanged()));
         int fields = 0;
         auto widgets = page->findChildren<QWidget*>();
