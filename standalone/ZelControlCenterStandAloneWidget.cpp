@@ -111,7 +111,7 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
         m_ui->retranslateUi(this);
         setTexts(*application);
     });
-    orderFocus();
+    m_controlCenter->installEventFilter(this);
     const QString folder = QFileInfo(application->getSettings().fileName()).path();
     m_geometry = new WindowGeometry(
         this, QSize(ZelControlCenter::OpenWidth() + 2 * FrameWidth, MinimumHeight), folder + "/Window.ini");
@@ -137,13 +137,6 @@ void ZelControlCenterStandAloneWidget::setTexts(kqDMIApplication& application)
         for (QLabel* summary : panel->findChildren<QLabel*>("summaryLabel"))
             if (summary->styleSheet() != sheet)
                 summary->setStyleSheet(sheet);
-}
-
-void ZelControlCenterStandAloneWidget::orderFocus()
-{
-    // To choose the first one. The Tab key visits the others as they were made: the pages, the help with a
-    // line for each edit, and round again to the buttons of the window.
-    m_controlCenter->installEventFilter(this);
 }
 
 void ZelControlCenterStandAloneWidget::triggerMinimize()

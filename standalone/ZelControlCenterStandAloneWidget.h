@@ -68,7 +68,6 @@ private:
     /// Sets the texts that are not in the form, and how they look in the language.
     void setTexts(kqDMIApplication& application);
     void nameMaximizeButton();
-    void orderFocus();
     bool mayDiscardModifications();
 
     const std::unique_ptr<Ui::ControlCenterStandAlone> m_ui;
