@@ -13,6 +13,8 @@
 
 using zel::SettingsPages;
 
+Q_DECLARE_METATYPE(std::function<void(SettingsPages&)>)
+
 /// Pages without a window.
 class tst_SettingsPages : public QObject
 {
@@ -54,36 +56,49 @@ private Q_SLOTS:
         QCOMPARE(changed.count(), 1);
     }
 
+    void pagesMayLeaveWhileTheyAreAsked_data()
+    {
+        QTest::addColumn<std::function<void(SettingsPages&)>>("ask");
+        QTest::addColumn<QString>("leaving");
+        const std::pair<const char*, std::function<void(SettingsPages&)>> questions[] = {
+            {"modifications", [](SettingsPages& pages) { pages.hasModifications(); }},
+            {"resettable", [](SettingsPages& pages) { pages.canReset(); }},
+            {"reset", [](SettingsPages& pages) { pages.reset(); }},
+            {"marks", [](SettingsPages& pages) { pages.mark(); }},
+            {"discard", [](SettingsPages& pages) { pages.discard(); }},
+            {"load",
+             [this](SettingsPages& pages) {
+                 QString error;
+                 pages.load(*m_settings, error);
+             }},
+            {"apply", [this](SettingsPages& pages) {
+                 bool restart;
+                 QString error;
+                 pages.apply(*m_settings, restart, error);
+             }}};
+        for (const auto& [name, ask] : questions)
+            for (const char* leaving : {"A", "B", "C", "all", "list"})
+                QTest::newRow(qPrintable(QString("%1: %2 leaves").arg(name, leaving))) << ask << leaving;
+    }
+
     void pagesMayLeaveWhileTheyAreAsked()
     {
-        QString error;
-        bool restart;
-        const std::function<void(SettingsPages&)> questions[] = {
-            [](SettingsPages& pages) { pages.hasModifications(); },
-            [](SettingsPages& pages) { pages.canReset(); },
-            [](SettingsPages& pages) { pages.reset(); },
-            [](SettingsPages& pages) { pages.mark(); },
-            [](SettingsPages& pages) { pages.discard(); },
-            [&](SettingsPages& pages) { pages.load(*m_settings, error); },
-            [&](SettingsPages& pages) { pages.apply(*m_settings, restart, error); }};
-        for (const auto& ask : questions)
-            for (const QString leaving : {"A", "B", "C", "all", "list"}) {
-                init();
-                m_page["C"]->modified = true;
-                m_page["A"]->whenAsked = m_page["B"]->whenAsked = [&] {
-                    if (leaving == "list")
-                        m_pages.reset();
-                    else if (leaving == "all")
-                        m_page.clear();
-                    else
-                        m_page.erase(leaving);
-                };
-                ask(*m_pages);
-                const int left = leaving == "all" ? 0 : 2;
-                QCOMPARE(static_cast<int>(m_page.size()), leaving == "list" ? 3 : left);
-                QCOMPARE(m_pages ? (*m_pages).all()->size() : -1, leaving == "list" ? -1 : left);
+        QFETCH(std::function<void(SettingsPages&)>, ask);
+        QFETCH(QString, leaving);
+        m_page["C"]->modified = true;
+        m_page["A"]->whenAsked = m_page["B"]->whenAsked = [&] {
+            if (leaving == "list")
+                m_pages.reset();
+            else if (leaving == "all")
                 m_page.clear();
-            }
+            else
+                m_page.erase(leaving);
+        };
+        ask(*m_pages);
+        const bool others = leaving != "list" && leaving != "all";
+        QCOMPARE(static_cast<int>(m_page.size()), leaving == "list" ? 3 : others ? 2 : 0);
+        QCOMPARE(m_pages ? (*m_pages).all()->size() : -1, leaving == "list" ? -1 : others ? 2 : 0);
+        m_page.clear();
     }
 
     void unregisteredKeysAreLogged()

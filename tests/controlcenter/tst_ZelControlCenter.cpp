@@ -135,7 +135,20 @@ private Q_SLOTS:
         }
         QTRY_VERIFY(column()->parentWidget()->height() > 100 && showsActions(true));
         QCOMPARE(m_controlCenter->settingsWidth(), 0);
-        m_window->hide(); // Nothing slides out of sight.
+        struct : QObject
+        {
+            bool eventFilter(QObject*, QEvent* event) override
+            {
+                count += event->type() == QEvent::Resize;
+                return false;
+            }
+            int count = 0;
+        } resizes;
+        m_pages[0]->installEventFilter(&resizes);
+        m_controlCenter->setControlCenterVisible(true);
+        QTRY_VERIFY(m_controlCenter->isSettingsOpen());
+        QCOMPARE(resizes.count, 0); // It is not laid out again when it comes back.
+        m_window->hide();           // Nothing slides out of sight.
         m_controlCenter->openMenu(false);
         QVERIFY(!m_controlCenter->isMenuOpen() && m_application->engineUpdates.last());
     }
@@ -228,44 +241,47 @@ private Q_SLOTS:
             }
     }
 
+    void mayBeDeletedAtAnyTime_data()
+    {
+        QTest::addColumn<QString>("when");
+        for (const QString when : {"closing the menu", "clicking outside", "telling of a restart"})
+            for (const char* answer : {", Ok", ", Escape"})
+                QTest::newRow(qPrintable(when + answer)) << when + answer;
+        for (const char* when : {"sliding", "loading the pages"}) // Nothing is asked.
+            QTest::newRow(when) << when;
+    }
+
     void mayBeDeletedAtAnyTime()
     {
-        // What it does, and the answer to what it asks, if anything.
-        for (const QString when : {"closing the menu, Ok", "closing the menu, Escape", "clicking outside, Ok",
-                                   "clicking outside, Escape", "telling of a restart, Ok",
-                                   "telling of a restart, Escape", "sliding", "loading the pages"}) {
-            cleanup();
-            init();
-            addPages(1);
-            m_application->guiPlugin = &m_guiPlugin;
-            openEverything();
-            m_pages[0]->edit();
-            m_pages[0]->needsRestart = true;
-            BoxAnswer answer(when.endsWith("Ok") ? QList<Qt::Key>{Qt::Key_Tab, Qt::Key_Return}
-                                                 : QList<Qt::Key>{Qt::Key_Escape});
-            answer.beforeAnswer = [this] { m_controlCenter.reset(); };
-            if (when.startsWith("closing")) {
-                m_controlCenter->openMenu(false);
-            } else if (when.startsWith("clicking")) {
-                QTest::qWait(GuardTime);
-                QTest::mouseClick(inputOf(m_window.get()), Qt::LeftButton, {},
-                                  m_view->pos() + QPoint(10, 10));
-            } else if (when.startsWith("telling")) {
-                QTest::mouseClick(button("applyButton"), Qt::LeftButton);
+        QFETCH(QString, when);
+        addPages(1);
+        m_application->guiPlugin = &m_guiPlugin;
+        openEverything();
+        m_pages[0]->edit();
+        m_pages[0]->needsRestart = true;
+        BoxAnswer answer(when.endsWith("Ok") ? QList<Qt::Key>{Qt::Key_Tab, Qt::Key_Return}
+                                             : QList<Qt::Key>{Qt::Key_Escape});
+        answer.beforeAnswer = [this] { m_controlCenter.reset(); };
+        if (when.startsWith("closing")) {
+            m_controlCenter->openMenu(false);
+        } else if (when.startsWith("clicking")) {
+            QTest::qWait(GuardTime);
+            QTest::mouseClick(inputOf(m_window.get()), Qt::LeftButton, {}, m_view->pos() + QPoint(10, 10));
+        } else if (when.startsWith("telling")) {
+            QTest::mouseClick(button("applyButton"), Qt::LeftButton);
+        } else {
+            m_controlCenter->setControlCenterVisible(false);
+            QCOMPARE(m_application->engineUpdates, QList<bool>{false});
+            m_pages[0]->whenAsked = answer.beforeAnswer;
+            if (when == "loading the pages") {
+                m_controlCenter->settingsWidget()->hide();
+                m_controlCenter->setControlCenterVisible(true);
             } else {
-                m_controlCenter->setControlCenterVisible(false);
-                QCOMPARE(m_application->engineUpdates, QList<bool>{false});
-                m_pages[0]->whenAsked = answer.beforeAnswer;
-                if (when == "loading the pages") {
-                    m_controlCenter->settingsWidget()->hide();
-                    m_controlCenter->setControlCenterVisible(true);
-                } else {
-                    m_controlCenter.reset();
-                }
+                m_controlCenter.reset();
             }
-            QVERIFY(!m_controlCenter && answer.texts.size() == when.count(","));
-            QVERIFY(m_application->engineUpdates.isEmpty() || m_application->engineUpdates.last());
         }
+        QVERIFY(!m_controlCenter && answer.texts.size() == when.count(","));
+        QVERIFY(m_application->engineUpdates.isEmpty() || m_application->engineUpdates.last());
     }
 
     void pageMayLeaveWhileAnotherAppears()

@@ -82,52 +82,61 @@ class tst_launch : public QObject
 
 private Q_SLOTS:
 #if !defined(ZEL_LEAVE_OUT_firstInstance)
-    void firstInstance()
+    void firstInstance_data()
     {
+        QTest::addColumn<QByteArray>("general"); // What the settings hold.
+        QTest::addColumn<QString>("obstacle");   // A file in the folder of the settings.
+        QTest::addColumn<QString>("seen");
         const QByteArray complete("settingsVersion=2\nengine=software\n");
         const QString error = "Torvane - Fatal Error: Could not ",
                       file = " the Torvane settings file \"%1/Settings.ini\": ";
         const QString cancel =
             QString::fromUtf8("\343\202\255\343\203\243\343\203\263\343\202\273\343\203\253");
-        // What the settings hold, a file in the folder of the settings, and what is seen.
-        const std::tuple<QByteArray, QString, QString> rows[] = {
-            {complete + "language=ja\nenablediag=true\n", "",
+        const std::tuple<const char*, QByteArray, QString, QString> rows[] = {
+            {"Japanese, with diagnostics", complete + "language=ja\nenablediag=true\n", "",
              cancel + ", font-style: normal;, frameless, own fonts, bin"},
-            {"", "Settings.ini/x", error + "read" + file + "it is not a file"},
-            {complete, "cache", error + "use the 3D database cache, folder \"%1/cache/TorvaneBoundlessX64/"}};
-        for (const auto& [general, obstacle, seen] : rows) {
-            // An installed tree, in which its user is at home as well.
-            const QTemporaryDir root;
-            const QString home = root.filePath("TorvaneBoundlessX64");
-            QDirIterator font("/usr/share/fonts", {"*.ttf"}, QDir::Files, QDirIterator::Subdirectories);
-            store(root.filePath("resources/Defaults.ini"), "[screenshot]\nImageFolder=/\303\274\n");
-            for (const QString name : {"bin", "resources/languages"})
-                QVERIFY(QFile::link(stage() + '/' + name, root.filePath(name)));
-            QVERIFY(QFile::link(QFileInfo(font.next()).path(), root.filePath("resources/fonts")));
-            if (!general.isEmpty())
-                store(home + "/Settings.ini", general);
-            if (!obstacle.isEmpty())
-                store(home + '/' + obstacle, "");
+            {"settings are a folder", "", "Settings.ini/x", error + "read" + file + "it is not a file"},
+            {"no folder for the cache", complete, "cache",
+             error + "use the 3D database cache, folder \"%1/cache/TorvaneBoundlessX64/"}};
+        for (const auto& [name, general, obstacle, seen] : rows)
+            QTest::newRow(name) << general << obstacle << seen;
+    }
 
-            QProcess first;
-            start(first, "first", {}, root.path(),
-                  {"XDG_CACHE_HOME=" + home + "/cache", "XDG_CONFIG_HOME=" + root.path(),
-                   "XDG_RUNTIME_DIR=" + root.path(), "TMPDIR=" + root.path()});
-            QByteArray output; // It comes at once: the process does not end before it is told.
-            while (!output.contains("seen: ") && first.waitForReadyRead(Patience))
-                output += first.readAllStandardOutput();
-            QVERIFY2(QString::fromUtf8(output).contains("seen: " + QString(seen).replace("%1", home)),
-                     output);
-            first.closeWriteChannel();
-            QVERIFY(first.waitForFinished(Patience));
-            QCOMPARE(first.exitCode(), Refused);
-            const bool isWindow = seen.contains("frameless"), isReported = general.contains("diag=true");
-            const QByteArray log = contentOf(home + "/log.txt");
-            QVERIFY2(log.contains("Applied the settings") == isWindow, log);
-            QVERIFY2(log.contains("[debug] seen") == isReported, log);
-            QCOMPARE(bool(contentOf(home + "/Settings.ini").contains("ImageFolder=/\303\274\n")), isWindow);
-            QCOMPARE(first.readAllStandardOutput(), QByteArray("0 settings\n"));
-        }
+    void firstInstance()
+    {
+        QFETCH(QByteArray, general);
+        QFETCH(QString, obstacle);
+        QFETCH(QString, seen);
+        // An installed tree, in which its user is at home as well.
+        const QTemporaryDir root;
+        const QString home = root.filePath("TorvaneBoundlessX64");
+        QDirIterator font("/usr/share/fonts", {"*.ttf"}, QDir::Files, QDirIterator::Subdirectories);
+        store(root.filePath("resources/Defaults.ini"), "[screenshot]\nImageFolder=/\303\274\n");
+        for (const QString name : {"bin", "resources/languages"})
+            QVERIFY(QFile::link(stage() + '/' + name, root.filePath(name)));
+        QVERIFY(QFile::link(QFileInfo(font.next()).path(), root.filePath("resources/fonts")));
+        if (!general.isEmpty())
+            store(home + "/Settings.ini", general);
+        if (!obstacle.isEmpty())
+            store(home + '/' + obstacle, "");
+
+        QProcess first;
+        start(first, "first", {}, root.path(),
+              {"XDG_CACHE_HOME=" + home + "/cache", "XDG_CONFIG_HOME=" + root.path(),
+               "XDG_RUNTIME_DIR=" + root.path(), "TMPDIR=" + root.path()});
+        QByteArray output; // It comes at once: the process does not end before it is told.
+        while (!output.contains("seen: ") && first.waitForReadyRead(Patience))
+            output += first.readAllStandardOutput();
+        QVERIFY2(QString::fromUtf8(output).contains("seen: " + seen.replace("%1", home)), output);
+        first.closeWriteChannel();
+        QVERIFY(first.waitForFinished(Patience));
+        QCOMPARE(first.exitCode(), Refused);
+        const bool isWindow = seen.contains("frameless"), isReported = general.contains("diag=true");
+        const QByteArray log = contentOf(home + "/log.txt");
+        QVERIFY2(log.contains("Applied the settings") == isWindow, log);
+        QVERIFY2(log.contains("[debug] seen") == isReported, log);
+        QCOMPARE(bool(contentOf(home + "/Settings.ini").contains("ImageFolder=/\303\274\n")), isWindow);
+        QCOMPARE(first.readAllStandardOutput(), QByteArray("0 settings\n"));
     }
 #endif
 

@@ -112,6 +112,7 @@ int call(long number, Arguments... arguments)
 }
 
 } // namespace
+Q_DECLARE_METATYPE(Operation)
 
 #if !defined(__SANITIZE_ADDRESS__)
 // Found before those of the C library, by Qt as well.
@@ -209,108 +210,126 @@ private Q_SLOTS:
         m_path = m_folder.filePath("Settings.ini");
     }
 
+    void faultAtEachCall_data()
+    {
+        QTest::addColumn<Operation>("operation");
+        QTest::addColumn<QByteArray>("general"); // What the file holds, beside the foreign groups.
+        QTest::addColumn<QByteArray>("wanted");  // Some of what it holds then, separated by "|".
+        const QByteArray bad("[DBCache]\ncacheSize=1\n\n"), version("[General]\nsettingsVersion=");
+        const std::tuple<const char*, Operation, QByteArray, QByteArray> rows[] = {
+            {"apply", &apply, version + "2\n\n", "\nengine=software\n"},
+            {"repair", &validate, bad, "\ncacheSize=4096\n"},
+            {"repair of a damaged file", &validate, "[DBCache]\nno value\n" + bad, version + "2\n"},
+            {"upgrade", &migrate, version + "1\n\n", "\nengine=deferred\n|\nsettingsVersion=2\n"},
+            {"fresh start", &migrate, "[General]\nengine=software\n\n", "[General]\nlanguage=fr\n"}};
+        for (const auto& [name, operation, general, wanted] : rows)
+            QTest::newRow(name) << operation << general << wanted;
+    }
+
     void faultAtEachCall()
     {
 #if defined(__SANITIZE_ADDRESS__)
         QSKIP("the sanitizer has these functions itself");
 #endif
-        const QByteArray bad("[DBCache]\ncacheSize=1\n\n"), version("[General]\nsettingsVersion=");
-        // Beside the foreign groups: what the file holds, and some of what it holds then.
-        const std::tuple<Operation, QByteArray, QByteArray> rows[] = {
-            {&apply, version + "2\n\n", "\nengine=software\n"},
-            {&validate, bad, "\ncacheSize=4096\n"},
-            {&validate, "[DBCache]\nno value\n" + bad, version + "2\n"},
-            {&migrate, version + "1\n\n", "\nengine=deferred\n|\nsettingsVersion=2\n"},
-            {&migrate, "[General]\nengine=software\n\n", "[General]\nlanguage=fr\n"}};
-        for (const auto& [operation, general, wanted] : rows) {
-            const QByteArray before = general + Foreign;
-            init();
-            store(m_path, before);
-            QVERIFY(operation(m_path));
-            const QByteArray after = contentOf(m_path);
-            const int kept = copies().size();
-            for (const QByteArray& text : wanted.split('|'))
-                QVERIFY2(after.contains(text), after);
-            for (const Fault fault : {Fails, Kills}) {
-                bool isReached = true;
-                int calls = 0, changed = 0;
-                for (; isReached; ++calls) {
-                    init();
-                    store(m_path, before);
-                    const int status = statusOf(startChild([&, operation = operation] {
-                        callsLeft = calls;
-                        faultAtCall = fault;
-                        const bool isDone = operation(m_path);
-                        faultAtCall = NoFault;
-                        if (isDone && callsLeft >= 0)
-                            ::_exit(NotReached);
-                        if (!isDone && error.endsWith(": "))
-                            ::_exit(Silent);
-                        return isDone;
-                    }));
-                    isReached = WEXITSTATUS(status) != NotReached;
-                    const QByteArray left = contentOf(m_path);
-                    const QByteArray which = "call " + QByteArray::number(calls) + " leaves:\n" + left;
-                    QVERIFY2(WEXITSTATUS(status) != Silent, which);
-                    QVERIFY2(fault == Kills || left == (status == 0 || !isReached ? after : before), which);
-                    changed += left == after;
-                    // Rewritten in place, a file may be cut until the next start.
-                    QVERIFY(ZelSettingsFile::IsUsable(m_path, error));
-                    const bool isDone = contentOf(m_path) == after;
-                    QVERIFY2(isDone || contentOf(m_path) == before, which);
-                    QVERIFY2(isDone ? copies().size() == kept : copies().size() <= kept, which);
-                    QVERIFY2(operation(m_path), qPrintable(error));
-                    QCOMPARE(contentOf(m_path), after);
-                    QVERIFY2(change(m_path, {}), qPrintable(error)); // Removes what is left.
-                    QCOMPARE(m_folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)
-                                 .filter("Settings.ini")
-                                 .size(),
-                             1 + copies().size());
-                }
-                QVERIFY2(calls > 30 && changed > 1, "the faults come at the wrong moments");
+        QFETCH(Operation, operation);
+        QFETCH(QByteArray, general);
+        QFETCH(QByteArray, wanted);
+        const QByteArray before = general + Foreign;
+        store(m_path, before);
+        QVERIFY(operation(m_path));
+        const QByteArray after = contentOf(m_path);
+        const int kept = copies().size();
+        for (const QByteArray& text : wanted.split('|'))
+            QVERIFY2(after.contains(text), after);
+        for (const Fault fault : {Fails, Kills}) {
+            bool isReached = true;
+            int calls = 0, changed = 0;
+            for (; isReached; ++calls) {
+                init();
+                store(m_path, before);
+                const int status = statusOf(startChild([&] {
+                    callsLeft = calls;
+                    faultAtCall = fault;
+                    const bool isDone = operation(m_path);
+                    faultAtCall = NoFault;
+                    if (isDone && callsLeft >= 0)
+                        ::_exit(NotReached);
+                    if (!isDone && error.endsWith(": "))
+                        ::_exit(Silent);
+                    return isDone;
+                }));
+                isReached = WEXITSTATUS(status) != NotReached;
+                const QByteArray left = contentOf(m_path);
+                const QByteArray which = "call " + QByteArray::number(calls) + " leaves:\n" + left;
+                QVERIFY2(WEXITSTATUS(status) != Silent, which);
+                QVERIFY2(fault == Kills || left == (status == 0 || !isReached ? after : before), which);
+                changed += left == after;
+                // Rewritten in place, a file may be cut until the next start.
+                QVERIFY(ZelSettingsFile::IsUsable(m_path, error));
+                const bool isDone = contentOf(m_path) == after;
+                QVERIFY2(isDone || contentOf(m_path) == before, which);
+                QVERIFY2(isDone ? copies().size() == kept : copies().size() <= kept, which);
+                QVERIFY2(operation(m_path), qPrintable(error));
+                QCOMPARE(contentOf(m_path), after);
+                QVERIFY2(change(m_path, {}), qPrintable(error)); // Removes what is left.
+                QCOMPARE(m_folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)
+                             .filter("Settings.ini")
+                             .size(),
+                         1 + copies().size());
             }
+            QVERIFY2(calls > 30 && changed > 1, "the faults come at the wrong moments");
         }
+    }
+
+    void locksOfOthers_data()
+    {
+        QTest::addColumn<QByteArray>("command"); // Makes the lock.
+        QTest::addColumn<bool>("isHeld");        // By a living process.
+        QTest::addColumn<QString>("reason");     // Why the lock cannot be taken.
+        const QString held = "another program has locked it", inTheWay = ".lock\" is in the way";
+        const QByteArray ended = "echo 4194305 >$lock", own = QByteArray::number(::getpid());
+        const std::tuple<const char*, QByteArray, bool, QString> rows[] = {
+            {"of a process that has ended", ended, false, ""},
+            {"of a program that had this number before", "printf '" + own + "\nother\n' >$lock", false, ""},
+            {"old", "touch -d -40sec $lock", false, ""},
+            {"from the future", "touch -d +1hour $lock", false, ""},
+            {"of another machine", "printf '4194305\nprogram\nelsewhere\n' >$lock", false, held},
+            {"just made", "touch $lock", false, held},
+            {"of a running program, by its name", "printf '" + own + "\n/bin/tst_SettingsFaults\n' >$lock",
+             false, held},
+            {"held", "true", true, held},
+            {"held and old", "touch -d -1hour $lock", true, held},
+            {"link", "ln -s nowhere $lock", false, inTheWay},
+            {"folder", "mkdir $lock", false, inTheWay},
+            {"cannot be removed", ended + "; mkdir $lock.rmlock", false, held}};
+        for (const auto& [name, command, isHeld, reason] : rows)
+            QTest::newRow(name) << command << isHeld << reason;
     }
 
     void locksOfOthers()
     {
-        const QString held = "another program has locked it", inTheWay = ".lock\" is in the way";
-        const QByteArray ended = "echo 4194305 >$lock", own = QByteArray::number(::getpid());
-        // What makes the lock, whether a living process holds it, and why it cannot be taken.
-        const std::tuple<QByteArray, bool, QString> rows[] = {
-            {ended, false, ""},
-            {"printf '" + own + "\nother\n' >$lock", false, ""}, // Of a program that had this number before.
-            {"touch -d -40sec $lock", false, ""},
-            {"touch -d +1hour $lock", false, ""},
-            {"printf '4194305\nprogram\nelsewhere\n' >$lock", false, held},
-            {"touch $lock", false, held},
-            {"printf '" + own + "\n/bin/tst_SettingsFaults\n' >$lock", false, held},
-            {"true", true, held},
-            {"touch -d -1hour $lock", true, held},
-            {"ln -s nowhere $lock", false, inTheWay},
-            {"mkdir $lock", false, inTheWay},
-            {ended + "; mkdir $lock.rmlock", false, held}}; // It cannot be removed.
-        for (const auto& [command, isHeld, reason] : rows) {
-            for (const QByteArray size : {"77", "7"}) {
-                init();
-                for (const char* end : {"", ".unfinished"}) // A killed write has left it.
-                    store(m_path + end, "[General]\nsettingsVersion=2\n[DBCache]\ncacheSize=" + size);
-                FileLock holder(m_path + ".lock");
-                QVERIFY(!isHeld || holder.take(0) == FileLock::Free);
-                QCOMPARE(::system("lock=" + m_path.toUtf8() + ".lock; " + command), 0);
-                QElapsedTimer clock;
-                clock.start();
-                // What needs no repair is usable all the same.
-                QVERIFY2(validate(m_path) == (reason.isEmpty() || size == "77"), command);
-                QVERIFY2(apply(m_path) == reason.isEmpty() && error.contains(reason), command);
-                QVERIFY2(contentOf(m_path).contains("cacheSize=512") == reason.isEmpty(), command);
-                QVERIFY2(clock.elapsed() < 9000, command); // At most three and a half seconds each.
-                error.clear();
-                const auto settings = ZelSettingsFile::Open(m_path);
-                QVERIFY(!isHeld || (QFile::remove(m_path) && !ZelSettingsFile::ReadAgain(*settings, error)));
-                QVERIFY(!isHeld || settings->value("DBCache/cacheSize").toByteArray() == size);
-                QVERIFY(!isHeld || size != "77" || !ZelSettingsFile::Repair(*settings, error));
-            }
+        QFETCH(QByteArray, command);
+        QFETCH(bool, isHeld);
+        QFETCH(QString, reason);
+        for (const QByteArray size : {"77", "7"}) {
+            init();
+            for (const char* end : {"", ".unfinished"}) // A killed write has left it.
+                store(m_path + end, "[General]\nsettingsVersion=2\n[DBCache]\ncacheSize=" + size);
+            FileLock holder(m_path + ".lock");
+            QVERIFY(!isHeld || holder.take(0) == FileLock::Free);
+            QCOMPARE(::system("lock=" + m_path.toUtf8() + ".lock; " + command), 0);
+            QElapsedTimer clock;
+            clock.start();
+            // What needs no repair is usable all the same.
+            QVERIFY2(validate(m_path) == (reason.isEmpty() || size == "77"), command);
+            QVERIFY2(apply(m_path) == reason.isEmpty() && error.contains(reason), command);
+            QVERIFY2(contentOf(m_path).contains("cacheSize=512") == reason.isEmpty(), command);
+            QVERIFY2(clock.elapsed() < 9000, command); // At most three and a half seconds each.
+            error.clear();
+            const auto settings = ZelSettingsFile::Open(m_path);
+            QVERIFY(!isHeld || (QFile::remove(m_path) && !ZelSettingsFile::ReadAgain(*settings, error)));
+            QVERIFY(!isHeld || settings->value("DBCache/cacheSize").toByteArray() == size);
+            QVERIFY(!isHeld || size != "77" || !ZelSettingsFile::Repair(*settings, error));
         }
     }
 
