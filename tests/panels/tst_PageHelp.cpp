@@ -220,6 +220,8 @@ private Q_SLOTS:
             QVERIFY(stored != "1/0.5" || pending()[1].startsWith("Simplification: 1/0.5 "));
             QVERIFY(stored != "1/0.5" || pending()[1].endsWith(" 1/0.75/0.5/0.25/0.1"));
             QVERIFY(find("discardButton")->isVisible());
+            QCOMPARE(find("discardButton")->accessibleName() + find("discardButton")->accessibleDescription(),
+                     QString("Discard changesNot applied yet"));
             for (const char* button : {"editButton", "takeBack"})
                 QCOMPARE(find("pendingList")->findChildren<QWidget*>(button).last()->isEnabled(),
                          stored == ratios);
@@ -447,6 +449,39 @@ private Q_SLOTS:
                 choice->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
     }
 #endif
+
+    void labelsAndTheTabKeyFollowThePlaces()
+    {
+        QWidget* pages = m_window->findChild<QScrollArea*>()->widget();
+        const auto middle = [pages](const QWidget* widget) {
+            return widget->mapTo(pages, widget->rect().center());
+        };
+        for (const char* engine : {"raytracerButton", "deferredButton"}) {
+            find<QRadioButton>(engine)->click();
+            QCoreApplication::processEvents();
+            int labels = 0, fields = 0;
+            for (const auto* label : pages->findChildren<QLabel*>()) {
+                if (!label->buddy() || !label->isVisible())
+                    continue;
+                ++labels;
+                const int below = middle(label->buddy()).y() - middle(label).y(); // Of a slider.
+                QVERIFY2(below > -12 && below < 36, qPrintable(label->objectName()));
+            }
+            const QWidget* last = nullptr;
+            for (const QWidget* field = m_window.get();
+                 (field = field->nextInFocusChain()) != m_window.get();) {
+                if (!field->isVisible() || !pages->isAncestorOf(field) || !ZelPageHelp::HelpOn(field))
+                    continue;
+                ++fields;
+                const bool isBeside = last && qAbs(middle(field).y() - middle(last).y()) < 12;
+                QVERIFY2(!last || (isBeside ? middle(field).x() >= middle(last).x()
+                                            : middle(field).y() > middle(last).y()),
+                         qPrintable(field->objectName()));
+                last = field;
+            }
+            QVERIFY2(labels > 1 && fields > 1, qPrintable(QString("%1 %2").arg(labels).arg(fields)));
+        }
+    }
 
     void tellsWhenEachEditTakesEffect()
     {
