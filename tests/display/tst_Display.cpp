@@ -272,8 +272,11 @@ private Q_SLOTS:
             QTest::keyClick(engine, key);
             QCOMPARE(selector.useGPURenderer(), !before);
         }
-        pressByReader(child("deferredButton"));
-        QVERIFY(selector.useGPURenderer() && roleOf(child("deferredButton")) == QAccessible::RadioButton);
+        for (const char* name : {"raytracerButton", "deferredButton"}) {
+            pressByReader(child(name));
+            QVERIFY(selector.useGPURenderer() == (name == std::string("deferredButton")) &&
+                    roleOf(child(name)) == QAccessible::RadioButton);
+        }
         for (const auto& [key, gpu] : {std::make_pair(Qt::Key_Right, true),
                                        {Qt::Key_Up, false},
                                        {Qt::Key_Down, true},
