@@ -74,7 +74,8 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
     m_movable->setExpandOnDlbClick(true);
     m_movable->setAnchorObject(m_ui->headerFrame, this);
 
-    m_controlCenter = std::make_unique<ZelControlCenter>(application, nullptr, Qt::WindowFlags());
+    // In its place at once: Qt styles it again when it moves into another window.
+    m_controlCenter = std::make_unique<ZelControlCenter>(application, m_ui->slidesFrame, Qt::WindowFlags());
     m_controlCenter->setGUIHandler(this);
     // The slides neither move nor resize the help beside it.
     m_ui->slidesFrame->setFixedWidth(ZelControlCenter::OpenWidth());
