@@ -27,6 +27,15 @@ ControlCenterSlides::ControlCenterSlides(QWidget* column, const Ui::ControlCente
 
 ControlCenterSlides::~ControlCenterSlides()
 {
+    for (QPropertyAnimation* slide : {m_menuSlide, m_drawerSlide}) {
+        if (slide->state() != QAbstractAnimation::Running)
+            continue;
+        // Its last step may have led here, for a page that appears may delete the control center.
+        slide->disconnect();
+        slide->stop();
+        slide->setParent(nullptr);
+        slide->deleteLater();
+    }
     if (m_enginePaused)
         resumeEngine();
 }

@@ -223,8 +223,11 @@ void ZelControlCenter::setSettingsWidth(int width)
         m_parts->drawer.showAllPages();
         return;
     }
+    const QPointer<ZelControlCenter> self(this);
     if (wasVisible) // The drawer has just appeared otherwise, which is enough work for one frame.
         m_parts->drawer.showNewPages(m_parts->slides->drawerProgress());
+    if (!self)
+        return;
     // An opening drawer has not scrolled yet, so nothing else has checked the button of its page.
     onScrollBarValueChanged(m_parts->drawer.area()->verticalScrollBar()->value());
 }

@@ -284,6 +284,18 @@ private Q_SLOTS:
         QVERIFY(m_application->engineUpdates.isEmpty() || m_application->engineUpdates.last());
     }
 
+    void mayBeDeletedByAPageThatAppears()
+    {
+        addPages(2);
+        m_pages[1]->whenAsked = [this] {
+            if (m_pages[1]->isVisible())
+                m_controlCenter.reset();
+        };
+        m_controlCenter->setControlCenterVisible(true);
+        QTRY_VERIFY(!m_controlCenter);
+        QVERIFY(m_application->engineUpdates.last());
+    }
+
     void pageMayLeaveWhileAnotherAppears()
     {
         addPages(3);
