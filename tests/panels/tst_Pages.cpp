@@ -304,8 +304,11 @@ private Q_SLOTS:
         {
             Simplification page(m_application.get(), settings());
             page.type("ratio2", "70");
-            QCOMPARE(page.find("icon1")->property("pixmap").value<QPixmap>().toImage(),
-                     QIcon(":/controlCenter/controlCenter/High.png").pixmap(64).toImage());
+            int level = 0;
+            for (const char* name : {"High", "Medium High", "Medium", "Medium-Low-Quality", "Low-Quality"})
+                QCOMPARE(
+                    page.find(QString("icon%1").arg(++level))->property("pixmap").value<QPixmap>().toImage(),
+                    QIcon(QString(":/controlCenter/controlCenter/%1.png").arg(name)).pixmap(64).toImage());
             QVERIFY(page.changes.count() == 1 && page.canClickReset() &&
                     m_application->manager.ratios.isEmpty());
             // Only the levels beside it follow, the one above upwards and the one below downwards.
@@ -328,8 +331,9 @@ private Q_SLOTS:
             page.page.applyModifications();
             QCOMPARE(stored(keys::SimplificationRatios), QString("1/0.2/0.2/0.7/0.6"));
         }
-        registerDefaults({}); // Without them the page keeps what it shows.
         settings().remove(keys::SimplificationRatios);
+        QVERIFY(!Simplification(nullptr, settings()).page.hasModifications());
+        registerDefaults({}); // Without them the page keeps what it shows.
         Simplification page(nullptr, settings());
         QVERIFY(page.reset() == 1 && page.canClickReset() && !page.page.applyModifications());
         QCOMPARE(stored(keys::SimplificationRatios), QString("1/0.75/0.5/0.25/0.01"));
@@ -353,6 +357,7 @@ private Q_SLOTS:
                 QCOMPARE(table->item(cell / 2, cell % 2)->data(role).toString(), texts[cell]);
         QVERIFY(table->isVisible() && table->rowHeight(1) > table->rowHeight(0));
         QCOMPARE(table->viewport()->height(), table->verticalHeader()->length());
+        QCOMPARE(table->columnWidth(0), 260);
         auto* area = page.find<QScrollArea>("scrollArea");
         QEvent language(QEvent::LanguageChange);
         for (const bool resized : {false, true}) {
@@ -379,6 +384,7 @@ private Q_SLOTS:
         About page(nullptr, settings());
         QVERIFY(!page.find("pluginsFrame")->isVisible());
         auto* components = page.find<QLabel>("libUseLabel_2");
+        QVERIFY(components->accessibleName().startsWith("Qt, application toolkit"));
         auto* notice = components->findChild<QLabel*>();
         components->setFocus(Qt::TabFocusReason);
         for (const char* link : {"Qt", "Qt Solutions, QtSingleApplication", "Open Sans"}) {
