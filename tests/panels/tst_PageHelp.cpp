@@ -169,6 +169,7 @@ private Q_SLOTS:
             QCOMPARE(QToolTip::isVisible(), !shown);
             QVERIFY(find<QTimer>("rest")->isActive()); // It may have come by scrolling.
             find<ZelHelpArea>("helpArea")->showHelp(size);
+            QVERIFY(!find<QTimer>("rest")->isActive()); // Asked for, it stays.
             QCOMPARE(QApplication::activePopupWidget() == nullptr, whole);
             if (shown && !whole)
                 QApplication::activePopupWidget()->close();
@@ -179,7 +180,8 @@ private Q_SLOTS:
         find<QSpinBox>("databaseSpinBox")->setValue(512);
         QVERIFY(opened->findChild<QLabel*>("stateLabel")->text().startsWith("Changed") &&
                 pending().size() == 1);
-        opened->findChild<QPushButton*>("putBackButton")->click();
+        QVERIFY(opened->hasFocus());
+        QTest::keyClick(opened->findChild<QPushButton*>("putBackButton"), Qt::Key_Return);
         QCOMPARE(opened->findChild<QLabel*>("stateLabel")->text(), QString("Not the default."));
         QTest::keyClick(opened, Qt::Key_Escape);
         QTRY_VERIFY(!find("openedHelp"));
@@ -326,6 +328,13 @@ private Q_SLOTS:
         QTRY_VERIFY(find("pendingList")->height() < 160); // Leaves room for the help.
         m_window->resize(1200, 600);
         const auto takeBack = find("pendingList")->findChildren<QAbstractButton*>("takeBack");
+        find("maxTrianglesSpinBox")->setFocus();
+        for (QWidget* pressed : {lines[0], takeBack[0]}) { // Does not take in what is being typed.
+            QTest::mousePress(inputOf(window), Qt::LeftButton, Qt::NoModifier,
+                              pressed->mapTo(window, QPoint(9, 9)));
+            QVERIFY(find("maxTrianglesSpinBox")->hasFocus());
+            QTest::mouseRelease(inputOf(window), Qt::LeftButton, Qt::NoModifier, QPoint(500, 5));
+        }
         takeBack[2]->click();
         find("pendingList")->findChild<QAbstractButton*>("editButton")->click();
         QVERIFY(find("raytracerButton")->hasFocus());

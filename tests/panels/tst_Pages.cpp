@@ -190,6 +190,9 @@ private Q_SLOTS:
         QVERIFY(pictureOf(shotsButton) != painted);
 
         General alone(nullptr, settings());
+        QTest::keyClick(alone.find("databaseSpinBox"), Qt::Key_F1, Qt::ShiftModifier); // Where it is.
+        QVERIFY(QApplication::activePopupWidget() && QApplication::activePopupWidget()->isVisible());
+        QWhatsThis::hideText();
         alone.type("databaseSpinBox", "99");
         QVERIFY(!alone.page.applyModifications() && stored(keys::CacheSize) == "99" && alone.reset() == 1);
     }
