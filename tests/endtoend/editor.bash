@@ -1,13 +1,13 @@
 # What drives the editor as a user does, by mouse and keyboard: to be sourced. Needs a screen with a window manager. The
-# programs are those for Windows where WINEPREFIX names a Windows of their own.
+# programs are those for Windows where WINDOWS_TO_DRIVE names a Wine prefix of their own, whose settings may be lost.
 
 patience=90 # Seconds; what is waited for happens at once unless the machine is busy.
-on_windows() { [ -n "${WINEPREFIX:-}" ]; }
+on_windows() { [ -n "${WINDOWS_TO_DRIVE:-}" ]; }
 if on_windows; then
-    scratch=$WINEPREFIX
+    scratch=$WINDOWS_TO_DRIVE
     suffix=.exe
-    launcher=(/usr/lib/wine/wine64)
-    configuration=$WINEPREFIX/drive_c/users/$(id -un)/AppData/Roaming
+    launcher=(env "WINEPREFIX=$scratch" /usr/lib/wine/wine64)
+    configuration=$scratch/drive_c/users/$(id -un)/AppData/Roaming
 else
     scratch=$(mktemp -d)
     trap 'end_programs; rm -rf "$scratch"' EXIT
@@ -32,9 +32,9 @@ window="Torvane - Control Center"
 fatal_error="Torvane - Fatal Error"
 question="Settings Modification"
 
-programs=()
 end_programs() {
-    [ ${#programs[@]} -eq 0 ] || kill "${programs[@]}" 2>/dev/null || true
+    # shellcheck disable=SC2046 # A number each.
+    kill $(jobs -pr) 2>/dev/null || true
     wait
 }
 
@@ -59,7 +59,6 @@ await() {
 start() {
     timeout -k 5 300 "${launcher[@]}" "$@" </dev/null >>"$output" 2>&1 &
     process=$!
-    programs+=("$process")
 }
 
 # ends_with CODE [PROCESS]: waits for the end of what has been started
@@ -78,12 +77,15 @@ shows() {
     }
     await "The window \"$1\"" has_window "$1"
     rests() {
-        import -window "$shown" "rgba:$scratch/before"
-        sleep 0.4
-        import -window "$shown" "rgba:$scratch/now"
-        cmp "$scratch/before" "$scratch/now"
+        import -window "$shown" "rgba:$scratch/before" && sleep 0.4 &&
+            import -window "$shown" "rgba:$scratch/now" && cmp "$scratch/before" "$scratch/now"
     }
     await "A still picture of \"$1\"" rests
+}
+
+# has_changed: whether the window no longer looks as it did at rest
+has_changed() {
+    import -window "$shown" "rgba:$scratch/next" && ! cmp -s "$scratch/now" "$scratch/next"
 }
 
 # click X Y [KEY...]: clicks into the window that is shown, and presses keys
