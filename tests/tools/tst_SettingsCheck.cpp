@@ -136,7 +136,10 @@ private Q_SLOTS:
             {"x=\"@Variant(" + listsInLists + ")\"\n", {}, {"engine", "deferred", "missing", object}},
             // What a killed program has left: a file that is cut, and one that was written since.
             {"[General]\nengi|[General]\nengine=bad\n", "bad", {"engine", "deferred", "neither", cut}},
-            {"engine=bad\n|engine=software\n", "bad", {"engine", "deferred", "neither", cut}}};
+            {"engine=bad\n|engine=software\n", "bad", {"engine", "deferred", "neither", cut}},
+            {"engi|engine=bad\nx\n",
+             "bad",
+             {"engine", "deferred", "neither", cut + "; line 2 cannot be read"}}};
         for (const auto& [before, oldText, texts] : rows) {
             init();
             tellsAndRepairs(QByteArray(before).replace("%1", m_root.toUtf8()), oldText, texts);
