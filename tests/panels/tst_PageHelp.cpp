@@ -391,6 +391,10 @@ private Q_SLOTS:
                 QCOMPARE(box->value(), value);
             }
         }
+        box->setValue(10);
+        QTRY_VERIFY(!find("takeBack"));
+        QTest::keyClick(box, Qt::Key_Delete, Qt::AltModifier);
+        QVERIFY(find("takeBack")->isEnabled()); // The default is an edit.
         QTest::keyClick(box, Qt::Key_F1, Qt::ShiftModifier);
         QCOMPARE(requests.value(0).value(0).value<QWidget*>(), box);
     }
@@ -413,6 +417,10 @@ private Q_SLOTS:
             type("faceSagSpin", "3"); // Is not announced, so Apply is disabled.
             QVERIFY(!find("applyButton")->isEnabled() && pending().isEmpty());
         }
+        m_application->setLanguageCode("en");
+        QEvent change(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(find("ZelImportSettingsPanel"), &change);
+        QCOMPARE(find<QDoubleSpinBox>("faceSagSpin")->text(), QString("3.000"));
     }
 
 #if !defined(ZEL_LEAVE_OUT_everyControlIsAnnounced)
