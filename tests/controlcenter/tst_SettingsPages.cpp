@@ -1,6 +1,7 @@
 #include "FakePage.h"
 #include "Files.h"
 #include "SettingsPages.h"
+#include "ZelSettingsFile.h"
 #include "ZelSettingsRegistry.h"
 #include "ZelSettingsValidators.h"
 
@@ -47,11 +48,19 @@ private Q_SLOTS:
         QVERIFY(m_page["B"]->getActionWidget()->toolTip() != m_page["A"]->getActionWidget()->toolTip());
         // Differs from the file only when that is read again: another program has changed it.
         m_page["C"]->whenAsked = [this] { m_page["C"]->modified = true; };
+        m_page["B"]->whenAsked = [this] { // Another program writes meanwhile, so that all is done again.
+            if (!m_calls.endsWith("B apply") || !m_page["A"]->needsRestart)
+                return;
+            m_page["A"]->needsRestart = false;
+            zel::ZelSettingsFile::Current(*m_settings).setValue("edited", 1);
+            store(m_settings->fileName(), "other=1\n");
+        };
         QVERIFY(m_pages->apply(*m_settings, restart, error) && restart && error.isEmpty());
-        QCOMPARE(m_calls.join(","), QString("C initialize,A apply,B apply,C apply"));
+        QCOMPARE(m_calls.join(","), QString("C initialize,A apply,B apply,C apply,"
+                                            "C initialize,A apply,B apply,C apply"));
         QVERIFY(m_pages->remove(m_page["B"].get()) && !m_pages->remove(m_page["B"].get()));
         m_pages->reset();
-        QCOMPARE(QStringList(m_calls.mid(4)).join(","), QString("A reset,C reset"));
+        QCOMPARE(QStringList(m_calls.mid(8)).join(","), QString("A reset,C reset"));
         m_page["B"]->edit();
         QCOMPARE(changed.count(), 1);
     }

@@ -145,6 +145,7 @@ private Q_SLOTS:
         QVERIFY(!m_window.isMaximized());
         QCOMPARE(m_window.windowIcon().actualSize(QSize(200, 200)), QSize(128, 128));
         QCOMPARE(roleOf(&m_window), QAccessible::Window);
+        QCOMPARE(find<QAction>("close")->text(), QString("Close"));
         QStringList title; // The product is read as one name, although one half of it is bold.
         for (QLabel* label : find<QFrame>("headerFrame")->findChildren<QLabel*>())
             title << readOut(label);
@@ -189,7 +190,16 @@ private Q_SLOTS:
             press(Qt::Key_Z, Qt::ControlModifier);
             QVERIFY(!m_size->text().startsWith("1 ") && m_check->isChecked() == typed && m_size->hasFocus());
         }
-        QTest::keyClick(inputOf(&m_window), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        const auto redo = [this] {
+            QTest::keyClick(inputOf(&m_window), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        };
+        press(Qt::Key_PageUp, Qt::NoModifier);
+        typeOver("1");
+        press(Qt::Key_Z, Qt::ControlModifier);
+        redo(); // The field's own first.
+        QVERIFY(m_size->text().startsWith("1 ") && !m_check->isChecked());
+        press(Qt::Key_Escape, Qt::NoModifier);
+        redo();
         QVERIFY(m_check->isChecked());
         QSignalSpy help(m_controlCenter, SIGNAL(helpRequested(QWidget*)));
         for (const Qt::KeyboardModifier modifier : {Qt::NoModifier, Qt::ShiftModifier}) {
@@ -223,11 +233,13 @@ private Q_SLOTS:
             QVERIFY(m_window.isVisible());
             press(Qt::Key_Z, Qt::ControlModifier);
         }
-        for (const bool alt : {true, false}) { // It is brought into the range.
+        for (const bool alt : {true, false}) {                         // It is brought into the range.
+            const QSignalSpy ended(m_size, SIGNAL(editingFinished())); // Some pages wait for it.
             typeOver(alt ? "1" : "9999");
             alt ? press(Qt::Key_A, Qt::AltModifier) : press(Qt::Key_S, Qt::ControlModifier);
             QTRY_COMPARE(m_application.getSettings().value("DBCache/cacheSize").toInt(),
                          alt ? m_size->minimum() : m_size->maximum());
+            QCOMPARE(ended.count(), 1);
         }
     }
 
@@ -283,8 +295,8 @@ private Q_SLOTS:
         store(path, contentOf(path).replace("cacheSize=1234", "cacheSize=345"));
         QTimerEvent tick(0);
         int ticks = 0;
-        for (QObject* child : m_controlCenter->children())
-            ticks += child->inherits("zel::SettingsPages") && QCoreApplication::sendEvent(child, &tick);
+        for (QObject* child : m_controlCenter->findChildren<QObject*>())
+            ticks += child->inherits("zel::SettingsFollower") && QCoreApplication::sendEvent(child, &tick);
         QCOMPARE(ticks, 1);
         QCOMPARE(m_size->text().left(2), QString("5 "));
         QTest::keyClick(m_size, Qt::Key_Escape);
@@ -324,18 +336,32 @@ private Q_SLOTS:
         }
         m_window.setGeometry(start);
         QTest::mouseMove(inputOf(&m_window), QPoint(2, 250));
-        QEvent leave(QEvent::Leave);
-        QCoreApplication::sendEvent(&m_window, &leave);
-        QCOMPARE(m_window.cursor().shape(), Qt::ArrowCursor);
+        for (QWidget* left : {m_window.childAt(2, 250), window}) {
+            QEvent leave(QEvent::Leave);
+            QCoreApplication::sendEvent(left, &leave);
+            QCOMPARE(m_window.cursor().shape(), left == window ? Qt::ArrowCursor : Qt::SizeHorCursor);
+        }
         QTest::mousePress(inputOf(&m_window), Qt::LeftButton, Qt::NoModifier, QPoint(2, 250));
         QMouseEvent lost(QEvent::MouseMove, QPoint(50, 250), m_window.mapToGlobal(QPoint(50, 250)),
                          Qt::NoButton, Qt::NoButton, Qt::NoModifier); // Another window has got the release.
         QCoreApplication::sendEvent(&m_window, &lost);
         QCOMPARE(m_window.geometry(), start);
         QTest::mouseRelease(inputOf(&m_window), Qt::LeftButton, Qt::NoModifier, QPoint(50, 250));
-        m_window.showMaximized();
-        QTest::mouseMove(inputOf(&m_window), QPoint(2, 300));
-        QCOMPARE(m_window.cursor().shape(), Qt::ArrowCursor);
+        for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) // The edge is the left one's.
+            QTest::mousePress(inputOf(&m_window), button, Qt::NoModifier,
+                              QPoint(button == Qt::LeftButton ? 100 : 2, 300));
+        QTest::mouseMove(inputOf(&m_window), QPoint(20, 300));
+        QCOMPARE(m_window.geometry(), start);
+        for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton})
+            QTest::mouseRelease(inputOf(&m_window), button, Qt::NoModifier, QPoint(50, 300));
+        // A frame of the system resizes it.
+        for (const Qt::WindowState state : {Qt::WindowNoState, Qt::WindowMaximized, Qt::WindowFullScreen}) {
+            m_window.setWindowFlags(state ? Qt::Window | Qt::FramelessWindowHint : Qt::Window);
+            m_window.setWindowState(state);
+            m_window.show();
+            QTest::mouseMove(inputOf(&m_window), QPoint(2, 300 + state));
+            QCOMPARE(m_window.cursor().shape(), Qt::ArrowCursor);
+        }
         m_window.showNormal();
         m_window.setGeometry(0, 0, 800, 600);
     }
@@ -401,8 +427,10 @@ private Q_SLOTS:
         m_window.showMaximized();
         m_window.showNormal();
         QTRY_VERIFY(QApplication::desktop()->availableGeometry(&m_window).contains(m_window.geometry()));
+        m_size->setFocus();
         m_window.hide();
         m_window.show();
+        QCOMPARE(m_window.focusWidget(), m_size);
         m_window.move(700, 40); // As a window manager places it.
         QTRY_COMPARE(m_window.geometry().right(),
                      QApplication::desktop()->availableGeometry(&m_window).right());
@@ -416,6 +444,12 @@ private Q_SLOTS:
         drag(m_window, onHeader, QPoint(1, 1), onHeader + QPoint(1, 1)); // Less than a drag.
         drag(m_window, onHeader, way, onHeader);
         QCOMPARE(m_window.geometry(), moved);
+        QTest::mousePress(inputOf(&m_window), Qt::LeftButton, Qt::NoModifier, onHeader);
+        QMouseEvent lost(QEvent::MouseMove, onHeader, QPoint(500, 300), Qt::NoButton, Qt::RightButton,
+                         Qt::NoModifier); // Another window has got the release.
+        QCoreApplication::sendEvent(find("headerFrame"), &lost);
+        QCOMPARE(m_window.geometry(), moved);
+        QTest::mouseRelease(inputOf(&m_window), Qt::LeftButton, Qt::NoModifier, onHeader);
         for (const Qt::MouseButton button : {Qt::RightButton, Qt::LeftButton}) {
             QTest::mouseDClick(find("headerFrame"), button);
             QCOMPARE(m_window.isMaximized(), button == Qt::LeftButton);

@@ -45,6 +45,8 @@ struct Onlooker : QTimer
             seen << "frameless";
         if (!QFontDatabase::applicationFontFamilies(0).isEmpty())
             seen << "own fonts";
+        seen << QString::number(window.logicalDpiX()) +
+                    " dpi"; // The interface has grown with those of the screen.
         seen << QCoreApplication::libraryPaths().filter(QRegExp("^bin$")); // The plug-ins.
         return seen.join(", ");
     }
@@ -94,7 +96,7 @@ private Q_SLOTS:
             QString::fromUtf8("\343\202\255\343\203\243\343\203\263\343\202\273\343\203\253");
         const std::tuple<const char*, QByteArray, QString, QString> rows[] = {
             {"Japanese, with diagnostics", complete + "language=ja\nenablediag=true\n", "",
-             cancel + ", font-style: normal;, frameless, own fonts, bin"},
+             cancel + ", font-style: normal;, frameless, own fonts, 96 dpi, bin"},
             {"settings are a folder", "", "Settings.ini/x", error + "read" + file + "it is not a file"},
             {"no folder for the cache", complete, "cache",
              error + "use the 3D database cache, folder \"%1/cache/TorvaneBoundlessX64/"}};
@@ -122,7 +124,7 @@ private Q_SLOTS:
 
         QProcess first;
         start(first, "first", {}, root.path(),
-              {"XDG_CACHE_HOME=" + home + "/cache", "XDG_CONFIG_HOME=" + root.path(),
+              {"QT_FONT_DPI=144", "XDG_CACHE_HOME=" + home + "/cache", "XDG_CONFIG_HOME=" + root.path(),
                "XDG_RUNTIME_DIR=" + root.path(), "TMPDIR=" + root.path()});
         QByteArray output; // It comes at once: the process does not end before it is told.
         while (!output.contains("seen: ") && first.waitForReadyRead(Patience))

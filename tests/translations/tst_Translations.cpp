@@ -51,7 +51,7 @@ QStringList textsOf(QWidget* window)
     for (const QObject* object : objects) {
         for (const char* property :
              {"text", "title", "windowTitle", "shortcut", "toolTip", "statusTip", "accessibleName",
-              "accessibleDescription", "announcedValue", "styleSheet"})
+              "accessibleDescription", "announcedValue", "currentIndex", "styleSheet"})
             if (const QString text = object->property(property).toString(); !text.isEmpty())
                 texts << object->objectName() + ' ' + property + ": " + text;
         const auto* items = qobject_cast<const QAbstractItemModel*>(object);
@@ -78,6 +78,8 @@ struct EditedWindow : User
         QApplication::setActiveWindow(&editor);
         action.setShortcut(QKeySequence("Ctrl+Del"));
         click("deferredFXAACheckBox");
+        for (QComboBox* box : editor.findChildren<QComboBox*>())
+            box->setCurrentIndex(box->count() - 1);
         type("databaseSpinBox", "1234567");
         find("maxTrianglesSpinBox")->setFocus();
         QTest::keyClick(find("maxTrianglesSpinBox"), Qt::Key_PageUp);
