@@ -185,15 +185,12 @@ void SettingsPages::discard()
 
 void SettingsPages::restore()
 {
-    const QPointer<SettingsPages> self(this);
     const auto discarded = m_discarded;
     m_discarded.clear();
     m_pages.forEach([&](ZelSettingsPanel* page) {
         if (const auto again = discarded.value(page))
-            again();
+            again(); // The page says so.
     });
-    if (self)
-        Q_EMIT stateChanged();
 }
 
 bool SettingsPages::mark() const

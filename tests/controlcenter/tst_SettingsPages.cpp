@@ -11,6 +11,7 @@
 
 #include <map>
 #include <memory>
+#include <utility>
 
 using zel::SettingsPages;
 
@@ -35,8 +36,6 @@ private Q_SLOTS:
 
     void appliesInOrder()
     {
-        bool restart = false;
-        QString error;
         QSignalSpy changed(m_pages.get(), SIGNAL(stateChanged()));
         QVERIFY(!m_pages->hasModifications() && !m_pages->mark() && !m_pages->canReset());
         m_page["A"]->needsRestart = true;
@@ -49,15 +48,13 @@ private Q_SLOTS:
         // Differs from the file only when that is read again: another program has changed it.
         m_page["C"]->whenAsked = [this] { m_page["C"]->modified = true; };
         m_page["B"]->whenAsked = [this] { // Another program writes meanwhile, so that all is done again.
-            if (!m_calls.endsWith("B apply") || !m_page["A"]->needsRestart)
-                return;
-            m_page["A"]->needsRestart = false;
-            zel::ZelSettingsFile::Current(*m_settings).setValue("edited", 1);
-            store(m_settings->fileName(), "other=1\n");
+            if (m_calls.endsWith("B apply") && std::exchange(m_page["A"]->needsRestart, false)) {
+                zel::ZelSettingsFile::Current(*m_settings).setValue("edited", 1);
+                store(m_settings->fileName(), "other=1\n");
+            }
         };
-        QVERIFY(m_pages->apply(*m_settings, restart, error) && restart && error.isEmpty());
-        QCOMPARE(m_calls.join(","), QString("C initialize,A apply,B apply,C apply,"
-                                            "C initialize,A apply,B apply,C apply"));
+        QVERIFY(m_pages->apply(*m_settings, m_restart, m_error) && m_restart && m_error.isEmpty());
+        QCOMPARE(m_calls.join(",") + ',', QString("C initialize,A apply,B apply,C apply,").repeated(2));
         QVERIFY(m_pages->remove(m_page["B"].get()) && !m_pages->remove(m_page["B"].get()));
         m_pages->reset();
         QCOMPARE(QStringList(m_calls.mid(8)).join(","), QString("A reset,C reset"));
@@ -75,16 +72,8 @@ private Q_SLOTS:
             {"reset", [](SettingsPages& pages) { pages.reset(); }},
             {"marks", [](SettingsPages& pages) { pages.mark(); }},
             {"discard", [](SettingsPages& pages) { pages.discard(); }},
-            {"load",
-             [this](SettingsPages& pages) {
-                 QString error;
-                 pages.load(*m_settings, error);
-             }},
-            {"apply", [this](SettingsPages& pages) {
-                 bool restart;
-                 QString error;
-                 pages.apply(*m_settings, restart, error);
-             }}};
+            {"load", [this](SettingsPages& pages) { pages.load(*m_settings, m_error); }},
+            {"apply", [this](SettingsPages& pages) { pages.apply(*m_settings, m_restart, m_error); }}};
         for (const auto& [name, ask] : questions)
             for (const char* leaving : {"A", "B", "C", "all", "list"})
                 QTest::newRow(qPrintable(QString("%1: %2 leaves").arg(name, leaving))) << ask << leaving;
@@ -133,6 +122,8 @@ private:
     std::unique_ptr<QSettings> m_settings;
     std::map<QString, std::unique_ptr<FakePage>> m_page;
     std::unique_ptr<SettingsPages> m_pages;
+    bool m_restart = false;
+    QString m_error;
 };
 
 QTEST_MAIN(tst_SettingsPages)

@@ -19,15 +19,17 @@ using zel::ZelControlCenter;
 
 const int GuardTime = 550; // Milliseconds, and some more, in which another click does not close the menu.
 
-/// Counts how often a widget appears with the role of a notice, which makes screen readers read it.
-struct NoticeCounter : QObject
+/// Counts how often a widget appears with the role of a notice, which makes screen readers read it, or is
+/// resized.
+struct EventCounter : QObject
 {
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        count += event->type() == QEvent::Show && roleOf(static_cast<QWidget*>(watched)) == zel::NoticeRole;
+        notices += event->type() == QEvent::Show && roleOf(static_cast<QWidget*>(watched)) == zel::NoticeRole;
+        resizes += event->type() == QEvent::Resize;
         return false;
     }
-    int count = 0;
+    int notices = 0, resizes = 0;
 };
 
 /// A window with a view and a control center, as a viewer has them.
@@ -135,20 +137,12 @@ private Q_SLOTS:
         }
         QTRY_VERIFY(column()->parentWidget()->height() > 100 && showsActions(true));
         QCOMPARE(m_controlCenter->settingsWidth(), 0);
-        struct : QObject
-        {
-            bool eventFilter(QObject*, QEvent* event) override
-            {
-                count += event->type() == QEvent::Resize;
-                return false;
-            }
-            int count = 0;
-        } resizes;
-        m_pages[0]->installEventFilter(&resizes);
+        EventCounter counter;
+        m_pages[0]->installEventFilter(&counter);
         m_controlCenter->setControlCenterVisible(true);
         QTRY_VERIFY(m_controlCenter->isSettingsOpen());
-        QCOMPARE(resizes.count, 0); // It is not laid out again when it comes back.
-        m_window->hide();           // Nothing slides out of sight.
+        QCOMPARE(counter.resizes, 0); // It is not laid out again when it comes back.
+        m_window->hide();             // Nothing slides out of sight.
         m_controlCenter->openMenu(false);
         QVERIFY(!m_controlCenter->isMenuOpen() && m_application->engineUpdates.last());
     }
@@ -199,11 +193,11 @@ private Q_SLOTS:
         for (const auto& [block, clear] : obstacles) {
             size->setValue(size->value() + 1);
             QVERIFY(block());
-            NoticeCounter notices;
-            error->installEventFilter(&notices);
+            EventCounter counter;
+            error->installEventFilter(&counter);
             for (int twice = 0; twice < 2; ++twice)
                 QTest::mouseClick(button("applyButton"), Qt::LeftButton);
-            QCOMPARE(notices.count, 2);
+            QCOMPARE(counter.notices, 2);
             QVERIFY(canApply() && m_folders->hasModifications() && m_controlCenter->hasModifications());
             QVERIFY2(error->isVisible() && error->text().contains(file), qPrintable(error->text()));
             QCOMPARE(error->accessibleDescription(), error->text());
@@ -427,9 +421,8 @@ private Q_SLOTS:
             button->show();
         }
         m_controlCenter->openMenu(true);
-        m_controlCenter->setControlCenterVisible(true);
-        m_pages[1]->getActionWidget()->click(); // While the drawer slides open.
-        QTRY_VERIFY(scrollBar()->value() > 0 && scrollBar()->value() == m_pages[1]->y());
+        m_pages[1]->getActionWidget()->click(); // Opens the drawer, and waits for it.
+        QTRY_VERIFY(m_controlCenter->isSettingsOpen() && scrollBar()->value() == m_pages[1]->y());
         openEverything();
         for (const int page : {2, 3}) { // The last page cannot reach the top.
             QTest::mouseClick(m_pages[page]->getActionWidget(), Qt::LeftButton);
@@ -443,7 +436,7 @@ private Q_SLOTS:
         press(Qt::Key_Tab);
         QVERIFY(!m_pages[3]->isAncestorOf(QApplication::focusWidget()));
         QVERIFY(m_pages[3]->y() > scrollBar()->maximum());
-        scrollBar()->setValue(m_pages[1]->y() + 5);
+        scrollBar()->setValue(m_pages[1]->y() - 5);
         QVERIFY(m_pages[1]->getActionWidget()->isChecked() && !m_pages[3]->getActionWidget()->isChecked());
     }
 
@@ -458,8 +451,9 @@ private Q_SLOTS:
         m_pages[0]->edit();
         QVERIFY(!canApply());
         m_pages[2]->edit();
+        const QPointer<QWidget> button(m_pages[2]->getActionWidget());
         m_pages.pop_back();
-        QVERIFY(!m_controlCenter->hasModifications() && !canApply());
+        QVERIFY(!button && !m_controlCenter->hasModifications() && !canApply());
 
         delete m_pages[1]->getActionWidget(); // With the bar that an application has put it into, say.
         m_pages[1]->setPanelName("Renamed");
@@ -613,6 +607,9 @@ private Q_SLOTS:
         QCOMPARE(m_calls.join(","), QString("P0 apply,P0 reset"));
         QCOMPARE(help.value(0).value(0).value<QWidget*>(), &box);
         QVERIFY(box.hasFocus());
+        m_pages[0]->getActionWidget()->setFocus();
+        press(Qt::Key_3, Qt::ControlModifier);
+        QVERIFY(help.count() == 2 && !help[1][0].value<QWidget*>());
     }
 
     void pagesAreReadableAndKeepTheirStyle()

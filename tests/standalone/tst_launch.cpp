@@ -45,8 +45,7 @@ struct Onlooker : QTimer
             seen << "frameless";
         if (!QFontDatabase::applicationFontFamilies(0).isEmpty())
             seen << "own fonts";
-        seen << QString::number(window.logicalDpiX()) +
-                    " dpi"; // The interface has grown with those of the screen.
+        seen << QString("%1 dpi").arg(window.logicalDpiX()); // All grows with those of the screen.
         seen << QCoreApplication::libraryPaths().filter(QRegExp("^bin$")); // The plug-ins.
         return seen.join(", ");
     }
