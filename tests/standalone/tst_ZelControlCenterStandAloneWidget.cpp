@@ -119,6 +119,7 @@ private Q_SLOTS:
                 QTest::mousePress(inputOf(&m_window), Qt::LeftButton, Qt::NoModifier, QPoint(5, 15));
             first->setFocus();
             QCOMPARE(place() == before, held);
+            QVERIFY(held || first->mapTo(m_controlCenter->settingsWidget(), QPoint()).y() >= 50);
             QTest::mouseRelease(inputOf(&m_window), Qt::LeftButton, Qt::NoModifier, QPoint(5, 15));
         }
         m_window.resize(800, 600);
@@ -354,11 +355,10 @@ private Q_SLOTS:
         QVERIFY(m_window.geometry() == start && m_window.cursor().shape() == Qt::ArrowCursor);
         QTest::mouseRelease(inputOf(&m_window), Qt::RightButton, Qt::NoModifier, QPoint(50, 300));
         QTest::mouseRelease(inputOf(&m_window), Qt::LeftButton, Qt::NoModifier, QPoint(50, 300));
-        // Or a frame of the system resizes it, or nothing.
         for (const Qt::WindowState state : {Qt::WindowNoState, Qt::WindowMaximized, Qt::WindowFullScreen}) {
             m_window.setWindowFlags(state ? Qt::Window | Qt::FramelessWindowHint : Qt::Window);
             m_window.setWindowState(state);
-            m_window.show();
+            m_window.show(); // The system resizes it, or nothing does.
             QTest::mouseMove(inputOf(&m_window), QPoint(2, 300 + state));
             QCOMPARE(m_window.cursor().shape(), Qt::ArrowCursor);
         }
