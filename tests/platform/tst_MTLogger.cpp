@@ -41,6 +41,8 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         if (QProcess::execute("mkfifo", {folder.filePath("pipe")}) == 0) // Not on Windows. It gets no reader.
             MTLogger::InstallFileHandler(folder.filePath("pipe").toStdString(), false, "");
+        for (const char* path : {"", "/gone/log.txt"}) // Neither can be opened.
+            MTLogger::InstallFileHandler(folder.path().toStdString() + path, false, "");
         for (int event = 0; event <= 1000; ++event)
             MTLogger::Log("info", event == 0 ? "first" : "later");
         const QString log = folder.filePath("log.txt");
@@ -52,6 +54,23 @@ private Q_SLOTS:
         QVERIFY(events.count("later") == 1000 && !events.contains("first") && !events.startsWith('x'));
         QVERIFY(contentOf(log + ".1").startsWith('x'));
         MTLogger::RemoveFileHandler();
+        store(log, QByteArray(5 * 1024 * 1024, 'y')); // Just small enough.
+        MTLogger::InstallFileHandler(log.toStdString(), false, "");
+        MTLogger::Log("info", "last");
+        MTLogger::RemoveFileHandler();
+        MTLogger::Log("info", "too late");
+        const QByteArray more = contentOf(log);
+        QVERIFY(more.startsWith('y') && more.endsWith("[info] last\n"));
+    }
+
+    void logThatCannotBeOpenedIsTold()
+    {
+        QProcess process;
+        process.start(QCoreApplication::applicationFilePath(), {"latestEventsAreKeptUntilThereIsAFile"});
+        QVERIFY(process.waitForFinished());
+        const QByteArray output = process.readAllStandardOutput();
+        QVERIFY2(output.contains("\" cannot be opened: it is not a file"), output);
+        QVERIFY2(output.contains("/gone/log.txt\" cannot be opened: No such file"), output);
     }
 };
 
