@@ -369,6 +369,14 @@ private Q_SLOTS:
         QCOMPARE(contentOf(m_path), QByteArray("[General]\nother=1\n"));
         QCOMPARE(contentOf(copies().value(0)), Foreign);
         QCOMPARE(files("*").size(), 2);
+        // One that was killed before it began to write leaves nothing to keep.
+        store(spare, "begun=1\n");
+        setTime(spare, stampOf(m_path).time);
+        QVERIFY(ZelSettingsFile::IsUsable(m_path, error) && files("*").size() == 2);
+        // A link of this name is somebody else's.
+        store("theirs", contentOf(m_path) + "other=2\n");
+        QVERIFY(QFile::link("theirs", spare) && ZelSettingsFile::IsUsable(m_path, error) &&
+                QFileInfo(spare).isSymLink());
     }
 
     void changesThatFail()
@@ -402,7 +410,7 @@ private Q_SLOTS:
         };
         QVERIFY(!ZelSettingsFile::Write(*settings, shared, error));
         settings->sync();
-        QVERIFY(holds() && !contentOf(m_path).contains("[new]"));
+        QVERIFY(holds() && !contentOf(m_path).contains("[new]") && settings->group().isEmpty());
         QVERIFY(apply(m_path));
         // What cannot be read is not written either.
         settings->setValue("new/key", 2);
@@ -797,6 +805,12 @@ private Q_SLOTS:
             QVERIFY(lock.take(0) == FileLock::Free && !change(m_path, {{"a", 1}}) &&
                     error.contains("locked"));
         }
+        const QTemporaryDir disk; // Another one, if the working directory is in memory.
+        store(disk.path() + "/far.ini", "far, no settings\n");
+        QVERIFY(QFile::remove(m_path) && QFile::link(disk.path() + "/far.ini", m_path));
+        QVERIFY2(apply(m_path), qPrintable(error));
+        QCOMPARE(copies().size(), 2);
+        QVERIFY(QFile::remove(m_path) && QFile::link("elsewhere/target.ini", m_path));
         // A link to a link to what is not there yet.
         QVERIFY(QFile::remove(target) && QFile::link("../new.ini", target));
         QVERIFY2(apply(m_path) && contentOf("new.ini").contains("[new]\nkey=text\n"), qPrintable(error));
