@@ -330,10 +330,9 @@ private Q_SLOTS:
         const auto takeBack = find("pendingList")->findChildren<QAbstractButton*>("takeBack");
         find("maxTrianglesSpinBox")->setFocus();
         for (QWidget* pressed : {lines[0], takeBack[0]}) { // Does not take in what is being typed.
-            QTest::mousePress(inputOf(window), Qt::LeftButton, Qt::NoModifier,
-                              pressed->mapTo(window, QPoint(9, 9)));
+            QTest::mousePress(inputOf(window), Qt::LeftButton, {}, pressed->mapTo(window, QPoint(9, 9)));
             QVERIFY(find("maxTrianglesSpinBox")->hasFocus());
-            QTest::mouseRelease(inputOf(window), Qt::LeftButton, Qt::NoModifier, QPoint(500, 5));
+            QTest::mouseRelease(inputOf(window), Qt::LeftButton, {}, QPoint(500, 5));
         }
         takeBack[2]->click();
         find("pendingList")->findChild<QAbstractButton*>("editButton")->click();

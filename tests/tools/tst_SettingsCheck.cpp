@@ -134,8 +134,7 @@ private Q_SLOTS:
              {"Logging/logFile", "/tmp", "is not written the usual way"}},
             {"[Logging]\nlogFile=//\n", "//", {"Logging/logFile", log, "existing folder"}},
             {"x=\"@Variant(" + listsInLists + ")\"\n", {}, {"engine", "deferred", "missing", object}},
-            // What a killed program has left: a file that is cut, and one that was written since.
-            {"[General]\nengi|[General]\nengine=bad\n", "bad", {"engine", "deferred", "neither", cut}},
+            // What a killed program has left: a file that was written since, and one that is cut.
             {"engine=bad\n|engine=software\n", "bad", {"engine", "deferred", "neither", cut}},
             {"engi|engine=bad\nx\n",
              "bad",
