@@ -67,20 +67,20 @@ const wchar_t* native(const QString& path)
 
 } // namespace
 
-FileLock::State FileLock::state() const
+bool FileLock::isBlocked() const
 {
     const DWORD attributes = GetFileAttributesW(native(m_path));
     if (attributes == INVALID_FILE_ATTRIBUTES)
-        return Free;
+        return false;
     if (attributes & FILE_ATTRIBUTE_DIRECTORY)
-        return Blocked;
+        return true;
     const HANDLE file =
         CreateFileW(native(m_path), DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                     OPEN_EXISTING, 0, nullptr);
     if (file == INVALID_HANDLE_VALUE)
-        return GetLastError() == ERROR_SHARING_VIOLATION ? Held : Blocked;
+        return GetLastError() != ERROR_SHARING_VIOLATION;
     CloseHandle(file);
-    return Free;
+    return false;
 }
 
 FileLock::State FileLock::tryOnce()
@@ -94,7 +94,7 @@ FileLock::State FileLock::tryOnce()
     DWORD written = 0;
     WriteFile(file, text.constData(), static_cast<DWORD>(text.size()), &written, nullptr);
     m_handle = reinterpret_cast<std::intptr_t>(file);
-    return Free;
+    return Taken;
 }
 
 void FileLock::release()
@@ -195,8 +195,8 @@ public:
             ::close(m_file);
     }
 
-    bool exists() const { return m_exists; }
-    bool isFile() const { return S_ISREG(m_status.st_mode); }
+    /// True when something else than a file has this name.
+    bool isBlocked() const { return m_exists && !S_ISREG(m_status.st_mode); }
 
     /// True when its process has ended, or when it is too old.
     bool isOrphaned() const
@@ -218,21 +218,21 @@ public:
         return std::abs(::time(nullptr) - m_status.st_mtime) > MaximumAge;
     }
 
-    /// False while its process holds it, also if it is orphaned otherwise. Holds it from then on.
-    bool isLetGo() const { return m_file >= 0 && hold(m_file); }
+    /// Removes it, unless its process still holds it, or another lock has its name meanwhile.
+    bool remove() const
+    {
+        return m_file >= 0 && hold(m_file) && isInPlace() && ::unlink(m_path.constData()) == 0;
+    }
 
-    /// True when the file still has this name.
+private:
+    Q_DISABLE_COPY(ExistingLock)
+
     bool isInPlace() const
     {
         struct stat opened = {}, named = {};
         return ::fstat(m_file, &opened) == 0 && ::lstat(m_path.constData(), &named) == 0 &&
                opened.st_ino == named.st_ino && opened.st_dev == named.st_dev;
     }
-
-    bool remove() const { return isLetGo() && isInPlace() && ::unlink(m_path.constData()) == 0; }
-
-private:
-    Q_DISABLE_COPY(ExistingLock)
 
     const QByteArray m_path;
     const int m_file;
@@ -242,14 +242,9 @@ private:
 
 } // namespace
 
-FileLock::State FileLock::state() const
+bool FileLock::isBlocked() const
 {
-    const ExistingLock lock(QFile::encodeName(m_path));
-    if (!lock.exists())
-        return Free;
-    if (!lock.isFile())
-        return Blocked;
-    return lock.isOrphaned() && lock.isLetGo() ? Free : Held;
+    return ExistingLock(QFile::encodeName(m_path)).isBlocked();
 }
 
 FileLock::State FileLock::tryOnce()
@@ -257,17 +252,17 @@ FileLock::State FileLock::tryOnce()
     const QByteArray path = QFile::encodeName(m_path);
     m_handle = create(path);
     if (m_handle != None)
-        return Free;
+        return Taken;
     if (errno != EEXIST)
         return Blocked;
     const ExistingLock lock(path);
-    if (lock.exists() && !lock.isFile()) {
+    if (lock.isBlocked()) {
         errno = EEXIST;
         return Blocked;
     }
     // Another program that removes the same orphaned lock must not remove the one that is made in its place.
     FileLock removal(m_path + ".rmlock");
-    if (lock.isOrphaned() && removal.tryOnce() == Free && lock.remove())
+    if (lock.isOrphaned() && removal.tryOnce() == Taken && lock.remove())
         return tryOnce();
     return Held;
 }

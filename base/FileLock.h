@@ -21,16 +21,16 @@ public:
     const QString& path() const { return m_path; }
 
     enum State {
-        Free,   ///< It can be taken, or an orphaned lock can be removed.
-        Held,   ///< A program holds it, or may do so.
+        Taken,  ///< This process holds it now.
+        Held,   ///< Another program holds it, or may do so.
         Blocked ///< Something else has its name, or it cannot be created: systemError() tells why.
     };
 
-    /// Tells what take() would find now; changes nothing.
-    State state() const;
-
-    /// Waits for the lock up to the time in milliseconds. Free when this process holds it now.
+    /// Waits for the lock up to the time in milliseconds. Removes an orphaned one.
     State take(int timeout);
+
+    /// True while something that is no lock has its name. Changes nothing.
+    bool isBlocked() const;
 
     /// Lets go; does nothing when the lock is not held.
     void release();

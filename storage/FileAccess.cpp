@@ -135,7 +135,7 @@ QString unwritableReason(const QString& path)
         if (isFull(folder, content.size() + Reserve))
             return QString::fromLocal8Bit(
                 std::make_error_code(std::errc::no_space_on_device).message().c_str());
-        if (lock.state() == FileLock::Blocked)
+        if (lock.isBlocked())
             return untakenLockReason(lock, false);
     }
     return QString();

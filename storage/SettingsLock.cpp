@@ -25,19 +25,19 @@ FileLock::State SettingsLock::take(QString& reason)
 {
     for (const auto& lock : m_locks) {
         const FileLock::State state = lock->take(m_deadline.remaining());
-        if (state != FileLock::Free) {
+        if (state != FileLock::Taken) {
             reason = untakenLockReason(*lock, state == FileLock::Held);
             release();
             return state;
         }
     }
-    return FileLock::Free;
+    return FileLock::Taken;
 }
 
 bool SettingsLock::takeAndFinish(QString& reason)
 {
     const SpareCopy spare(target(), m_deadline);
-    return take(reason) == FileLock::Free && (!spare.exists() || spare.finish(reason));
+    return take(reason) == FileLock::Taken && (!spare.exists() || spare.finish(reason));
 }
 
 void SettingsLock::release()

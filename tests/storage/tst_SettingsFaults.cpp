@@ -316,7 +316,7 @@ private Q_SLOTS:
             for (const char* end : {"", ".unfinished"}) // A killed write has left it.
                 store(m_path + end, "[General]\nsettingsVersion=2\n[DBCache]\ncacheSize=" + size);
             FileLock holder(m_path + ".lock");
-            QVERIFY(!isHeld || holder.take(0) == FileLock::Free);
+            QVERIFY(!isHeld || holder.take(0) == FileLock::Taken);
             QCOMPARE(::system("lock=" + m_path.toUtf8() + ".lock; " + command), 0);
             QElapsedTimer clock;
             clock.start();
@@ -337,7 +337,7 @@ private Q_SLOTS:
     void ownLockIsRespected()
     {
         FileLock lock(m_path + ".lock");
-        QVERIFY(lock.take(0) == FileLock::Free);
+        QVERIFY(lock.take(0) == FileLock::Taken);
         qint64 process;
         QString host, program;
         QVERIFY(QLockFile(m_path + ".lock").getLockInfo(&process, &host, &program));
@@ -802,7 +802,7 @@ private Q_SLOTS:
         QCOMPARE(QDir("elsewhere").entryList(QDir::Files), QStringList("target.ini"));
         for (const QString& name : {target, m_path}) {
             FileLock lock(name + ".lock"); // Of one that knows of no other name.
-            QVERIFY(lock.take(0) == FileLock::Free && !change(m_path, {{"a", 1}}) &&
+            QVERIFY(lock.take(0) == FileLock::Taken && !change(m_path, {{"a", 1}}) &&
                     error.contains("locked"));
         }
         const QTemporaryDir disk; // Another one, if the working directory is in memory.
