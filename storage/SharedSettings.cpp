@@ -11,13 +11,16 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QSettings>
+#include <QStringList>
+
+#include <algorithm>
 
 namespace zel {
 
 namespace {
 
-// Properties of settings: true when they hold values that they could not write, and what they have read from
-// the file: its content, or its values.
+// Properties of settings: true when they hold values that they could not write, and the values that they have
+// read from the file.
 const char* const UnwrittenProperty = "zelUnwritten";
 const char* const ReadProperty = "zelRead";
 
@@ -65,6 +68,12 @@ void change(QSettings& settings, const QVariantMap& from, const QVariantMap& to)
         if (!from.contains(value.key()) || !isSame(from.value(value.key()), *value))
             wanted.insert(value.key(), *value);
     set(settings, wanted);
+}
+
+bool lacksKeys(const QVariantMap& values, const QVariantMap& wanted)
+{
+    const QStringList keys = wanted.keys();
+    return std::any_of(keys.begin(), keys.end(), [&](const QString& key) { return !values.contains(key); });
 }
 
 /// Puts a spare copy beside a file, and gives settings what the file holds, to be written by them. False
@@ -116,19 +125,19 @@ void stopWriting(QSettings& settings)
     settings.setProperty(UnwrittenProperty, true);
 }
 
-void setRead(QSettings& settings, const QByteArray& content)
+void noteRead(QSettings& settings)
 {
-    settings.setProperty(ReadProperty, content.isNull() ? QByteArray("") : content);
+    settings.setProperty(ReadProperty, valuesOf(settings));
 }
 
-void readAgain(QSettings& settings, const QByteArray& content)
+void readAgain(QSettings& settings)
 {
     // Not sync(), after which QSettings of Qt 4 posts no event any more.
     QEvent update(QEvent::UpdateRequest);
     QCoreApplication::sendEvent(&settings, &update);
     QCoreApplication::removePostedEvents(&settings, QEvent::UpdateRequest); // It would count as pending.
     ZelSettingsFile::UseFileEncoding(settings); // Reading the UTF-8 mark brings Qt's own codec back.
-    setRead(settings, content);
+    noteRead(settings);
 }
 
 SharedSettings::SharedSettings(QSettings& settings, const Deadline& deadline)
@@ -160,12 +169,9 @@ void SharedSettings::carryPending(WorkingCopy& copy) const
     // Where they have not been read by us, a value that others have changed since cannot be told from one
     // that was set here.
     const QVariant read = m_settings.property(ReadProperty);
-    QVariantMap former = read.toMap();
-    const bool isKnown = read.type() == QVariant::Map || copy.parse(read.toByteArray(), former);
-    if (!isKnown)
-        former = valuesOf(copy.settings());
+    const QVariantMap former = read.isValid() ? read.toMap() : valuesOf(copy.settings());
     QVariantMap present = m_held;
-    if (!isKnown)
+    if (!read.isValid())
         for (auto value = former.constBegin(); value != former.constEnd(); ++value)
             if (!present.contains(value.key()))
                 present.insert(value.key(), *value);
@@ -179,13 +185,13 @@ void SharedSettings::carryOver(QSettings& copy)
     change(copy, m_held, valuesOf(m_settings));
 }
 
-bool SharedSettings::readWritten(const QByteArray& content, QString& reason)
+bool SharedSettings::readWritten(QString& reason)
 {
     m_isWritten = true;
     if (m_hasPending || hasPending(m_settings))
         return writePending(QVariantMap(), reason) ||
                !SpareCopy(resolvedPath(m_settings.fileName()), m_deadline).exists();
-    readAgain(m_settings, content);
+    readAgain(m_settings);
     return true;
 }
 
@@ -204,8 +210,9 @@ bool SharedSettings::writePending(const QVariantMap& held, QString& reason)
         return false;
     }
     const FileStamp former = stampOf(lock.target());
+    const QVariantMap wanted = valuesOf(m_settings);
     lock.release();
-    readAgain(m_settings, copy.content());
+    readAgain(m_settings);
     spare.giveRights();
     const FileStamp present = stampOf(lock.target()); // QSettings does not tell of every failure.
     const bool isWritten = present.size != former.size || present.time != former.time;
@@ -214,6 +221,13 @@ bool SharedSettings::writePending(const QVariantMap& held, QString& reason)
     // room for a lock.
     if (lock.take(reason) == FileLock::Held || !spare.exists())
         return true;
+    // QSettings writes what it has read of the file, even if its read has failed.
+    if (isWritten && lacksKeys(valuesOf(m_settings), wanted)) {
+        const bool isRestored = spare.restore(reason);
+        lock.release();
+        readAgain(m_settings);
+        return isRestored;
+    }
     const bool isWhole = spare.restoreIfCut(reason);
     const FileStamp last = stampOf(lock.target());
     if (!isWhole || last.size != present.size) // QSettings takes what was cut for written.

@@ -1,7 +1,6 @@
 #ifndef ZEL_SHAREDSETTINGS_H
 #define ZEL_SHAREDSETTINGS_H
 
-#include <QByteArray>
 #include <QString>
 #include <QVariant>
 
@@ -25,13 +24,12 @@ void leaveGroups(QSettings& settings);
 /// write without protection. The next write carries it.
 void stopWriting(QSettings& settings);
 
-/// Notes what settings have read from the file, so that what is set later can be told from what others have
-/// written.
-void setRead(QSettings& settings, const QByteArray& content);
+/// Notes what settings have just read from the file, so that what is set later can be told from what others
+/// have written.
+void noteRead(QSettings& settings);
 
 /// Reads the file again. QSettings writes what is pending, without protection.
-/// @param content  of the file, as it was just read
-void readAgain(QSettings& settings, const QByteArray& content);
+void readAgain(QSettings& settings);
 
 /// The settings that a write is asked for. They only read the file. Hosts and pages set values in them all
 /// the same: these are carried into the copy of the file. QSettings cannot forget them, so it is given what
@@ -57,8 +55,7 @@ public:
 
     /// To be called when the file is written, and not under its lock. False, with the reason, when it has not
     /// stayed whole.
-    /// @param content  what the file holds now
-    bool readWritten(const QByteArray& content, QString& reason);
+    bool readWritten(QString& reason);
 
 private:
     Q_DISABLE_COPY(SharedSettings)

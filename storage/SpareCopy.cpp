@@ -88,12 +88,20 @@ bool SpareCopy::restoreIfCut(QString& reason) const
     QByteArray wanted, present;
     if (!readFile(m_path, wanted, reason, m_deadline) || !readFile(m_target, present, reason, m_deadline))
         return false;
-    const bool isCut = present != wanted && wanted.startsWith(present);
-    if (isCut &&
-        !(SettingsFilesAreReplaced && copyRights(m_target, m_path) && replaceFile(m_path, m_target))) {
-        if (overwrite(present, wanted, reason) != Outcome::InPlace)
-            return false;
-    }
+    if (present != wanted && wanted.startsWith(present))
+        return restore(reason);
+    remove();
+    return true;
+}
+
+bool SpareCopy::restore(QString& reason) const
+{
+    QByteArray wanted, present;
+    if (!readFile(m_path, wanted, reason, m_deadline) || !readFile(m_target, present, reason, m_deadline))
+        return false;
+    if (!(SettingsFilesAreReplaced && copyRights(m_target, m_path) && replaceFile(m_path, m_target)) &&
+        overwrite(present, wanted, reason) != Outcome::InPlace)
+        return false;
     remove();
     return true;
 }

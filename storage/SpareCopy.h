@@ -49,6 +49,9 @@ public:
     /// is not possible.
     bool restoreIfCut(QString& reason) const;
 
+    /// The same for a file that has lost something, wherever.
+    bool restore(QString& reason) const;
+
     /// Gives the file the rights that it had when the spare copy was made.
     void giveRights() const;
 

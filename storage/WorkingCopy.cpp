@@ -185,16 +185,6 @@ bool WorkingCopy::makeOf(const QVariantMap& values, QString& reason)
     return true;
 }
 
-bool WorkingCopy::parse(const QByteArray& content, QVariantMap& values) const
-{
-    const QString name = nextName();
-    QString ignored;
-    if (content.isNull() || !writeFile(name, withoutMark(content), ignored))
-        return false;
-    values = valuesOf(*openSettings(name));
-    return true;
-}
-
 bool WorkingCopy::keepContent(const QString& loss, QString& reason) const
 {
     // A link may lead to another file system, from which the copy could not be renamed.
@@ -229,10 +219,8 @@ bool WorkingCopy::write(QString& reason)
         reason = systemError();
         return false;
     }
-    QByteArray result;
-    if (!readOpenFile(copy, result, reason))
+    if (!readOpenFile(copy, m_result, reason))
         return false;
-    m_result = result.isNull() ? QByteArray("") : result; // A change may remove all values.
     const bool isGood = settingsDamage(m_result).isEmpty();
     if (!isGood) // As with an object, or with what was left of a longer text.
         reason = lossReason();

@@ -43,13 +43,6 @@ public:
     /// content again without a loss, or has lost some.
     bool mustBeWritten() const { return m_mustBeWritten; }
 
-    /// Of the settings file, when it was copied; once the copy is written, of that.
-    const QByteArray& content() const { return m_result.isNull() ? m_content : m_result; }
-
-    /// Reads the values of a content of the settings file, after make(). False when it is null, or there is
-    /// no room for that.
-    bool parse(const QByteArray& content, QVariantMap& values) const;
-
     /// Keeps the content of the settings file as a dated copy; see keepBackup().
     bool keepContent(const QString& loss, QString& reason) const;
 
