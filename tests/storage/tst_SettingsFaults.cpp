@@ -106,7 +106,7 @@ bool fails()
     return true;
 }
 
-bool lacks(int what)
+[[maybe_unused]] bool lacks(int what)
 {
     return missing == what && (errno = what) != 0;
 }
