@@ -17,7 +17,6 @@ namespace zel {
 namespace {
 
 const int MaximumCopies = 3;
-const QFile::Permissions Private = QFile::ReadOwner | QFile::WriteOwner;
 // In UTC, so that the order of the names is the order of the copies also when summer time ends.
 const char* const NameFormat = "yyyy-MM-dd'T'hh-mm-ss.zzz'Z.bak'";
 
@@ -53,11 +52,12 @@ QStringList backupsOf(const QString& path)
     return copies;
 }
 
-/// Creates an empty file that only its user can read and write.
-bool createPrivateFile(const QString& path)
+/// Creates an empty file that only its user can read and write, as far as the file system knows such rights.
+void createPrivateFile(const QString& path)
 {
     QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.setPermissions(Private);
+    if (file.open(QIODevice::WriteOnly))
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
 }
 
 } // namespace
@@ -83,8 +83,8 @@ bool keepBackup(const QString& path, const QByteArray& content, const QString& l
     QFile::remove(incomplete);     // It may be a link, or a pipe.
     createPrivateFile(incomplete); // So that nobody else reads it before it has its rights.
     const bool isComplete = writeFile(incomplete, content, reason);
-    if (isComplete && !copyRights(path, incomplete)) // The copy is good, but for no other user.
-        QFile::setPermissions(incomplete, Private);
+    if (isComplete)
+        copyRights(path, incomplete); // Where that fails, the copy is good, but for no other user.
     if (!isComplete || !replaceFile(incomplete, copy)) {
         if (isComplete)
             reason = systemError();

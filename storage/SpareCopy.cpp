@@ -34,6 +34,11 @@ bool SpareCopy::readFinished(QByteArray& content, QString& reason) const
     return true;
 }
 
+bool SpareCopy::readBoth(QByteArray& wanted, QByteArray& present, QString& reason) const
+{
+    return readFile(m_path, wanted, reason, m_deadline) && readFile(m_target, present, reason, m_deadline);
+}
+
 bool SpareCopy::adopt(const QString& file, QString& reason) const
 {
     // A file that still has this time has not been written since.
@@ -73,7 +78,7 @@ Outcome SpareCopy::overwrite(const QByteArray& expected, const QByteArray& conte
 bool SpareCopy::finish(QString& reason) const
 {
     QByteArray wanted, present;
-    if (!readFile(m_path, wanted, reason, m_deadline) || !readFile(m_target, present, reason, m_deadline))
+    if (!readBoth(wanted, present, reason))
         return false;
     const bool isForeign = !wanted.startsWith(present) && stampOf(m_target).time != stampOf(m_path).time;
     if (isForeign &&
@@ -86,7 +91,7 @@ bool SpareCopy::finish(QString& reason) const
 bool SpareCopy::restoreIfCut(QString& reason) const
 {
     QByteArray wanted, present;
-    if (!readFile(m_path, wanted, reason, m_deadline) || !readFile(m_target, present, reason, m_deadline))
+    if (!readBoth(wanted, present, reason))
         return false;
     if (present != wanted && wanted.startsWith(present))
         return restore(reason);
@@ -97,7 +102,7 @@ bool SpareCopy::restoreIfCut(QString& reason) const
 bool SpareCopy::restore(QString& reason) const
 {
     QByteArray wanted, present;
-    if (!readFile(m_path, wanted, reason, m_deadline) || !readFile(m_target, present, reason, m_deadline))
+    if (!readBoth(wanted, present, reason))
         return false;
     if (!(SettingsFilesAreReplaced && copyRights(m_target, m_path) && replaceFile(m_path, m_target)) &&
         overwrite(present, wanted, reason) != Outcome::InPlace)

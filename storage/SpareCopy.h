@@ -58,6 +58,8 @@ public:
     void remove() const;
 
 private:
+    bool readBoth(QByteArray& wanted, QByteArray& present, QString& reason) const;
+
     const QString m_target;
     const QString m_path;
     const Deadline& m_deadline;
