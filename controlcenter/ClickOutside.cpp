@@ -1,6 +1,6 @@
 #include "ClickOutside.h"
 
-#include "base/ZelQtCompat.h"
+#include "base/QtCompat.h"
 
 #include "platform/kqDMGuiPlugin.h"
 #include "platform/kqDMIApplication.h"

@@ -5,8 +5,8 @@
 #include "Accessibility.h"
 #include "LabelImage.h"
 #include "SettingsKeys.h"
+#include "base/QtCompat.h"
 #include "base/VersionNumbers.h"
-#include "base/ZelQtCompat.h"
 
 #include "platform/kqDMIApplication.h"
 #include "platform/kqDMPlugin.h"

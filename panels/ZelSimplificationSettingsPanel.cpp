@@ -5,7 +5,7 @@
 #include "LabelImage.h"
 #include "SettingsKeys.h"
 #include "SettingsNumbers.h"
-#include "base/ZelQtCompat.h"
+#include "base/QtCompat.h"
 
 #include "platform/kqDMIApplication.h"
 #include "platform/kqDMManager.h"

@@ -3,7 +3,7 @@
 #include "SettingsKeys.h"
 #include "SettingsNumbers.h"
 #include "SettingsValidation.h"
-#include "base/ZelQtCompat.h"
+#include "base/QtCompat.h"
 
 #include "platform/kqDMManager.h"
 #include "platform/kqDMRenderer.h"

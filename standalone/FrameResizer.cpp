@@ -1,6 +1,6 @@
 #include "FrameResizer.h"
 
-#include "base/ZelWindowCompat.h"
+#include "base/WindowCompat.h"
 
 #include <QApplication>
 #include <QDesktopWidget>

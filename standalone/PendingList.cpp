@@ -243,7 +243,7 @@ void PendingList::showEdit(int row, const ZelPendingEdit& edit)
     line->setAccessibleDescription(QCoreApplication::translate("PendingList", "Goes to the setting."));
     QWidget* takeBack = layout->itemAt(1)->widget();
     takeBack->setEnabled(static_cast<bool>(edit.putBack));
-    takeBack->setToolTip(QCoreApplication::translate("ZelHelpCard", "Puts back what is stored"));
+    takeBack->setToolTip(QCoreApplication::translate("HelpCard", "Puts back what is stored"));
     takeBack->setAccessibleName(takeBack->toolTip());
     takeBack->setAccessibleDescription(line->accessibleName());
 }

@@ -1,10 +1,10 @@
 #include "ZelHelpArea.h"
 
+#include "HelpCard.h"
 #include "LanguageFollower.h"
 #include "PendingList.h"
 #include "ReturnKey.h"
 #include "VerticalArea.h"
-#include "ZelHelpCard.h"
 #include "ZelPageHelp.h"
 #include "ZelSettingsPanel.h"
 
@@ -61,7 +61,7 @@ QScrollArea* newCardArea(QWidget* parent)
 }
 
 /// From the top, so that name and buttons stand where they were.
-void showHelpOn(QWidget* field, ZelHelpCard& card, QScrollArea& area)
+void showHelpOn(QWidget* field, HelpCard& card, QScrollArea& area)
 {
     if (field != card.field())
         area.verticalScrollBar()->setValue(0);
@@ -82,7 +82,7 @@ ZelHelpArea::ZelHelpArea(QWidget* parent)
     : QWidget(parent)
     , m_help(new QWidget(this))
     , m_cardArea(newCardArea(m_help))
-    , m_card(new ZelHelpCard(m_cardArea->widget())) // To move it there later would style it twice.
+    , m_card(new HelpCard(m_cardArea->widget())) // To move it there later would style it twice.
     , m_pending(new PendingList(m_help))
     , m_areaLayout(newLayout(this, Margin))
     , m_rest(new QTimer(this))
@@ -281,7 +281,7 @@ void ZelHelpArea::reserveHeight()
 int ZelHelpArea::heightOfLongestHelp(int width) const
 {
     // One card with the longest of all texts, because a screen reader is told of each text that is set.
-    ZelHelpCard card(m_cardArea->widget());
+    HelpCard card(m_cardArea->widget());
     card.setCompact(m_card->isCompact());
     ZelSettingHelp longest = ZelSettingHelp();
     QString byDefault, stored;
@@ -323,7 +323,7 @@ void ZelHelpArea::openAt(QWidget& field)
     opened->setStyleSheet("#openedHelp { background: rgb(237,237,237); border: 1px solid rgb(69,68,229); }");
     auto* layout = new QVBoxLayout(opened);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* card = new ZelHelpCard(opened);
+    auto* card = new HelpCard(opened);
     layout->addWidget(card);
     card->setField(&field);
     new ReturnKey(opened);

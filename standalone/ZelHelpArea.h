@@ -14,8 +14,8 @@ class QTimer;
 
 namespace zel {
 
+class HelpCard;
 class PendingList;
-class ZelHelpCard;
 class ZelPageHelp;
 
 /// The area beside the pages with the help on one setting, and below it what Apply would store. The setting
@@ -82,7 +82,7 @@ private:
 
     const QPointer<QWidget> m_help; ///< What is placed: the card and the list below it.
     QScrollArea* const m_cardArea;
-    ZelHelpCard* const m_card;
+    HelpCard* const m_card;
     PendingList* const m_pending;
     QBoxLayout* m_areaLayout;
     QBoxLayout* m_columnLayout = nullptr;

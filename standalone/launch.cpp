@@ -8,9 +8,9 @@
 #include "ZelRendererSelector.h"
 #include "ZelSettingsApplication.h"
 #include "ZelSettingsFile.h"
-#include "base/ZelQtCompat.h"
-#include "base/ZelSystemCompat.h"
-#include "base/ZelWindowCompat.h"
+#include "base/QtCompat.h"
+#include "base/SystemCompat.h"
+#include "base/WindowCompat.h"
 
 #include "platform/MTLogger.h"
 #include "platform/kqDMIApplication.h"

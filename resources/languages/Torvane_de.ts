@@ -52,6 +52,53 @@
     </message>
 </context>
 <context>
+    <name>HelpCard</name>
+    <message>
+        <source>Range</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Gespeichert</translation>
+    </message>
+    <message>
+        <source>Takes effect</source>
+        <translation>Wirksam</translation>
+    </message>
+    <message>
+        <source>Puts back what is stored</source>
+        <translation>Stellt den gespeicherten Wert wieder her</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Puts in the default</source>
+        <translation>Setzt den Standardwert ein</translation>
+    </message>
+    <message>
+        <source>Changed, and not applied yet.</source>
+        <translation>Geändert und noch nicht angewendet.</translation>
+    </message>
+    <message>
+        <source>Not the default.</source>
+        <translation>Nicht der Standardwert.</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Point at a setting, or move to it with the Tab key, to read here what it does.</source>
+        <translation>Zeigen Sie auf eine Einstellung oder gehen Sie mit der Tabulatortaste zu ihr, um hier zu lesen, was sie bewirkt.</translation>
+    </message>
+</context>
+<context>
     <name>ModelView</name>
     <message>
         <source>Level %1 of %2
@@ -462,53 +509,6 @@ Sie können auch den Speicherort Ihres Screenshot-Albums ändern.</translation>
     <message>
         <source>No folder is set.</source>
         <translation>Es ist kein Ordner festgelegt.</translation>
-    </message>
-</context>
-<context>
-    <name>ZelHelpCard</name>
-    <message>
-        <source>Range</source>
-        <translation>Bereich</translation>
-    </message>
-    <message>
-        <source>Default</source>
-        <translation>Standard</translation>
-    </message>
-    <message>
-        <source>Stored</source>
-        <translation>Gespeichert</translation>
-    </message>
-    <message>
-        <source>Takes effect</source>
-        <translation>Wirksam</translation>
-    </message>
-    <message>
-        <source>Puts back what is stored</source>
-        <translation>Stellt den gespeicherten Wert wieder her</translation>
-    </message>
-    <message>
-        <source>Put back</source>
-        <translation>Zurücknehmen</translation>
-    </message>
-    <message>
-        <source>Puts in the default</source>
-        <translation>Setzt den Standardwert ein</translation>
-    </message>
-    <message>
-        <source>Changed, and not applied yet.</source>
-        <translation>Geändert und noch nicht angewendet.</translation>
-    </message>
-    <message>
-        <source>Not the default.</source>
-        <translation>Nicht der Standardwert.</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Hilfe</translation>
-    </message>
-    <message>
-        <source>Point at a setting, or move to it with the Tab key, to read here what it does.</source>
-        <translation>Zeigen Sie auf eine Einstellung oder gehen Sie mit der Tabulatortaste zu ihr, um hier zu lesen, was sie bewirkt.</translation>
     </message>
 </context>
 <context>

@@ -52,6 +52,53 @@
     </message>
 </context>
 <context>
+    <name>HelpCard</name>
+    <message>
+        <source>Range</source>
+        <translation>Range</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Default</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Stored</translation>
+    </message>
+    <message>
+        <source>Takes effect</source>
+        <translation>Takes effect</translation>
+    </message>
+    <message>
+        <source>Puts back what is stored</source>
+        <translation>Puts back what is stored</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Put back</translation>
+    </message>
+    <message>
+        <source>Puts in the default</source>
+        <translation>Puts in the default</translation>
+    </message>
+    <message>
+        <source>Changed, and not applied yet.</source>
+        <translation>Changed, and not applied yet.</translation>
+    </message>
+    <message>
+        <source>Not the default.</source>
+        <translation>Not the default.</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>Point at a setting, or move to it with the Tab key, to read here what it does.</source>
+        <translation>Point at a setting, or move to it with the Tab key, to read here what it does.</translation>
+    </message>
+</context>
+<context>
     <name>ModelView</name>
     <message>
         <source>Level %1 of %2
@@ -462,53 +509,6 @@ You may also change the location for your screenshots album.</translation>
     <message>
         <source>No folder is set.</source>
         <translation>No folder is set.</translation>
-    </message>
-</context>
-<context>
-    <name>ZelHelpCard</name>
-    <message>
-        <source>Range</source>
-        <translation>Range</translation>
-    </message>
-    <message>
-        <source>Default</source>
-        <translation>Default</translation>
-    </message>
-    <message>
-        <source>Stored</source>
-        <translation>Stored</translation>
-    </message>
-    <message>
-        <source>Takes effect</source>
-        <translation>Takes effect</translation>
-    </message>
-    <message>
-        <source>Puts back what is stored</source>
-        <translation>Puts back what is stored</translation>
-    </message>
-    <message>
-        <source>Put back</source>
-        <translation>Put back</translation>
-    </message>
-    <message>
-        <source>Puts in the default</source>
-        <translation>Puts in the default</translation>
-    </message>
-    <message>
-        <source>Changed, and not applied yet.</source>
-        <translation>Changed, and not applied yet.</translation>
-    </message>
-    <message>
-        <source>Not the default.</source>
-        <translation>Not the default.</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Help</translation>
-    </message>
-    <message>
-        <source>Point at a setting, or move to it with the Tab key, to read here what it does.</source>
-        <translation>Point at a setting, or move to it with the Tab key, to read here what it does.</translation>
     </message>
 </context>
 <context>

@@ -52,6 +52,53 @@
     </message>
 </context>
 <context>
+    <name>HelpCard</name>
+    <message>
+        <source>Range</source>
+        <translation>Intervalo</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Predeterminado</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Guardado</translation>
+    </message>
+    <message>
+        <source>Takes effect</source>
+        <translation>Surte efecto</translation>
+    </message>
+    <message>
+        <source>Puts back what is stored</source>
+        <translation>Vuelve a poner el valor guardado</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Puts in the default</source>
+        <translation>Pone el valor predeterminado</translation>
+    </message>
+    <message>
+        <source>Changed, and not applied yet.</source>
+        <translation>Cambiado y aún sin aplicar.</translation>
+    </message>
+    <message>
+        <source>Not the default.</source>
+        <translation>No es el valor predeterminado.</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Point at a setting, or move to it with the Tab key, to read here what it does.</source>
+        <translation>Señale un ajuste, o vaya a él con la tecla Tab, para leer aquí para qué sirve.</translation>
+    </message>
+</context>
+<context>
     <name>ModelView</name>
     <message>
         <source>Level %1 of %2
@@ -462,53 +509,6 @@ También puede cambiar la ubicación de su álbum de capturas de pantalla.</tran
     <message>
         <source>No folder is set.</source>
         <translation>No hay ninguna carpeta definida.</translation>
-    </message>
-</context>
-<context>
-    <name>ZelHelpCard</name>
-    <message>
-        <source>Range</source>
-        <translation>Intervalo</translation>
-    </message>
-    <message>
-        <source>Default</source>
-        <translation>Predeterminado</translation>
-    </message>
-    <message>
-        <source>Stored</source>
-        <translation>Guardado</translation>
-    </message>
-    <message>
-        <source>Takes effect</source>
-        <translation>Surte efecto</translation>
-    </message>
-    <message>
-        <source>Puts back what is stored</source>
-        <translation>Vuelve a poner el valor guardado</translation>
-    </message>
-    <message>
-        <source>Put back</source>
-        <translation>Deshacer</translation>
-    </message>
-    <message>
-        <source>Puts in the default</source>
-        <translation>Pone el valor predeterminado</translation>
-    </message>
-    <message>
-        <source>Changed, and not applied yet.</source>
-        <translation>Cambiado y aún sin aplicar.</translation>
-    </message>
-    <message>
-        <source>Not the default.</source>
-        <translation>No es el valor predeterminado.</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Ayuda</translation>
-    </message>
-    <message>
-        <source>Point at a setting, or move to it with the Tab key, to read here what it does.</source>
-        <translation>Señale un ajuste, o vaya a él con la tecla Tab, para leer aquí para qué sirve.</translation>
     </message>
 </context>
 <context>

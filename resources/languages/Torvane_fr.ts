@@ -52,6 +52,53 @@
     </message>
 </context>
 <context>
+    <name>HelpCard</name>
+    <message>
+        <source>Range</source>
+        <translation>Plage</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Par défaut</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Enregistré</translation>
+    </message>
+    <message>
+        <source>Takes effect</source>
+        <translation>Prend effet</translation>
+    </message>
+    <message>
+        <source>Puts back what is stored</source>
+        <translation>Remet la valeur enregistrée</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Puts in the default</source>
+        <translation>Met la valeur par défaut</translation>
+    </message>
+    <message>
+        <source>Changed, and not applied yet.</source>
+        <translation>Modifié et pas encore appliqué.</translation>
+    </message>
+    <message>
+        <source>Not the default.</source>
+        <translation>Ce n’est pas la valeur par défaut.</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Point at a setting, or move to it with the Tab key, to read here what it does.</source>
+        <translation>Pointez un paramètre, ou allez-y avec la touche Tab, pour lire ici ce qu’il fait.</translation>
+    </message>
+</context>
+<context>
     <name>ModelView</name>
     <message>
         <source>Level %1 of %2
@@ -462,53 +509,6 @@ Vous pouvez également changer l’emplacement de votre album de captures d’é
     <message>
         <source>No folder is set.</source>
         <translation>Aucun dossier n’est défini.</translation>
-    </message>
-</context>
-<context>
-    <name>ZelHelpCard</name>
-    <message>
-        <source>Range</source>
-        <translation>Plage</translation>
-    </message>
-    <message>
-        <source>Default</source>
-        <translation>Par défaut</translation>
-    </message>
-    <message>
-        <source>Stored</source>
-        <translation>Enregistré</translation>
-    </message>
-    <message>
-        <source>Takes effect</source>
-        <translation>Prend effet</translation>
-    </message>
-    <message>
-        <source>Puts back what is stored</source>
-        <translation>Remet la valeur enregistrée</translation>
-    </message>
-    <message>
-        <source>Put back</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>Puts in the default</source>
-        <translation>Met la valeur par défaut</translation>
-    </message>
-    <message>
-        <source>Changed, and not applied yet.</source>
-        <translation>Modifié et pas encore appliqué.</translation>
-    </message>
-    <message>
-        <source>Not the default.</source>
-        <translation>Ce n’est pas la valeur par défaut.</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Aide</translation>
-    </message>
-    <message>
-        <source>Point at a setting, or move to it with the Tab key, to read here what it does.</source>
-        <translation>Pointez un paramètre, ou allez-y avec la touche Tab, pour lire ici ce qu’il fait.</translation>
     </message>
 </context>
 <context>

@@ -52,6 +52,53 @@
     </message>
 </context>
 <context>
+    <name>HelpCard</name>
+    <message>
+        <source>Range</source>
+        <translation>Intervallo</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Predefinito</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Salvato</translation>
+    </message>
+    <message>
+        <source>Takes effect</source>
+        <translation>Ha effetto</translation>
+    </message>
+    <message>
+        <source>Puts back what is stored</source>
+        <translation>Rimette il valore salvato</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Puts in the default</source>
+        <translation>Imposta il valore predefinito</translation>
+    </message>
+    <message>
+        <source>Changed, and not applied yet.</source>
+        <translation>Modificato e non ancora applicato.</translation>
+    </message>
+    <message>
+        <source>Not the default.</source>
+        <translation>Non è il valore predefinito.</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aiuto</translation>
+    </message>
+    <message>
+        <source>Point at a setting, or move to it with the Tab key, to read here what it does.</source>
+        <translation>Punta un’impostazione, o raggiungila con il tasto Tab, per leggere qui che cosa fa.</translation>
+    </message>
+</context>
+<context>
     <name>ModelView</name>
     <message>
         <source>Level %1 of %2
@@ -462,53 +509,6 @@ Puoi anche cambiare la posizione del tuo album degli screenshot.</translation>
     <message>
         <source>No folder is set.</source>
         <translation>Nessuna cartella impostata.</translation>
-    </message>
-</context>
-<context>
-    <name>ZelHelpCard</name>
-    <message>
-        <source>Range</source>
-        <translation>Intervallo</translation>
-    </message>
-    <message>
-        <source>Default</source>
-        <translation>Predefinito</translation>
-    </message>
-    <message>
-        <source>Stored</source>
-        <translation>Salvato</translation>
-    </message>
-    <message>
-        <source>Takes effect</source>
-        <translation>Ha effetto</translation>
-    </message>
-    <message>
-        <source>Puts back what is stored</source>
-        <translation>Rimette il valore salvato</translation>
-    </message>
-    <message>
-        <source>Put back</source>
-        <translation>Annulla</translation>
-    </message>
-    <message>
-        <source>Puts in the default</source>
-        <translation>Imposta il valore predefinito</translation>
-    </message>
-    <message>
-        <source>Changed, and not applied yet.</source>
-        <translation>Modificato e non ancora applicato.</translation>
-    </message>
-    <message>
-        <source>Not the default.</source>
-        <translation>Non è il valore predefinito.</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Aiuto</translation>
-    </message>
-    <message>
-        <source>Point at a setting, or move to it with the Tab key, to read here what it does.</source>
-        <translation>Punta un’impostazione, o raggiungila con il tasto Tab, per leggere qui che cosa fa.</translation>
     </message>
 </context>
 <context>

@@ -52,6 +52,53 @@
     </message>
 </context>
 <context>
+    <name>HelpCard</name>
+    <message>
+        <source>Range</source>
+        <translation>範囲</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>デフォルト</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>保存値</translation>
+    </message>
+    <message>
+        <source>Takes effect</source>
+        <translation>反映</translation>
+    </message>
+    <message>
+        <source>Puts back what is stored</source>
+        <translation>保存値に戻します</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Puts in the default</source>
+        <translation>デフォルト値にします</translation>
+    </message>
+    <message>
+        <source>Changed, and not applied yet.</source>
+        <translation>変更されていますが、まだ適用されていません。</translation>
+    </message>
+    <message>
+        <source>Not the default.</source>
+        <translation>デフォルト値ではありません。</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Point at a setting, or move to it with the Tab key, to read here what it does.</source>
+        <translation>設定にマウスを合わせるか Tab キーで移動すると、その説明がここに表示されます。</translation>
+    </message>
+</context>
+<context>
     <name>ModelView</name>
     <message>
         <source>Level %1 of %2
@@ -462,53 +509,6 @@ You may also change the location for your screenshots album.</source>
     <message>
         <source>No folder is set.</source>
         <translation>フォルダーが設定されていません。</translation>
-    </message>
-</context>
-<context>
-    <name>ZelHelpCard</name>
-    <message>
-        <source>Range</source>
-        <translation>範囲</translation>
-    </message>
-    <message>
-        <source>Default</source>
-        <translation>デフォルト</translation>
-    </message>
-    <message>
-        <source>Stored</source>
-        <translation>保存値</translation>
-    </message>
-    <message>
-        <source>Takes effect</source>
-        <translation>反映</translation>
-    </message>
-    <message>
-        <source>Puts back what is stored</source>
-        <translation>保存値に戻します</translation>
-    </message>
-    <message>
-        <source>Put back</source>
-        <translation>元に戻す</translation>
-    </message>
-    <message>
-        <source>Puts in the default</source>
-        <translation>デフォルト値にします</translation>
-    </message>
-    <message>
-        <source>Changed, and not applied yet.</source>
-        <translation>変更されていますが、まだ適用されていません。</translation>
-    </message>
-    <message>
-        <source>Not the default.</source>
-        <translation>デフォルト値ではありません。</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>ヘルプ</translation>
-    </message>
-    <message>
-        <source>Point at a setting, or move to it with the Tab key, to read here what it does.</source>
-        <translation>設定にマウスを合わせるか Tab キーで移動すると、その説明がここに表示されます。</translation>
     </message>
 </context>
 <context>

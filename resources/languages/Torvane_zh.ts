@@ -52,6 +52,53 @@
     </message>
 </context>
 <context>
+    <name>HelpCard</name>
+    <message>
+        <source>Range</source>
+        <translation>范围</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>默认</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>已保存</translation>
+    </message>
+    <message>
+        <source>Takes effect</source>
+        <translation>生效</translation>
+    </message>
+    <message>
+        <source>Puts back what is stored</source>
+        <translation>恢复已保存的值</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>撤消</translation>
+    </message>
+    <message>
+        <source>Puts in the default</source>
+        <translation>设为默认值</translation>
+    </message>
+    <message>
+        <source>Changed, and not applied yet.</source>
+        <translation>已更改，尚未应用。</translation>
+    </message>
+    <message>
+        <source>Not the default.</source>
+        <translation>不是默认值。</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>Point at a setting, or move to it with the Tab key, to read here what it does.</source>
+        <translation>指向某项设置，或用 Tab 键移到该设置，即可在此阅读其说明。</translation>
+    </message>
+</context>
+<context>
     <name>ModelView</name>
     <message>
         <source>Level %1 of %2
@@ -462,53 +509,6 @@ You may also change the location for your screenshots album.</source>
     <message>
         <source>No folder is set.</source>
         <translation>未设置文件夹。</translation>
-    </message>
-</context>
-<context>
-    <name>ZelHelpCard</name>
-    <message>
-        <source>Range</source>
-        <translation>范围</translation>
-    </message>
-    <message>
-        <source>Default</source>
-        <translation>默认</translation>
-    </message>
-    <message>
-        <source>Stored</source>
-        <translation>已保存</translation>
-    </message>
-    <message>
-        <source>Takes effect</source>
-        <translation>生效</translation>
-    </message>
-    <message>
-        <source>Puts back what is stored</source>
-        <translation>恢复已保存的值</translation>
-    </message>
-    <message>
-        <source>Put back</source>
-        <translation>撤消</translation>
-    </message>
-    <message>
-        <source>Puts in the default</source>
-        <translation>设为默认值</translation>
-    </message>
-    <message>
-        <source>Changed, and not applied yet.</source>
-        <translation>已更改，尚未应用。</translation>
-    </message>
-    <message>
-        <source>Not the default.</source>
-        <translation>不是默认值。</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>帮助</translation>
-    </message>
-    <message>
-        <source>Point at a setting, or move to it with the Tab key, to read here what it does.</source>
-        <translation>指向某项设置，或用 Tab 键移到该设置，即可在此阅读其说明。</translation>
     </message>
 </context>
 <context>

@@ -8,7 +8,7 @@
 #include "ZelSettingsValidators.h"
 #include "ZelSimplificationSettingsPanel.h"
 #include "base/AccessibleCompat.h"
-#include "base/ZelQtCompat.h"
+#include "base/QtCompat.h"
 
 #include "platform/MTLogger.h"
 

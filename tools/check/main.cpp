@@ -9,9 +9,9 @@
 #include "ZelSettingsFile.h"
 #include "ZelSettingsRegistry.h"
 #include "base/StandardStreams.h"
+#include "base/SystemCompat.h"
 #include "base/SystemFiles.h"
 #include "base/VersionNumbers.h"
-#include "base/ZelSystemCompat.h"
 
 #include "platform/kqLibraries.h"
 

@@ -1,6 +1,6 @@
 #include "platform/kqMovableObject.h"
 
-#include "base/ZelWindowCompat.h"
+#include "base/WindowCompat.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,5 +1,5 @@
-#ifndef ZEL_ZELWINDOWCOMPAT_H
-#define ZEL_ZELWINDOWCOMPAT_H
+#ifndef ZEL_WINDOWCOMPAT_H
+#define ZEL_WINDOWCOMPAT_H
 
 // The differences between Qt versions, and between window systems, that concern windows.
 

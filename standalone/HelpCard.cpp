@@ -1,6 +1,6 @@
-#include "ZelHelpCard.h"
+#include "HelpCard.h"
 
-#include "ui_ZelHelpCard.h"
+#include "ui_HelpCard.h"
 
 #include "EnableButton.h"
 #include "LanguageFollower.h"
@@ -35,9 +35,9 @@ QString stateText(const ZelSettingHelp& help)
 {
     QStringList parts;
     if (help.differs(StoredValue))
-        parts << QCoreApplication::translate("ZelHelpCard", "Changed, and not applied yet.");
+        parts << QCoreApplication::translate("HelpCard", "Changed, and not applied yet.");
     if (help.differs(DefaultValue))
-        parts << QCoreApplication::translate("ZelHelpCard", "Not the default.");
+        parts << QCoreApplication::translate("HelpCard", "Not the default.");
     return parts.join(" ");
 }
 
@@ -49,9 +49,9 @@ bool isEditable(const ZelSettingHelp& help)
 
 } // namespace
 
-ZelHelpCard::ZelHelpCard(QWidget* parent)
+HelpCard::HelpCard(QWidget* parent)
     : QFrame(parent)
-    , m_ui(new Ui::ZelHelpCard)
+    , m_ui(new Ui::HelpCard)
 {
     m_ui->setupUi(this);
     setObjectName("helpFrame");
@@ -59,15 +59,15 @@ ZelHelpCard::ZelHelpCard(QWidget* parent)
     new LanguageFollower(this, [this] { m_ui->retranslateUi(this); }); // The help area refreshes it.
 }
 
-ZelHelpCard::~ZelHelpCard() = default;
+HelpCard::~HelpCard() = default;
 
-void ZelHelpCard::setField(QWidget* field)
+void HelpCard::setField(QWidget* field)
 {
     m_field = field;
     refresh();
 }
 
-void ZelHelpCard::setCompact(bool compact)
+void HelpCard::setCompact(bool compact)
 {
     if (isCompact() == compact)
         return;
@@ -76,12 +76,12 @@ void ZelHelpCard::setCompact(bool compact)
     showName();
 }
 
-bool ZelHelpCard::isCompact() const
+bool HelpCard::isCompact() const
 {
     return property(CompactProperty).toBool();
 }
 
-int ZelHelpCard::heightOf(const ZelSettingHelp& help, int width)
+int HelpCard::heightOf(const ZelSettingHelp& help, int width)
 {
     showHelp(help);
     m_ui->factsFrame->show();
@@ -89,14 +89,14 @@ int ZelHelpCard::heightOf(const ZelSettingHelp& help, int width)
     return neededHeight(width);
 }
 
-int ZelHelpCard::neededHeight(int width) const
+int HelpCard::neededHeight(int width) const
 {
     for (QWidget* child : findChildren<QWidget*>())
         child->ensurePolished();
     return layout()->totalHeightForWidth(width);
 }
 
-int ZelHelpCard::textHeight(const QString& text, int width) const
+int HelpCard::textHeight(const QString& text, int width) const
 {
     m_ui->descriptionLabel->ensurePolished();
     const QRect room(0, 0, width, 0);
@@ -105,7 +105,7 @@ int ZelHelpCard::textHeight(const QString& text, int width) const
         .height();
 }
 
-void ZelHelpCard::refresh()
+void HelpCard::refresh()
 {
     const ZelSettingHelp* help = ZelPageHelp::HelpOn(m_field);
     m_ui->factsFrame->setVisible(help);
@@ -114,14 +114,14 @@ void ZelHelpCard::refresh()
         showHelp(*help);
         return;
     }
-    m_name = QCoreApplication::translate("ZelHelpCard", "Help");
+    m_name = QCoreApplication::translate("HelpCard", "Help");
     showName();
     m_ui->descriptionLabel->setText(
-        QCoreApplication::translate("ZelHelpCard", "Point at a setting, or move to it with the Tab key, "
-                                                   "to read here what it does."));
+        QCoreApplication::translate("HelpCard", "Point at a setting, or move to it with the Tab key, "
+                                                "to read here what it does."));
 }
 
-void ZelHelpCard::showHelp(const ZelSettingHelp& help)
+void HelpCard::showHelp(const ZelSettingHelp& help)
 {
     m_name = help.name;
     showName();
@@ -150,25 +150,25 @@ void ZelHelpCard::showHelp(const ZelSettingHelp& help)
     enableButton(*m_ui->defaultButton, help.differs(DefaultValue));
 }
 
-void ZelHelpCard::resizeEvent(QResizeEvent* event)
+void HelpCard::resizeEvent(QResizeEvent* event)
 {
     QFrame::resizeEvent(event);
     showName();
 }
 
-void ZelHelpCard::on_putBackButton_clicked()
+void HelpCard::on_putBackButton_clicked()
 {
     if (const ZelSettingHelp* help = ZelPageHelp::HelpOn(m_field))
         help->take(StoredValue);
 }
 
-void ZelHelpCard::on_defaultButton_clicked()
+void HelpCard::on_defaultButton_clicked()
 {
     if (const ZelSettingHelp* help = ZelPageHelp::HelpOn(m_field))
         help->take(DefaultValue);
 }
 
-void ZelHelpCard::showName()
+void HelpCard::showName()
 {
     // In one line, so that the buttons below stand still.
     QLabel& label = *m_ui->nameLabel;

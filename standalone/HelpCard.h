@@ -1,5 +1,5 @@
-#ifndef ZEL_ZELHELPCARD_H
-#define ZEL_ZELHELPCARD_H
+#ifndef ZEL_HELPCARD_H
+#define ZEL_HELPCARD_H
 
 #include <QFrame>
 #include <QPointer>
@@ -8,7 +8,7 @@
 #include <memory>
 
 namespace Ui {
-class ZelHelpCard;
+class HelpCard;
 }
 
 namespace zel {
@@ -17,14 +17,14 @@ struct ZelSettingHelp;
 
 /// The help on one setting: name, description, range, default, stored value and when an edit takes effect.
 /// Two buttons put the stored value or the default back, while the setting differs from it.
-class ZelHelpCard : public QFrame
+class HelpCard : public QFrame
 {
     Q_OBJECT
 
 public:
     /// Shows a hint until setField() is called. The parent, if any, owns the card.
-    explicit ZelHelpCard(QWidget* parent = nullptr);
-    ~ZelHelpCard() override;
+    explicit HelpCard(QWidget* parent = nullptr);
+    ~HelpCard() override;
 
     /// Shows the help on a field of a page; the hint for null or any other widget.
     void setField(QWidget* field);
@@ -57,7 +57,7 @@ private:
     void showName();
     void showHelp(const ZelSettingHelp& help);
 
-    const std::unique_ptr<Ui::ZelHelpCard> m_ui;
+    const std::unique_ptr<Ui::HelpCard> m_ui;
     QPointer<QWidget> m_field;
     QString m_name;
 };

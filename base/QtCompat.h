@@ -1,5 +1,5 @@
-#ifndef ZEL_ZELQTCOMPAT_H
-#define ZEL_ZELQTCOMPAT_H
+#ifndef ZEL_QTCOMPAT_H
+#define ZEL_QTCOMPAT_H
 
 // The differences between Qt 4.8 and Qt 5 that concern product code.
 

@@ -1,5 +1,5 @@
-#ifndef ZEL_ZELSYSTEMCOMPAT_H
-#define ZEL_ZELSYSTEMCOMPAT_H
+#ifndef ZEL_SYSTEMCOMPAT_H
+#define ZEL_SYSTEMCOMPAT_H
 
 // The differences between Windows and other systems in how product code handles processes and names.
 
