@@ -1,14 +1,12 @@
 #include "FileLock.h"
 
+#include "SystemCalls.h"
+
 #include <QByteArray>
-#include <QElapsedTimer>
-#include <QFile>
 #include <QFileInfo>
 #include <QList>
 
-#include <chrono>
 #include <cstdlib>
-#include <thread>
 
 #if defined(Q_OS_WIN)
 #    include <windows.h>
@@ -26,7 +24,6 @@ namespace zel {
 
 namespace {
 
-const int Pause = 10; // ms
 const std::intptr_t None = -1;
 
 } // namespace
@@ -44,28 +41,17 @@ FileLock::~FileLock()
 
 FileLock::State FileLock::take(int timeout)
 {
-    QElapsedTimer clock;
-    clock.start();
-    State found = tryOnce();
-    while (found == Held && clock.elapsed() < timeout) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(Pause));
+    State found = Held;
+    succeedsWithin(timeout, [&] {
         found = tryOnce();
-    }
+        return found != Held;
+    });
     return found;
 }
 
 #if defined(Q_OS_WIN)
 
 // The system keeps a lock file that its process has open, so what can be removed is orphaned.
-
-namespace {
-
-const wchar_t* native(const QString& path)
-{
-    return reinterpret_cast<const wchar_t*>(path.utf16());
-}
-
-} // namespace
 
 bool FileLock::isBlocked() const
 {
@@ -244,12 +230,12 @@ private:
 
 bool FileLock::isBlocked() const
 {
-    return ExistingLock(QFile::encodeName(m_path)).isBlocked();
+    return ExistingLock(native(m_path)).isBlocked();
 }
 
 FileLock::State FileLock::tryOnce()
 {
-    const QByteArray path = QFile::encodeName(m_path);
+    const QByteArray path = native(m_path);
     m_handle = create(path);
     if (m_handle != None)
         return Taken;
@@ -271,7 +257,7 @@ void FileLock::release()
 {
     if (m_handle == None)
         return;
-    ::unlink(QFile::encodeName(m_path).constData());
+    ::unlink(native(m_path).constData());
     ::close(static_cast<int>(m_handle));
     m_handle = None;
 }

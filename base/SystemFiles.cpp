@@ -1,23 +1,22 @@
 #include "SystemFiles.h"
 
-#include <QElapsedTimer>
+#include "SystemCalls.h"
+
 #include <QFileInfo>
 
 #include <chrono>
 #include <filesystem>
 #include <system_error>
-#include <thread>
-#include <vector>
 
 #if defined(Q_OS_WIN)
 #    include <io.h>
+#    include <vector>
 #    include <windows.h>
 #else
 #    include <acl/libacl.h>
 #    include <attr/libattr.h>
 #    include <cerrno>
 #    include <csignal>
-#    include <fcntl.h>
 #    include <sys/acl.h>
 #    include <sys/stat.h>
 #    include <unistd.h>
@@ -26,22 +25,6 @@
 namespace zel {
 
 namespace {
-
-const int Pause = 20; // ms
-
-/// Repeats an attempt until it succeeds or the time, in milliseconds, is over.
-template <typename Attempt>
-bool succeedsWithin(int timeout, Attempt attempt)
-{
-    QElapsedTimer clock;
-    clock.start();
-    while (!attempt()) {
-        if (clock.elapsed() >= timeout)
-            return false;
-        std::this_thread::sleep_for(std::chrono::milliseconds(Pause));
-    }
-    return true;
-}
 
 #if defined(Q_OS_WIN)
 const bool IsWindows = true;
@@ -62,11 +45,6 @@ bool succeedsWhenFree(Attempt attempt, DWORD alsoBusy = ERROR_SHARING_VIOLATION)
     return isDone;
 }
 
-const wchar_t* native(const QString& path)
-{
-    return reinterpret_cast<const wchar_t*>(path.utf16());
-}
-
 bool isReadOnly(const QString& path)
 {
     const DWORD attributes = GetFileAttributesW(native(path));
@@ -74,11 +52,6 @@ bool isReadOnly(const QString& path)
 }
 #else
 const bool IsWindows = false;
-
-QByteArray native(const QString& path)
-{
-    return QFile::encodeName(path);
-}
 #endif
 
 } // namespace
@@ -247,102 +220,6 @@ bool copyRights(const QString& from, const QString& to)
 bool replaceFile(const QString& file, const QString& replaced)
 {
     return ::rename(native(file).constData(), native(replaced).constData()) == 0;
-}
-
-#endif
-
-#if QT_VERSION >= QT_VERSION_CHECK(5, 10, 0)
-
-struct QtSettingsLock::Private
-{
-};
-
-QtSettingsLock::QtSettingsLock(const QFile&, Access)
-{
-}
-
-QtSettingsLock::~QtSettingsLock() = default;
-
-bool QtSettingsLock::take(int)
-{
-    return true;
-}
-
-#elif defined(Q_OS_WIN)
-
-struct QtSettingsLock::Private
-{
-    /// A semaphore, and how many of its units are held.
-    struct Units
-    {
-        HANDLE semaphore;
-        LONG wanted;
-        LONG held;
-    };
-
-    void add(const char* name, const QString& path, LONG available, LONG wanted)
-    {
-        const QString whole = QString(name) + QFileInfo(path).absoluteFilePath();
-        if (const HANDLE semaphore = CreateSemaphoreW(nullptr, available, available, native(whole)))
-            all.push_back({semaphore, wanted, 0});
-    }
-
-    std::vector<Units> all;
-};
-
-QtSettingsLock::QtSettingsLock(const QFile& file, Access access)
-    : d(new Private)
-{
-    const LONG readers = 50;
-    if (access == Write)
-        d->add("QSettingsWriteSem ", file.fileName(), 1, 1);
-    d->add("QSettingsReadSem ", file.fileName(), readers, access == Write ? readers : 1);
-}
-
-QtSettingsLock::~QtSettingsLock()
-{
-    for (const Private::Units& units : d->all) {
-        if (units.held > 0)
-            ReleaseSemaphore(units.semaphore, units.held, nullptr);
-        CloseHandle(units.semaphore);
-    }
-}
-
-bool QtSettingsLock::take(int timeout)
-{
-    for (Private::Units& units : d->all) {
-        for (; units.held < units.wanted; ++units.held) {
-            if (WaitForSingleObject(units.semaphore, static_cast<DWORD>(timeout)) != WAIT_OBJECT_0)
-                return false;
-        }
-    }
-    return true;
-}
-
-#else
-
-struct QtSettingsLock::Private
-{
-    const QFile& file;
-    short type;
-};
-
-QtSettingsLock::QtSettingsLock(const QFile& file, Access access)
-    : d(new Private{file, static_cast<short>(access == Write ? F_WRLCK : F_RDLCK)})
-{
-}
-
-// The system takes the lock back when the file is closed.
-QtSettingsLock::~QtSettingsLock() = default;
-
-bool QtSettingsLock::take(int timeout)
-{
-    return succeedsWithin(timeout, [this] {
-        struct flock range = {};
-        range.l_type = d->type;
-        range.l_whence = SEEK_SET;
-        return ::fcntl(d->file.handle(), F_SETLK, &range) == 0 || (errno != EACCES && errno != EAGAIN);
-    });
 }
 
 #endif

@@ -5,7 +5,6 @@
 #include <QString>
 
 #include <cstdint>
-#include <memory>
 
 namespace zel {
 
@@ -69,27 +68,6 @@ void makeLater(const QString& path, const FileStamp& replaced);
 
 /// Opens a file; on Windows it waits up to a second while another program has it open for itself.
 bool openWhenFree(QFile& file, QIODevice::OpenMode mode);
-
-/// What QSettings locks before Qt 5.10 while it reads or writes a file, so that it and this process wait for
-/// each other. Since then it locks nothing: FileLock is what QSettings takes there.
-class QtSettingsLock
-{
-public:
-    enum Access { Read, Write };
-
-    /// @param file  outlives the lock, and is open for this access when it is taken, except on Windows
-    QtSettingsLock(const QFile& file, Access access);
-    ~QtSettingsLock();
-
-    /// False when another program has the lock for longer than the time in milliseconds.
-    bool take(int timeout);
-
-private:
-    Q_DISABLE_COPY(QtSettingsLock)
-
-    struct Private;
-    const std::unique_ptr<Private> d;
-};
 
 } // namespace zel
 

@@ -2,6 +2,7 @@
 
 #include "SettingsReasons.h"
 #include "base/FileLock.h"
+#include "base/QtSettingsLock.h"
 #include "base/SystemFiles.h"
 
 #include <QDir>

@@ -8,6 +8,7 @@
 #include "SettingsValidation.h"
 #include "SettingsValues.h"
 #include "ZelSettingsFile.h"
+#include "base/QtSettingsLock.h"
 #include "base/SystemFiles.h"
 
 #include <QDir>
