@@ -2,15 +2,14 @@
 
 #include "HelpCard.h"
 #include "LanguageFollower.h"
+#include "OpenedHelp.h"
 #include "PendingList.h"
-#include "ReturnKey.h"
 #include "VerticalArea.h"
 #include "ZelPageHelp.h"
 #include "ZelSettingsPanel.h"
 
 #include <QApplication>
 #include <QCursor>
-#include <QDesktopWidget>
 #include <QEvent>
 #include <QLabel>
 #include <QScrollBar>
@@ -29,8 +28,6 @@ const int MinimumHeight = 220;
 const int MinimumListHeight = 120; // without the help
 const int Margin = 12;
 const int ColumnMargin = 8;
-const int OpenedWidth = 340;
-const int OpenedBorder = 1; // as in its style sheet
 const int MaximumWidth = 520;
 const int MinimumCardHeight = 100;
 const int LineSlack = 8; // Japanese and Chinese lines are higher than those of a path.
@@ -316,33 +313,11 @@ int ZelHelpArea::freeHeightOfColumn() const
 
 void ZelHelpArea::openAt(QWidget& field)
 {
-    // Of another colour behind the round corners of a card.
-    auto* opened = new QFrame(this, Qt::Popup);
-    opened->setAttribute(Qt::WA_DeleteOnClose);
-    opened->setObjectName("openedHelp");
-    opened->setStyleSheet("#openedHelp { background: rgb(237,237,237); border: 1px solid rgb(69,68,229); }");
-    auto* layout = new QVBoxLayout(opened);
-    layout->setContentsMargins(0, 0, 0, 0);
-    auto* card = new HelpCard(opened);
-    layout->addWidget(card);
-    card->setField(&field);
-    new ReturnKey(opened);
     const ZelPageHelp* page = nullptr;
     for (const QPointer<ZelPageHelp>& each : m_pages)
         if (each && each->setting(&field))
             page = each;
-    if (page) {
-        connect(page, SIGNAL(edited()), card, SLOT(refresh()));
-        connect(page->parent(), SIGNAL(stateChanged()), card, SLOT(refresh()));
-    }
-    opened->ensurePolished();
-    opened->setFixedSize(OpenedWidth, card->neededHeight(OpenedWidth - 2 * OpenedBorder) + 2 * OpenedBorder);
-    const QRect screen = QApplication::desktop()->availableGeometry(&field);
-    const QPoint below = field.mapToGlobal(QPoint(0, field.height() + 2));
-    const QPoint above = field.mapToGlobal(QPoint(0, -opened->height() - 2));
-    const QPoint place = below.y() + opened->height() > screen.bottom() ? above : below;
-    opened->move(qBound(screen.left(), place.x(), qMax(screen.left(), screen.right() - opened->width())),
-                 qMax(screen.top(), place.y()));
+    auto* opened = new OpenedHelp(field, page, this);
     opened->show();
     opened->setFocus();
 }
