@@ -28,7 +28,6 @@ PageButtons::PageButtons(QBoxLayout* layout, const QList<QWidget*>& successors, 
     , m_successors(successors)
     , m_group(new QButtonGroup(this))
 {
-    m_group->setExclusive(true);
     connect(m_group, SIGNAL(buttonClicked(QAbstractButton*)), this, SLOT(onClicked(QAbstractButton*)));
 }
 

@@ -2,7 +2,6 @@
 
 #include "HelpCard.h"
 #include "ReturnKey.h"
-#include "ZelPageHelp.h"
 
 #include <QApplication>
 #include <QDesktopWidget>
@@ -19,7 +18,7 @@ const int Distance = 2;
 
 } // namespace
 
-OpenedHelp::OpenedHelp(QWidget& field, const ZelPageHelp* page, QWidget* parent)
+OpenedHelp::OpenedHelp(QWidget& field, const QObject* page, QWidget* parent)
     : QFrame(parent, Qt::Popup)
 {
     setAttribute(Qt::WA_DeleteOnClose);
@@ -32,10 +31,8 @@ OpenedHelp::OpenedHelp(QWidget& field, const ZelPageHelp* page, QWidget* parent)
     layout->addWidget(card);
     card->setField(&field);
     new ReturnKey(this);
-    if (page) {
-        connect(page, SIGNAL(edited()), card, SLOT(refresh()));
-        connect(page->parent(), SIGNAL(stateChanged()), card, SLOT(refresh()));
-    }
+    if (page)
+        connect(page, SIGNAL(stateChanged()), card, SLOT(refresh()));
     ensurePolished();
     setFixedSize(Width, card->neededHeight(Width - 2 * Border) + 2 * Border);
     moveBeside(field);

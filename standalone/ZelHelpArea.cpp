@@ -313,10 +313,10 @@ int ZelHelpArea::freeHeightOfColumn() const
 
 void ZelHelpArea::openAt(QWidget& field)
 {
-    const ZelPageHelp* page = nullptr;
+    const QObject* page = nullptr;
     for (const QPointer<ZelPageHelp>& each : m_pages)
         if (each && each->setting(&field))
-            page = each;
+            page = each->parent();
     auto* opened = new OpenedHelp(field, page, this);
     opened->show();
     opened->setFocus();

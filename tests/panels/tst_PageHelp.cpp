@@ -175,6 +175,16 @@ private Q_SLOTS:
                 QApplication::activePopupWidget()->close();
         }
         QToolTip::hideText();
+        const QRect screen = QApplication::desktop()->availableGeometry(size);
+        const QPoint corner = screen.bottomRight() - size->mapTo(m_window.get(), QPoint(40, 40));
+        for (const QPoint& place : {corner, QPoint()}) {
+            QApplication::activePopupWidget()->close();
+            m_window->move(place);
+            find<ZelHelpArea>("helpArea")->showHelp(size);
+            const QRect opened = QApplication::activePopupWidget()->geometry();
+            QVERIFY(!opened.intersects({size->mapToGlobal({}), size->size()}));
+            QVERIFY(screen.adjusted(-2, -2, 2, 2).contains(opened)); // This platform gives it a frame.
+        }
         auto* opened = QApplication::activePopupWidget();
         settings().setValue("DBCache/cacheSize", 600);
         find<QSpinBox>("databaseSpinBox")->setValue(512);
@@ -328,6 +338,8 @@ private Q_SLOTS:
         QTRY_VERIFY(find("pendingList")->height() < 160); // Leaves room for the help.
         m_window->resize(1200, 600);
         const auto takeBack = find("pendingList")->findChildren<QAbstractButton*>("takeBack");
+        for (int line = 0; line < 3; ++line)
+            QCOMPARE(lines[line]->nextInFocusChain(), takeBack[line]);
         find("maxTrianglesSpinBox")->setFocus();
         for (QWidget* pressed : {lines[0], takeBack[0]}) { // Does not take in what is being typed.
             QTest::mousePress(inputOf(window), Qt::LeftButton, {}, pressed->mapTo(window, QPoint(9, 9)));
@@ -344,6 +356,13 @@ private Q_SLOTS:
         const QPoint still = place();
         find("maxTrianglesSpinBox")->setFocus(); // Has a shorter help.
         QCOMPARE(place(), still);
+        m_window->resize(1200, 340);
+        auto* help =
+            qobject_cast<QScrollArea*>(find("helpFrame")->parentWidget()->parentWidget()->parentWidget());
+        QTRY_VERIFY(help->verticalScrollBar()->maximum() > 0);
+        help->verticalScrollBar()->setValue(9);
+        find("databaseSpinBox")->setFocus(); // Its help is read from the top.
+        QCOMPARE(help->verticalScrollBar()->value(), 0);
         takeBack[1]->click();
         QCOMPARE(pending().size(), 1);
         QVERIFY(find("softwareFrame")->isVisible()); // The other engine is still chosen.
