@@ -283,6 +283,15 @@ private Q_SLOTS:
             m_window.resize(1100, height);
             QTRY_COMPARE(bar->maximum() > 0, height == 350);
         }
+        const QString lock = m_application.getSettings().fileName() + ".lock";
+        QVERIFY(QDir().mkpath(lock));
+        m_window.resize(1100, 300); // Less than the column needs.
+        QCoreApplication::processEvents();
+        find<QScrollArea>("contentArea")->verticalScrollBar()->setValue(0);
+        find<QPushButton>("applyButton")->click();
+        const auto* notice = find("writeErrorLabel");
+        QTRY_VERIFY(notice->height() > 30 && notice->visibleRegion().boundingRect() == notice->rect());
+        QVERIFY(QDir().rmdir(lock));
         m_window.resize(800, 600);
         find<QAction>("discard")->trigger();
     }
