@@ -427,7 +427,7 @@ private Q_SLOTS:
         // Key, text, and what is registered; a null text where nothing is.
         const QString folderName = QString::fromUtf8("/\303\274");
         const QString rows[][3] = {
-            {"raytracer/coreNumber", "100000", QString::number(QThread::idealThreadCount())},
+            {"raytracer/coreNumber", "many", QString::number(QThread::idealThreadCount())},
             {"Resources/LODTrianglesCap", "1", "50000"},
             {"deferred/useED", "yes", "false"},
             {"deferred/sceneUnits", "7", "1000"},

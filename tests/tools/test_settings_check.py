@@ -46,6 +46,7 @@ REPAIRS = {
     "slashes of another system":
         ("[Logging]\nlogFile=\\\\tmp///\n", "\\tmp///", "Logging/logFile", "/tmp",
          "is not written the usual way"),
+    "log file without a name": ("[Logging]\nlogFile=\n", "", "Logging/logFile", LOG, "existing folder"),
     "nothing but slashes": ("[Logging]\nlogFile=//\n", "//", "Logging/logFile", LOG, "existing folder"),
     "object whose decoding would end the process":
         (f'x="@Variant({LISTS_IN_LISTS})"\n', None, "engine", "deferred", "missing",
