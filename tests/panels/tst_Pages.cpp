@@ -333,6 +333,13 @@ private Q_SLOTS:
             store(settings(), {{keys::SimplificationRatios, "1/0.9/0.1/0.1/0.1"}});
             page.page.applyModifications();
             QCOMPARE(stored(keys::SimplificationRatios), QString("1/0.2/0.2/0.7/0.6"));
+            // An application that ends each edit at once: the nested one says nothing of its own.
+            connect(page.find("ratio3"), SIGNAL(valueChanged(double)), &page.page,
+                    SLOT(on_ratio3_editingFinished()));
+            const int changes = page.changes.count();
+            page.type("ratio2", "10");
+            QVERIFY(page.changes.count() == changes + 1 && !page.page.applyModifications());
+            QCOMPARE(stored(keys::SimplificationRatios), QString("1/0.1/0.1/0.1/0.6"));
         }
         settings().remove(keys::SimplificationRatios);
         QVERIFY(!Simplification(nullptr, settings()).page.hasModifications());

@@ -17,6 +17,7 @@ private Q_SLOTS:
             {"mark of the encoding", "\xEF\xBB\xBF[General]\nkey=\xC3\xBC\n", ""},
             {"mark as a name", "\xEF\xBB\xBFkey=1\n", "line 1 has a key twice, or a lost name"},
             {"takes in the next line", "key=C:\\\nb=1\n", "line 1 cannot be read"},
+            {"takes in the end", "key=C:\\", "line 1 cannot be read"},
             {"goes on only once", "key=\"a\\\n\nb\"\n", "line 2 cannot be read"},
             {"cut value", "a=1 ; 2\npath=/a;/b\n", "line 2 cannot be read"},
             {"escapes", "a=\"\\x1f642\"\n", "line 1 cannot be read"},
