@@ -93,9 +93,8 @@ ZelHelpArea::ZelHelpArea(QWidget* parent)
     m_areaLayout->addWidget(m_help);
     m_cardArea->installEventFilter(this);
     connect(m_pending, SIGNAL(discardRequested()), this, SIGNAL(discardRequested()));
-    new LanguageFollower(this, [this] {
-        m_reservedWidth = -1;
-        QMetaObject::invokeMethod(this, "refresh", Qt::QueuedConnection); // When the pages have followed.
+    new LanguageFollower(this, [this] { // Queued: when the pages have followed.
+        QMetaObject::invokeMethod(this, "onLanguageChanged", Qt::QueuedConnection);
     });
     m_rest->setObjectName("rest");
     m_rest->setSingleShot(true);
@@ -181,6 +180,12 @@ void ZelHelpArea::refresh()
     m_card->refresh();
     m_pending->refresh();
     reserveHeight();
+}
+
+void ZelHelpArea::onLanguageChanged()
+{
+    m_reservedWidth = -1;
+    refresh();
 }
 
 void ZelHelpArea::onEdited()

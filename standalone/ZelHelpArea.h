@@ -64,6 +64,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private Q_SLOTS:
+    void onLanguageChanged();
     void onEdited();
     void onReached(QWidget* field);
     void onFocusChanged(QWidget* previous, QWidget* current);

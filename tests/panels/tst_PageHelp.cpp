@@ -160,6 +160,7 @@ private Q_SLOTS:
                                                             {{702, 460}, false, false, false}};
         for (const auto& [window, shown, inColumn, whole] : rows) {
             m_window->resize(window);
+            QTest::qWait(50); // It is hidden for a moment when it moves.
             QTRY_COMPARE(find("helpFrame")->isVisible(), shown);
             QCOMPARE(shown && find("mainPanel")->parentWidget()->isAncestorOf(find("helpFrame")), inColumn);
             size->setFocus();

@@ -85,10 +85,13 @@ struct EditedWindow : User
         QTest::keyClick(find("maxTrianglesSpinBox"), Qt::Key_PageUp);
     }
 
+    /// Also the room for the longest help.
     QStringList texts()
     {
         QCoreApplication::processEvents();
-        return textsOf(&editor) + textsOf(&selector) + textsOf(&item);
+        const QWidget* help = find("helpFrame")->parentWidget()->parentWidget()->parentWidget();
+        return textsOf(&editor) + textsOf(&selector) + textsOf(&item)
+               << QString::number(help->maximumHeight());
     }
 
     ZelControlCenterStandAloneWidget editor;
