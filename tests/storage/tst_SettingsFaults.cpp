@@ -618,6 +618,9 @@ private Q_SLOTS:
         host.setValue("host/key", 1);
         host.setValue("page/c", 2);
         QVERIFY(write(host, {}) && holds({"[host]", "b=again\nc=2\n"}));
+        store(m_path, "[page]\nb=last\n"); // What others have removed does not come back.
+        QVERIFY(write(host, {{"page/b", "mine"}}));
+        QCOMPARE(contentOf(m_path), QByteArray("[page]\nb=mine\n"));
     }
 
     void checksOfARepair()
@@ -938,6 +941,9 @@ private Q_SLOTS:
             QVERIFY(contentOf(m_path) == content && QFileInfo(m_path).lastModified() == time);
         }
         QVERIFY(QFile::remove(m_path) && migrate(m_path) && !QFile::exists(m_path));
+        const QByteArray lists = QByteArray("\\0\\0\\0\\x9\\0\\0\\0\\x1").repeated(50000);
+        store(m_path, "x=\"@Variant(" + lists + ")\"\n"); // To decode it would end the process.
+        QVERIFY(ZelSettingsFile::Open(m_path) != nullptr);
     }
 
     void ownerIsKept()
