@@ -407,6 +407,9 @@ private Q_SLOTS:
             store(file, text);
             QCOMPARE(NextWindow(application).geometry(), opened);
         }
+        QVERIFY(QFile::remove(file) && QDir().mkdir(file)); // It cannot be replaced, and nothing is left.
+        NextWindow(application).close();
+        QVERIFY(QFileInfo(file).dir().entryList(QStringList("Window.ini.*")).isEmpty());
     }
 
     void comesBackFromALostScreen()
