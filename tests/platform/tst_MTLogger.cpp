@@ -1,4 +1,5 @@
 #include "../support/Files.h"
+#include "../support/Rows.h"
 
 #include "platform/MTLogger.h"
 
@@ -8,32 +9,37 @@ class tst_MTLogger : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void eventIsOneLineUnlessItsTypeIsLeftOut_data()
+    {
+        const std::tuple<const char*, bool, QByteArray, QString> rows[] = {
+            {"no diagnostics", false, "", "[info] [Load Time] "},
+            {"diagnostics", true, "", "[Debug] [info] [Load Time] "},
+            {"types left out", true, "debug, INFO ;load time;", ""},
+            {"no such types", false, " ,; ,inf,error1", "[info] [Load Time] "}};
+        addRows({"diagnostics", "blackList", "expected"}, rows);
+    }
+
     void eventIsOneLineUnlessItsTypeIsLeftOut()
     {
-        const std::tuple<bool, const char*, QString> rows[] = {
-            {false, "", "[info] [Load Time] "},
-            {true, "", "[Debug] [info] [Load Time] "},
-            {true, "debug, INFO ;load time;", ""},
-            {false, " ,; ,inf,error1", "[info] [Load Time] "}};
+        QFETCH(bool, diagnostics);
+        QFETCH(QByteArray, blackList);
+        QFETCH(QString, expected);
         const QTemporaryDir folder(QDir::tempPath() + QString::fromUtf8("/l\xc3\xb6g-XXXXXX"));
         QLocale::setDefault(QLocale("ar_EG")); // With digits of its own.
-        for (const auto& [diagnostics, blackList, expected] : rows) {
-            const QString path = folder.filePath("log.txt");
-            QFile::remove(path);
-            MTLogger::Log("Debug", ""); // Is kept until there is a file; the rules hold for it too.
-            MTLogger::InstallFileHandler(path.toUtf8().constData(), diagnostics, blackList);
-            for (const char* type : {"info", "Load Time "})
-                MTLogger::Log(type, "");
-            MTLogger::Log("er\nror", "l\xc3\xb6st\r\ntwo\tC:\\new \x1b\xe2\x80\xa8\xe2\x80\xa9 cut:\xff");
-            // The handler has the file open: events are written at once.
-            const QString events = QString::fromUtf8(contentOf(path))
-                                       .replace(QRegExp("(^|\n)([0-9-]{10}T[0-9:.]{12} |$)"), "")
-                                       .trimmed();
-            const char error[] =
-                "[er\\nror] l\xc3\xb6st\\r\\ntwo\tC:\\new \\u001b\\u2028\\u2029 cut:\xef\xbf\xbd";
-            QCOMPARE(events, expected + QString::fromUtf8(error));
-            MTLogger::RemoveFileHandler();
-        }
+        const QString path = folder.filePath("log.txt");
+        MTLogger::Log("Debug", ""); // Is kept until there is a file; the rules hold for it too.
+        MTLogger::InstallFileHandler(path.toUtf8().constData(), diagnostics, blackList.constData());
+        for (const char* type : {"info", "Load Time "})
+            MTLogger::Log(type, "");
+        MTLogger::Log("er\nror", "l\xc3\xb6st\r\ntwo\tC:\\new \x1b\xe2\x80\xa8\xe2\x80\xa9 cut:\xff");
+        // The handler has the file open: events are written at once.
+        const QString events = QString::fromUtf8(contentOf(path))
+                                   .replace(QRegExp("(^|\n)([0-9-]{10}T[0-9:.]{12} |$)"), "")
+                                   .trimmed();
+        const char error[] =
+            "[er\\nror] l\xc3\xb6st\\r\\ntwo\tC:\\new \\u001b\\u2028\\u2029 cut:\xef\xbf\xbd";
+        QCOMPARE(events, expected + QString::fromUtf8(error));
+        MTLogger::RemoveFileHandler();
     }
 
     void latestEventsAreKeptUntilThereIsAFile()

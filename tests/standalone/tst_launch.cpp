@@ -1,4 +1,5 @@
 #include "Files.h"
+#include "Rows.h"
 #include "Version.h"
 #include "ZelSettingsRegistry.h"
 #include "launch.h"
@@ -85,9 +86,7 @@ private Q_SLOTS:
 #if !defined(ZEL_LEAVE_OUT_firstInstance)
     void firstInstance_data()
     {
-        QTest::addColumn<QByteArray>("general"); // What the settings hold.
-        QTest::addColumn<QString>("obstacle");   // A file in the folder of the settings.
-        QTest::addColumn<QString>("seen");
+        // What the settings hold, a file in their folder that is in the way, and what is seen.
         const QByteArray complete("settingsVersion=2\nengine=software\n");
         const QString error = "Torvane - Fatal Error: Could not ",
                       file = " the Torvane settings file \"%1/Settings.ini\": ";
@@ -99,8 +98,7 @@ private Q_SLOTS:
             {"settings are a folder", "", "Settings.ini/x", error + "read" + file + "it is not a file"},
             {"no folder for the cache", complete, "cache",
              error + "use the 3D database cache, folder \"%1/cache/TorvaneBoundlessX64/"}};
-        for (const auto& [name, general, obstacle, seen] : rows)
-            QTest::newRow(name) << general << obstacle << seen;
+        addRows({"general", "obstacle", "seen"}, rows);
     }
 
     void firstInstance()

@@ -1,4 +1,5 @@
 #include "../support/Files.h"
+#include "../support/Rows.h"
 #include "IniCodec.h"
 #include "SettingsDamage.h"
 #include "ZelSettingsFile.h"
@@ -8,7 +9,7 @@ class tst_SettingsDamage : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void damage()
+    void damage_data()
     {
         // That QSettings keeps what is not called damaged is for the fuzzer to refute.
         const std::tuple<const char*, QByteArray, QString> rows[] = {
@@ -46,8 +47,14 @@ private Q_SLOTS:
             {"written as no name", "b%2F=1\n", "line 1 has a key twice, or a lost name"},
             {"name of another", "[%general]\na=1\n", "line 2 has a key twice, or a lost name"},
             {"other note", "# note\n", "line 1 cannot be read"}};
-        for (const auto& [name, text, expected] : rows)
-            QVERIFY2(zel::settingsDamage(text) == expected, name);
+        addRows({"text", "expected"}, rows);
+    }
+
+    void damage()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, expected);
+        QCOMPARE(zel::settingsDamage(text), expected);
     }
 
     /// Windows has drives that do not exist, and does not even open a file that is read-only.

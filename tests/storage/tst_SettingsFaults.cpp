@@ -1,4 +1,5 @@
 #include "../support/Files.h"
+#include "../support/Rows.h"
 #include "FileAccess.h"
 #include "IniCodec.h"
 #include "SettingsKeys.h"
@@ -229,9 +230,7 @@ private Q_SLOTS:
 
     void faultAtEachCall_data()
     {
-        QTest::addColumn<Operation>("operation");
-        QTest::addColumn<QByteArray>("general"); // What the file holds, beside the foreign groups.
-        QTest::addColumn<QByteArray>("wanted");  // Some of what it holds then, separated by "|".
+        // What the file holds beside the foreign groups, and some of what it holds then, separated by "|".
         const QByteArray bad("[DBCache]\ncacheSize=1\n\n"), version("[General]\nsettingsVersion=");
         const std::tuple<const char*, Operation, QByteArray, QByteArray> rows[] = {
             {"apply", &apply, version + "2\n\n", "\nengine=software\n"},
@@ -240,8 +239,7 @@ private Q_SLOTS:
              version + "2\n"},
             {"upgrade", &migrate, version + "1\n\n", "\nengine=deferred\n|\nsettingsVersion=2\n"},
             {"fresh start", &migrate, "[General]\nengine=software\n\n", "[General]\nlanguage=fr\n"}};
-        for (const auto& [name, operation, general, wanted] : rows)
-            QTest::newRow(name) << operation << general << wanted;
+        addRows({"operation", "general", "wanted"}, rows);
     }
 
     void faultAtEachCall()
@@ -346,9 +344,7 @@ private Q_SLOTS:
 
     void locksOfOthers_data()
     {
-        QTest::addColumn<QByteArray>("command"); // Makes the lock.
-        QTest::addColumn<bool>("isHeld");        // By a living process.
-        QTest::addColumn<QString>("reason");     // Why the lock cannot be taken.
+        // What makes the lock, whether a living process holds it, and why it cannot be taken.
         const QString held = "another program has locked it", inTheWay = ".lock\" is in the way";
         const QByteArray ended = "echo 4194305 >$lock", own = QByteArray::number(::getpid());
         const std::tuple<const char*, QByteArray, bool, QString> rows[] = {
@@ -365,8 +361,7 @@ private Q_SLOTS:
             {"link", "ln -s nowhere $lock", false, inTheWay},
             {"folder", "mkdir $lock", false, inTheWay},
             {"cannot be removed", ended + "; mkdir $lock.rmlock", false, held}};
-        for (const auto& [name, command, isHeld, reason] : rows)
-            QTest::newRow(name) << command << isHeld << reason;
+        addRows({"command", "isHeld", "reason"}, rows);
     }
 
     void locksOfOthers()
@@ -793,74 +788,81 @@ private Q_SLOTS:
         QVERIFY(!apply(m_path) && contentOf(own + "/mine") == "mine");
     }
 
+    void obstacles_data()
+    {
+        const QByteArray limit = "prlimit --pid $PPID --fsize=1000";
+        const std::tuple<const char*, QByteArray, QString> rows[] = {
+            {"folder that cannot be written", "chmod 555 .", "Permission denied"},
+            {"file that cannot be written", "chmod 444 *", "Permission denied"},
+            {"link that leads nowhere", "rm *; ln -s /no/where Settings.ini", "No such file"},
+            {"folder of this name", "rm *; mkdir Settings.ini", "it is not a file"},
+            {"file in place of the folder", "cd ..; rm -r folder; touch folder", "Not a directory"},
+            {"limited size, and a comment", "echo ';' >>Settings.ini; " + limit,
+             "a copy of it cannot be kept: File too"},
+            {"limited size", limit, "too large"}};
+        addRows({"command", "reason"}, rows);
+    }
+
     void obstacles()
     {
-        const std::pair<const char*, const char*> rows[] = {
-            {"chmod 555 .", "Permission denied"},
-            {"chmod 444 *", "Permission denied"},
-            {"rm *; ln -s /no/where Settings.ini", "No such file"},
-            {"rm *; mkdir Settings.ini", "it is not a file"},
-            {"cd ..; rm -r folder; touch folder", "Not a directory"},
-            {"echo ';' >>Settings.ini; prlimit --pid $PPID --fsize=1000",
-             "a copy of it cannot be kept: File too"},
-            {"prlimit --pid $PPID --fsize=1000", "too large"}};
+        QFETCH(QByteArray, command);
+        QFETCH(QString, reason);
         const QByteArray content = Foreign + "[other]\n" + QByteArray(2000, 'x') + "=1\n";
         ::signal(SIGXFSZ, SIG_IGN);
-        for (const auto& [obstacle, reason] : rows) {
-            init();
-            store(m_path, content);
-            for (const QString& path : {m_parent->path(), m_folder.path(), m_path})
-                QVERIFY(::geteuid() != 0 || ::chown(qPrintable(path), 65534, 65534) == 0);
-            const int status = statusOf(startChild([&, command = obstacle, reason = reason] {
-                // Permissions do not bind the administrator.
-                if (::geteuid() == 0 &&
-                    (::setgroups(0, nullptr) != 0 || ::setgid(65534) != 0 || ::setuid(65534) != 0))
-                    return false;
-                const auto settings = ZelSettingsFile::Open(m_path);
-                const QVariant former = settings->value("Foreign/list");
-                return ::system(command) == 0 && !write(*settings, {{"Foreign/list", "none"}}) &&
-                       error.contains(m_path) && error.contains(reason) &&
-                       ZelSettingsFile::IsWritable(m_path, error) == QString(command).contains("prl") &&
-                       error.startsWith("Could not write") && error.contains(reason) &&
-                       settings->value("Foreign/list") == former;
-            }));
-            ::chmod(qPrintable(m_folder.path()), 0755);
-            QVERIFY2(status == 0, obstacle);
-            QVERIFY2(!QFileInfo(m_path).isFile() || contentOf(m_path).startsWith(content), obstacle);
-            QVERIFY(copies().isEmpty());
-        }
+        store(m_path, content);
+        for (const QString& path : {m_parent->path(), m_folder.path(), m_path})
+            QVERIFY(::geteuid() != 0 || ::chown(qPrintable(path), 65534, 65534) == 0);
+        const int status = statusOf(startChild([&] {
+            // Permissions do not bind the administrator.
+            if (::geteuid() == 0 &&
+                (::setgroups(0, nullptr) != 0 || ::setgid(65534) != 0 || ::setuid(65534) != 0))
+                return false;
+            const auto settings = ZelSettingsFile::Open(m_path);
+            const QVariant former = settings->value("Foreign/list");
+            return ::system(command) == 0 && !write(*settings, {{"Foreign/list", "none"}}) &&
+                   error.contains(m_path) && error.contains(reason) &&
+                   ZelSettingsFile::IsWritable(m_path, error) == command.contains("prl") &&
+                   error.startsWith("Could not write") && error.contains(reason) &&
+                   settings->value("Foreign/list") == former;
+        }));
+        ::chmod(qPrintable(m_folder.path()), 0755);
+        QCOMPARE(status, 0);
+        QVERIFY(!QFileInfo(m_path).isFile() || contentOf(m_path).startsWith(content));
+        QVERIFY(copies().isEmpty());
+    }
+
+    void damagedByOthers_data()
+    {
+        // What others leave of a complete file, and which unregistered values it holds after the write.
+        const std::tuple<const char*, QByteArray, QString> rows[] = {
+            {"nothing", "rm -r ../folder", "own=1"},
+            {"an empty file", ": >Settings.ini", "own=1"},
+            {"a damaged file", "sed -i 's/own=1/x\\nown=2/; /Fore/,$d' *", "own=2"},
+            {"another value", "sed -i 's/own=1/other=3/' *", "other=3"},
+            {"nothing but their own", "echo other=3 >Settings.ini", "other=3 own=1"}};
+        addRows({"command", "kept"}, rows);
     }
 
     void damagedByOthers()
     {
-        // What others leave of a complete file, and which unregistered value it holds after the write.
-        const QByteArray complete =
-            "[General]\nsettingsVersion=2\nown=1\n\n[DBCache]\ncacheSize=77\n" + Foreign;
-        const std::pair<const char*, QString> rows[] = {{"rm -r ../folder", "own=1"},
-                                                        {": >Settings.ini", "own=1"},
-                                                        {"sed -i 's/own=1/x\\nown=2/; /Fore/,$d' *", "own=2"},
-                                                        {"sed -i 's/own=1/other=3/' *", "other=3"},
-                                                        {"echo other=3 >Settings.ini", "other=3 own=1"}};
-        for (const auto& [command, kept] : rows) {
-            init();
-            store(m_path, complete);
-            setTime(m_path, stampOf(m_path).time - 3600000);
-            const auto settings = ZelSettingsFile::Open(m_path);
-            QVERIFY(settings->contains("own"));
-            QCOMPARE(::system(command), 0);
-            QVERIFY2(write(*settings, {{"engine", "software"}}), qPrintable(error));
-            QVERIFY(holds({"settingsVersion=2\n", "cacheSize=77\n"}) &&
-                    settings->value("engine") == "software");
-            QStringList own = QString(contentOf(m_path)).split('\n').filter(QRegExp("^o"));
-            own.sort();
-            QCOMPARE(own.join(" "), kept);
-            store(m_path, "settingsVersion=2\n[DBCache]\ncacheSize=11\n");
-            QVERIFY(ZelSettingsFile::ReadAgain(*settings, error) && settings->allKeys().size() == 2);
-            store(m_path, "");
-            QVERIFY(ZelSettingsFile::ReadAgain(*settings, error) && contentOf(m_path).contains("=11\n"));
-            store(m_path, "settingsVersion=2\n[DBCache]\ncacheSize=2\n");
-            QVERIFY(ZelSettingsFile::Repair(*settings, error) && contentOf(m_path).contains("=4096\n"));
-        }
+        QFETCH(QByteArray, command);
+        QFETCH(QString, kept);
+        store(m_path, "[General]\nsettingsVersion=2\nown=1\n\n[DBCache]\ncacheSize=77\n" + Foreign);
+        setTime(m_path, stampOf(m_path).time - 3600000);
+        const auto settings = ZelSettingsFile::Open(m_path);
+        QVERIFY(settings->contains("own"));
+        QCOMPARE(::system(command), 0);
+        QVERIFY2(write(*settings, {{"engine", "software"}}), qPrintable(error));
+        QVERIFY(holds({"settingsVersion=2\n", "cacheSize=77\n"}) && settings->value("engine") == "software");
+        QStringList own = QString(contentOf(m_path)).split('\n').filter(QRegExp("^o"));
+        own.sort();
+        QCOMPARE(own.join(" "), kept);
+        store(m_path, "settingsVersion=2\n[DBCache]\ncacheSize=11\n");
+        QVERIFY(ZelSettingsFile::ReadAgain(*settings, error) && settings->allKeys().size() == 2);
+        store(m_path, "");
+        QVERIFY(ZelSettingsFile::ReadAgain(*settings, error) && contentOf(m_path).contains("=11\n"));
+        store(m_path, "settingsVersion=2\n[DBCache]\ncacheSize=2\n");
+        QVERIFY(ZelSettingsFile::Repair(*settings, error) && contentOf(m_path).contains("=4096\n"));
     }
 
     void linkStaysALink()
@@ -896,37 +898,42 @@ private Q_SLOTS:
         QVERIFY(!apply(m_path) && error.contains("symbolic links"));
     }
 
-    void copyOfWhatIsGivenUp()
+    void copyOfWhatIsGivenUp_data()
     {
         const QByteArray version2("[General]\nsettingsVersion=2\n");
-        const std::tuple<Operation, QByteArray, int> rows[] = {
-            {&apply, version2 + "[open\n", 1},
-            {&migrate, "settingsVersion=1\nx\n", 1},
-            {&validate, "=1\n[open\n", 1}, // A key without a name.
-            {&validate, version2 + "[DBCache]\ncacheSize=1, 2\n", 1},
-            {&apply, "; mine\n" + version2, 1},
-            {&validate, version2 + "own=1, 2\n", 0},
-            {&apply, version2 + "Engine=1\nENGINE=2\n", SettingsIgnoreCase},
-            {&apply, version2 + "gr\303\266\303\237e=5\n", SettingsIgnoreCase},
-            {&validate, version2 + "own=\357\277\276\n[DBCache]\ncacheSize=77\n", 1},
-            {&apply, version2 + "own=\357\267\220\n", 1},
-            {&apply, version2 + "own=text\\t , b\n", SettingsDropBlanks},
-            {&validate, version2 + "own=\"text\\t\"\n", SettingsDropBlanks},
-            {&apply, version2 + "own=text\\x20\n", SettingsDropBlanks},
-            {&migrate, "[General]\nsettingsVersion=0\n; mine\n", 1},
-            {&migrate, "[General]\nengine=software\n", 1}, // Too old.
-            {&migrate, "[General]\nsettingsVersion=1\n", 0},
-            {&validate, "[DBCache]\ncacheSize=1\n", 0},
-            {&migrate, "", 0}};
-        for (const auto& [operation, content, kept] : rows) {
-            init();
-            store(m_path, content);
-            QVERIFY2(operation(m_path) && contentOf(m_path) != content, content.constData());
-            for (const Operation once : {&validate, &apply}) {
-                QVERIFY2(copies().size() == kept, content.constData());
-                QVERIFY(kept == 0 || contentOf(copies().first()) == content);
-                QVERIFY(once(m_path));
-            }
+        const std::tuple<const char*, Operation, QByteArray, int> rows[] = {
+            {"open group", &apply, version2 + "[open\n", 1},
+            {"no value", &migrate, "settingsVersion=1\nx\n", 1},
+            {"key without a name", &validate, "=1\n[open\n", 1},
+            {"list in place of a number", &validate, version2 + "[DBCache]\ncacheSize=1, 2\n", 1},
+            {"comment", &apply, "; mine\n" + version2, 1},
+            {"list of another", &validate, version2 + "own=1, 2\n", 0},
+            {"keys that differ in case", &apply, version2 + "Engine=1\nENGINE=2\n", SettingsIgnoreCase},
+            {"key beyond ASCII", &apply, version2 + "gr\303\266\303\237e=5\n", SettingsIgnoreCase},
+            {"no character", &validate, version2 + "own=\357\277\276\n[DBCache]\ncacheSize=77\n", 1},
+            {"no character within a plane", &apply, version2 + "own=\357\267\220\n", 1},
+            {"tab in a list", &apply, version2 + "own=text\\t , b\n", SettingsDropBlanks},
+            {"quoted tab", &validate, version2 + "own=\"text\\t\"\n", SettingsDropBlanks},
+            {"escaped blank", &apply, version2 + "own=text\\x20\n", SettingsDropBlanks},
+            {"too old, with a comment", &migrate, "[General]\nsettingsVersion=0\n; mine\n", 1},
+            {"too old", &migrate, "[General]\nengine=software\n", 1},
+            {"older version", &migrate, "[General]\nsettingsVersion=1\n", 0},
+            {"value that is not valid", &validate, "[DBCache]\ncacheSize=1\n", 0},
+            {"nothing", &migrate, "", 0}};
+        addRows({"operation", "content", "kept"}, rows);
+    }
+
+    void copyOfWhatIsGivenUp()
+    {
+        QFETCH(Operation, operation);
+        QFETCH(QByteArray, content);
+        QFETCH(int, kept);
+        store(m_path, content);
+        QVERIFY(operation(m_path) && contentOf(m_path) != content);
+        for (const Operation once : {&validate, &apply}) {
+            QCOMPARE(copies().size(), kept);
+            QVERIFY(kept == 0 || contentOf(copies().first()) == content);
+            QVERIFY(once(m_path));
         }
     }
 
