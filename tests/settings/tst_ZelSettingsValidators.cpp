@@ -1,4 +1,5 @@
 #include "QtTestCompat.h"
+#include "Rows.h"
 #include "SettingsKeys.h"
 #include "ZelPageDefaults.h"
 #include "ZelSettingsRegistry.h"
@@ -7,61 +8,87 @@
 using namespace zel;
 using V = ZelSettingsValidators;
 using Validator = ZelSettingsRegistry::Validator;
+Q_DECLARE_METATYPE(Validator)
+
+const char* const DefaultRatios = "1/0.75/0.5/0.25/0.1";
 
 class tst_ZelSettingsValidators : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void values()
+    void values_data()
     {
         // Not valid but for ratios: a default is taken as it stands.
-        const QString no = "1/0.75/0.5/0.25/0.1";
+        const QString no = DefaultRatios;
         const QString threads = QString::number(QThread::idealThreadCount());
         const QString longHost = QString("a.").repeated(127) + "a";
         // Values and what they become, alternating.
-        const std::pair<Validator, QStringList> rows[] = {
-            {&V::noOp, {"any; text", "any; text"}},
-            {&V::ensureSettingsVersion, {"7", no}},
-            {&V::ensureBool, {"true", "true", "false", "false", "True", no, "1", no}},
-            {&V::ensureEngine, {"deferred", "deferred", "software", "software", "Deferred", no}},
-            {&V::ensureLogLevel, {"-4", "0", "7", "7", "2147483648", no, "7x", no}},
-            {&V::ensurePositiveInteger,
+        const std::tuple<const char*, Validator, QStringList> rows[] = {
+            {"noOp", &V::noOp, {"any; text", "any; text"}},
+            {"SettingsVersion", &V::ensureSettingsVersion, {"7", no}},
+            {"Bool", &V::ensureBool, {"true", "true", "false", "false", "True", no, "1", no}},
+            {"Engine", &V::ensureEngine, {"deferred", "deferred", "software", "software", "Deferred", no}},
+            {"LogLevel", &V::ensureLogLevel, {"-4", "0", "7", "7", "2147483648", no, "7x", no}},
+            {"PositiveInteger",
+             &V::ensurePositiveInteger,
              {"9223372036854775807", "9223372036854775807", "1", "1", "0", no, "-1", no,
               "9223372036854775808", no}},
-            {&V::ensurePortValue, {"0", "0", "65535", "65535", "65536", no, "-1", no}},
-            {&V::ensureCacheSize, {"10", "10", "10240", "10240", "9", no, "10241", no}},
-            {&V::ensureSimplificationRAM,
+            {"PortValue", &V::ensurePortValue, {"0", "0", "65535", "65535", "65536", no, "-1", no}},
+            {"CacheSize", &V::ensureCacheSize, {"10", "10", "10240", "10240", "9", no, "10241", no}},
+            {"SimplificationRAM",
+             &V::ensureSimplificationRAM,
              {"67108864", "67108864", "67108863", no, "8489271296", "8489271296", "8489271297", no}},
-            {&V::ensureSimplificationThreads, {"8", "1"}},
-            {&V::ensureCoreNumber, {"0", "1", "1000", threads, "one", no}},
-            {&V::ensureTesselationMaxFaceAngle, {"-1", "0", "360", "359", "1.5", no}},
-            {&V::ensureTesselationMaxFaceLength,
+            {"SimplificationThreads", &V::ensureSimplificationThreads, {"8", "1"}},
+            {"CoreNumber", &V::ensureCoreNumber, {"0", "1", "1000", threads, "one", no}},
+            {"TesselationMaxFaceAngle",
+             &V::ensureTesselationMaxFaceAngle,
+             {"-1", "0", "360", "359", "1.5", no}},
+            {"TesselationMaxFaceLength",
+             &V::ensureTesselationMaxFaceLength,
              {"250.5", "100", "-3",    "0", "0.1234567", "0.123457", "1e-3", "0.001", "nan", no,
               "inf",   "100", "1e-50", no,  "1e50",      no,         "1,5",  no,      "",    no}},
-            {&V::ensureTesselationMaxFaceSag, {"100.01", "100", "-3", "0"}},
-            {&V::ensureLODTrianglesCap, {"1", "50000", "500000001", "500000000", "60000", "60000", "-5", no}},
-            {&V::ensureMaxGPUMemory, {"1", "134217728", "8489271297", "8489271296", "much", no}},
-            {&V::ensureMaxCPUMemoryRaytracer, {"1", "134217728", "8489271297", "8489271296"}},
-            {&V::ensureMaxCPUMemory3D, {"1", "134217728", "8489271297", "8489271296"}},
-            {&V::ensureRaytracerQuality, {"Ultra", "Ultra", "Low", "Low", "ultra", no}},
-            {&V::ensureSceneUnit,
+            {"TesselationMaxFaceSag", &V::ensureTesselationMaxFaceSag, {"100.01", "100", "-3", "0"}},
+            {"LODTrianglesCap",
+             &V::ensureLODTrianglesCap,
+             {"1", "50000", "500000001", "500000000", "60000", "60000", "-5", no}},
+            {"MaxGPUMemory",
+             &V::ensureMaxGPUMemory,
+             {"1", "134217728", "8489271297", "8489271296", "much", no}},
+            {"MaxCPUMemoryRaytracer",
+             &V::ensureMaxCPUMemoryRaytracer,
+             {"1", "134217728", "8489271297", "8489271296"}},
+            {"MaxCPUMemory3D", &V::ensureMaxCPUMemory3D, {"1", "134217728", "8489271297", "8489271296"}},
+            {"RaytracerQuality", &V::ensureRaytracerQuality, {"Ultra", "Ultra", "Low", "Low", "ultra", no}},
+            {"SceneUnit",
+             &V::ensureSceneUnit,
              {"0.0105", "0.01", "5", no, "0.0019", "0.001", "999.9995", "1000", "0", no, "1.0", "1", "nan",
               no, "inf", no}},
-            {&V::ensureIpOrHostName,
+            {"IpOrHostName",
+             &V::ensureIpOrHostName,
              {"192.168.1.255", "192.168.1.255", "192.168.1.256", no, "256.1.1", "256.1.1", "my_host", no,
               "a..b.", "a..b.", "", no, longHost, longHost, longHost + "b", no}},
             // Too few; empty parts and those that do not parse are skipped; the kernel corrects the rest.
-            {&V::ensureSimplificationRatios,
+            {"SimplificationRatios",
+             &V::ensureSimplificationRatios,
              {"1/0.5/0.25", no, "1//0.5/0.25/x/0.1/0.05", "1/0.5/0.25/0.1/0.05", "nan/1/0.5/0.25/0.1", no,
               "0.5/2/0.1/0.3/0.001", "1/1/0.1/0.1/0.01"}}};
-        for (const auto& [validator, pairs] : rows) {
-            for (int i = 0; i < pairs.size(); i += 2) {
-                QString value = pairs[i], error;
-                QVERIFY(validator("key", no, value, error) && error.isEmpty());
-                QCOMPARE(pairs[i] + " becomes " + value, pairs[i] + " becomes " + pairs[i + 1]);
-            }
+        addRows({"validator", "pairs"}, rows);
+    }
+
+    void values()
+    {
+        QFETCH(Validator, validator);
+        QFETCH(QStringList, pairs);
+        for (int i = 0; i < pairs.size(); i += 2) {
+            QString value = pairs[i], error;
+            QVERIFY(validator("key", DefaultRatios, value, error) && error.isEmpty());
+            QCOMPARE(pairs[i] + " becomes " + value, pairs[i] + " becomes " + pairs[i + 1]);
         }
+    }
+
+    void defaults()
+    {
         QString value("1/2"), error; // Neither they nor the default are well formed.
         QVERIFY(!V::ensureSimplificationRatios("key", "1/0.5", value, error) && error.isEmpty());
         ZelPageDefaults::Register(QSettings(QString(), QSettings::IniFormat));
@@ -71,41 +98,50 @@ private Q_SLOTS:
         }
     }
 
-    void folders()
+    void folders_data()
     {
         // Below a folder in which "there" is a folder, and "file" a file that no folder can be made in: the
         // value, the default, what comes of it, and the error, or nothing when the validator is to succeed.
-        const std::tuple<Validator, QString, QString, QString, QString> rows[] = {
-            {&V::ensureDMCacheFolder, "there\\", "new", "there", ""},
-            {&V::ensureDMCacheFolder, "gone", "a\\b/", "a/b", ""},
-            {&V::ensureDMCacheFolder, "file", "new", "new", ""},
-            {&V::ensureDMCacheFolder, "there//", "new", "there/", ""},
-            {&V::ensureDMCacheFolder, "gone", "file/b/", "file/b",
+        const std::tuple<const char*, Validator, QString, QString, QString, QString> rows[] = {
+            {"slash at the end", &V::ensureDMCacheFolder, "there\\", "new", "there", ""},
+            {"default with slashes", &V::ensureDMCacheFolder, "gone", "a\\b/", "a/b", ""},
+            {"file in place of the folder", &V::ensureDMCacheFolder, "file", "new", "new", ""},
+            {"two slashes at the end", &V::ensureDMCacheFolder, "there//", "new", "there/", ""},
+            {"default that cannot be created", &V::ensureDMCacheFolder, "gone", "file/b/", "file/b",
              "Could not use the 3D database cache, folder \"%1\" could not be created"},
-            {&V::ensureFile, "there\\log.txt", "new/log", "there/log.txt", ""},
-            {&V::ensureFile, "gone/log", "n\\m/log", "n/m/log", ""},
-            {&V::ensureFile, "gone/log", "file/log", "file/log",
+            {"file in a folder", &V::ensureFile, "there\\log.txt", "new/log", "there/log.txt", ""},
+            {"default for a file", &V::ensureFile, "gone/log", "n\\m/log", "n/m/log", ""},
+            {"file whose folder cannot be created", &V::ensureFile, "gone/log", "file/log", "file/log",
              "Could not use the Torvane log file, file \"%1\" could not be created"},
-            {&V::ensureTmpFolder, "there\\", "deep/made", "there", ""},
-            {&V::ensureTmpFolder, "gone", "made/", "made/", ""},
-            {&V::ensureTmpFolder, "there", "file/x", "file/x", "Could not create compulsory folder \"%1\""}};
-        for (const auto& [validator, before, byDefault, after, failure] : rows) {
-            const QTemporaryDir folder;
-            const QString root = folder.path() + "/", expected = root + after;
-            QVERIFY(QDir(root).mkdir("there") && QFile(root + "file").open(QIODevice::WriteOnly));
-            QString value = root + before, error;
-            const bool good = validator("key", root + byDefault, value, error);
-            QCOMPARE(error, QString(failure).replace("%1", expected));
-            QCOMPARE(good, failure.isEmpty());
-            if (!good)
-                continue;
-            QCOMPARE(value, expected);
-            const bool file = validator == &V::ensureFile;
-            QVERIFY(QFileInfo(file ? QFileInfo(value).path() : value).isDir());
-            QVERIFY(!file || !QFile::exists(value));
-            // The compulsory folder is made in any case.
-            QVERIFY(validator != &V::ensureTmpFolder || QFileInfo(root + byDefault).isDir());
-        }
+            {"temporary folder", &V::ensureTmpFolder, "there\\", "deep/made", "there", ""},
+            {"temporary folder that is gone", &V::ensureTmpFolder, "gone", "made/", "made/", ""},
+            {"temporary folder that cannot be created", &V::ensureTmpFolder, "there", "file/x", "file/x",
+             "Could not create compulsory folder \"%1\""}};
+        addRows({"validator", "before", "byDefault", "after", "failure"}, rows);
+    }
+
+    void folders()
+    {
+        QFETCH(Validator, validator);
+        QFETCH(QString, before);
+        QFETCH(QString, byDefault);
+        QFETCH(QString, after);
+        QFETCH(QString, failure);
+        const QTemporaryDir folder;
+        const QString root = folder.path() + "/", expected = root + after;
+        QVERIFY(QDir(root).mkdir("there") && QFile(root + "file").open(QIODevice::WriteOnly));
+        QString value = root + before, error;
+        const bool good = validator("key", root + byDefault, value, error);
+        QCOMPARE(error, QString(failure).replace("%1", expected));
+        QCOMPARE(good, failure.isEmpty());
+        if (!good)
+            return;
+        QCOMPARE(value, expected);
+        const bool file = validator == &V::ensureFile;
+        QVERIFY(QFileInfo(file ? QFileInfo(value).path() : value).isDir());
+        QVERIFY(!file || !QFile::exists(value));
+        // The compulsory folder is made in any case.
+        QVERIFY(validator != &V::ensureTmpFolder || QFileInfo(root + byDefault).isDir());
     }
 };
 
