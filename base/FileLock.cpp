@@ -64,7 +64,7 @@ bool FileLock::isBlocked() const
         CreateFileW(native(m_path), DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                     OPEN_EXISTING, 0, nullptr);
     if (file == INVALID_HANDLE_VALUE)
-        return GetLastError() != ERROR_SHARING_VIOLATION;
+        return GetLastError() != ERROR_SHARING_VIOLATION && GetLastError() != ERROR_FILE_NOT_FOUND;
     CloseHandle(file);
     return false;
 }

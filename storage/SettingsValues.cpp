@@ -1,9 +1,12 @@
 #include "SettingsValues.h"
 
 #include "IniCodec.h"
+#include "ZelSettingsRegistry.h"
 
 #include <QSettings>
 #include <QStringList>
+
+#include <algorithm>
 
 namespace zel {
 
@@ -32,6 +35,14 @@ bool isSame(const QVariantMap& first, const QVariantMap& second)
         if (other == second.constEnd() || other.key() != value.key() || !isSame(*value, *other))
             return false;
     return other == second.constEnd();
+}
+
+bool lacksRegistered(const QVariantMap& values, const QVariantMap& former)
+{
+    const auto& registered = ZelSettingsRegistry::GetDefaultSettingsValues();
+    return std::any_of(registered.begin(), registered.end(), [&](const auto& entry) {
+        return former.contains(entry.first) && !values.contains(entry.first);
+    });
 }
 
 } // namespace zel

@@ -15,6 +15,10 @@ QVariantMap valuesOf(const QSettings& settings);
 bool isSame(const QVariant& first, const QVariant& second);
 bool isSame(const QVariantMap& first, const QVariantMap& second);
 
+/// True when a registered key is gone, which nobody removes: QSettings takes a file that it cannot read for
+/// an empty one.
+bool lacksRegistered(const QVariantMap& values, const QVariantMap& former);
+
 } // namespace zel
 
 #endif

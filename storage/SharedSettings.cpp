@@ -11,18 +11,16 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QSettings>
-#include <QStringList>
-
-#include <algorithm>
 
 namespace zel {
 
 namespace {
 
-// Properties of settings: true when they hold values that they could not write, and the values that they have
-// read from the file.
+// Properties of settings: true when they hold values that they could not write, the values that they held
+// when they had read the file, and the content of the file then.
 const char* const UnwrittenProperty = "zelUnwritten";
 const char* const ReadProperty = "zelRead";
+const char* const ContentProperty = "zelContent";
 
 const int ClockTick = 2000; // Milliseconds of the coarsest clock that a file system has.
 
@@ -70,10 +68,30 @@ void change(QSettings& settings, const QVariantMap& from, const QVariantMap& to)
     set(settings, wanted);
 }
 
-bool lacksKeys(const QVariantMap& values, const QVariantMap& wanted)
+/// The values that are the same in both.
+QVariantMap common(const QVariantMap& first, const QVariantMap& second)
 {
-    const QStringList keys = wanted.keys();
-    return std::any_of(keys.begin(), keys.end(), [&](const QString& key) { return !values.contains(key); });
+    QVariantMap same;
+    for (auto value = first.constBegin(); value != first.constEnd(); ++value)
+        if (second.contains(value.key()) && isSame(*value, second.value(value.key())))
+            same.insert(value.key(), *value);
+    return same;
+}
+
+/// Adds the values whose keys are missing.
+void addMissing(QVariantMap& values, const QVariantMap& others)
+{
+    for (auto value = others.constBegin(); value != others.constEnd(); ++value)
+        if (!values.contains(value.key()))
+            values.insert(value.key(), *value);
+}
+
+/// What settings hold after others: what is missing has been removed, unless their read has failed.
+QVariantMap withoutLoss(QVariantMap values, const QVariantMap& former)
+{
+    if (lacksRegistered(values, former))
+        addMissing(values, former);
+    return values;
 }
 
 /// Puts a spare copy beside a file, and gives settings what the file holds, to be written by them. False
@@ -125,24 +143,26 @@ void stopWriting(QSettings& settings)
     settings.setProperty(UnwrittenProperty, true);
 }
 
-void noteRead(QSettings& settings)
+void noteRead(QSettings& settings, const QByteArray& content)
 {
     settings.setProperty(ReadProperty, valuesOf(settings));
+    settings.setProperty(ContentProperty, content);
 }
 
-void readAgain(QSettings& settings)
+void readAgain(QSettings& settings, const QByteArray& content)
 {
     // Not sync(), after which QSettings of Qt 4 posts no event any more.
     QEvent update(QEvent::UpdateRequest);
     QCoreApplication::sendEvent(&settings, &update);
     QCoreApplication::removePostedEvents(&settings, QEvent::UpdateRequest); // It would count as pending.
     ZelSettingsFile::UseFileEncoding(settings); // Reading the UTF-8 mark brings Qt's own codec back.
-    noteRead(settings);
+    noteRead(settings, content);
 }
 
 SharedSettings::SharedSettings(QSettings& settings, const Deadline& deadline)
     : m_settings(settings)
     , m_held(valuesOf(settings))
+    , m_known(m_held)
     , m_hasPending(hasPending(settings))
     , m_deadline(deadline)
     , m_isWritten(false)
@@ -158,7 +178,7 @@ SharedSettings::~SharedSettings()
     QString ignored;
     if (m_hasPending)
         stopWriting(m_settings);
-    else if (!writePending(m_held, ignored)) // Then the next write gives them what the file holds.
+    else if (!writePending(m_known, ignored)) // Then the next write gives them what the file holds.
         m_settings.setProperty(ReadProperty, m_held);
 }
 
@@ -169,29 +189,37 @@ void SharedSettings::carryPending(WorkingCopy& copy) const
     // Where they have not been read by us, a value that others have changed since cannot be told from one
     // that was set here.
     const QVariant read = m_settings.property(ReadProperty);
-    const QVariantMap former = read.isValid() ? read.toMap() : valuesOf(copy.settings());
-    QVariantMap present = m_held;
-    if (!read.isValid())
-        for (auto value = former.constBegin(); value != former.constEnd(); ++value)
-            if (!present.contains(value.key()))
-                present.insert(value.key(), *value);
+    QVariantMap former, present = m_held;
+    if (read.isValid() && copy.parse(m_settings.property(ContentProperty).toByteArray(), former)) {
+        former = common(read.toMap(), former);
+        present = withoutLoss(present, former);
+    } else {
+        former = valuesOf(copy.settings());
+        addMissing(present, former);
+    }
     change(copy.settings(), former, present);
+}
+
+void SharedSettings::learn(const QVariantMap& values)
+{
+    for (auto value = values.constBegin(); value != values.constEnd(); ++value)
+        m_known.insert(value.key(), *value);
 }
 
 void SharedSettings::carryOver(QSettings& copy)
 {
     leaveGroups(m_settings);
     leaveGroups(copy);
-    change(copy, m_held, valuesOf(m_settings));
+    change(copy, m_held, withoutLoss(valuesOf(m_settings), m_held));
 }
 
-bool SharedSettings::readWritten(QString& reason)
+bool SharedSettings::readWritten(const QByteArray& content, QString& reason)
 {
     m_isWritten = true;
     if (m_hasPending || hasPending(m_settings))
         return writePending(QVariantMap(), reason) ||
                !SpareCopy(resolvedPath(m_settings.fileName()), m_deadline).exists();
-    readAgain(m_settings);
+    readAgain(m_settings, content);
     return true;
 }
 
@@ -199,12 +227,12 @@ bool SharedSettings::readWritten(QString& reason)
 /// file all the same, and that of Qt 5 changes its rights, so a spare copy stands beside it meanwhile. False,
 /// with the reason, when they have not written, as when the file has lost what they held. There is still a
 /// spare copy then if they have cut the file.
-bool SharedSettings::writePending(const QVariantMap& held, QString& reason)
+bool SharedSettings::writePending(const QVariantMap& known, QString& reason)
 {
     SettingsLock lock(m_settings.fileName(), m_deadline);
     WorkingCopy copy(lock); // What QSettings will write: a part of that shows that the file is cut.
     const SpareCopy spare(lock.target(), m_deadline);
-    if (!lock.takeAndFinish(reason) || !copy.make(held, reason) ||
+    if (!lock.takeAndFinish(reason) || !copy.make(known, reason) ||
         !prepareWriting(m_settings, copy, lock.target(), spare, reason)) {
         stopWriting(m_settings);
         return false;
@@ -212,7 +240,7 @@ bool SharedSettings::writePending(const QVariantMap& held, QString& reason)
     const FileStamp former = stampOf(lock.target());
     const QVariantMap wanted = valuesOf(m_settings);
     lock.release();
-    readAgain(m_settings);
+    readAgain(m_settings, copy.content());
     spare.giveRights();
     const FileStamp present = stampOf(lock.target()); // QSettings does not tell of every failure.
     const bool isWritten = present.size != former.size || present.time != former.time;
@@ -221,11 +249,13 @@ bool SharedSettings::writePending(const QVariantMap& held, QString& reason)
     // room for a lock.
     if (lock.take(reason) == FileLock::Held || !spare.exists())
         return true;
-    // QSettings writes what it has read of the file, even if its read has failed.
-    if (isWritten && lacksKeys(valuesOf(m_settings), wanted)) {
+    // QSettings writes what it has read of the file, even if its read has failed. Others write more than
+    // that.
+    const QVariantMap left = valuesOf(m_settings);
+    if (isWritten && left.size() < wanted.size() && common(left, wanted).size() == left.size()) {
         const bool isRestored = spare.restore(reason);
         lock.release();
-        readAgain(m_settings);
+        readAgain(m_settings, copy.content());
         return isRestored;
     }
     const bool isWhole = spare.restoreIfCut(reason);

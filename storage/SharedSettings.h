@@ -1,6 +1,7 @@
 #ifndef ZEL_SHAREDSETTINGS_H
 #define ZEL_SHAREDSETTINGS_H
 
+#include <QByteArray>
 #include <QString>
 #include <QVariant>
 
@@ -25,11 +26,13 @@ void leaveGroups(QSettings& settings);
 void stopWriting(QSettings& settings);
 
 /// Notes what settings have just read from the file, so that what is set later can be told from what others
-/// have written.
-void noteRead(QSettings& settings);
+/// have written. It is what both hold: QSettings does not tell of a read, or of a write, that has failed.
+/// @param content  of the file, without objects
+void noteRead(QSettings& settings, const QByteArray& content);
 
 /// Reads the file again. QSettings writes what is pending, without protection.
-void readAgain(QSettings& settings);
+/// @param content  of the file, without objects, as it was just read
+void readAgain(QSettings& settings, const QByteArray& content);
 
 /// The settings that a write is asked for. They only read the file. Hosts and pages set values in them all
 /// the same: these are carried into the copy of the file. QSettings cannot forget them, so it is given what
@@ -44,8 +47,11 @@ public:
     /// values were pending before, nothing is written before the next write.
     ~SharedSettings();
 
-    /// What they held before the change.
-    const QVariantMap& held() const { return m_held; }
+    /// What the file has held, as far as that is known: a file that is cut meanwhile is restored with it.
+    const QVariantMap& known() const { return m_known; }
+
+    /// Adds to what is known of the file.
+    void learn(const QVariantMap& values);
 
     /// Sets in a copy of the file what has been set here before the change.
     void carryPending(WorkingCopy& copy) const;
@@ -55,15 +61,17 @@ public:
 
     /// To be called when the file is written, and not under its lock. False, with the reason, when it has not
     /// stayed whole.
-    bool readWritten(QString& reason);
+    /// @param content  what the file holds now
+    bool readWritten(const QByteArray& content, QString& reason);
 
 private:
     Q_DISABLE_COPY(SharedSettings)
 
-    bool writePending(const QVariantMap& held, QString& reason);
+    bool writePending(const QVariantMap& known, QString& reason);
 
     QSettings& m_settings;
-    const QVariantMap m_held;
+    const QVariantMap m_held; ///< What they held before the change.
+    QVariantMap m_known;
     const bool m_hasPending;
     const Deadline& m_deadline;
     bool m_isWritten;

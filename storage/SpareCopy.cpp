@@ -95,7 +95,7 @@ bool SpareCopy::restoreIfCut(QString& reason) const
     if (!readBoth(wanted, present, reason))
         return false;
     if (present != wanted && wanted.startsWith(present))
-        return restore(reason);
+        return putBack(wanted, present, reason);
     remove();
     return true;
 }
@@ -103,8 +103,11 @@ bool SpareCopy::restoreIfCut(QString& reason) const
 bool SpareCopy::restore(QString& reason) const
 {
     QByteArray wanted, present;
-    if (!readBoth(wanted, present, reason))
-        return false;
+    return readBoth(wanted, present, reason) && putBack(wanted, present, reason);
+}
+
+bool SpareCopy::putBack(const QByteArray& wanted, const QByteArray& present, QString& reason) const
+{
     if (!(SettingsFilesAreReplaced && copyRights(m_target, m_path) && replaceFile(m_path, m_target)) &&
         overwrite(present, wanted, reason) != Outcome::InPlace)
         return false;

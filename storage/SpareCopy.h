@@ -49,7 +49,8 @@ public:
     /// is not possible.
     bool restoreIfCut(QString& reason) const;
 
-    /// The same for a file that has lost something, wherever.
+    /// Puts the spare copy in the place of the file, whatever that holds, and removes it. False, with the
+    /// reason, when that is not possible.
     bool restore(QString& reason) const;
 
     /// Gives the file the rights that it had when the spare copy was made.
@@ -59,6 +60,7 @@ public:
 
 private:
     bool readBoth(QByteArray& wanted, QByteArray& present, QString& reason) const;
+    bool putBack(const QByteArray& wanted, const QByteArray& present, QString& reason) const;
 
     const QString m_target;
     const QString m_path;

@@ -52,15 +52,6 @@ void widenFloats(QSettings& settings)
             settings.setValue(value.key(), value->toDouble());
 }
 
-/// True when a registered key is gone.
-bool lacksRegistered(const QVariantMap& values, const QVariantMap& held)
-{
-    const auto& registered = ZelSettingsRegistry::GetDefaultSettingsValues();
-    return std::any_of(registered.begin(), registered.end(), [&](const auto& entry) {
-        return held.contains(entry.first) && !values.contains(entry.first);
-    });
-}
-
 /// The mark of the encoding would make QSettings use Qt's own codec.
 QByteArray withoutMark(const QByteArray& text)
 {
@@ -110,6 +101,7 @@ WorkingCopy::WorkingCopy(const SettingsLock& lock)
     , m_folder(m_target + FolderMark + QString::number(QCoreApplication::applicationPid()))
     , m_exists(false)
     , m_mustBeWritten(false)
+    , m_isWritten(false)
 {
 }
 
@@ -127,7 +119,7 @@ QString WorkingCopy::nextName() const
     return QString("%1/%2.ini").arg(m_folder).arg(++number);
 }
 
-bool WorkingCopy::make(const QVariantMap& held, QString& reason)
+bool WorkingCopy::make(const QVariantMap& known, QString& reason)
 {
     m_exists = exists(m_target);
     if (m_exists && !mayReplace(m_target)) {
@@ -156,14 +148,14 @@ bool WorkingCopy::make(const QVariantMap& held, QString& reason)
         return false;
     }
     m_settings->remove(EndKey);
-    return restoreLost(held, reason);
+    return restoreLost(known, reason);
 }
 
-bool WorkingCopy::restoreLost(const QVariantMap& held, QString& reason)
+bool WorkingCopy::restoreLost(const QVariantMap& known, QString& reason)
 {
     QVariantMap values = valuesOf(*m_settings);
-    if (m_mustBeWritten || m_content.isEmpty() || lacksRegistered(values, held)) {
-        for (auto value = held.constBegin(); value != held.constEnd(); ++value) {
+    if (m_mustBeWritten || m_content.isEmpty() || lacksRegistered(values, known)) {
+        for (auto value = known.constBegin(); value != known.constEnd(); ++value) {
             if (!values.contains(value.key())) {
                 values.insert(value.key(), *value);
                 m_mustBeWritten = true;
@@ -183,6 +175,16 @@ bool WorkingCopy::makeOf(const QVariantMap& values, QString& reason)
     if (!writeFile(m_copy, QByteArray(), reason) || !writeAndCompare(false, reason))
         return false;
     m_settings->remove(EndKey); // A change: what was just read is written again, even if it lacks something.
+    return true;
+}
+
+bool WorkingCopy::parse(const QByteArray& content, QVariantMap& values) const
+{
+    const QString name = nextName();
+    QString ignored;
+    if (!writeFile(name, withoutMark(content), ignored))
+        return false;
+    values = valuesOf(*openSettings(name));
     return true;
 }
 
@@ -222,6 +224,7 @@ bool WorkingCopy::write(QString& reason)
     }
     if (!readOpenFile(copy, m_result, reason))
         return false;
+    m_isWritten = true;
     const bool isGood = settingsDamage(m_result).isEmpty();
     if (!isGood) // As with an object, or with what was left of a longer text.
         reason = lossReason();

@@ -30,9 +30,9 @@ public:
 
     /// Copies the settings file, after a dated copy of it where a write loses something. Lines with
     /// serialised objects are left out. False, with the reason, when the file cannot be read or copied.
-    /// @param held  what the settings hold: what a damaged, empty or cut file has lost comes back from it. A
-    ///     file that lacks a registered key counts as cut.
-    bool make(const QVariantMap& held, QString& reason);
+    /// @param known  what the file has held, as far as that is known: what a damaged, empty or cut file has
+    ///     lost comes back from it. A file that lacks a registered key counts as cut.
+    bool make(const QVariantMap& known, QString& reason);
 
     /// Of the copy. Valid from a successful make() on.
     QSettings& settings() const { return *m_settings; }
@@ -42,6 +42,13 @@ public:
     /// True when the file must be written even if the change sets nothing: QSettings could not write its
     /// content again without a loss, or has lost some.
     bool mustBeWritten() const { return m_mustBeWritten; }
+
+    /// Of the settings file, when it was copied; once the copy is written, of that.
+    const QByteArray& content() const { return m_isWritten ? m_result : m_content; }
+
+    /// Reads the values of a content of the settings file, without objects, after make(). False when there is
+    /// no room for that.
+    bool parse(const QByteArray& content, QVariantMap& values) const;
 
     /// Keeps the content of the settings file as a dated copy; see keepBackup().
     bool keepContent(const QString& loss, QString& reason) const;
@@ -62,7 +69,7 @@ private:
 
     QString nextName() const;
     /// Adds what a damaged, empty or cut file has lost. False, with the reason, when it cannot be kept.
-    bool restoreLost(const QVariantMap& held, QString& reason);
+    bool restoreLost(const QVariantMap& known, QString& reason);
     /// Begins with what QSettings writes of values.
     bool makeOf(const QVariantMap& values, QString& reason);
     /// Writes the values and reads them. False, with the reason, when they are not the same.
@@ -80,6 +87,7 @@ private:
     QByteArray m_result;  ///< Of the copy, once it is written.
     bool m_exists;
     bool m_mustBeWritten;
+    bool m_isWritten;
     std::unique_ptr<QSettings> m_settings;
 };
 

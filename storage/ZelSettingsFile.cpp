@@ -80,22 +80,20 @@ bool makeUsable(QSettings& settings, const Deadline& deadline, QByteArray& conte
     if (!isUsable)
         stopWriting(settings);
     else if (hadObjects && !hasPending(settings))
-        readAgain(settings);
+        readAgain(settings, content);
     return isUsable;
 }
 
 /// One attempt of write(); another one has to follow when it is outdated.
-/// @param known  the values of earlier attempts, with which a file that is cut meanwhile is restored
 Outcome tryWrite(const QString& path, SharedSettings& shared, const ZelSettingsFile::Change& change,
-                 Deadline& deadline, QVariantMap& known, QString& reason, QString& error)
+                 Deadline& deadline, QString& reason, QString& error)
 {
     SettingsLock lock(path, deadline);
     WorkingCopy copy(lock);
-    if (!lock.takeAndFinish(reason) || !copy.make(known, reason))
+    if (!lock.takeAndFinish(reason) || !copy.make(shared.known(), reason))
         return Outcome::Failed;
     const QVariantMap before = valuesOf(copy.settings());
-    for (auto value = before.constBegin(); value != before.constEnd(); ++value)
-        known.insert(value.key(), *value);
+    shared.learn(before);
     shared.carryPending(copy);
     // The change may take long, or let the shared settings write, which then wait for the lock.
     lock.release();
@@ -113,7 +111,7 @@ Outcome tryWrite(const QString& path, SharedSettings& shared, const ZelSettingsF
                       ? copy.put(reason)
                       : Outcome::Failed;
     lock.release();
-    if (outcome == Outcome::InPlace && !shared.readWritten(reason))
+    if (outcome == Outcome::InPlace && !shared.readWritten(copy.content(), reason))
         return Outcome::Failed;
     return outcome;
 }
@@ -134,11 +132,10 @@ bool write(QSettings& settings, const ZelSettingsFile::Change& change, Deadline&
     if (!makeUsable(settings, deadline, content, reason))
         return refuseWriting(path, reason, error);
     SharedSettings shared(settings, deadline);
-    QVariantMap known = shared.held();
     int tries = 0;
     Outcome outcome;
     do
-        outcome = tryWrite(path, shared, change, deadline, known, reason, error);
+        outcome = tryWrite(path, shared, change, deadline, reason, error);
     while (outcome == Outcome::Outdated && ++tries < MaximumTries && deadline.remaining() > 0);
     return outcome == Outcome::InPlace || (outcome != Outcome::GivenUp && refuseWriting(path, reason, error));
 }
@@ -154,7 +151,7 @@ bool readSafely(QSettings& settings, const QByteArray& content, Deadline& deadli
     const bool isLost = content.isEmpty() && !settings.allKeys().isEmpty();
     if (isLost || hasPending(settings))
         return write(settings, &changeNothing, deadline, error);
-    readAgain(settings);
+    readAgain(settings, content);
     return true;
 }
 
@@ -182,11 +179,11 @@ std::unique_ptr<QSettings> ZelSettingsFile::Open(const QString& path)
 {
     QByteArray content;
     QString ignored;
-    const bool hasValues = readFile(path, content, ignored) && !holdsObjects(content);
+    const bool mayBeDecoded = readFile(path, content, ignored) && !holdsObjects(content);
     auto settings = std::make_unique<ProtectedSettings>(path);
     UseFileEncoding(*settings);
-    if (hasValues) // QSettings would decode objects.
-        noteRead(*settings);
+    if (mayBeDecoded)
+        noteRead(*settings, content);
     return settings;
 }
 

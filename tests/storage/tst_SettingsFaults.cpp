@@ -22,6 +22,7 @@
 #include <sched.h>
 #include <stdexcept>
 #include <sys/mount.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -216,6 +217,7 @@ private Q_SLOTS:
     void init()
     {
         using Registry = ZelSettingsRegistry;
+        missing = 0;
         Registry::ClearSettingsValues();
         Registry::RegisterSetting(keys::CacheSize, "4096", &ZelSettingsValidators::ensureCacheSize);
         Registry::RegisterSetting(keys::SettingsVersion, "2", &ZelSettingsValidators::ensureSettingsVersion);
@@ -331,7 +333,8 @@ private Q_SLOTS:
                     faultAtCall = NoFault;
                     if (isWrittenAgain ? !write(*settings, {}) : (settings.reset(), false))
                         return false;
-                    if (!holds({"[page]\nkey=1\n", "[host]\nkey=1\n", isDone ? "[new]\nkey=1\n" : ""}))
+                    if (!holds({"[page]\nkey=1\n", "[host]\nkey=1\n", isDone ? "[new]\nkey=1\n" : "",
+                                isDone ? "\nnew=1\n" : ""}))
                         return false;
                     return callsLeft < 0 || (::_exit(NotReached), false);
                 }));
@@ -417,7 +420,6 @@ private Q_SLOTS:
             QLockFile other(path);
             QVERIFY(other.tryLock(0) && lock.take(100) == FileLock::Held);
         }
-        missing = 0;
     }
 #endif
 
@@ -552,6 +554,55 @@ private Q_SLOTS:
         QVERIFY(write(*settings, {{"page/key", 8}}) && !hasPending(*settings));
         settings->sync();
         QVERIFY(holds({"[page]\nkey=8\n", "[host]\nkey=99\n"}));
+    }
+
+    void nothingIsLostWhereQSettingsFails_data()
+    {
+        const std::tuple<const char*, int, bool> rows[] = {
+            {"reads before the change", RLIMIT_NOFILE, false},
+            {"reads during the change", RLIMIT_NOFILE, true},
+            {"writes what a host has set", RLIMIT_FSIZE, false}};
+        addRows({"limited", "isDuring"}, rows);
+    }
+
+    void nothingIsLostWhereQSettingsFails()
+    {
+        QFETCH(int, limited);
+        QFETCH(bool, isDuring);
+        ::signal(SIGXFSZ, SIG_IGN);
+        store(m_path, "[General]\nsettingsVersion=2\n[page]\nkey=1\n" + Foreign);
+        const auto settings = ZelSettingsFile::Open(m_path);
+        const auto failAndSet = [&] {
+            rlimit usual, none;
+            QVERIFY(::getrlimit(__rlimit_resource_t(limited), &usual) == 0);
+            none = usual;
+            none.rlim_cur = 0;
+            ::setrlimit(__rlimit_resource_t(limited), &none);
+            QEvent update(QEvent::UpdateRequest); // QSettings reads the file again.
+            if (limited == RLIMIT_NOFILE) {
+                QCoreApplication::sendEvent(settings.get(), &update);
+            } else {
+                QCoreApplication::sendPostedEvents(settings.get(), 0);
+                ZelSettingsFile::ReadAgain(*settings, error);
+            }
+            ::setrlimit(__rlimit_resource_t(limited), &usual);
+            settings->setValue("other/key", 1);
+        };
+        if (limited == RLIMIT_FSIZE) // QSettings of Qt 4 cuts the file first.
+            settings->setValue("host/key", 1);
+        else
+            store(m_path, contentOf(m_path) + "[late]\nkey=1\n");
+        if (!isDuring)
+            failAndSet();
+        const auto change = [&](QSettings& copy, QString&) {
+            copy.setValue("new/key", 1);
+            if (isDuring)
+                failAndSet();
+            return true;
+        };
+        QVERIFY2(ZelSettingsFile::Write(*settings, change, error), qPrintable(error));
+        QVERIFY(holds({"[new]\nkey=1\n", "[other]\nkey=1\n", "[page]\nkey=1\n"}));
+        QVERIFY(holds({limited == RLIMIT_FSIZE ? "[host]\nkey=1\n" : "[late]\nkey=1\n"}));
     }
 
     void olderValuesDoNotReplaceNewerOnes()
