@@ -195,9 +195,7 @@ private Q_SLOTS:
              [&] { return QFile::remove(folder) && QDir().rename(aside, folder); }}};
         for (const auto& [block, clear] : obstacles) {
             size->setValue(size->value() + 1);
-            auto* cache = m_folders->findChild<QPushButton*>("databaseButton");
-            cache->setToolTip(cache->toolTip() + "/another"); // It would need a restart.
-            QVERIFY(block() && !m_controlCenter->applyModifications());
+            QVERIFY(block());
             m_controlCenter->setControlCenterVisible(true); // It is already: nothing is loaded again.
             EventCounter counter;
             error->installEventFilter(&counter);
@@ -214,6 +212,16 @@ private Q_SLOTS:
             QVERIFY(!canApply() && error->isHidden() && error->text().isEmpty());
             QVERIFY(contentOf(file).contains("cacheSize=" + QByteArray::number(size->value()) + '\n'));
         }
+        addPages(1); // What is not stored needs no restart.
+        m_pages[0]->needsRestart = true;
+        m_pages[0]->edit();
+        m_pages[0]->whenAsked = [&] {
+            if (m_calls.contains("P0 apply") && QDir().mkpath(file + ".lock"))
+                settings.setValue("P0/key", 1);
+        };
+        const bool mustRestart = m_controlCenter->applyModifications();
+        m_pages[0]->whenAsked = [] {};
+        QVERIFY(!mustRestart && error->isVisible());
     }
 
     void tellsAndAsksInsideTheViewerOnly()
