@@ -26,8 +26,15 @@ const uid_t OtherUser = 65534;
 const QStringList AsOther = {"30000", "65534"};
 #endif
 
-struct Process : Program
+/// Killed with the object, by a signal that it cannot catch.
+struct Process : QProcess
 {
+    ~Process() override
+    {
+        kill();
+        waitForFinished();
+    }
+
     QByteArray line()
     {
         while (!canReadLine()) {

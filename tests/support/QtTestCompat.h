@@ -19,10 +19,6 @@
 
 const QProcess::ProcessChannelMode ForwardedErrors = QProcess::ForwardedErrorChannel;
 
-/// Empty when it is no object.
-const auto readJson = [](const QByteArray& json) {
-    return QJsonDocument::fromJson(json).object().toVariantMap();
-};
 const auto idOf = [](const QProcess& process) { return process.processId(); };
 
 #    if defined(QT_WIDGETS_LIB)
@@ -153,41 +149,6 @@ bool qWaitFor(const Condition& condition, int timeout = 5000)
 
 } // namespace QTest
 
-/// Takes one value off the tokens of the JSON that the checker writes. Null when there is none.
-inline QVariant takeJson(QStringList& tokens)
-{
-    const QString first = tokens.isEmpty() ? QString("null") : tokens.takeFirst();
-    QVariantMap map;
-    QVariantList list;
-    while (first == "{" && !tokens.isEmpty() && tokens.first() != "}") {
-        const QString name = takeJson(tokens).toString();
-        map[name] = takeJson(tokens);
-    }
-    while (first == "[" && !tokens.isEmpty() && tokens.first() != "]")
-        list << takeJson(tokens);
-    if (first == "{" || first == "[")
-        return tokens.removeOne(first == "{" ? "}" : "]"), first == "{" ? QVariant(map) : QVariant(list);
-    if (!first.startsWith('"'))
-        return first == "null" ? QVariant() : QVariant(first);
-    QString value("");
-    for (int i = 1; i < first.size() - 1; ++i) {
-        const bool isEscape = first[i] == '\\', isCode = isEscape && first[i + 1] == 'u';
-        value += isCode ? QChar(first.mid(i + 2, 4).toUShort(nullptr, 16)) : first[i + isEscape];
-        i += isCode ? 5 : isEscape;
-    }
-    return value;
-}
-
-inline QVariantMap readJson(const QByteArray& json)
-{
-    const QString text = QString::fromUtf8(json, json.size());
-    const QRegExp token("\"([^\"\\\\]|\\\\.)*\"|[\\[\\]{}]|[a-z]+");
-    QStringList tokens;
-    for (int at = 0; (at = token.indexIn(text, at)) >= 0; at += token.matchedLength())
-        tokens << token.cap();
-    return takeJson(tokens).toMap();
-}
-
 #    if defined(QT_GUI_LIB)
 /// Where the system delivers the input of a window: to the widgets in it.
 struct WindowInput
@@ -312,16 +273,6 @@ inline void mouseClick(const WindowInput& input, Qt::MouseButton button, Qt::Key
 #    endif
 
 #endif
-
-/// Killed with the object, by a signal that it cannot catch.
-struct Program : QProcess
-{
-    ~Program() override
-    {
-        kill();
-        waitForFinished();
-    }
-};
 
 /// Calls a function once, while it lives.
 struct Later : QTimer
