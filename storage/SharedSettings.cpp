@@ -112,6 +112,26 @@ bool prepareWriting(QSettings& settings, WorkingCopy& copy, const QString& targe
     return true;
 }
 
+/// Lets settings write what is pending. False when the file is as before: QSettings does not tell of every
+/// failure.
+/// @param content  what the file then holds, without objects
+bool letWrite(QSettings& settings, const QString& target, const QByteArray& content)
+{
+    const FileStamp former = stampOf(target);
+    readAgain(settings, content);
+    const FileStamp present = stampOf(target);
+    const bool isWritten = present.size != former.size || present.time != former.time;
+    settings.setProperty(UnwrittenProperty, !isWritten);
+    return isWritten;
+}
+
+/// True when settings have lost values and changed none: a read of QSettings has failed, and it has written
+/// the rest. Others write more than that.
+bool isPart(const QVariantMap& left, const QVariantMap& former)
+{
+    return left.size() < former.size() && common(left, former).size() == left.size();
+}
+
 } // namespace
 
 void leaveGroups(QSettings& settings)
@@ -237,30 +257,23 @@ bool SharedSettings::writePending(const QVariantMap& known, QString& reason)
         stopWriting(m_settings);
         return false;
     }
-    const FileStamp former = stampOf(lock.target());
     const QVariantMap wanted = valuesOf(m_settings);
     lock.release();
-    readAgain(m_settings, copy.content());
+    const bool isWritten = letWrite(m_settings, lock.target(), copy.content());
     spare.giveRights();
-    const FileStamp present = stampOf(lock.target()); // QSettings does not tell of every failure.
-    const bool isWritten = present.size != former.size || present.time != former.time;
-    m_settings.setProperty(UnwrittenProperty, !isWritten);
     // If another program has taken the lock, the next of us brings the file to its end. A full disk has no
     // room for a lock.
     if (lock.take(reason) == FileLock::Held || !spare.exists())
         return true;
-    // QSettings writes what it has read of the file, even if its read has failed. Others write more than
-    // that.
-    const QVariantMap left = valuesOf(m_settings);
-    if (isWritten && left.size() < wanted.size() && common(left, wanted).size() == left.size()) {
+    if (isWritten && isPart(valuesOf(m_settings), wanted)) {
         const bool isRestored = spare.restore(reason);
         lock.release();
         readAgain(m_settings, copy.content());
         return isRestored;
     }
+    const FileStamp present = stampOf(lock.target());
     const bool isWhole = spare.restoreIfCut(reason);
-    const FileStamp last = stampOf(lock.target());
-    if (!isWhole || last.size != present.size) // QSettings takes what was cut for written.
+    if (!isWhole || stampOf(lock.target()).size != present.size) // QSettings takes what was cut for written.
         m_settings.setProperty(UnwrittenProperty, true);
     return isWhole;
 }
