@@ -331,10 +331,14 @@ private Q_SLOTS:
                     };
                     const bool isDone = ZelSettingsFile::Write(*settings, change, error);
                     faultAtCall = NoFault;
+                    const QByteArray left = contentOf(m_path);
+                    const bool isCut = !left.contains("[page]\nkey=1\n");
+                    if (!isCut) // Another program writes.
+                        store(m_path, QByteArray(left).replace("[page]\nkey=1\n", "[page]\nkey=2\n"));
                     if (isWrittenAgain ? !write(*settings, {}) : (settings.reset(), false))
                         return false;
-                    if (!holds({"[page]\nkey=1\n", "[host]\nkey=1\n", isDone ? "[new]\nkey=1\n" : "",
-                                isDone ? "\nnew=1\n" : ""}))
+                    if (!holds({isCut ? "[page]\nkey=1\n" : "[page]\nkey=2\n", "[host]\nkey=1\n",
+                                isDone ? "[new]\nkey=1\n" : "", isDone ? "\nnew=1\n" : ""}))
                         return false;
                     return callsLeft < 0 || (::_exit(NotReached), false);
                 }));
@@ -809,6 +813,7 @@ private Q_SLOTS:
             const auto settings = ZelSettingsFile::Open(m_path);
             settings->setValue("host/key", QString(30000, 'z'));
             QVERIFY(!write(*settings, {{"new/key", 1}}));
+            QCoreApplication::sendPostedEvents(settings.get(), 0);
             QCOMPARE(contentOf(m_path), Foreign);
             QVERIFY(filler.remove());
             QVERIFY2(write(*settings, {{"new/key", 1}}), qPrintable(error));
