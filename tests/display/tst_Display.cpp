@@ -1,3 +1,4 @@
+#include "Rows.h"
 #include "ShownPage.h"
 #include "ZelRendererSelector.h"
 #include "ZelRendererSettingsPanel.h"
@@ -47,7 +48,16 @@ struct DisplayPage : ShownPage<Page>
     QString text(const char* name) { return find<QLabel>(name)->text(); }
 };
 
+/// What decides about a restart.
+struct Choice
+{
+    QString engine;
+    int cores, quality;
+};
+
 } // namespace
+
+Q_DECLARE_METATYPE(Choice)
 
 /// The display page, and the selector that asks for the renderer.
 class tst_Display : public QObject
@@ -118,34 +128,47 @@ private Q_SLOTS:
         QCOMPARE(texts, QString("Meter (m) 1000(mm) 100(cm) 10(dm) 1(m) 0.1(dam) 0.01(hm) 0.001(km)"));
     }
 
+    void restarts_data()
+    {
+        // The running raytracer has 2 cores and quality 1.
+        const QString gpu("deferred"), cpu("software");
+        const std::tuple<const char*, QString, Choice, Choice, bool> rows[] = {
+            {"to the raytracer", gpu, {gpu, 2, 1}, {cpu, 2, 1}, true},
+            {"from the raytracer", cpu, {cpu, 2, 1}, {gpu, 2, 1}, true},
+            {"back to the running GPU", gpu, {cpu, 2, 1}, {gpu, 2, 1}, false},
+            {"back to the running raytracer", cpu, {gpu, 2, 1}, {cpu, 2, 1}, false},
+            {"cores that the GPU does not use", gpu, {gpu, 2, 1}, {gpu, 3, 1}, false},
+            {"cores", cpu, {cpu, 2, 1}, {cpu, 1, 1}, true},
+            {"cores of the raytracer to come", gpu, {cpu, 2, 1}, {cpu, 1, 1}, true},
+            {"cores beside another quality", cpu, {cpu, 2, 2}, {cpu, 1, 2}, true},
+            {"back to the running cores", cpu, {cpu, 1, 2}, {cpu, 2, 2}, false},
+            {"quality", cpu, {cpu, 2, 1}, {cpu, 2, 3}, true},
+            {"quality beside other cores", cpu, {cpu, 3, 3}, {cpu, 3, 0}, true},
+            {"back to the running quality", cpu, {cpu, 3, 0}, {cpu, 3, 1}, false},
+        };
+        addRows({"running", "stored", "chosen", "needed"}, rows);
+    }
+
     void restarts()
     {
-        // The engine at the start, the stored one, and steps: an engine, or a slider, its position and a box;
-        // "!" needs a restart.
-        const QString rows[][3] = {
-            {"deferred", "deferred",
-             "raytracer!,cores 0!,quality 3!,cores 1,deferred,cores 2 FXAA,raytracer!"},
-            {"deferred", "software", "deferred"}, // Back to the running renderer.
-            {"software", "software",
-             "cores 0!,cores 1,cores 2!,quality 2!,cores 0!,quality 1,cores 1,quality 0!"},
-            {"software", "software", "deferred!,raytracer"}};
-        for (const auto& [started, stored, steps] : rows) {
-            Viewer viewer({{"engine", started}, {"raytracer/coreNumber", "2"}});
-            DisplayPage display(viewer);
-            store(viewer.getSettings(), {{"engine", stored}});
-            display.page.initializeWidget();
-            for (const QString& step : steps.split(',')) {
-                const QStringList words = step.section('!', 0, 0).split(' ');
-                if (words.size() > 1)
-                    display.slide(words[0] == "cores" ? "coreUsedSlider" : "qualitySlider", words[1].toInt());
-                else
-                    display.click(words[0] + "Button");
-                if (words.size() > 2)
-                    display.click("deferred" + words[2] + "CheckBox");
-                QVERIFY2(display.page.hasModifications(), qPrintable(step));
-                QVERIFY2(display.page.applyModifications() == step.endsWith('!'), qPrintable(step));
-            }
-        }
+        QFETCH(QString, running);
+        QFETCH(Choice, stored);
+        QFETCH(Choice, chosen);
+        QFETCH(bool, needed);
+        Viewer viewer({{"engine", running}, {"raytracer/coreNumber", "2"}});
+        DisplayPage display(viewer);
+        const QString quality = QString("Low Medium High Ultra").section(' ', stored.quality, stored.quality);
+        store(viewer.getSettings(), {{"engine", stored.engine},
+                                     {"raytracer/coreNumber", QString::number(stored.cores)},
+                                     {"raytracer/quality", quality}});
+        display.page.initializeWidget();
+        display.slide("coreUsedSlider", chosen.cores - 1);
+        display.slide("qualitySlider", chosen.quality);
+        display.click(chosen.engine == "deferred" ? "deferredButton" : "raytracerButton");
+        if (chosen.engine == "deferred")
+            display.click("deferredFXAACheckBox"); // Which needs none.
+        QVERIFY(display.page.hasModifications());
+        QCOMPARE(display.page.applyModifications(), needed);
     }
 
     void showsTheEnginesOwnFrames()

@@ -1,3 +1,4 @@
+#include "Rows.h"
 #include "SettingsKeys.h"
 #include "ShownPage.h"
 #include "Version.h"
@@ -147,13 +148,18 @@ private Q_SLOTS:
         General page(m_application.get(), settings());
         choose(page, "databaseButton", QString());
         QVERIFY(page.changes.isEmpty() && !page.page.hasModifications());
-        // Only another cache folder than the running one needs a restart, "!".
         page.page.resize(600, page.page.height());
         const QString longName = QString("long/").repeated(30) + "end";
-        for (const QString& step : ("b! " + longName + "! cache cache b! b").split(' ')) {
-            const QString chosen = folder(step.section('!', 0, 0));
+        // Only another cache folder than the running one needs a restart, and that once.
+        for (const auto& [name, restarts] : {std::make_pair(QString("other"), true),
+                                             {longName, true},
+                                             {"cache", false},
+                                             {"cache", false},
+                                             {"other", true},
+                                             {"other", false}}) {
+            const QString chosen = folder(name);
             choose(page, "databaseButton", chosen);
-            QCOMPARE(page.page.applyModifications(), step.endsWith('!'));
+            QCOMPARE(page.page.applyModifications(), restarts);
             QCOMPARE(stored(keys::CacheDirectory), chosen);
             const auto* button = page.find<QPushButton>("databaseButton");
             for (const int width : {435, 600}) {
@@ -422,44 +428,49 @@ private Q_SLOTS:
                                                "true 20 false 10 false 0.1 false false 1000 false true true "
                                                "%1 Medium ")
                                            .arg(QThread::idealThreadCount()));
+    }
+
+    void defaultsOfTheHost_data()
+    {
+        const QString folder = QString::fromUtf8("/\303\274");
+        const QVariant list = QStringList({"/a", "b"}); // As a comma without quotes.
+        const std::tuple<const char*, QString, QVariant, QString, QString> rows[] = {
+            {"cores", keys::CoreNumber, "many", QString::number(QThread::idealThreadCount()), "be \"many\""},
+            {"check box", keys::UseEdgeDetection, "yes", "false", "useED\" cannot be \"yes\""},
+            {"unit", keys::SceneUnits, "7", "1000", "sceneUnits\" cannot be \"7\""},
+            {"angle", keys::MaxFaceAngle, "90.5", "20", "cannot be \"90.5\""},
+            {"no text", keys::UseSsao, "", "true", "useSSAO\" cannot be \"\""},
+            {"ratios", keys::SimplificationRatios, "1/0.5", DefaultRatios, "cannot be \"1/0.5\""},
+            {"list", keys::ScreenshotFolder, list, "", "ImageFolder\" cannot be \"/a, b\""},
+            {"of no page", "unknown", "1", {}, "no page has a setting \"unknown\""},
+            {"repaired", keys::TrianglesCap, "1", "50000", {}},
+            {"folder", keys::ScreenshotFolder, folder, folder, {}},
+            {"registered before", keys::RaytracerQuality, "Ultra", "Low", {}},
+            {"cut file", "", QVariant(), {}, "cannot be read to its end"},
+        };
+        addRows({"key", "value", "registered", "logged"}, rows);
+    }
+
+    void defaultsOfTheHost()
+    {
+        QFETCH(QString, key);
+        QFETCH(QVariant, value);
+        QFETCH(QString, registered);
+        QFETCH(QString, logged);
         ZelSettingsRegistry::ClearSettingsValues();
+        ZelSettingsRegistry::RegisterSetting(keys::RaytracerQuality, "Low", &ZelSettingsValidators::noOp);
         const QTemporaryDir folder;
         MTLogger::InstallFileHandler(folder.filePath("log.txt").toStdString(), false, "");
+        store(folder.filePath("Defaults.ini"), value.isValid() ? "" : "[cut\n");
         QSettings defaults(folder.filePath("Defaults.ini"), QSettings::IniFormat);
-        defaults.setValue(keys::ScreenshotFolder, QStringList({"/a", "b"})); // As a comma without quotes.
+        if (value.isValid())
+            defaults.setValue(key, value);
         ZelPageDefaults::Register(defaults);
-        QCOMPARE(ZelSettingsRegistry::GetDefaultSettingsValue(keys::ScreenshotFolder), QString(""));
-        ZelSettingsRegistry::ClearSettingsValues();
-
-        // Key, text, and what is registered; a null text where nothing is.
-        const QString folderName = QString::fromUtf8("/\303\274");
-        const QString rows[][3] = {
-            {"raytracer/coreNumber", "many", QString::number(QThread::idealThreadCount())},
-            {"Resources/LODTrianglesCap", "1", "50000"},
-            {"deferred/useED", "yes", "false"},
-            {"deferred/sceneUnits", "7", "1000"},
-            {"Tesselation/TesselationMaxFaceAngle", "90.5", "20"},
-            {"deferred/useSSAO", "", "true"},
-            {"Simplification/Ratios", "1/0.5", DefaultRatios},
-            {"screenshot/ImageFolder", folderName, folderName},
-            {"raytracer/quality", "Ultra", "Low"}, // Registered before.
-            {"unknown", "1", {}}};
-        ZelSettingsRegistry::RegisterSetting("raytracer/quality", "Low", &ZelSettingsValidators::noOp);
-        for (const auto& [key, text, registered] : rows)
-            defaults.setValue(key, text);
-        ZelPageDefaults::Register(defaults);
-        store(folder.filePath("cut"), "[x\n");
-        ZelPageDefaults::Register(QSettings(folder.filePath("cut"), QSettings::IniFormat));
         MTLogger::RemoveFileHandler();
         const QString log = contentOf(folder.filePath("log.txt"));
-        QVERIFY2(!log.contains("no page has a setting \"deferred"), qPrintable(log));
-        for (const char* text : {"ImageFolder\" cannot be \"/a, b\"", "useED\" cannot be \"yes\"",
-                                 "no page has a setting \"unknown\"", "cut: cannot be read to its end"})
-            QVERIFY2(log.contains(text), qPrintable(log));
-        for (const auto& [key, text, registered] : rows) {
-            QCOMPARE(ZelSettingsRegistry::GetDefaultSettingsValue(key), registered);
-            QCOMPARE(ZelSettingsRegistry::GetDefaultSettingsValue(key).isNull(), registered.isNull());
-        }
+        QVERIFY2(log.contains(logged) && log.isEmpty() == logged.isEmpty(), qPrintable(log));
+        const QString used = ZelSettingsRegistry::GetDefaultSettingsValue(key);
+        QVERIFY2(used == registered && used.isNull() == registered.isNull(), qPrintable(used));
     }
 };
 

@@ -1,4 +1,5 @@
 #include "Files.h"
+#include "Rows.h"
 #include "ShownPage.h"
 #include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
@@ -326,31 +327,42 @@ private Q_SLOTS:
         }
     }
 
+    void edgesAndCornersResize_data()
+    {
+        const std::tuple<const char*, QPoint, QPoint, int, QRect> rows[] = {
+            {"left", {4, 250}, {-20, 7}, Qt::SizeHorCursor, {10, 40, 760, 500}},
+            {"right", {735, 250}, {10, 7}, Qt::SizeHorCursor, {30, 40, 750, 500}},
+            {"top", {300, 4}, {7, -30}, Qt::SizeVerCursor, {30, 10, 740, 530}},
+            {"bottom", {300, 495}, {7, 30}, Qt::SizeVerCursor, {30, 40, 740, 530}},
+            {"top left", {3, 13}, {10, 20}, Qt::SizeFDiagCursor, {40, 60, 730, 480}},
+            {"bottom right", {726, 497}, {10, 20}, Qt::SizeFDiagCursor, {30, 40, 750, 520}},
+            {"top right", {736, 9}, {10, 20}, Qt::SizeBDiagCursor, {30, 60, 750, 480}},
+            {"bottom left", {9, 497}, {10, 20}, Qt::SizeBDiagCursor, {40, 40, 730, 520}},
+            {"to menu, drawer and frame", {2, 250}, {300, 0}, Qt::SizeHorCursor, {68, 40, 702, 500}},
+            {"to the end of the screen", {300, 498}, {0, 700}, Qt::SizeVerCursor, {30, 40, 740, 600}},
+            {"to the least height", {300, 498}, {0, -700}, Qt::SizeVerCursor, {30, 40, 740, 300}},
+            {"beside the edge", {5, 250}, {10, 10}, Qt::ArrowCursor, {30, 40, 740, 500}},
+        };
+        addRows({"press", "way", "pointer", "result"}, rows);
+    }
+
     void edgesAndCornersResize()
     {
+        QFETCH(QPoint, press);
+        QFETCH(QPoint, way);
+        QFETCH(int, pointer);
+        QFETCH(QRect, result);
         const QRect start(30, 40, 740, 500);
-        // Where the mouse presses, how far it moves, its cursor, and the window's new geometry.
-        const std::tuple<QPoint, QPoint, Qt::CursorShape, QRect> rows[] = {
-            {{4, 250}, {-20, 7}, Qt::SizeHorCursor, {10, 40, 760, 500}},
-            {{735, 250}, {10, 7}, Qt::SizeHorCursor, {30, 40, 750, 500}},
-            {{300, 4}, {7, -30}, Qt::SizeVerCursor, {30, 10, 740, 530}},
-            {{300, 495}, {7, 30}, Qt::SizeVerCursor, {30, 40, 740, 530}},
-            {{3, 13}, {10, 20}, Qt::SizeFDiagCursor, {40, 60, 730, 480}},
-            {{726, 497}, {10, 20}, Qt::SizeFDiagCursor, {30, 40, 750, 520}},
-            {{736, 9}, {10, 20}, Qt::SizeBDiagCursor, {30, 60, 750, 480}},
-            {{9, 497}, {10, 20}, Qt::SizeBDiagCursor, {40, 40, 730, 520}},
-            {{2, 250}, {300, 0}, Qt::SizeHorCursor, {68, 40, 702, 500}}, // Menu, drawer and frame.
-            {{300, 498}, {0, 700}, Qt::SizeVerCursor, {30, 40, 740, 600}},
-            {{300, 498}, {0, -700}, Qt::SizeVerCursor, {30, 40, 740, 300}},
-            {{5, 250}, {10, 10}, Qt::ArrowCursor, start},
-        };
-        for (const auto& [press, way, pointer, result] : rows) {
-            m_window.setGeometry(start);
-            QTest::mouseMove(inputOf(&m_window), press);
-            QCOMPARE(m_window.cursor().shape(), pointer);
-            drag(m_window, press, way, start.topLeft() + press + way - result.topLeft());
-            QCOMPARE(m_window.geometry(), result);
-        }
+        m_window.setGeometry(start);
+        QTest::mouseMove(inputOf(&m_window), press);
+        QCOMPARE(int(m_window.cursor().shape()), pointer);
+        drag(m_window, press, way, start.topLeft() + press + way - result.topLeft());
+        QCOMPARE(m_window.geometry(), result);
+    }
+
+    void edgesAreLeftAlone()
+    {
+        const QRect start(30, 40, 740, 500);
         m_window.setGeometry(start);
         QTest::mouseMove(inputOf(&m_window), QPoint(2, 250));
         for (QWidget* left : {m_window.childAt(2, 250), window}) {
@@ -397,19 +409,31 @@ private Q_SLOTS:
             QTRY_COMPARE(window.geometry(), start == 1 ? usual : place);
             window.close();
         }
-        const std::pair<QByteArray, QRect> rows[] = {
-            {"0 0 800 600 -500 900 3000 400 0\n", {0, 200, 800, 400}},
-            {"0 0 800 600 20 30 720 400 0\n", place},
-            {"0 0 800 600 20 30 720 400\n", usual},
-            {"0 0 1920 1080 20 30 720 400 0\n", usual},
-            {"geometry=@Variant(\\x0\\x0\\x0\\xb\\x7f\\xff\\xff\\xff)\n", usual}};
-        for (const auto& [text, opened] : rows) {
-            store(file, text);
-            QCOMPARE(NextWindow(application).geometry(), opened);
-        }
         QVERIFY(QFile::remove(file) && QDir().mkdir(file)); // It cannot be replaced, and nothing is left.
         NextWindow(application).close();
         QVERIFY(QFileInfo(file).dir().entryList(QStringList("Window.ini.*")).isEmpty());
+    }
+
+    void opensWhereItCanBeSeen_data()
+    {
+        const QRect usual(0, 0, 800, 600);
+        const std::tuple<const char*, QByteArray, QRect> rows[] = {
+            {"closed there", "0 0 800 600 20 30 720 400 0\n", {20, 30, 720, 400}},
+            {"partly off the screen", "0 0 800 600 -500 900 3000 400 0\n", {0, 200, 800, 400}},
+            {"another screen", "0 0 1920 1080 20 30 720 400 0\n", usual},
+            {"a number is missing", "0 0 800 600 20 30 720 400\n", usual},
+            {"no numbers", "geometry=@Variant(\\x0\\x0\\x0\\xb\\x7f\\xff\\xff\\xff)\n", usual},
+        };
+        addRows({"text", "opened"}, rows);
+    }
+
+    void opensWhereItCanBeSeen()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QRect, opened);
+        FakeApplication application;
+        store(QFileInfo(application.getSettings().fileName()).path() + "/Window.ini", text);
+        QCOMPARE(NextWindow(application).geometry(), opened);
     }
 
     void comesBackFromALostScreen()
