@@ -1,6 +1,6 @@
 // A program that runs once. It is "ready" first, and when its standard input ends, it tells which part it
 // plays: the instance shows the messages that it gets, a client sends what was on its standard input.
-//   single_instance <time-out of sending in milliseconds> [<id of the user to become>]
+//   single_instance <time-out of sending in milliseconds>
 
 #include "QtSingleApplication.h"
 
@@ -9,22 +9,7 @@
 #if defined(_WIN32)
 #    include <fcntl.h>
 #    include <io.h>
-#else
-#    include <grp.h>
-#    include <sys/prctl.h>
-#    include <unistd.h>
 #endif
-
-/// By itself, because another user may not be able to start it where it is.
-static bool becomeUser(uint user)
-{
-#if defined(_WIN32)
-    return user == 0;
-#else
-    return ::setgroups(0, nullptr) == 0 && ::setgid(user) == 0 && ::setuid(user) == 0 &&
-           ::prctl(PR_SET_DUMPABLE, 1) == 0; // Else it could not even find out its own path.
-#endif
-}
 
 static void tell(const QByteArray& line)
 {
@@ -45,8 +30,6 @@ int main(int argc, char** argv)
 #if defined(_WIN32)
     _setmode(_fileno(stdin), _O_BINARY);
 #endif
-    if (argc > 2 && !becomeUser(QByteArray(argv[2]).toUInt()))
-        return 2;
     QtSingleApplication application(argc, argv);
     QFile input;
     tell("ready");

@@ -22,8 +22,6 @@ const QStringList Patient = {"30000"};
 const int Starts = 40; // Each brings all of a graphical program with it.
 #else
 const int Starts = 100; // Qt 4.8 cannot wait for more than 1024 pipes.
-const uid_t OtherUser = 65534;
-const QStringList AsOther = {"30000", "65534"};
 #endif
 
 /// Killed with the object, by a signal that it cannot catch.
@@ -251,10 +249,15 @@ private Q_SLOTS:
         // A path of 108 bytes is too long for a socket.
         const QString tooLong = m_folder->filePath(QString(63 - m_folder->path().size(), 'l'));
         const QString link = m_folder->filePath("link"), file = m_folder->filePath("file");
+        QStringList unfit({m_folder->path(), "run", tooLong, link, file});
+        const QString foreign = m_folder->filePath("foreign");
+        if (::geteuid() == 0 && ::mkdir(qPrintable(foreign), 0700) == 0 &&
+            ::chown(qPrintable(foreign), 65534, 65534) == 0)
+            unfit << foreign;
         QVERIFY(QDir().mkdir(tooLong) && ::chmod(qPrintable(tooLong), 0700) == 0 && QFile::link("run", link));
         QVERIFY(QFile(file).open(QIODevice::WriteOnly) && ::chmod(qPrintable(file), 0700) == 0);
-        for (const QString& unfit : {m_folder->path(), QString("run"), tooLong, link, file}) {
-            m_environment.insert("XDG_RUNTIME_DIR", unfit);
+        for (const QString& place : unfit) {
+            m_environment.insert("XDG_RUNTIME_DIR", place);
             const auto instance = start();
             QCOMPARE(instance->part(), QByteArray("instance"));
             QCOMPARE(int(QFile::permissions(own)), 0x7700); // What its owner may, and this user.
@@ -264,39 +267,6 @@ private Q_SLOTS:
         QVERIFY(QDir().mkdir(own) && ::chmod(qPrintable(own), 0750) == 0);
         QCOMPARE(start()->part(), QByteArray("instance"));
         QVERIFY(QDir(own).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).isEmpty());
-    }
-
-    void otherUserStaysOutside()
-    {
-        if (::geteuid() != 0)
-            QSKIP("only the administrator can become another user");
-        // The first user's place is the run-time folder, or one among all users' temporary files.
-        for (const QString& place : {m_runtime, m_folder->filePath("single-instance-0")}) {
-            m_environment.insert("XDG_RUNTIME_DIR", place);
-            const auto instance = start();
-            QCOMPARE(instance->part(), QByteArray("instance"));
-            const QString socket = find(place, "*.socket");
-
-            // The other user's process looks for the same name, but becomes an instance of its own.
-            const auto other = start("", AsOther);
-            QCOMPARE(other->part(), QByteArray("instance"));
-            const QString own = find(m_folder->filePath("single-instance-65534"), "*.socket");
-            QCOMPARE(QFileInfo(own).fileName(), QFileInfo(socket).fileName());
-            QCOMPARE(QFileInfo(own).ownerId(), OtherUser);
-            QCOMPARE(send("other", AsOther), QByteArray("sent"));
-            QCOMPARE(other->line(), QByteArray("other").toHex());
-
-            // A foreign program of that user cannot connect either.
-            QLocalSocket intruder;
-            QCOMPARE(::seteuid(OtherUser), 0);
-            intruder.connectToServer(socket);
-            QFile::remove(socket);
-            QCOMPARE(::seteuid(0), 0);
-            QCOMPARE(intruder.error(), QLocalSocket::SocketAccessError);
-
-            QCOMPARE(send("own"), QByteArray("sent"));
-            QCOMPARE(instance->line(), QByteArray("own").toHex());
-        }
     }
 #endif
 };

@@ -1,6 +1,6 @@
-#include "../support/Files.h"
-#include "../support/Rows.h"
+#include "Files.h"
 #include "IniCodec.h"
+#include "Rows.h"
 #include "SettingsDamage.h"
 #include "ZelSettingsFile.h"
 

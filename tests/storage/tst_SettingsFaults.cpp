@@ -1,15 +1,5 @@
-#include "../support/Files.h"
-#include "../support/Rows.h"
-#include "FileAccess.h"
-#include "IniCodec.h"
-#include "SettingsKeys.h"
-#include "SettingsMigration.h"
-#include "SharedSettings.h"
-#include "ZelSettingsFile.h"
-#include "ZelSettingsRegistry.h"
-#include "ZelSettingsValidators.h"
+#include "SettingsFolder.h"
 #include "base/FileLock.h"
-#include "base/SystemFiles.h"
 
 #include "platform/MTLogger.h"
 
@@ -20,74 +10,12 @@
 #include <fcntl.h>
 #include <grp.h>
 #include <sched.h>
-#include <stdexcept>
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-using namespace zel;
 
 namespace {
-
-const int Writes = 100; // Of each of several programs at the same time.
-const QByteArray ForeignGroup = "[Foreign]\nemoji=\360\237\231\202\nlist=a, b\n";
-const QByteArray OtherGroup = "[%E6%97%A5]\nkey%20=\303\274\n";
-const QByteArray Foreign = ForeignGroup + '\n' + OtherGroup;
-
-pid_t startChild(const std::function<bool()>& work)
-{
-    const pid_t child = ::fork();
-    if (child == 0) {
-        ::dup2(::open("/dev/null", O_WRONLY), STDOUT_FILENO);
-        ::_exit(work() ? 0 : 1);
-    }
-    return child;
-}
-
-/// 0 when the child has succeeded.
-int statusOf(pid_t child)
-{
-    int status = -1;
-    TEMP_FAILURE_RETRY(::waitpid(child, &status, 0));
-    return status;
-}
-
-QString error; ///< Of the last operation that failed.
-
-bool write(QSettings& settings, const std::map<QString, QVariant>& values)
-{
-    const auto change = [&values](QSettings& changed, QString&) {
-        for (const auto& [key, value] : values)
-            changed.setValue(key, value);
-        return true;
-    };
-    return ZelSettingsFile::Write(settings, change, error);
-}
-
-bool change(const QString& path, const std::map<QString, QVariant>& values)
-{
-    return write(*ZelSettingsFile::Open(path), values);
-}
-
-bool apply(const QString& path)
-{
-    return change(path, {{"engine", "software"}, {"DBCache/cacheSize", 512}, {"new/key", "text"}});
-}
-
-bool validate(const QString& path)
-{
-    return ZelSettingsFile::Repair(*ZelSettingsFile::Open(path), error);
-}
-
-bool migrate(const QString& path)
-{
-    return migrateSettings(path, "fr", error);
-}
-
-using Operation = bool (*)(const QString& path);
 
 enum Fault { NoFault, Fails, Kills };
 Fault faultAtCall = NoFault;     ///< What happens at a call of the system.
@@ -120,7 +48,6 @@ int call(long number, Arguments... arguments)
 }
 
 } // namespace
-Q_DECLARE_METATYPE(Operation)
 
 #if !defined(__SANITIZE_ADDRESS__)
 // Found before those of the C library, by Qt as well.
@@ -177,28 +104,11 @@ ZEL_CALL(int, access, (const char* path, int mode) noexcept, SYS_access, path, m
 #endif
 
 /// What is left of the settings file after a fault that really happens.
-class tst_SettingsFaults : public QObject
+class tst_SettingsFaults : public SettingsFolder
 {
     Q_OBJECT
 
 private:
-    QStringList files(const QString& pattern) const
-    {
-        return m_folder.entryList({pattern}, QDir::Files | QDir::Hidden);
-    }
-    QStringList copies() const { return files("*Settings.ini.2*.bak"); }
-
-    /// True when the settings file still has the foreign groups, and has these texts.
-    bool holds(const QList<QByteArray>& texts = QList<QByteArray>()) const
-    {
-        const QByteArray content = contentOf(m_path);
-        for (const QByteArray& text : QList<QByteArray>({ForeignGroup, OtherGroup}) + texts) {
-            if (!content.contains(text))
-                return qWarning("\"%s\" is lost of:\n%s", text.constData(), content.constData()), false;
-        }
-        return true;
-    }
-
     static void fillDisk(QFile& filler, int freePages)
     {
         const QByteArray page(4096, 'x');
@@ -209,27 +119,7 @@ private:
         QVERIFY(filler.resize((filler.size() / page.size() - freePages) * page.size()));
     }
 
-    std::unique_ptr<QTemporaryDir> m_parent;
-    QDir m_folder;
-    QString m_path;
-
 private Q_SLOTS:
-    void init()
-    {
-        using Registry = ZelSettingsRegistry;
-        missing = 0;
-        Registry::ClearSettingsValues();
-        Registry::RegisterSetting(keys::CacheSize, "4096", &ZelSettingsValidators::ensureCacheSize);
-        Registry::RegisterSetting(keys::SettingsVersion, "2", &ZelSettingsValidators::ensureSettingsVersion);
-        QLocale::setDefault(QLocale("ar_EG")); // With digits of its own.
-        // The working directory is in memory if possible: many writes fall into one tick of the clock.
-        m_parent = std::make_unique<QTemporaryDir>(
-            (QDir("/dev/shm").exists() ? "/dev/shm" : QDir::tempPath()) + "/tst_SettingsFaults-XXXXXX");
-        m_folder.setPath(m_parent->filePath("folder"));
-        QVERIFY(m_folder.mkpath(".") && QDir::setCurrent(m_folder.path()));
-        m_path = m_folder.filePath("Settings.ini");
-    }
-
     void faultAtEachCall_data()
     {
         // What the file holds beside the foreign groups, and some of what it holds then, separated by "|".
@@ -349,60 +239,11 @@ private Q_SLOTS:
         }
     }
 
-    void locksOfOthers_data()
-    {
-        // What makes the lock, whether a living process holds it, and why it cannot be taken.
-        const QString held = "another program has locked it", inTheWay = ".lock\" is in the way";
-        const QByteArray ended = "echo 4194305 >$lock", own = QByteArray::number(::getpid());
-        const std::tuple<const char*, QByteArray, bool, QString> rows[] = {
-            {"of a process that has ended", ended, false, ""},
-            {"of a program that had this number before", "printf '" + own + "\nother\n' >$lock", false, ""},
-            {"old", "touch -d -40sec $lock", false, ""},
-            {"from the future", "touch -d +1hour $lock", false, ""},
-            {"of another machine", "printf '4194305\nprogram\nelsewhere\n' >$lock", false, held},
-            {"just made", "touch $lock", false, held},
-            {"of a running program, by its name", "printf '" + own + "\n/bin/tst_SettingsFaults\n' >$lock",
-             false, held},
-            {"held", "true", true, held},
-            {"held and old", "touch -d -1hour $lock", true, held},
-            {"link", "ln -s nowhere $lock", false, inTheWay},
-            {"folder", "mkdir $lock", false, inTheWay},
-            {"cannot be removed", ended + "; mkdir $lock.rmlock", false, held}};
-        addRows({"command", "isHeld", "reason"}, rows);
-    }
-
-    void locksOfOthers()
-    {
-        QFETCH(QByteArray, command);
-        QFETCH(bool, isHeld);
-        QFETCH(QString, reason);
-        for (const QByteArray size : {"77", "7"}) {
-            init();
-            for (const char* end : {"", ".unfinished"}) // A killed write has left it.
-                store(m_path + end, "[General]\nsettingsVersion=2\n[DBCache]\ncacheSize=" + size);
-            FileLock holder(m_path + ".lock");
-            QVERIFY(!isHeld || holder.take(0) == FileLock::Taken);
-            QCOMPARE(::system("lock=" + m_path.toUtf8() + ".lock; " + command), 0);
-            QElapsedTimer clock;
-            clock.start();
-            // What needs no repair is usable all the same.
-            QVERIFY2(validate(m_path) == (reason.isEmpty() || size == "77"), command);
-            QVERIFY2(apply(m_path) == reason.isEmpty() && error.contains(reason), command);
-            QVERIFY2(contentOf(m_path).contains("cacheSize=512") == reason.isEmpty(), command);
-            QVERIFY2(clock.elapsed() < 9000, command); // At most three and a half seconds each.
-            error.clear();
-            const auto settings = ZelSettingsFile::Open(m_path);
-            QVERIFY(!isHeld || (QFile::remove(m_path) && !ZelSettingsFile::ReadAgain(*settings, error)));
-            QVERIFY(!isHeld || settings->value("DBCache/cacheSize").toByteArray() == size);
-            QVERIFY(!isHeld || size != "77" || !ZelSettingsFile::Repair(*settings, error));
-        }
-    }
-
 #if !defined(ZEL_LEAVE_OUT_ownLockIsRespected)
     void ownLockIsRespected()
     {
         const QString path = m_path + ".lock";
-        for (const int lacking : {0, EOPNOTSUPP, ENOENT, ENOLCK}) {
+        for (const int lacking : {EOPNOTSUPP, ENOENT, ENOLCK, 0}) {
             missing = lacking;
             FileLock lock(path);
             QVERIFY(lock.take(0) == FileLock::Taken);
@@ -455,111 +296,6 @@ private Q_SLOTS:
                 QFileInfo(spare).isSymLink());
     }
 
-    void changesThatFail()
-    {
-        store(m_path, Foreign);
-        const auto settings = ZelSettingsFile::Open(m_path);
-        const auto throws = [](QSettings& changed, QString&) -> bool {
-            changed.setValue("new/key", 1);
-            throw std::runtime_error("");
-        };
-        try {
-            ZelSettingsFile::Write(*settings, throws, error);
-            QFAIL("the exception is lost");
-        } catch (const std::runtime_error&) {
-            QVERIFY(contentOf(m_path) == Foreign && files("*").size() == 1);
-        }
-        const auto nested = [&](QSettings& changed, QString& text) {
-            changed.setValue("new/key", 1);
-            return write(*settings, {{"inner/key", 2}}) || (text = error).isNull();
-        };
-        QVERIFY(!ZelSettingsFile::Write(*settings, nested, error) && error.contains("being written already"));
-        settings->beginGroup("Foreign");
-        QVERIFY(!write(*settings, {{"list", "none"}}) && error.contains("a group of it is open"));
-        settings->endGroup();
-        // Nothing is left that a later write would take along.
-        const auto shared = [&](QSettings&, QString&) {
-            settings->setValue("Foreign/list", "none");
-            settings->setValue("new/key", 1);
-            settings->beginGroup("new");
-            return false;
-        };
-        QVERIFY(!ZelSettingsFile::Write(*settings, shared, error));
-        settings->sync();
-        QVERIFY(holds() && !contentOf(m_path).contains("[new]") && settings->group().isEmpty());
-        QVERIFY(apply(m_path));
-        // What cannot be read is not written either.
-        settings->setValue("new/key", 2);
-        QVERIFY(QFile::remove(m_path) && QDir().mkdir(m_path));
-        QVERIFY(!ZelSettingsFile::ReadAgain(*settings, error) && error.startsWith("Could not read the"));
-        QVERIFY(!ZelSettingsFile::IsUsable(m_path, error = "") && error.startsWith("Could not read the"));
-        QVERIFY(!ZelSettingsFile::Repair(*settings, error = "") && error.startsWith("Could not read the"));
-        QVERIFY(QDir().rmdir(m_path));
-        QCoreApplication::sendPostedEvents(settings.get(), 0);
-        QVERIFY(!QFile::exists(m_path));
-    }
-
-    void changesOfTheSharedSettings()
-    {
-        Deadline deadline(300); // The time of a change does not count.
-        QVERIFY(
-            deadline.pauseFor([&] { return QTest::qWaitFor([&] { return deadline.remaining() == 0; }); }));
-        QVERIFY(deadline.remaining() > 0);
-        store(m_path, Foreign);
-        const auto settings = ZelSettingsFile::Open(m_path);
-        const auto mixed = [&](QSettings& changed, QString&) {
-            changed.setValue("own/key", 1);
-            settings->setValue("page/key", 2);
-            settings->sync(); // As many a page does.
-            const int rights = QFile::permissions(QFileInfo(changed.fileName()).path());
-            QSettings other("other.ini", QSettings::IniFormat);
-            return &ZelSettingsFile::Current(*settings) == &changed && rights == 0x7700 &&
-                   &ZelSettingsFile::Current(other) == &other && ZelSettingsFile::ReadAgain(*settings, error);
-        };
-        QVERIFY(ZelSettingsFile::Write(*settings, mixed, error) && !hasPending(*settings));
-        QVERIFY(holds({"[own]\nkey=1\n", "[page]\nkey=2\n"}));
-        QCOMPARE(files("*").join(" "), QString("Settings.ini"));
-        // Nothing is pending: what another program writes stays.
-        const uint time = QFileInfo(m_path).lastModified().toTime_t();
-        QVERIFY(change(m_path, {{"page/key", 3}}) && QFileInfo(m_path).lastModified().toTime_t() > time);
-        settings->sync();
-        QCoreApplication::sendPostedEvents(settings.get(), 0);
-        QVERIFY(contentOf(m_path).contains("[page]\nkey=3\n") && settings->value("page/key").toInt() == 3);
-        // What was pending before is written, but not over the change, nor over what others have written.
-        int host = 0;
-        for (const QByteArray general : {"[page]\nkey=4\n", "[page]\nkey=5\n", "no value\n"}) {
-            store(m_path, general + "[own]\nkey=9\n" + Foreign);
-            settings->setValue("page/key", 4);
-            settings->setValue("host/key", ++host);
-            QVERIFY(write(*settings, {{"page/key", 6}}));
-            settings->sync();
-            QVERIFY(holds(
-                {"[own]\nkey=9\n", "[page]\nkey=6\n", "[host]\nkey=" + QByteArray::number(host) + '\n'}));
-        }
-        // A change that gives up takes nothing along, not even of a group with the name of its key.
-        settings->setValue("host", "group");
-        const auto givesUp = [&](QSettings&, QString&) {
-            settings->setValue("Foreign", 1);
-            settings->setValue("page/key", 7);
-            store(m_path, contentOf(m_path) + "[late]\nkey=1\n");
-            return false;
-        };
-        QVERIFY(!ZelSettingsFile::Write(*settings, givesUp, error));
-        QVERIFY(ZelSettingsFile::ReadAgain(*settings, error));
-        QVERIFY(holds({"[late]\nkey=1\n", "host=group\n", "[page]\nkey=6\n"}));
-        const auto locked = [&](QSettings&, QString&) {
-            settings->setValue("page/key", 7);
-            return ::system("touch " + m_path.toUtf8() + ".lock") == 0;
-        };
-        QVERIFY(!ZelSettingsFile::Write(*settings, locked, error) && error.contains("locked"));
-        // Not by QSettings, which in Qt 4 writes what others of the process hold, in another encoding.
-        QVERIFY(QFile::remove(m_path + ".lock"));
-        store(m_path, contentOf(m_path).replace("[host]\nkey=3\n", "[host]\nkey=99\n"));
-        QVERIFY(write(*settings, {{"page/key", 8}}) && !hasPending(*settings));
-        settings->sync();
-        QVERIFY(holds({"[page]\nkey=8\n", "[host]\nkey=99\n"}));
-    }
-
     void nothingIsLostWhereQSettingsFails_data()
     {
         const std::tuple<const char*, int, bool> rows[] = {
@@ -607,163 +343,6 @@ private Q_SLOTS:
         QVERIFY2(ZelSettingsFile::Write(*settings, change, error), qPrintable(error));
         QVERIFY(holds({"[new]\nkey=1\n", "[other]\nkey=1\n", "[page]\nkey=1\n"}));
         QVERIFY(holds({limited == RLIMIT_FSIZE ? "[host]\nkey=1\n" : "[late]\nkey=1\n"}));
-    }
-
-    void olderValuesDoNotReplaceNewerOnes()
-    {
-        store(m_path, "[page]\na=1\nb=1\n[gone]\nkey=1\n" + Foreign);
-        auto settings = ZelSettingsFile::Open(m_path);
-        store(m_path, "[page]\na=1\nb=newer\n[gone]\nkey=1\n" + Foreign);
-        settings->setValue("page/a", 2);
-        const auto leavesGroup = [&](QSettings& copy, QString&) {
-            settings->remove("gone");
-            for (QSettings* one : {&copy, settings.get()})
-                one->beginGroup("page");
-            return true;
-        };
-        QVERIFY(ZelSettingsFile::Write(*settings, leavesGroup, error));
-        QVERIFY(holds({"[page]\na=2\nb=newer\n"}) && !contentOf(m_path).contains("[gone]"));
-        const auto givesUp = [&](QSettings&, QString&) {
-            settings->setValue("page/a", 3);
-            return false;
-        };
-        QVERIFY(!ZelSettingsFile::Write(*settings, givesUp, error));
-        settings->setValue("page/c", 1);
-        QVERIFY(hasPending(*settings) && hasPending(*settings) && write(*settings, {}) &&
-                contentOf(m_path).contains("c=1"));
-        store(m_path, "");
-        QVERIFY(!ZelSettingsFile::Write(*settings, givesUp, error) && write(*settings, {{"own/key", 1}}));
-        QVERIFY(holds({"a=2"}));
-        QVERIFY(!ZelSettingsFile::Write(*settings, givesUp, error));
-        store(m_path, "[page]\na=latest\n");
-        settings.reset();
-        QCOMPARE(contentOf(m_path), QByteArray("[page]\na=latest\n"));
-        settings = ZelSettingsFile::Open(m_path);
-        settings->setValue("page/b", 1);
-        QVERIFY(!ZelSettingsFile::Write(*settings, givesUp, error));
-        store(m_path, "[page]\na=newest\n");
-        QCoreApplication::sendPostedEvents(settings.get(), 0);
-        QCOMPARE(contentOf(m_path), QByteArray("[page]\na=newest\n"));
-        settings->beginGroup("page");
-        settings.reset(); // Writes what has stayed pending, as Write() does.
-        QCOMPARE(contentOf(m_path), QByteArray("[page]\na=newest\nb=1\n"));
-        settings = ZelSettingsFile::Open(m_path);
-        settings->setValue("page/b", 2);
-        settings->sync(); // There is still an event to write it.
-        store(m_path, "[page]\nb=latest\n");
-        settings.reset();
-        QCOMPARE(contentOf(m_path), QByteArray("[page]\nb=latest\n"));
-        settings = ZelSettingsFile::Open(m_path);
-        const auto clear = [](QSettings& copy, QString&) {
-            copy.clear();
-            return true;
-        };
-        QVERIFY(ZelSettingsFile::Write(*settings, clear, error) && contentOf(m_path).isEmpty());
-        store(m_path, "[page]\nb=again\n");
-        settings->setValue("page/c", 1);
-        QVERIFY(write(*settings, {}));
-        QCOMPARE(contentOf(m_path), QByteArray("[page]\nb=again\nc=1\n"));
-        QSettings host(m_path, QSettings::IniFormat); // Not opened by us.
-        store(m_path, contentOf(m_path) + Foreign);
-        host.setValue("host/key", 1);
-        host.setValue("page/c", 2);
-        QVERIFY(write(host, {}) && holds({"[host]", "b=again\nc=2\n"}));
-        store(m_path, "[page]\nb=last\n"); // What others have removed does not come back.
-        QVERIFY(write(host, {{"page/b", "mine"}}));
-        QCOMPARE(contentOf(m_path), QByteArray("[page]\nb=mine\n"));
-    }
-
-    void checksOfARepair()
-    {
-        static bool isMine, isRefused; // It stays registered.
-        isMine = true;
-        const auto check = [](QSettings& settings, QString& text) {
-            if (isMine)
-                settings.setValue("checked/key", 1);
-            text = isRefused ? "refused" : "";
-            return !isRefused;
-        };
-        ZelSettingsRegistry::RegisterEndCheckFunction(check);
-        const auto settings = ZelSettingsFile::Open(m_path);
-        QVERIFY(ZelSettingsFile::Repair(*settings, error) &&
-                contentOf(m_path).contains("[checked]\nkey=1\n"));
-        store(m_path, "junk\n" + contentOf(m_path));
-        settings->setValue("checked/key", 2);
-        QVERIFY2(ZelSettingsFile::ReadAgain(*settings, error), qPrintable(error));
-        QVERIFY2(copies().size() == 1, contentOf(m_path));
-        QVERIFY(contentOf(m_path).contains("[checked]\nkey=2\n"));
-        isMine = false;
-        isRefused = true;
-        QVERIFY(!validate(m_path) && error == "refused");
-        isRefused = false;
-        // What another program has written while the values are checked stays.
-        ZelSettingsRegistry::RegisterSetting("late", "1",
-                                             [](const QString&, const QString&, QString&, QString&) {
-                                                 if (contentOf("Settings.ini").contains("cacheSize=1\n"))
-                                                     store("Settings.ini", "[DBCache]\ncacheSize=8888\n");
-                                                 return true;
-                                             });
-        store(m_path, "[DBCache]\ncacheSize=1\n");
-        QVERIFY(validate(m_path) && contentOf(m_path).contains("cacheSize=8888\n"));
-        // A missing key with the name of a group, and a default that its validator refuses without a reason.
-        ZelSettingsRegistry::RegisterSetting("Foreign", "text", &ZelSettingsValidators::noOp);
-        store(m_path, Foreign);
-        QVERIFY(validate(m_path) && holds());
-        ZelSettingsRegistry::RegisterSetting("bad", "1/2",
-                                             &ZelSettingsValidators::ensureSimplificationRatios);
-        error.clear();
-        QVERIFY(!validate(m_path) && error.contains("not valid"));
-    }
-
-    void plainSettingsBesideRepairs()
-    {
-        // Values of the same size, in one tick of the clock.
-        store(m_path, "[DBCache]\ncacheSize=77\n[other]\nkey=1000\n");
-        const int end = 1000 + Writes * 5;
-        const pid_t child = startChild([&] {
-            for (int value = 1000; value < end; ++value) {
-                QSettings settings(m_path, QSettings::IniFormat);
-                settings.setValue("other/key", value);
-                settings.setValue("DBCache/cacheSize", 7);
-                settings.sync();
-                if (QSettings(m_path, QSettings::IniFormat).value("other/key").toInt() != value)
-                    return false;
-            }
-            return true;
-        });
-        int status = 0;
-        while (TEMP_FAILURE_RETRY(::waitpid(child, &status, WNOHANG)) == 0)
-            QVERIFY2(validate(m_path), qPrintable(error));
-        QVERIFY(WIFEXITED(status) && WEXITSTATUS(status) == 0);
-        QCOMPARE(QSettings(m_path, QSettings::IniFormat).value("other/key").toInt(), end - 1);
-    }
-
-    void writersAtTheSameTime()
-    {
-        store(m_path, Foreign);
-        const auto line = [](int writer, int value) {
-            return QString("[writer%1]\nkey=%2\n").arg(writer).arg(value).toUtf8();
-        };
-        std::vector<pid_t> children;
-        for (int writer = 0; writer < 3; ++writer) {
-            children.push_back(startChild([=] {
-                std::srand(unsigned(writer));
-                const auto settings = ZelSettingsFile::Open(m_path);
-                for (int i = 1; i <= Writes; ++i) {
-                    QByteArray content;
-                    if (!write(*settings, {{QString("writer%1/key").arg(writer), i}}))
-                        return false;
-                    ::usleep(useconds_t(std::rand() % 3000));
-                    // The others may write, but not over this one's value.
-                    if (!readFile(m_path, content, error) || !content.contains(line(writer, i)))
-                        return false;
-                }
-                return true;
-            }));
-        }
-        for (const pid_t child : children)
-            QCOMPARE(statusOf(child), 0);
-        QVERIFY(holds({line(0, Writes), line(1, Writes), line(2, Writes)}));
     }
 
     void fullDisk()
@@ -832,18 +411,6 @@ private Q_SLOTS:
         ::umount(qPrintable(m_folder.path()));
     }
 
-    void foldersOfOthersStay()
-    {
-        store(m_path, Foreign);
-        const QString own = QString("%1.new-%2").arg(m_path).arg(QCoreApplication::applicationPid());
-        store(m_folder.filePath("mine/1.ini"), "mine");
-        QVERIFY(QFile::link("mine", own) && !apply(m_path));
-        QCOMPARE(contentOf(m_folder.filePath("mine/1.ini")), QByteArray("mine"));
-        QVERIFY(QFile::remove(own));
-        store(own + "/mine", "mine");
-        QVERIFY(!apply(m_path) && contentOf(own + "/mine") == "mine");
-    }
-
     void obstacles_data()
     {
         const QByteArray limit = "prlimit --pid $PPID --fsize=1000";
@@ -887,181 +454,6 @@ private Q_SLOTS:
         QVERIFY(copies().isEmpty());
     }
 
-    void damagedByOthers_data()
-    {
-        // What others leave of a complete file, and which unregistered values it holds after the write.
-        const std::tuple<const char*, QByteArray, QString> rows[] = {
-            {"nothing", "rm -r ../folder", "own=1"},
-            {"an empty file", ": >Settings.ini", "own=1"},
-            {"a damaged file", "sed -i 's/own=1/x\\nown=2/; /Fore/,$d' *", "own=2"},
-            {"another value", "sed -i 's/own=1/other=3/' *", "other=3"},
-            {"nothing but their own", "echo other=3 >Settings.ini", "other=3 own=1"}};
-        addRows({"command", "kept"}, rows);
-    }
-
-    void damagedByOthers()
-    {
-        QFETCH(QByteArray, command);
-        QFETCH(QString, kept);
-        store(m_path, "[General]\nsettingsVersion=2\nown=1\n\n[DBCache]\ncacheSize=77\n" + Foreign);
-        setTime(m_path, stampOf(m_path).time - 3600000);
-        const auto settings = ZelSettingsFile::Open(m_path);
-        QVERIFY(settings->contains("own"));
-        QCOMPARE(::system(command), 0);
-        QVERIFY2(write(*settings, {{"engine", "software"}}), qPrintable(error));
-        QVERIFY(holds({"settingsVersion=2\n", "cacheSize=77\n"}) && settings->value("engine") == "software");
-        QStringList own = QString(contentOf(m_path)).split('\n').filter(QRegExp("^o"));
-        own.sort();
-        QCOMPARE(own.join(" "), kept);
-        store(m_path, "settingsVersion=2\n[DBCache]\ncacheSize=11\n");
-        QVERIFY(ZelSettingsFile::ReadAgain(*settings, error) && settings->allKeys().size() == 2);
-        store(m_path, "");
-        QVERIFY(ZelSettingsFile::ReadAgain(*settings, error) && contentOf(m_path).contains("=11\n"));
-        store(m_path, "settingsVersion=2\n[DBCache]\ncacheSize=2\n");
-        QVERIFY(ZelSettingsFile::Repair(*settings, error) && contentOf(m_path).contains("=4096\n"));
-    }
-
-    void linkStaysALink()
-    {
-        const QString target = m_folder.filePath("elsewhere/target.ini");
-        QVERIFY(m_folder.mkdir("elsewhere") && QFile::link("elsewhere/target.ini", m_path));
-        QVERIFY(QFile::link("elsewhere/other", m_path + ".bak.new")); // Somebody else's.
-        store(target, "no set");
-        store(target + ".unfinished", "no settings\n"); // Its write was killed.
-        QVERIFY(ZelSettingsFile::IsUsable(m_path, error) && contentOf(target) == "no settings\n");
-        for (const Operation operation : {&migrate, &apply, &validate}) {
-            const QByteArray before = contentOf(target);
-            QVERIFY(operation(m_path) && contentOf(target) != before);
-            QCOMPARE(QFile::symLinkTarget(m_path), target);
-        }
-        QCOMPARE(copies().size(), 1);
-        QCOMPARE(QDir("elsewhere").entryList(QDir::Files), QStringList("target.ini"));
-        for (const QString& name : {target, m_path}) {
-            FileLock lock(name + ".lock"); // Of one that knows of no other name.
-            QVERIFY(lock.take(0) == FileLock::Taken && !change(m_path, {{"a", 1}}) &&
-                    error.contains("locked"));
-        }
-        const QTemporaryDir disk; // Another one, if the working directory is in memory.
-        store(disk.path() + "/far.ini", "far, no settings\n");
-        QVERIFY(QFile::remove(m_path) && QFile::link(disk.path() + "/far.ini", m_path));
-        QVERIFY2(apply(m_path) && copies().size() == 2, qPrintable(error));
-        QVERIFY(QFile::remove(m_path) && QFile::link("elsewhere/target.ini", m_path));
-        // A link to a link to what is not there yet.
-        QVERIFY(QFile::remove(target) && QFile::link("../new.ini", target));
-        QVERIFY2(apply(m_path) && contentOf("new.ini").contains("[new]\nkey=text\n"), qPrintable(error));
-        QVERIFY(QFileInfo(m_path).isSymLink() && QFileInfo(target).isSymLink());
-        QVERIFY(QFile::remove(m_path) && QFile::link(m_path, m_path));
-        QVERIFY(!apply(m_path) && error.contains("symbolic links"));
-    }
-
-    void copyOfWhatIsGivenUp_data()
-    {
-        const QByteArray version2("[General]\nsettingsVersion=2\n");
-        const std::tuple<const char*, Operation, QByteArray, int> rows[] = {
-            {"open group", &apply, version2 + "[open\n", 1},
-            {"no value", &migrate, "settingsVersion=1\nx\n", 1},
-            {"key without a name", &validate, "=1\n[open\n", 1},
-            {"list in place of a number", &validate, version2 + "[DBCache]\ncacheSize=1, 2\n", 1},
-            {"comment", &apply, "; mine\n" + version2, 1},
-            {"list of another", &validate, version2 + "own=1, 2\n", 0},
-            {"keys that differ in case", &apply, version2 + "Engine=1\nENGINE=2\n", SettingsIgnoreCase},
-            {"key beyond ASCII", &apply, version2 + "gr\303\266\303\237e=5\n", SettingsIgnoreCase},
-            {"no character", &validate, version2 + "own=\357\277\276\n[DBCache]\ncacheSize=77\n", 1},
-            {"no character within a plane", &apply, version2 + "own=\357\267\220\n", 1},
-            {"tab in a list", &apply, version2 + "own=text\\t , b\n", SettingsDropBlanks},
-            {"quoted tab", &validate, version2 + "own=\"text\\t\"\n", SettingsDropBlanks},
-            {"escaped blank", &apply, version2 + "own=text\\x20\n", SettingsDropBlanks},
-            {"too old, with a comment", &migrate, "[General]\nsettingsVersion=0\n; mine\n", 1},
-            {"too old", &migrate, "[General]\nengine=software\n", 1},
-            {"older version", &migrate, "[General]\nsettingsVersion=1\n", 0},
-            {"value that is not valid", &validate, "[DBCache]\ncacheSize=1\n", 0},
-            {"nothing", &migrate, "", 0}};
-        addRows({"operation", "content", "kept"}, rows);
-    }
-
-    void copyOfWhatIsGivenUp()
-    {
-        QFETCH(Operation, operation);
-        QFETCH(QByteArray, content);
-        QFETCH(int, kept);
-        store(m_path, content);
-        QVERIFY(operation(m_path) && contentOf(m_path) != content);
-        for (const Operation once : {&validate, &apply}) {
-            QCOMPARE(copies().size(), kept);
-            QVERIFY(kept == 0 || contentOf(copies().first()) == content);
-            QVERIFY(once(m_path));
-        }
-    }
-
-    void nothingToWrite()
-    {
-        for (const char* version : {"2", "7", "2147483648", "4294967297", "\" +99999999999999999999 \""}) {
-            const QByteArray content = QByteArray("[General]\nsettingsVersion=") + version + "\n; note\n";
-            store(m_path, content);
-            setTime(m_path, stampOf(m_path).time - 3600000);
-            const QDateTime time = QFileInfo(m_path).lastModified();
-            QVERIFY(migrate(m_path) && change(m_path, {}));
-            QVERIFY(contentOf(m_path) == content && QFileInfo(m_path).lastModified() == time);
-        }
-        QVERIFY(QFile::remove(m_path) && migrate(m_path) && !QFile::exists(m_path));
-        const QByteArray lists = QByteArray("\\0\\0\\0\\x9\\0\\0\\0\\x1").repeated(50000);
-        store(m_path, "x=\"@Variant(" + lists + ")\"\n"); // To decode it would end the process.
-        QVERIFY(ZelSettingsFile::Open(m_path) != nullptr);
-    }
-
-    void ownerIsKept()
-    {
-        if (::geteuid() != 0)
-            QSKIP("only the administrator can give a file away");
-        struct stat status = {};
-        store(m_path, Foreign);
-        QVERIFY(::chmod(qPrintable(m_path), 0606) == 0 && ::chown(qPrintable(m_path), 65534, 65533) == 0);
-        store(m_path, "no value\n" + Foreign);
-        const auto settings = ZelSettingsFile::Open(m_path);
-        settings->setValue("host/key", 1); // QSettings writes it as well.
-        QVERIFY(write(*settings, {{"new/key", "text"}}));
-        for (const QString& path : {m_path, copies().value(0)}) {
-            QVERIFY(::stat(qPrintable(path), &status) == 0 && (status.st_mode & 0777) == 0606);
-            QVERIFY(status.st_uid == 65534 && status.st_gid == 65533);
-        }
-        const QByteArray content = contentOf(m_path);
-        for (const QString& path : {m_parent->path(), m_folder.path()})
-            QCOMPARE(::chmod(qPrintable(path), 0777), 0);
-        const pid_t stranger = startChild([this] {
-            return ::setgroups(0, nullptr) == 0 && ::setuid(65532) == 0 && !apply(m_path) &&
-                   error.contains("belongs to another user") &&
-                   !ZelSettingsFile::IsWritable(m_path, error = "") && error.contains("another user");
-        });
-        QVERIFY(statusOf(stranger) == 0 && contentOf(m_path) == content);
-        // Its owner, who is not in its group, keeps the copy to himself.
-        store(m_path, "[open\n");
-        QVERIFY(m_folder.mkdir("Settings.ini.new-1")); // Of a running process.
-        const auto isLater = [this] {                  // Also by the seconds that some programs compare.
-            const qint64 former = stampOf(m_path).time / 1000;
-            return change(m_path, {{"DBCache/cacheSize", 513}}) && stampOf(m_path).time / 1000 > former;
-        };
-        const auto writesAgain = [this] { // When another program has written during a change.
-            bool isLate = false;
-            const auto slow = [&](QSettings& copy, QString&) {
-                copy.setValue("own/key", 1);
-                if (!isLate) {
-                    store(m_path, contentOf(m_path) + "[late]\nkey=1\n");
-                    QTest::qSleep(3100); // Longer than a write may wait.
-                }
-                return isLate = true;
-            };
-            return ZelSettingsFile::Write(*ZelSettingsFile::Open(m_path), slow, error) &&
-                   contentOf(m_path).contains("[late]\nkey=1\n") &&
-                   contentOf(m_path).contains("[own]\nkey=1\n");
-        };
-        const pid_t owner = startChild([&] {
-            return ::setgroups(0, nullptr) == 0 && ::setgid(65534) == 0 && ::setuid(65534) == 0 &&
-                   apply(m_path) && QFile::permissions(copies().last()) == QFile::Permissions(0x6600) &&
-                   m_folder.exists("Settings.ini.new-1") && isLater() && writesAgain();
-        });
-        QVERIFY(statusOf(owner) == 0 && ::stat(qPrintable(m_path), &status) == 0 && status.st_gid == 65533);
-    }
-
     void lastThreeCopiesAreKept()
     {
         const QString log = m_folder.filePath("log.txt");
@@ -1095,50 +487,6 @@ private Q_SLOTS:
         QVERIFY(isSafe && contentOf(log).contains("that was cut short is not finished: \""));
         QVERIFY(contentOf(log).contains("[warning] The settings file \"" + m_path.toUtf8() + '"'));
         QCOMPARE(contentOf(m_path + ".my own.bak") + contentOf(other), QByteArray("minemine"));
-    }
-
-    void everyCharacterIsKept()
-    {
-        const QByteArray group("[mine]\nsmile=\360\237\230\200 x\n");
-        for (const Operation operation : {&validate, &apply, &migrate}) {
-            store(m_path, "\357\273\277[General]\nsettingsVersion=1\n\n" + group);
-            QVERIFY(operation(m_path) && contentOf(m_path).contains(group));
-        }
-        const QString text = QString::fromUtf8("\360\237\231\202\360\240\256\267f, \"\303\274\"; \n\t\\=");
-        const QString mark(QChar(QChar::ByteOrderMark));
-        const QStringList list = {text, text, QString(1, QChar())};
-        QVERIFY(change(m_path, {{"list", list}, {"mark", mark}, {"third", QVariant(1 / 3.F)}}));
-        const auto shared = ZelSettingsFile::Open(m_path); // QSettings would serialise a float.
-        shared->setValue("half", QVariant(0.5F));
-        QVERIFY2(write(*shared, {}), qPrintable(error));
-        QVERIFY2(contentOf(m_path).contains("\nhalf=0.5\n"), contentOf(m_path));
-        QCOMPARE(ZelSettingsFile::Open(m_path)->value("third").toFloat(), 1 / 3.F);
-        QVERIFY(change(m_path, {{"sure", "yes"}}) && change(m_path, {{"sure", true}}));
-        QVERIFY(contentOf(m_path).contains("\nsure=true\n"));
-        shared->setValue("half", QVariant(true));
-        QVERIFY(write(*shared, {}) && contentOf(m_path).contains("\nhalf=true\n"));
-        for (const QVariant& lost : {QVariant(QStringList({text.left(1), "b"})), QVariant(QDate(2000, 1, 1))})
-            QVERIFY(!change(m_path, {{"lost", lost}}) && error.contains("not all values"));
-        // Under other names, because QSettings remembers what it has read; at last with Qt's own codec.
-        for (const bool own : {true, false}) {
-            const QString path = m_folder.filePath(own ? "own" : "other");
-            QVERIFY(QFile::copy(m_path, path));
-            const auto copy = ZelSettingsFile::Open(path);
-            if (!own)
-                copy->setIniCodec("UTF-8");
-            QCOMPARE(copy->value("list").toStringList(), list);
-            QVERIFY(!own || copy->value("mark").toString() == mark);
-        }
-        const auto settings = ZelSettingsFile::Open(m_path);
-        store(m_path, Utf8Mark + contentOf(m_path));
-        QVERIFY(ZelSettingsFile::ReadAgain(*settings, error));
-        settings->setValue("host", text);
-        settings->sync(); // QSettings writes it.
-        QCOMPARE(ZelSettingsFile::Open(m_path)->value("host").toString(), text);
-        settings->setIniCodec("UTF-8");
-        settings->setValue("host", text + text);
-        QVERIFY(write(*settings, {{"new/key", 1}}));
-        QCOMPARE(ZelSettingsFile::Open(m_path)->value("host").toString(), text + text);
     }
 };
 
