@@ -87,7 +87,7 @@ bool setTime(const QString& path, std::int64_t time)
 void makeLater(const QString& path, const FileStamp& replaced)
 {
     const FileStamp present = stampOf(path);
-    if (present.size == replaced.size && present.time / 1000 <= replaced.time / 1000)
+    if (present.time / 1000 <= replaced.time / 1000)
         setTime(path, replaced.time + 1000);
 }
 

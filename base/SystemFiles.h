@@ -63,7 +63,8 @@ FileStamp stampOf(const QString& path);
 /// Sets when a file was written, in the milliseconds of its stamp. False when that is not possible.
 bool setTime(const QString& path, std::int64_t time);
 
-/// Makes a file that has replaced another of the same size at least a second later than that one.
+/// Makes a file at least a second later than the one that it has replaced. QSettings of Qt 4 compares size
+/// and seconds, also with those of a file that was replaced before.
 void makeLater(const QString& path, const FileStamp& replaced);
 
 /// Opens a file; on Windows it waits up to a second while another program has it open for itself.

@@ -37,6 +37,23 @@ bool isSame(const QVariantMap& first, const QVariantMap& second)
     return other == second.constEnd();
 }
 
+QVariantMap common(const QVariantMap& first, const QVariantMap& second)
+{
+    QVariantMap same;
+    for (auto value = first.constBegin(); value != first.constEnd(); ++value)
+        if (second.contains(value.key()) && isSame(*value, second.value(value.key())))
+            same.insert(value.key(), *value);
+    return same;
+}
+
+QVariantMap united(QVariantMap values, const QVariantMap& others)
+{
+    for (auto value = others.constBegin(); value != others.constEnd(); ++value)
+        if (!values.contains(value.key()))
+            values.insert(value.key(), *value);
+    return values;
+}
+
 bool lacksRegistered(const QVariantMap& values, const QVariantMap& former)
 {
     const auto& registered = ZelSettingsRegistry::GetDefaultSettingsValues();

@@ -15,6 +15,12 @@ QVariantMap valuesOf(const QSettings& settings);
 bool isSame(const QVariant& first, const QVariant& second);
 bool isSame(const QVariantMap& first, const QVariantMap& second);
 
+/// The values that are the same in both.
+QVariantMap common(const QVariantMap& first, const QVariantMap& second);
+
+/// The values of both; those of the first where they differ.
+QVariantMap united(QVariantMap values, const QVariantMap& others);
+
 /// True when a registered key is gone, which nobody removes: QSettings takes a file that it cannot read for
 /// an empty one.
 bool lacksRegistered(const QVariantMap& values, const QVariantMap& former);

@@ -1,41 +1,18 @@
 #include "SharedSettings.h"
 
-#include "FileAccess.h"
 #include "SettingsLock.h"
 #include "SettingsValues.h"
 #include "SpareCopy.h"
 #include "WorkingCopy.h"
-#include "ZelSettingsFile.h"
 #include "base/SystemFiles.h"
 
-#include <QCoreApplication>
-#include <QEvent>
 #include <QSettings>
 
 namespace zel {
 
 namespace {
 
-// Properties of settings: true when they hold values that they could not write, the values that they held
-// when they had read the file, and the content of the file then.
-const char* const UnwrittenProperty = "zelUnwritten";
-const char* const ReadProperty = "zelRead";
-const char* const ContentProperty = "zelContent";
-
 const int ClockTick = 2000; // Milliseconds of the coarsest clock that a file system has.
-
-/// Finds out whether settings are about to write: they have posted an event to themselves.
-class PendingProbe : public QObject
-{
-public:
-    bool isFound = false;
-
-    bool eventFilter(QObject*, QEvent*) override
-    {
-        isFound = true;
-        return true;
-    }
-};
 
 /// Makes settings hold these values, and no others.
 void set(QSettings& settings, const QVariantMap& wanted)
@@ -68,30 +45,10 @@ void change(QSettings& settings, const QVariantMap& from, const QVariantMap& to)
     set(settings, wanted);
 }
 
-/// The values that are the same in both.
-QVariantMap common(const QVariantMap& first, const QVariantMap& second)
-{
-    QVariantMap same;
-    for (auto value = first.constBegin(); value != first.constEnd(); ++value)
-        if (second.contains(value.key()) && isSame(*value, second.value(value.key())))
-            same.insert(value.key(), *value);
-    return same;
-}
-
-/// Adds the values whose keys are missing.
-void addMissing(QVariantMap& values, const QVariantMap& others)
-{
-    for (auto value = others.constBegin(); value != others.constEnd(); ++value)
-        if (!values.contains(value.key()))
-            values.insert(value.key(), *value);
-}
-
 /// What settings hold after others: what is missing has been removed, unless their read has failed.
-QVariantMap withoutLoss(QVariantMap values, const QVariantMap& former)
+QVariantMap withoutLoss(const QVariantMap& values, const QVariantMap& former)
 {
-    if (lacksRegistered(values, former))
-        addMissing(values, former);
-    return values;
+    return lacksRegistered(values, former) ? united(values, former) : values;
 }
 
 /// Puts a spare copy beside a file, and gives settings what the file holds, to be written by them. False
@@ -121,7 +78,7 @@ bool letWrite(QSettings& settings, const QString& target, const QByteArray& cont
     readAgain(settings, content);
     const FileStamp present = stampOf(target);
     const bool isWritten = present.size != former.size || present.time != former.time;
-    settings.setProperty(UnwrittenProperty, !isWritten);
+    setUnwritten(settings, !isWritten);
     return isWritten;
 }
 
@@ -134,111 +91,83 @@ bool isPart(const QVariantMap& left, const QVariantMap& former)
 
 } // namespace
 
-void leaveGroups(QSettings& settings)
-{
-    while (!settings.group().isEmpty())
-        settings.endGroup();
-}
-
-bool hasUnwritten(const QSettings& settings)
-{
-    return settings.property(UnwrittenProperty).toBool();
-}
-
-bool hasPending(QSettings& settings)
-{
-    PendingProbe probe;
-    settings.installEventFilter(&probe);
-    QCoreApplication::sendPostedEvents(&settings, QEvent::UpdateRequest);
-    if (probe.isFound) // Without it they would never post one again.
-        QCoreApplication::postEvent(&settings, new QEvent(QEvent::UpdateRequest));
-    return probe.isFound || hasUnwritten(settings);
-}
-
-void stopWriting(QSettings& settings)
-{
-    if (!hasPending(settings))
-        return;
-    QCoreApplication::removePostedEvents(&settings, QEvent::UpdateRequest);
-    settings.setProperty(UnwrittenProperty, true);
-}
-
-void noteRead(QSettings& settings, const QByteArray& content)
-{
-    settings.setProperty(ReadProperty, valuesOf(settings));
-    settings.setProperty(ContentProperty, content);
-}
-
-void readAgain(QSettings& settings, const QByteArray& content)
-{
-    // Not sync(), after which QSettings of Qt 4 posts no event any more.
-    QEvent update(QEvent::UpdateRequest);
-    QCoreApplication::sendEvent(&settings, &update);
-    QCoreApplication::removePostedEvents(&settings, QEvent::UpdateRequest); // It would count as pending.
-    ZelSettingsFile::UseFileEncoding(settings); // Reading the UTF-8 mark brings Qt's own codec back.
-    noteRead(settings, content);
-}
-
 SharedSettings::SharedSettings(QSettings& settings, const Deadline& deadline)
     : m_settings(settings)
     , m_held(valuesOf(settings))
-    , m_known(m_held)
     , m_hasPending(hasPending(settings))
+    , m_lastRead(lastRead(settings))
+    , m_known(m_held)
     , m_deadline(deadline)
     , m_isWritten(false)
 {
+    if (!m_hasPending)
+        m_former = m_held;
 }
 
 SharedSettings::~SharedSettings()
 {
     leaveGroups(m_settings);
-    if (m_isWritten || (!m_hasPending && !hasPending(m_settings)))
+    if (m_isWritten)
         return;
-    set(m_settings, m_held);
+    const QVariantMap read = common(valuesOf(m_settings), m_stored); // By a sync() of the change, too.
+    if (m_former.isValid())
+        noteRead(m_settings, united(read, m_former.toMap()));
+    if (!m_hasPending && !hasPending(m_settings))
+        return;
+    set(m_settings, united(read, m_held));
     QString ignored;
     if (m_hasPending)
         stopWriting(m_settings);
-    else if (!writePending(m_known, ignored)) // Then the next write gives them what the file holds.
-        m_settings.setProperty(ReadProperty, m_held);
+    else
+        writePending(m_known, ignored);
 }
 
-void SharedSettings::carryPending(WorkingCopy& copy) const
+bool SharedSettings::carryPending(WorkingCopy& copy, QString& reason)
 {
     if (!m_hasPending)
-        return;
-    // Where they have not been read by us, a value that others have changed since cannot be told from one
-    // that was set here.
-    const QVariant read = m_settings.property(ReadProperty);
-    QVariantMap former, present = m_held;
-    if (read.isValid() && copy.parse(m_settings.property(ContentProperty).toByteArray(), former)) {
-        former = common(read.toMap(), former);
-        present = withoutLoss(present, former);
-    } else {
-        former = valuesOf(copy.settings());
-        addMissing(present, former);
+        return true;
+    if (!m_lastRead.values.isValid()) {
+        // A value that others have changed since they were read cannot be told from one that was set here.
+        change(copy.settings(), m_stored, united(m_held, m_stored));
+        return true;
     }
-    change(copy.settings(), former, present);
+    QVariantMap former = m_lastRead.values.toMap(), stored;
+    if (m_lastRead.content.isValid()) {
+        if (!copy.parse(m_lastRead.content.toByteArray(), stored, reason))
+            return false;
+        former = common(former, stored);
+    }
+    change(copy.settings(), former, withoutLoss(m_held, former));
+    m_former = former;
+    return true;
 }
 
 void SharedSettings::learn(const QVariantMap& values)
 {
-    for (auto value = values.constBegin(); value != values.constEnd(); ++value)
-        m_known.insert(value.key(), *value);
+    m_stored = values;
+    m_known = united(values, m_known);
 }
 
 void SharedSettings::carryOver(QSettings& copy)
 {
     leaveGroups(m_settings);
     leaveGroups(copy);
-    change(copy, m_held, withoutLoss(valuesOf(m_settings), m_held));
+    QVariantMap former = m_held, present = withoutLoss(valuesOf(m_settings), m_held);
+    for (const QString& key : common(present, m_stored).keys()) { // Perhaps read, by a sync() of the change.
+        former.remove(key);
+        present.remove(key);
+    }
+    change(copy, former, present);
 }
 
 bool SharedSettings::readWritten(const QByteArray& content, QString& reason)
 {
     m_isWritten = true;
-    if (m_hasPending || hasPending(m_settings))
+    if (m_hasPending || hasPending(m_settings)) {
+        noteRead(m_settings, valuesOf(m_settings)); // All that was set here is in the file.
         return writePending(QVariantMap(), reason) ||
-               !SpareCopy(resolvedPath(m_settings.fileName()), m_deadline).exists();
+               finishKilledWrite(m_settings.fileName(), m_deadline, reason);
+    }
     readAgain(m_settings, content);
     return true;
 }
@@ -250,6 +179,7 @@ bool SharedSettings::readWritten(const QByteArray& content, QString& reason)
 bool SharedSettings::writePending(const QVariantMap& known, QString& reason)
 {
     SettingsLock lock(m_settings.fileName(), m_deadline);
+    const FileStamp former = stampOf(lock.target());
     WorkingCopy copy(lock); // What QSettings will write: a part of that shows that the file is cut.
     const SpareCopy spare(lock.target(), m_deadline);
     if (!lock.takeAndFinish(reason) || !copy.make(known, reason) ||
@@ -261,20 +191,26 @@ bool SharedSettings::writePending(const QVariantMap& known, QString& reason)
     lock.release();
     const bool isWritten = letWrite(m_settings, lock.target(), copy.content());
     spare.giveRights();
+    makeLater(lock.target(), former);
     // If another program has taken the lock, the next of us brings the file to its end. A full disk has no
     // room for a lock.
     if (lock.take(reason) == FileLock::Held || !spare.exists())
         return true;
-    if (isWritten && isPart(valuesOf(m_settings), wanted)) {
+    const bool hasLost = isPart(valuesOf(m_settings), wanted);
+    if (hasLost && isWritten) {
         const bool isRestored = spare.restore(reason);
         lock.release();
         readAgain(m_settings, copy.content());
         return isRestored;
     }
+    if (hasLost) { // And not written: the file still holds it all.
+        set(m_settings, wanted);
+        noteRead(m_settings, wanted);
+    }
     const FileStamp present = stampOf(lock.target());
     const bool isWhole = spare.restoreIfCut(reason);
     if (!isWhole || stampOf(lock.target()).size != present.size) // QSettings takes what was cut for written.
-        m_settings.setProperty(UnwrittenProperty, true);
+        setUnwritten(m_settings, true);
     return isWhole;
 }
 

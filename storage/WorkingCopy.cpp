@@ -66,6 +66,11 @@ std::unique_ptr<QSettings> openSettings(const QString& path)
     return settings;
 }
 
+QString unreadReason()
+{
+    return SettingsFileText::tr("it cannot be read to its end");
+}
+
 /// Removes the folder of a copy, and nothing that is not ours.
 void removeFolder(const QString& path)
 {
@@ -144,7 +149,7 @@ bool WorkingCopy::make(const QVariantMap& known, QString& reason)
         return false;
     m_settings = openSettings(m_copy);
     if (!m_mustBeWritten && !m_settings->contains(EndKey)) {
-        reason = SettingsFileText::tr("it cannot be read to its end");
+        reason = unreadReason();
         return false;
     }
     m_settings->remove(EndKey);
@@ -178,14 +183,17 @@ bool WorkingCopy::makeOf(const QVariantMap& values, QString& reason)
     return true;
 }
 
-bool WorkingCopy::parse(const QByteArray& content, QVariantMap& values) const
+bool WorkingCopy::parse(const QByteArray& content, QVariantMap& values, QString& reason) const
 {
     const QString name = nextName();
-    QString ignored;
-    if (!writeFile(name, withoutMark(content), ignored))
+    const bool isWhole = settingsDamage(content).isEmpty();
+    if (!writeFile(name, withoutMark(content) + (isWhole ? EndText : ""), reason))
         return false;
     values = valuesOf(*openSettings(name));
-    return true;
+    const bool isRead = values.remove(EndKey) > 0 || !isWhole;
+    if (!isRead)
+        reason = unreadReason();
+    return isRead;
 }
 
 bool WorkingCopy::keepContent(const QString& loss, QString& reason) const

@@ -46,9 +46,9 @@ public:
     /// Of the settings file, when it was copied; once the copy is written, of that.
     const QByteArray& content() const { return m_isWritten ? m_result : m_content; }
 
-    /// Reads the values of a content of the settings file, without objects, after make(). False when there is
-    /// no room for that.
-    bool parse(const QByteArray& content, QVariantMap& values) const;
+    /// Reads the values of a content of the settings file, without objects, after make(). False, with the
+    /// reason, when that is not possible.
+    bool parse(const QByteArray& content, QVariantMap& values, QString& reason) const;
 
     /// Keeps the content of the settings file as a dated copy; see keepBackup().
     bool keepContent(const QString& loss, QString& reason) const;

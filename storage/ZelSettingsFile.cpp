@@ -94,7 +94,8 @@ Outcome tryWrite(const QString& path, SharedSettings& shared, const ZelSettingsF
         return Outcome::Failed;
     const QVariantMap before = valuesOf(copy.settings());
     shared.learn(before);
-    shared.carryPending(copy);
+    if (!shared.carryPending(copy, reason))
+        return Outcome::Failed;
     // The change may take long, or let the shared settings write, which then wait for the lock.
     lock.release();
     const bool isMade = deadline.pauseFor([&] {
@@ -183,7 +184,7 @@ std::unique_ptr<QSettings> ZelSettingsFile::Open(const QString& path)
     auto settings = std::make_unique<ProtectedSettings>(path);
     UseFileEncoding(*settings);
     if (mayBeDecoded)
-        noteRead(*settings, content);
+        noteRead(*settings, valuesOf(*settings), content);
     return settings;
 }
 

@@ -28,8 +28,9 @@ public:
     /// Changes values of the settings. False, with the error text set, gives the write up.
     using Change = std::function<bool(QSettings& settings, QString& error)>;
 
-    /// Opens a file, which should be usable, in its encoding. What Write() could not write is written in the
-    /// same way when the settings are deleted; if that fails again, by QSettings.
+    /// Opens a file, which should be usable, in its encoding. While there is something that Write() could not
+    /// write, the event loop writes nothing: the next Write() carries it. It is written in the same way when
+    /// the settings are deleted; if that fails again, by QSettings.
     static std::unique_ptr<QSettings> Open(const QString& path);
 
     /// Makes settings read and write text in the encoding of the file, UTF-8.
