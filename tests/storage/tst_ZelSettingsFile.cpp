@@ -1,7 +1,7 @@
 #include "Deadline.h"
 #include "IniCodec.h"
 #include "SettingsFolder.h"
-#include "SharedSettings.h"
+#include "SettingsState.h"
 
 #include <stdexcept>
 
