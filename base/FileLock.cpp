@@ -1,6 +1,7 @@
 #include "FileLock.h"
 
 #include "SystemCalls.h"
+#include "SystemFiles.h"
 
 #include <QByteArray>
 #include <QFileInfo>
@@ -12,7 +13,6 @@
 #    include <windows.h>
 #else
 #    include <cerrno>
-#    include <csignal>
 #    include <ctime>
 #    include <fcntl.h>
 #    include <sys/file.h>
@@ -194,7 +194,7 @@ public:
         const QByteArray process = lines.value(0), program = lines.value(1), host = lines.value(2);
         const long number = std::strtol(process.constData(), nullptr, 10);
         if (number > 0 && (host.isEmpty() || host == hostName())) {
-            if (::kill(static_cast<pid_t>(number), 0) != 0 && errno == ESRCH)
+            if (!isProcessRunning(number))
                 return true;
             // A later program may have got the number of the one that has ended.
             const QByteArray running = programOf(process);

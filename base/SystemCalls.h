@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <chrono>
+#include <filesystem>
 #include <thread>
 
 namespace zel {
@@ -37,6 +38,11 @@ inline QByteArray native(const QString& path)
     return QFile::encodeName(path);
 }
 #endif
+
+inline std::filesystem::path filePath(const QString& path)
+{
+    return std::filesystem::u8path(path.toUtf8().constData());
+}
 
 } // namespace zel
 

@@ -68,7 +68,7 @@ QString systemError()
 FileStamp stampOf(const QString& path)
 {
     std::error_code error;
-    const auto file = std::filesystem::u8path(path.toUtf8().constData());
+    const auto file = filePath(path);
     const auto size = std::filesystem::file_size(file, error);
     if (error)
         return {-1, 0};
@@ -79,7 +79,7 @@ FileStamp stampOf(const QString& path)
 bool setTime(const QString& path, std::int64_t time)
 {
     std::error_code error;
-    std::filesystem::last_write_time(std::filesystem::u8path(path.toUtf8().constData()),
+    std::filesystem::last_write_time(filePath(path),
                                      std::filesystem::file_time_type(std::chrono::milliseconds(time)), error);
     return !error;
 }

@@ -57,6 +57,8 @@ struct FileStamp
 {
     qint64 size;       ///< -1 for a file that does not exist.
     std::int64_t time; ///< In milliseconds of the file system's clock.
+
+    bool operator==(const FileStamp& other) const { return size == other.size && time == other.time; }
 };
 FileStamp stampOf(const QString& path);
 

@@ -64,7 +64,7 @@ void SettingsFollower::timerEvent(QTimerEvent*)
     const FileStamp present = stampOf(m_settings->fileName());
     const bool isWriting = &ZelSettingsFile::Current(*m_settings) != m_settings;
     m_timer.start(FollowInterval, this);
-    if (isWriting || isTyping() || (present.size == m_stamp.size && present.time == m_stamp.time))
+    if (isWriting || isTyping() || present == m_stamp)
         return;
     // A setting that is gone gets its default, as at the next start; without it, the fields would show a
     // minimum.

@@ -6,6 +6,9 @@ namespace zel {
 /// Names the folders of the stand-alone editor's settings, log and cache.
 const char* const StandAloneApplicationName = "TorvaneBoundlessX64";
 
+/// The settings file in an application's folder.
+const char* const SettingsFileName = "Settings.ini";
+
 /// The layout of Settings.ini that this version writes.
 const int CurrentSettingsVersion = 2;
 

@@ -1,12 +1,13 @@
 #include "ZelSettingsApplication.h"
 
+#include "SettingsKeys.h"
 #include "ZelSettingsFile.h"
 
 namespace zel {
 
 ZelSettingsApplication::ZelSettingsApplication(const QString& applicationFolder)
     : m_selection(nullptr)
-    , m_settings(applicationFolder + "/Settings.ini", QSettings::IniFormat)
+    , m_settings(applicationFolder + "/" + SettingsFileName, QSettings::IniFormat)
     , m_applicationFolder(applicationFolder)
 {
     ZelSettingsFile::UseFileEncoding(m_settings);

@@ -200,7 +200,7 @@ int runApplication(QtSingleApplication& singleApplication, ZelSettingsApplicatio
 std::optional<int> runEditor(QtSingleApplication& singleApplication)
 {
     const QString folder = createSettingsFolder();
-    const QString file = folder + "/Settings.ini";
+    const QString file = folder + "/" + SettingsFileName;
     QString error;
     if (!ZelSettingsFile::IsUsable(file, error)) {
         showFatalError(error);

@@ -3,13 +3,13 @@
 #include "SettingsReasons.h"
 #include "base/FileLock.h"
 #include "base/QtSettingsLock.h"
+#include "base/SystemCalls.h"
 #include "base/SystemFiles.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
-#include <filesystem>
 #include <system_error>
 
 namespace zel {
@@ -23,7 +23,7 @@ const int MaximumLinks = 40;  // That one name leads through, as for the system.
 bool isFull(const QString& folder, qint64 size)
 {
     std::error_code error; // Set when the folder does not exist yet.
-    const auto space = std::filesystem::space(std::filesystem::u8path(folder.toUtf8().constData()), error);
+    const auto space = std::filesystem::space(filePath(folder), error);
     // Some file systems count nothing.
     return !error && space.capacity > 0 && space.available < static_cast<std::uintmax_t>(size);
 }
@@ -31,7 +31,7 @@ bool isFull(const QString& folder, qint64 size)
 /// Of what a path leads to. The error is set, for example, for a link that leads to itself.
 std::filesystem::file_type typeOf(const QString& path, std::error_code& error)
 {
-    return std::filesystem::status(std::filesystem::u8path(path.toUtf8().constData()), error).type();
+    return std::filesystem::status(filePath(path), error).type();
 }
 
 /// The existing folder in which the missing parents of a path would be created.
