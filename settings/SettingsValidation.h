@@ -22,22 +22,29 @@ extern FolderFunctions folderFunctions;
 /// The error where a validator that fails gives none: the program has registered a default that is not valid.
 const char* const InvalidDefault = "The default of a setting is not valid";
 
-/// Runs the validator of every registered key, in key order, on what the settings hold for it, and calls
-/// visit(entry of the registry, stored value, resulting text). The stored value of a missing key is invalid;
-/// its validator sees the default. Stops at a validator that fails, and returns false.
+/// Runs the validator of a registered key on what settings hold for it, or on the default of a missing key.
+/// False, perhaps with the error text set, when it fails.
+/// @param stored  set to the value; invalid for a missing key
+/// @param text  set to what becomes of it
+inline bool validateKey(const QSettings& settings, const ZelSettingsRegistry::Settings::value_type& entry,
+                        QVariant& stored, QString& text, QString& error)
+{
+    const auto& [key, rule] = entry;
+    const auto& [defaultValue, validator] = rule;
+    stored = settings.value(key);
+    text = settings.value(key, defaultValue).toString(); // Of a stored "@Invalid()", an empty one.
+    return validator(key, defaultValue, text, error);
+}
+
+/// Validates every registered key, in key order, and calls visit(entry of the registry, stored value,
+/// resulting text); see validateKey(). Stops at a validator that fails, and returns false.
 template <typename Visit>
 bool validateSettings(const QSettings& settings, QString& error, Visit visit)
 {
-    // No settings file can hold a pointer, so it stands for a missing key.
-    const QVariant missing = QVariant::fromValue<void*>(nullptr);
     for (const auto& entry : ZelSettingsRegistry::GetDefaultSettingsValues()) {
-        const auto& [defaultValue, validator] = entry.second;
-        QVariant stored = settings.value(entry.first, missing);
-        const bool isMissing = stored.userType() == QMetaType::VoidStar;
-        if (isMissing)
-            stored.clear();
-        QString text = isMissing ? defaultValue : stored.toString();
-        if (!validator(entry.first, defaultValue, text, error))
+        QVariant stored;
+        QString text;
+        if (!validateKey(settings, entry, stored, text, error))
             return false;
         visit(entry, stored, text);
     }

@@ -38,7 +38,7 @@ bool zel::migrateSettings(const QString& path, const QString& language, QString&
             settings.setValue(keys::Engine, engines::Deferred);
             break;
         case Migration::FreshStart:
-            if (!WorkingCopy::Changing->keepContent("it is too old", reason))
+            if (!WorkingCopy::changing()->keepContent("it is too old", reason))
                 return refuseWriting(path, reason, failure);
             settings.clear();
             settings.setValue(keys::Language, language);

@@ -1,9 +1,9 @@
 #include "SettingsState.h"
 
 #include "FileAccess.h"
+#include "IniCodec.h"
 #include "SettingsDamage.h"
 #include "SettingsValues.h"
-#include "ZelSettingsFile.h"
 #include "base/SystemFiles.h"
 
 #include <QCoreApplication>
@@ -13,10 +13,6 @@
 namespace zel {
 
 namespace {
-
-const char* const UnwrittenProperty = "zelUnwritten"; ///< True when they hold what they could not write.
-const char* const ReadProperty = "zelRead";           ///< The values of a LastRead.
-const char* const ContentProperty = "zelContent";     ///< Its content.
 
 /// Finds out whether settings are about to write: they have posted an event to themselves.
 class PendingProbe : public QObject
@@ -31,12 +27,12 @@ public:
     }
 };
 
-/// Notes what settings read in the event loop, where QSettings writes what a host has set. Holds that back
-/// while there is something that they could not write.
-class ReadNoter : public QObject
+/// What is known of settings, whose child it is. Notes what they read in the event loop, where QSettings
+/// writes what a host has set. Holds that back while there is something that they could not write.
+class SettingsMemory : public QObject
 {
 public:
-    explicit ReadNoter(QSettings& settings)
+    explicit SettingsMemory(QSettings& settings)
         : QObject(&settings)
     {
         settings.installEventFilter(this);
@@ -46,17 +42,35 @@ public:
     {
         if (event->type() != QEvent::UpdateRequest)
             return false;
-        auto& settings = static_cast<QSettings&>(*watched);
-        if (hasUnwritten(settings))
+        if (hasUnwritten)
             return true;
         watched->event(event);
+        auto& settings = static_cast<QSettings&>(*watched);
         QByteArray content;
         QString ignored;
         if (readFile(settings.fileName(), content, ignored) && !holdsObjects(content))
-            noteRead(settings, valuesOf(settings), content);
+            read = {valuesOf(settings), content};
         return true;
     }
+
+    bool hasUnwritten = false;
+    LastRead read;
 };
+
+/// Null when nothing is known of the settings yet.
+SettingsMemory* findMemory(const QSettings& settings)
+{
+    for (QObject* child : settings.children())
+        if (auto* memory = dynamic_cast<SettingsMemory*>(child))
+            return memory;
+    return nullptr;
+}
+
+SettingsMemory& memoryOf(QSettings& settings)
+{
+    SettingsMemory* memory = findMemory(settings);
+    return memory ? *memory : *new SettingsMemory(settings);
+}
 
 /// Lets settings write what is pending, and read the file if its stamp has changed.
 void update(QSettings& settings)
@@ -77,12 +91,13 @@ void leaveGroups(QSettings& settings)
 
 bool hasUnwritten(const QSettings& settings)
 {
-    return settings.property(UnwrittenProperty).toBool();
+    const SettingsMemory* memory = findMemory(settings);
+    return memory && memory->hasUnwritten;
 }
 
 void setUnwritten(QSettings& settings, bool isUnwritten)
 {
-    settings.setProperty(UnwrittenProperty, isUnwritten);
+    memoryOf(settings).hasUnwritten = isUnwritten;
 }
 
 bool hasPending(QSettings& settings)
@@ -105,15 +120,13 @@ void stopWriting(QSettings& settings)
 
 LastRead lastRead(const QSettings& settings)
 {
-    return {settings.property(ReadProperty), settings.property(ContentProperty)};
+    const SettingsMemory* memory = findMemory(settings);
+    return memory ? memory->read : LastRead();
 }
 
-void noteRead(QSettings& settings, const QVariantMap& values, const QVariant& content)
+void noteRead(QSettings& settings, const QVariantMap& values, const std::optional<QByteArray>& content)
 {
-    if (!settings.property(ReadProperty).isValid())
-        new ReadNoter(settings);
-    settings.setProperty(ReadProperty, values);
-    settings.setProperty(ContentProperty, content);
+    memoryOf(settings).read = {values, content};
 }
 
 void readAgain(QSettings& settings, const QByteArray& content)
@@ -125,7 +138,7 @@ void readAgain(QSettings& settings, const QByteArray& content)
         makeLater(target, stampOf(target));
         update(settings);
     }
-    ZelSettingsFile::UseFileEncoding(settings); // Reading the UTF-8 mark brings Qt's own codec back.
+    settings.setIniCodec(&iniCodec()); // Reading the UTF-8 mark brings Qt's own codec back.
     noteRead(settings, valuesOf(settings), content);
 }
 

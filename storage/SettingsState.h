@@ -6,6 +6,8 @@
 #include <QByteArray>
 #include <QVariant>
 
+#include <optional>
+
 class QSettings;
 
 namespace zel {
@@ -27,16 +29,17 @@ void leaveGroups(QSettings& settings);
 /// What settings have read of the file. What they have set since is a difference from that.
 struct LastRead
 {
-    QVariant values;  ///< A map of what they held then; invalid if that is unknown.
-    QVariant content; ///< Of the file; invalid if it has held all of the values.
+    std::optional<QVariantMap> values; ///< What they held then; none if that is unknown.
+    std::optional<QByteArray> content; ///< Of the file; none if it has held all of the values.
 };
 LastRead lastRead(const QSettings& settings);
 
 /// Notes what settings have read: the values that the content holds as well, because QSettings does not tell
 /// of a read, or of a write, that has failed. From then on, what they read in the event loop is noted, too;
 /// after stopWriting(), the event loop neither reads nor writes.
-/// @param content  of the file, without objects; invalid if it holds all of the values
-void noteRead(QSettings& settings, const QVariantMap& values, const QVariant& content = QVariant());
+/// @param content  of the file, without objects; none if it holds all of the values
+void noteRead(QSettings& settings, const QVariantMap& values,
+              const std::optional<QByteArray>& content = std::nullopt);
 
 /// Reads the file again. QSettings writes what is pending, without protection.
 /// @param content  of the file, without objects, as it was just read

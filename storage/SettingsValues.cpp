@@ -37,6 +37,21 @@ bool isSame(const QVariantMap& first, const QVariantMap& second)
     return other == second.constEnd();
 }
 
+void setValues(QSettings& settings, const QVariantMap& wanted)
+{
+    const QVariantMap present = valuesOf(settings);
+    for (auto value = present.constBegin(); value != present.constEnd(); ++value)
+        if (!wanted.contains(value.key()))
+            settings.remove(value.key());
+    const QVariantMap left = valuesOf(settings); // A group goes with the key of its name.
+    for (auto value = wanted.constBegin(); value != wanted.constEnd(); ++value) {
+        // A float equals its text, but QSettings would serialise it.
+        const QVariant held = left.value(value.key());
+        if (!left.contains(value.key()) || held.userType() != value->userType() || !isSame(held, *value))
+            settings.setValue(value.key(), *value);
+    }
+}
+
 QVariantMap common(const QVariantMap& first, const QVariantMap& second)
 {
     QVariantMap same;

@@ -15,6 +15,9 @@ QVariantMap valuesOf(const QSettings& settings);
 bool isSame(const QVariant& first, const QVariant& second);
 bool isSame(const QVariantMap& first, const QVariantMap& second);
 
+/// Makes settings hold these values, and no others.
+void setValues(QSettings& settings, const QVariantMap& wanted);
+
 /// The values that are the same in both.
 QVariantMap common(const QVariantMap& first, const QVariantMap& second);
 

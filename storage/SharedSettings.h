@@ -22,10 +22,8 @@ class SharedSettings
 public:
     /// @param deadline  ends all waits; outlives this object, as the settings do
     SharedSettings(QSettings& settings, const Deadline& deadline);
-    /// If nothing was written, they hold their former values again, or what they have read since. Values that
-    /// the change has set would stay pending: QSettings writes the file's own values once more to forget
-    /// them. If that is not possible, or values were pending before, nothing is written before the next
-    /// write.
+    /// As giveBack(), unless that or readWritten() was called, but without a write: the values that the
+    /// change has set stay pending.
     ~SharedSettings();
 
     /// What the file has held, as far as that is known: a file that is cut meanwhile is restored with it.
@@ -46,20 +44,26 @@ public:
     /// @param content  what the file holds now
     bool readWritten(const QByteArray& content, QString& reason);
 
+    /// To be called when nothing was written: they hold their former values again, or what they have read
+    /// since, and QSettings forgets what the change has set. If that is not possible, which returns false
+    /// with the reason, or values were pending before, nothing is written before the next write.
+    bool giveBack(QString& reason);
+
 private:
     Q_DISABLE_COPY(SharedSettings)
 
-    bool writePending(const QVariantMap& known, QString& reason);
+    /// The part of giveBack() that only touches memory. True when values are pending then.
+    bool holdFormer();
 
     QSettings& m_settings;
     const QVariantMap m_held; ///< What they held before the change.
     const bool m_hasPending;
     const LastRead m_lastRead;
-    QVariant m_former;    ///< What the last read has found; invalid until that is known.
-    QVariantMap m_stored; ///< What the file held before the last attempt.
+    std::optional<QVariantMap> m_former; ///< What the last read has found; none until that is known.
+    QVariantMap m_stored;                ///< What the file held before the last attempt.
     QVariantMap m_known;
     const Deadline& m_deadline;
-    bool m_isWritten;
+    bool m_isDone; ///< They hold what they should.
 };
 
 } // namespace zel

@@ -7,7 +7,6 @@
 #include "SettingsReasons.h"
 #include "SettingsValidation.h"
 #include "SettingsValues.h"
-#include "ZelSettingsFile.h"
 #include "base/QtSettingsLock.h"
 #include "base/SystemFiles.h"
 
@@ -62,7 +61,7 @@ QByteArray withoutMark(const QByteArray& text)
 std::unique_ptr<QSettings> openSettings(const QString& path)
 {
     auto settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
-    ZelSettingsFile::UseFileEncoding(*settings);
+    settings->setIniCodec(&iniCodec());
     return settings;
 }
 
@@ -98,7 +97,7 @@ void removeOrphans(const QString& target)
 
 } // namespace
 
-WorkingCopy* WorkingCopy::Changing = nullptr;
+const WorkingCopy* WorkingCopy::s_changing = nullptr;
 
 WorkingCopy::WorkingCopy(const SettingsLock& lock)
     : m_lock(lock)
@@ -160,12 +159,9 @@ bool WorkingCopy::restoreLost(const QVariantMap& known, QString& reason)
 {
     QVariantMap values = valuesOf(*m_settings);
     if (m_mustBeWritten || m_content.isEmpty() || lacksRegistered(values, known)) {
-        for (auto value = known.constBegin(); value != known.constEnd(); ++value) {
-            if (!values.contains(value.key())) {
-                values.insert(value.key(), *value);
-                m_mustBeWritten = true;
-            }
-        }
+        const int count = values.size();
+        values = united(values, known);
+        m_mustBeWritten = m_mustBeWritten || values.size() > count;
     }
     return !m_mustBeWritten || makeOf(values, reason);
 }

@@ -26,7 +26,18 @@ public:
     ~WorkingCopy();
 
     /// The copy that a change is made to; null when none is.
-    static WorkingCopy* Changing;
+    static const WorkingCopy* changing() { return s_changing; }
+
+    /// Makes a copy the one that a change is made to, also if that ends with an exception.
+    class ChangeScope
+    {
+    public:
+        explicit ChangeScope(const WorkingCopy& copy) { s_changing = &copy; }
+        ~ChangeScope() { s_changing = nullptr; }
+
+    private:
+        Q_DISABLE_COPY(ChangeScope)
+    };
 
     /// Copies the settings file, after a dated copy of it where a write loses something. Lines with
     /// serialised objects are left out. False, with the reason, when the file cannot be read or copied.
@@ -78,6 +89,8 @@ private:
     /// Gives the copy the rights of the settings file; if that is not possible, only its user has rights.
     bool takeRights();
     Outcome replace(QString& reason) const;
+
+    static const WorkingCopy* s_changing;
 
     const SettingsLock& m_lock;
     const QString m_target; ///< The settings file behind all links.

@@ -23,17 +23,6 @@ namespace {
 const int MaximumTries = 50; // Of a write, while others write the file.
 const int FinishTime = 500;  // ms; for a program that may be finishing a write just now.
 
-/// Lets pages see the copy while a change runs, also if it ends with an exception.
-class Visible
-{
-public:
-    explicit Visible(WorkingCopy& copy) { WorkingCopy::Changing = &copy; }
-    ~Visible() { WorkingCopy::Changing = nullptr; }
-
-private:
-    Q_DISABLE_COPY(Visible)
-};
-
 /// Keeps a dated copy of a file in which a list stands in place of a registered text, and now the text.
 /// False, with the reason, when that is not possible.
 bool keepLists(const WorkingCopy& copy, const QVariantMap& before, QString& reason)
@@ -99,7 +88,7 @@ Outcome tryWrite(const QString& path, SharedSettings& shared, const ZelSettingsF
     // The change may take long, or let the shared settings write, which then wait for the lock.
     lock.release();
     const bool isMade = deadline.pauseFor([&] {
-        const Visible visible(copy);
+        const WorkingCopy::ChangeScope scope(copy);
         return change(copy.settings(), error);
     });
     if (!isMade)
@@ -123,7 +112,7 @@ bool write(QSettings& settings, const ZelSettingsFile::Change& change, Deadline&
     const QString path = settings.fileName();
     QByteArray content;
     QString reason;
-    if (WorkingCopy::Changing)
+    if (WorkingCopy::changing())
         reason = SettingsFileText::tr("it is being written already");
     else if (!settings.group().isEmpty()) // The values outside it cannot be reached.
         reason = SettingsFileText::tr("a group of it is open");
@@ -138,7 +127,12 @@ bool write(QSettings& settings, const ZelSettingsFile::Change& change, Deadline&
     do
         outcome = tryWrite(path, shared, change, deadline, reason, error);
     while (outcome == Outcome::Outdated && ++tries < MaximumTries && deadline.remaining() > 0);
-    return outcome == Outcome::InPlace || (outcome != Outcome::GivenUp && refuseWriting(path, reason, error));
+    if (outcome == Outcome::InPlace)
+        return true;
+    QString unwritten;
+    if (!shared.giveBack(unwritten))
+        logWarning(QString("What a change has set in \"%1\" is still pending: %2").arg(path, unwritten));
+    return outcome != Outcome::GivenUp && refuseWriting(path, reason, error);
 }
 
 bool changeNothing(QSettings&, QString&)
@@ -209,13 +203,13 @@ bool ZelSettingsFile::IsWritable(const QString& path, QString& error)
 
 QSettings& ZelSettingsFile::Current(QSettings& settings)
 {
-    const WorkingCopy* copy = WorkingCopy::Changing;
+    const WorkingCopy* copy = WorkingCopy::changing();
     return copy && copy->path() == settings.fileName() ? copy->settings() : settings;
 }
 
 bool ZelSettingsFile::ReadAgain(QSettings& settings, QString& error)
 {
-    if (WorkingCopy::Changing)
+    if (WorkingCopy::changing())
         return true;
     Deadline deadline;
     QByteArray content;
@@ -248,24 +242,22 @@ bool ZelSettingsFile::Repair(QSettings& settings, QString& error)
         needsWrite = needsWrite || needsRepair(stored, text);
     };
     const auto change = [&values](QSettings& copy, QString& failure) {
-        for (const auto& [key, rule] : ZelSettingsRegistry::GetDefaultSettingsValues()) {
-            const auto& [defaultValue, validator] = rule;
-            auto& [known, text] = values[key];
-            const QVariant stored = copy.value(key);
-            if (stored != known) { // Another program has written it since.
-                known = stored;
-                text = stored.isValid() ? stored.toString() : defaultValue;
-                if (!validator(key, defaultValue, text, failure))
-                    return false;
-            }
+        for (const auto& entry : ZelSettingsRegistry::GetDefaultSettingsValues()) {
+            auto& [stored, text] = values[entry.first];
+            // Another program may have written it since.
+            if (copy.value(entry.first) != stored && !validateKey(copy, entry, stored, text, failure))
+                return false;
             if (needsRepair(stored, text))
-                copy.setValue(key, text);
+                copy.setValue(entry.first, text);
         }
         return true;
     };
     if (!deadline.pauseFor([&] { return validateSettings(settings, error, keep); }) ||
-        (needsWrite && !write(settings, change, deadline, error)))
-        return error.isEmpty() && refuseWriting(path, InvalidDefault, error);
+        (needsWrite && !write(settings, change, deadline, error))) {
+        if (error.isEmpty())
+            refuseWriting(path, InvalidDefault, error);
+        return false;
+    }
     if (!deadline.pauseFor([&] { return runEndChecks(settings, error); }))
         return false;
     if (hasPending(settings)) // An end check has set values.
