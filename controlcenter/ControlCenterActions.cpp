@@ -1,13 +1,12 @@
 #include "ControlCenterActions.h"
 
 #include "LanguageFollower.h"
-#include "ZelPageHelp.h"
+#include "TypedField.h"
 
 #include <QAbstractSpinBox>
 #include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -18,8 +17,9 @@ namespace zel {
 
 namespace {
 
-const char* const ValueProperty = "value";
+enum CommandNumber { Help, PutBack, Discard, Restore };
 
+/// The first ones in the order of their numbers.
 const struct Command
 {
     const char* name;
@@ -89,30 +89,29 @@ ControlCenterActions::ControlCenterActions(QWidget* column, QScrollArea* drawer,
     : QObject(column)
     , m_column(column)
     , m_drawer(drawer)
+    , m_typed(new TypedField(drawer, this))
+    , m_apply(add("apply", new ButtonAction(apply)))
 {
     column->installEventFilter(this);
     drawer->installEventFilter(this);
-    connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
-
-    add("apply", new ButtonAction(apply));
     add("reset", new ButtonAction(reset));
     // The focus may stay in a field; Escape must not restore what it showed before the command.
-    connect(apply, SIGNAL(clicked()), this, SLOT(rememberField()));
-    connect(reset, SIGNAL(clicked()), this, SLOT(rememberField()));
+    connect(apply, SIGNAL(clicked()), m_typed, SLOT(remember()));
+    connect(reset, SIGNAL(clicked()), m_typed, SLOT(remember()));
     for (const Command& command : Commands) {
         QAction* action = add(command.name, new QAction(nullptr));
         action->setData(command.scrolling);
         connect(action, SIGNAL(triggered()), this, command.receiver);
+        m_commands << action;
     }
-    for (const char* name : {"discard", "restore"}) {
-        auto* action = findChild<QAction*>(name);
+    for (QAction* action : {m_commands[Discard], m_commands[Restore]}) {
         action->setAutoRepeat(false); // A held Ctrl+Z undoes what is typed, and no more.
-        connect(action, SIGNAL(triggered()), this, SLOT(rememberField()));
+        connect(action, SIGNAL(triggered()), m_typed, SLOT(remember()));
     }
+    m_commands[PutBack]->setEnabled(false);
+    connect(m_typed, SIGNAL(changed(bool)), m_commands[PutBack], SLOT(setEnabled(bool)));
     setTexts();
     new LanguageFollower(column, [this] { setTexts(); });
-    m_putBack = findChild<QAction*>("putBack");
-    m_putBack->setEnabled(false);
 }
 
 QAction* ControlCenterActions::add(const char* name, QAction* action)
@@ -127,14 +126,14 @@ QAction* ControlCenterActions::add(const char* name, QAction* action)
 
 void ControlCenterActions::enable(bool discard, bool restore)
 {
-    findChild<QAction*>("discard")->setEnabled(discard);
-    findChild<QAction*>("restore")->setEnabled(restore);
+    m_commands[Discard]->setEnabled(discard);
+    m_commands[Restore]->setEnabled(restore);
 }
 
 void ControlCenterActions::setTexts()
 {
-    for (const Command& command : Commands)
-        findChild<QAction*>(command.name)->setText(translated(command.text));
+    for (int index = 0; index < m_commands.size(); ++index)
+        m_commands[index]->setText(translated(Commands[index].text));
 }
 
 bool ControlCenterActions::eventFilter(QObject* watched, QEvent* event)
@@ -142,31 +141,25 @@ bool ControlCenterActions::eventFilter(QObject* watched, QEvent* event)
     if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
         return false;
     auto* key = static_cast<QKeyEvent*>(event);
-    if (watched == m_field)
+    if (watched == m_typed->field())
         return event->type() == QEvent::ShortcutOverride && leavesToCommand(*key);
     if (event->type() == QEvent::KeyPress)
         return press(*key, watched == m_column);
     // Reads a half-typed number before Qt looks up the shortcut: only an edit enables "Apply". Other keys,
     // such as those that copy and undo, leave what is being typed alone.
     const QKeySequence keys(key->key() | static_cast<int>(key->modifiers()));
-    if (field() && triggersCommand(keys)) {
-        field()->interpretText();
-        // Some pages wait for the end of an edit, such as the levels, which stay in order.
-        if (appliesEdits(keys) && field()->text() != m_text)
-            QMetaObject::invokeMethod(m_field, "editingFinished");
-    }
+    if (m_typed->field() && triggersCommand(keys))
+        m_typed->take(appliesEdits(keys));
     return false;
 }
 
 bool ControlCenterActions::leavesToCommand(QKeyEvent& event) const
 {
     const QKeySequence keys(event.key() | static_cast<int>(event.modifiers()));
-    const auto* editor = m_field->findChild<QLineEdit*>();
-    const bool typing = field()->text() != m_text && (editor->isUndoAvailable() || editor->isRedoAvailable());
-    const auto triggers = [&](const char* name) {
-        return findChild<QAction*>(name)->shortcuts().contains(keys);
+    const auto triggers = [&](CommandNumber command) {
+        return m_commands[command]->shortcuts().contains(keys);
     };
-    const bool leaves = !typing && (triggers("discard") || triggers("restore"));
+    const bool leaves = !m_typed->hasHistory() && (triggers(Discard) || triggers(Restore));
     if (leaves)
         event.ignore();
     return leaves;
@@ -174,7 +167,7 @@ bool ControlCenterActions::leavesToCommand(QKeyEvent& event) const
 
 bool ControlCenterActions::appliesEdits(const QKeySequence& keys) const
 {
-    return findChild<QAction*>("apply")->shortcuts().contains(keys) ||
+    return m_apply->shortcuts().contains(keys) ||
            m_column->findChild<QPushButton*>("applyButton")->shortcut() == keys;
 }
 
@@ -188,63 +181,29 @@ bool ControlCenterActions::triggersCommand(const QKeySequence& keys) const
                        [&](const QPushButton* button) { return button->shortcut() == keys; });
 }
 
-QAbstractSpinBox* ControlCenterActions::field() const
-{
-    return qobject_cast<QAbstractSpinBox*>(m_field.data());
-}
-
 bool ControlCenterActions::press(const QKeyEvent& event, bool inColumn)
 {
     const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
     if (modifiers != Qt::NoModifier)
         return false;
     if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
-        rememberField(); // QAbstractSpinBox takes the typed value and passes the key on.
-    if (event.key() == Qt::Key_Escape && field() && field()->text() != m_text) {
-        m_putBack->trigger();
+        m_typed->remember(); // QAbstractSpinBox takes the typed value and passes the key on.
+    if (event.key() == Qt::Key_Escape && m_typed->isTyped()) {
+        m_commands[PutBack]->trigger();
         return true;
     }
-    for (const Command& command : Commands) {
-        if (inColumn && command.columnKey == event.key()) {
-            findChild<QAction*>(command.name)->trigger();
+    for (int index = 0; index < m_commands.size(); ++index) {
+        if (inColumn && Commands[index].columnKey == event.key()) {
+            m_commands[index]->trigger();
             return true;
         }
     }
     return false;
 }
 
-void ControlCenterActions::onFocusChanged(QWidget*, QWidget* current)
-{
-    if (m_field)
-        m_field->removeEventFilter(this);
-    m_field =
-        m_drawer && m_drawer->isAncestorOf(current) ? qobject_cast<QAbstractSpinBox*>(current) : nullptr;
-    m_putBack->setEnabled(m_field);
-    if (m_field)
-        m_field->installEventFilter(this);
-    rememberField();
-}
-
-void ControlCenterActions::rememberField()
-{
-    if (!field())
-        return;
-    const ZelSettingHelp* help = ZelPageHelp::HelpOn(m_field);
-    m_value = help && !help->differs(StoredValue) ? QVariant() : m_field->property(ValueProperty);
-    m_text = field()->text();
-}
-
 void ControlCenterActions::putBack()
 {
-    if (!field())
-        return;
-    const ZelSettingHelp* help = ZelPageHelp::HelpOn(m_field);
-    if (help && !m_value.isValid())
-        help->take(StoredValue);
-    else
-        m_field->setProperty(ValueProperty, m_value);
-    if (field()) // The page may be deleted meanwhile.
-        field()->selectAll();
+    m_typed->putBack();
 }
 
 void ControlCenterActions::requestHelp()

@@ -1,12 +1,10 @@
 #ifndef ZEL_CONTROLCENTERACTIONS_H
 #define ZEL_CONTROLCENTERACTIONS_H
 
+#include <QList>
 #include <QObject>
 #include <QPointer>
-#include <QString>
-#include <QVariant>
 
-class QAbstractSpinBox;
 class QAction;
 class QKeyEvent;
 class QKeySequence;
@@ -15,6 +13,8 @@ class QScrollArea;
 class QWidget;
 
 namespace zel {
+
+class TypedField;
 
 /// The keyboard commands of the control center, as actions. They have no shortcuts, which could clash with
 /// those of the application; it may set some. Keys that no other widget takes work without a shortcut: Escape
@@ -32,6 +32,9 @@ public:
     /// Enables the actions for pending edits: "discard", and "restore".
     void enable(bool discard, bool restore);
 
+    /// What Escape puts back.
+    TypedField& typedField() { return *m_typed; }
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
@@ -41,9 +44,6 @@ Q_SIGNALS:
     void restoreRequested();
 
 private Q_SLOTS:
-    void onFocusChanged(QWidget* previous, QWidget* current);
-    /// Stores what the focused field shows, for Escape to restore.
-    void rememberField();
     void putBack();
     void requestHelp();
     void scroll();
@@ -60,14 +60,12 @@ private:
     bool appliesEdits(const QKeySequence& keys) const;
     /// True for the keys of an action or a button of the control center, or of an action of its window.
     bool triggersCommand(const QKeySequence& keys) const;
-    QAbstractSpinBox* field() const;
 
     QWidget* const m_column;
     const QPointer<QWidget> m_drawer;
-    QAction* m_putBack;
-    QPointer<QWidget> m_field; ///< The spin box with the focus, if any. It may be about to be destroyed.
-    QVariant m_value;          ///< Its value before the user typed; invalid if that is stored.
-    QString m_text;            ///< Its text before the user typed.
+    TypedField* const m_typed;
+    QAction* const m_apply;
+    QList<QAction*> m_commands; ///< In the order of their table.
 };
 
 } // namespace zel

@@ -1,10 +1,14 @@
 #include "PageButtons.h"
 
+#include "PageList.h"
 #include "ZelSettingsPanel.h"
 
 #include <QBoxLayout>
 #include <QButtonGroup>
+#include <QCoreApplication>
+#include <QIcon>
 #include <QKeyEvent>
+#include <QPointer>
 
 namespace zel {
 
@@ -18,6 +22,20 @@ QWidget* firstField(QWidget& page)
             widget->isVisible() && !widget->focusProxy())
             return widget;
     return nullptr;
+}
+
+/// Without pending edits a transparent icon takes the same space.
+void markButton(QPushButton& button, bool pending)
+{
+    const QString tip = pending ? QCoreApplication::translate("ZelControlCenter",
+                                                              "This page has changes that are not applied.")
+                                : QCoreApplication::translate("ZelControlCenter", "Shows this page.");
+    if (button.toolTip() == tip)
+        return;
+    button.setIcon(QIcon(pending ? ":/controlCenter/controlCenter/pending.png"
+                                 : ":/controlCenter/controlCenter/pendingNone.png"));
+    button.setToolTip(tip);
+    button.setAccessibleDescription(tip);
 }
 
 } // namespace
@@ -67,6 +85,19 @@ void PageButtons::remove(ZelSettingsPanel* page)
 QWidget* PageButtons::checkedButton() const
 {
     return m_group->checkedButton();
+}
+
+bool PageButtons::mark(const PageList& pages)
+{
+    bool any = false;
+    pages.forEach([&](ZelSettingsPanel* page) {
+        const QPointer<QPushButton> button = page->getActionWidget();
+        const bool pending = page->hasModifications();
+        if (button)
+            markButton(*button, pending);
+        any = any || pending;
+    });
+    return any;
 }
 
 bool PageButtons::eventFilter(QObject* watched, QEvent* event)

@@ -12,6 +12,7 @@ class QWidget;
 
 namespace zel {
 
+class PageList;
 class ZelSettingsPanel;
 
 /// The list of pages in the column of the control center: one button for each page, of which one is checked.
@@ -29,6 +30,9 @@ public:
     void remove(ZelSettingsPanel* page);
     /// The button that is checked; null when none is.
     QWidget* checkedButton() const;
+
+    /// Marks the buttons of the pages that have pending edits. True when there is one.
+    static bool mark(const PageList& pages);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

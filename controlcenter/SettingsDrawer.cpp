@@ -10,7 +10,6 @@
 #include <QScrollBar>
 
 #include <algorithm>
-#include <numeric>
 
 namespace zel {
 
@@ -88,7 +87,7 @@ void SettingsDrawer::setWidth(int width)
     const auto besideBar = [&](int whole, bool hasBar) {
         // All pages together are usually higher than the drawer: the first ones get their final width at
         // once.
-        return std::max(hasBar || !m_steps.isEmpty() ? whole - bar->sizeHint().width() : whole, 0);
+        return std::max(hasBar || !m_newPages.isEmpty() ? whole - bar->sizeHint().width() : whole, 0);
     };
     // Pages keep their width while the drawer is hidden, or all would be laid out again when it closes and
     // opens.
@@ -111,56 +110,22 @@ void SettingsDrawer::showWithoutNewPages(double progress)
         if (page->isHidden() || page->testAttribute(Qt::WA_WState_Polished))
             continue;
         page->hide();
-        addSteps(*page);
+        m_newPages.add(*page);
     }
-    m_begin = progress;
-    m_work = m_workLeft = std::accumulate(m_steps.begin(), m_steps.end(), 0,
-                                          [](int work, const Step& step) { return work + step.kind; });
+    m_newPages.begin(progress);
     area()->show();
-}
-
-void SettingsDrawer::addSteps(QWidget& page)
-{
-    // From the leaves to the root. All are polished first: when the page is, it may tell them of their style,
-    // which forgets their sizes.
-    QList<QWidget*> widgets = page.findChildren<QWidget*>();
-    widgets.prepend(&page);
-    for (int index = widgets.size() - 1; index >= 0; --index)
-        m_steps << Step{Polish, widgets[index]};
-    for (int index = widgets.size() - 1; index >= 0; --index)
-        if (widgets[index]->layout())
-            m_steps << Step{Measure, widgets[index]};
-    m_steps << Step{Show, &page};
 }
 
 void SettingsDrawer::showNewPages(double progress)
 {
-    const double workAtEnd = m_begin < 1 ? m_work * (1 - progress) / (1 - m_begin) : 0;
-    for (bool first = true; m_workLeft > workAtEnd && !m_steps.isEmpty(); first = false) {
-        if (m_steps.first().kind == Show && !first)
-            return; // To appear is enough work for one frame.
-        const Step step = m_steps.takeFirst();
-        m_workLeft -= step.kind;
-        if (!step.widget)
-            continue;
-        if (step.kind == Polish)
-            step.widget->ensurePolished();
-        else if (step.kind == Measure && step.widget->layout())
-            step.widget->layout()->totalSizeHint(); // Which it keeps.
-        if (step.kind == Show)
-            return show(QList<QPointer<QWidget>>() << step.widget);
-    }
+    if (QWidget* page = m_newPages.advance(progress))
+        show(QList<QPointer<QWidget>>() << page);
 }
 
 void SettingsDrawer::showAllPages()
 {
-    QList<QPointer<QWidget>> pages;
-    for (const Step& step : m_steps)
-        if (step.kind == Show)
-            pages << step.widget;
-    m_steps.clear();
     const QPointer<SettingsDrawer> self(this);
-    show(pages);
+    show(m_newPages.takeAll());
     if (self && isVisible())
         setWidth(width()); // The scroll bar may not be needed after all.
 }

@@ -1,6 +1,8 @@
 #ifndef ZEL_SETTINGSDRAWER_H
 #define ZEL_SETTINGSDRAWER_H
 
+#include "PageQueue.h"
+
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -17,9 +19,6 @@ class ZelSettingsPanel;
 
 /// The drawer of the control center: a scroll area with the pages, one below the other. ControlCenterSlides
 /// opens and closes it.
-///
-/// A page is styled and laid out when it is first shown, which takes as long as half a frame. While the
-/// drawer slides open for the first time, this is done in steps, which are spread evenly over the slide.
 class SettingsDrawer : public QObject
 {
     Q_OBJECT
@@ -66,15 +65,6 @@ private Q_SLOTS:
     void onRangeChanged();
 
 private:
-    /// What there is to do for a page that has not been seen yet, and how much work it is beside the others.
-    enum StepKind { Polish = 1, Measure = 2, Show = 20 };
-    struct Step
-    {
-        StepKind kind;
-        QPointer<QWidget> widget;
-    };
-
-    void addSteps(QWidget& page);
     /// Shows pages, each of which may remove or delete pages, or delete this object, when it appears.
     void show(const QList<QPointer<QWidget>>& pages);
     void makeRoomFor(const QWidget& page);
@@ -84,10 +74,7 @@ private:
     QBoxLayout* const m_pageLayout;
     DrawerLayout* const m_contentLayout;
     QPropertyAnimation* const m_scrolling;
-    QList<Step> m_steps;
-    double m_begin = 0; ///< The progress from which on the steps are spread over the slide.
-    int m_work = 0;     ///< Of all steps.
-    int m_workLeft = 0;
+    PageQueue m_newPages;
 };
 
 } // namespace zel

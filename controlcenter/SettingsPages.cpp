@@ -6,8 +6,6 @@
 #include "ZelSettingsPanel.h"
 #include "ZelSettingsRegistry.h"
 
-#include <QCoreApplication>
-#include <QIcon>
 #include <QPointer>
 #include <QSettings>
 
@@ -30,20 +28,6 @@ void logUnregisteredKeys(const ZelSettingsPanel& page)
                        .arg(page.getPanelName(), keys.join(", ")));
 }
 
-/// Without pending edits a transparent icon takes the same space.
-void markButton(QPushButton& button, bool pending)
-{
-    const QString tip = pending ? QCoreApplication::translate("ZelControlCenter",
-                                                              "This page has changes that are not applied.")
-                                : QCoreApplication::translate("ZelControlCenter", "Shows this page.");
-    if (button.toolTip() == tip)
-        return;
-    button.setIcon(QIcon(pending ? ":/controlCenter/controlCenter/pending.png"
-                                 : ":/controlCenter/controlCenter/pendingNone.png"));
-    button.setToolTip(tip);
-    button.setAccessibleDescription(tip);
-}
-
 /// Applies every page, in order. One that is not in the list has no edits of the user.
 bool applyEach(const PageList& pages, const QList<ZelSettingsPanel*>& edited)
 {
@@ -59,32 +43,6 @@ bool applyEach(const PageList& pages, const QList<ZelSettingsPanel*>& edited)
 }
 
 } // namespace
-
-void PageList::forEach(const std::function<void(ZelSettingsPanel*)>& action) const
-{
-    any([&](ZelSettingsPanel* page) {
-        action(page);
-        return false;
-    });
-}
-
-bool PageList::any(const std::function<bool(ZelSettingsPanel*)>& test) const
-{
-    const auto listed = m_pages;
-    const QList<ZelSettingsPanel*> pages = *listed;
-    return std::any_of(pages.begin(), pages.end(),
-                       [&](ZelSettingsPanel* page) { return listed->contains(page) && test(page); });
-}
-
-QList<ZelSettingsPanel*> PageList::modified() const
-{
-    QList<ZelSettingsPanel*> modified;
-    forEach([&](ZelSettingsPanel* page) {
-        if (page->hasModifications())
-            modified << page;
-    });
-    return modified;
-}
 
 SettingsPages::SettingsPages(QObject* parent)
     : QObject(parent)
@@ -191,19 +149,6 @@ void SettingsPages::restore()
         if (const auto again = discarded.value(page))
             again(); // The page says so.
     });
-}
-
-bool SettingsPages::mark() const
-{
-    bool any = false;
-    m_pages.forEach([&](ZelSettingsPanel* page) {
-        const QPointer<QPushButton> button = page->getActionWidget();
-        const bool pending = page->hasModifications();
-        if (button)
-            markButton(*button, pending);
-        any = any || pending;
-    });
-    return any;
 }
 
 void SettingsPages::takeStored()

@@ -1,39 +1,19 @@
 #ifndef ZEL_SETTINGSPAGES_H
 #define ZEL_SETTINGSPAGES_H
 
+#include "PageList.h"
 #include "SettingsFollower.h"
 
-#include <QList>
 #include <QMap>
 #include <QObject>
 
 #include <functional>
-#include <memory>
 
 class QSettings;
 
 namespace zel {
 
 class ZelSettingsPanel;
-
-/// A list of pages, each of which may change the list, or delete the object that has it, while it is asked:
-/// those that have left the list are not asked any more. A copy shares the list and keeps it alive, so a
-/// function that goes through it twice takes one.
-class PageList
-{
-public:
-    QList<ZelSettingsPanel*>* operator->() const { return m_pages.get(); }
-
-    /// Calls a function for each page, in order.
-    void forEach(const std::function<void(ZelSettingsPanel*)>& action) const;
-    /// True when a test is true for a page; the next ones are not tested.
-    bool any(const std::function<bool(ZelSettingsPanel*)>& test) const;
-    /// The pages with pending edits.
-    QList<ZelSettingsPanel*> modified() const;
-
-private:
-    std::shared_ptr<QList<ZelSettingsPanel*>> m_pages = std::make_shared<QList<ZelSettingsPanel*>>();
-};
 
 /// The registered pages in the order of their registration, and what is asked of all of them together. Needs
 /// no window. Does not own the pages.
@@ -73,8 +53,6 @@ public:
     void reset();
     /// True when restore() makes edits again.
     bool canRestore() const { return !m_discarded.isEmpty(); }
-    /// Marks the buttons of the pages that have pending edits. True when there is one.
-    bool mark() const;
 
 public Q_SLOTS:
     /// Discards the pending edits, so that restore() can make them again.

@@ -12,6 +12,7 @@
 #include "ReturnKey.h"
 #include "SettingsDrawer.h"
 #include "SettingsPages.h"
+#include "TypedField.h"
 #include "WriteNotice.h"
 #include "ZelPageHelp.h"
 #include "ZelSettingsPanel.h"
@@ -134,7 +135,7 @@ void ZelControlCenter::registerSettingsPanel(ZelSettingsPanel* panel)
     m_parts->buttons.add(panel);
     m_parts->drawer.addPage(panel);
     if (const auto* help = panel->findChild<ZelPageHelp*>())
-        connect(help, SIGNAL(taken()), &m_parts->actions, SLOT(rememberField()));
+        connect(help, SIGNAL(taken()), &m_parts->actions.typedField(), SLOT(remember()));
     panel->initializeWidget();
     onStateChanged();
 }
@@ -352,7 +353,7 @@ void ZelControlCenter::onStateChanged()
     const SettingsPages& pages = m_parts->pages;
     QWidget* const successor = m_parts->buttons.checkedButton();
     enableButton(*m_parts->form.resetButton, pages.canReset(), successor);
-    const bool pending = pages.mark();
+    const bool pending = PageButtons::mark(pages.all());
     enableButton(*m_parts->form.applyButton, pending, successor);
     m_parts->actions.enable(pending, pages.canRestore());
     Q_EMIT pagesChanged();

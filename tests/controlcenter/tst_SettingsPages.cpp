@@ -1,5 +1,6 @@
 #include "FakePage.h"
 #include "Files.h"
+#include "PageButtons.h"
 #include "SettingsPages.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsRegistry.h"
@@ -13,6 +14,7 @@
 #include <memory>
 #include <utility>
 
+using zel::PageButtons;
 using zel::SettingsPages;
 
 Q_DECLARE_METATYPE(std::function<void(SettingsPages&)>)
@@ -37,10 +39,10 @@ private Q_SLOTS:
     void appliesInOrder()
     {
         QSignalSpy changed(m_pages.get(), SIGNAL(stateChanged()));
-        QVERIFY(!m_pages->hasModifications() && !m_pages->mark() && !m_pages->canReset());
+        QVERIFY(!m_pages->hasModifications() && !PageButtons::mark(m_pages->all()) && !m_pages->canReset());
         m_page["A"]->needsRestart = true;
         m_page["B"]->edit();
-        QVERIFY(m_pages->hasModifications() && m_pages->mark() && m_pages->canReset());
+        QVERIFY(m_pages->hasModifications() && PageButtons::mark(m_pages->all()) && m_pages->canReset());
         for (const auto& [page, icon] : {std::make_pair("A", "pendingNone"), {"B", "pending"}})
             QCOMPARE(m_page[page]->getActionWidget()->icon().pixmap(8).toImage(),
                      QIcon(QString(":/controlCenter/controlCenter/%1.png").arg(icon)).pixmap(8).toImage());
@@ -70,7 +72,7 @@ private Q_SLOTS:
             {"modifications", [](SettingsPages& pages) { pages.hasModifications(); }},
             {"resettable", [](SettingsPages& pages) { pages.canReset(); }},
             {"reset", [](SettingsPages& pages) { pages.reset(); }},
-            {"marks", [](SettingsPages& pages) { pages.mark(); }},
+            {"marks", [](SettingsPages& pages) { PageButtons::mark(pages.all()); }},
             {"discard", [](SettingsPages& pages) { pages.discard(); }},
             {"load", [this](SettingsPages& pages) { pages.load(*m_settings, m_error); }},
             {"apply", [this](SettingsPages& pages) { pages.apply(*m_settings, m_restart, m_error); }}};
