@@ -29,6 +29,8 @@ QString breakable(const QString& text)
     return words.join(" ");
 }
 
+const int Margin = 12;   // pixels
+const int LineSlack = 8; // pixels; Japanese and Chinese lines are higher than those of a path
 const char* const CompactProperty = "compact"; // A selector of the style sheet.
 
 QString stateText(const ZelSettingHelp& help)
@@ -105,6 +107,34 @@ int HelpCard::textHeight(const QString& text, int width) const
         .height();
 }
 
+int HelpCard::heightOfLongest(const QList<QPointer<ZelPageHelp>>& pages, int width) const
+{
+    // One card with the longest of all texts, because a screen reader is told of each text that is set.
+    HelpCard card(parentWidget());
+    card.setCompact(isCompact());
+    ZelSettingHelp longest = ZelSettingHelp();
+    QString byDefault, stored;
+    const auto keepLonger = [&](QString& kept, const QString& text, int room) {
+        if (kept.isEmpty() || card.textHeight(text, room) > card.textHeight(kept, room))
+            kept = text;
+    };
+    for (const QPointer<ZelPageHelp>& page : pages) {
+        for (QWidget* field : page ? page->parent()->findChildren<QWidget*>() : QList<QWidget*>()) {
+            const ZelSettingHelp* help = page->setting(field);
+            if (!help)
+                continue;
+            keepLonger(longest.description, help->description, width - 2 * Margin);
+            keepLonger(longest.range, help->range, width / 2);
+            keepLonger(longest.effect, help->effect, width / 2);
+            keepLonger(byDefault, help->text(DefaultValue), width / 2);
+            keepLonger(stored, help->text(StoredValue), width / 2);
+        }
+    }
+    longest.text = [&](ZelSettingSource source) { return source == DefaultValue ? byDefault : stored; };
+    longest.differs = [](ZelSettingSource) { return true; };
+    return card.heightOf(longest, width) + LineSlack;
+}
+
 void HelpCard::refresh()
 {
     const ZelSettingHelp* help = ZelPageHelp::HelpOn(m_field);
@@ -173,7 +203,8 @@ void HelpCard::showName()
     // In one line, so that the buttons below stand still.
     QLabel& label = *m_ui->nameLabel;
     label.ensurePolished();
-    const QString shown = label.fontMetrics().elidedText(m_name, Qt::ElideRight, contentsRect().width() - 24);
+    const QString shown =
+        label.fontMetrics().elidedText(m_name, Qt::ElideRight, contentsRect().width() - 2 * Margin);
     label.setText(shown);
     label.setAccessibleName(m_name);
     label.setToolTip(shown == m_name ? QString() : m_name);

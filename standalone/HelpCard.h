@@ -2,6 +2,7 @@
 #define ZEL_HELPCARD_H
 
 #include <QFrame>
+#include <QList>
 #include <QPointer>
 #include <QString>
 
@@ -13,6 +14,7 @@ class HelpCard;
 
 namespace zel {
 
+class ZelPageHelp;
 struct ZelSettingHelp;
 
 /// The help on one setting: name, description, range, default, stored value and when an edit takes effect.
@@ -32,14 +34,10 @@ public:
 
     /// Makes texts and buttons smaller, for a narrow place.
     void setCompact(bool compact);
-    bool isCompact() const;
-
     /// The height of what the card shows.
     int neededHeight(int width) const;
-    /// Shows a help. Returns the height that it takes.
-    int heightOf(const ZelSettingHelp& help, int width);
-    /// The height of a wrapped text of the card.
-    int textHeight(const QString& text, int width) const;
+    /// That of a card with the longest texts of all pages. A page may be null.
+    int heightOfLongest(const QList<QPointer<ZelPageHelp>>& pages, int width) const;
 
 public Q_SLOTS:
     /// Reads what the card shows again, after a value has changed.
@@ -54,6 +52,11 @@ private Q_SLOTS:
     void on_defaultButton_clicked();
 
 private:
+    bool isCompact() const;
+    /// Of a wrapped text.
+    int textHeight(const QString& text, int width) const;
+    /// Shows a help. Returns the height that it takes.
+    int heightOf(const ZelSettingHelp& help, int width);
     void showName();
     void showHelp(const ZelSettingHelp& help);
 

@@ -87,25 +87,8 @@ ZelControlCenterStandAloneWidget::ZelControlCenterStandAloneWidget(kqDMIApplicat
     connect(m_ui->maximizeButton, SIGNAL(clicked()), this, SLOT(triggerMaximize()));
     connect(m_ui->minimizeButton, SIGNAL(clicked()), this, SLOT(triggerMinimize()));
 
-    m_panels.push_back(createPanel<ZelRendererSettingsPanel>(application));
-    m_panels.push_back(createPanel<ZelGeneralSettingsPanel>(application));
-    m_panels.push_back(createPanel<ZelSimplificationSettingsPanel>(application));
-    m_panels.push_back(createPanel<ZelImportSettingsPanel>(application));
-    m_panels.push_back(createPanel<ZelAboutSettingsPanel>(application));
-    for (const auto& panel : m_panels)
-        m_controlCenter->registerSettingsPanel(panel.get());
-    // Not in the form, which would style it twice: without the sheet of the window, and with it.
-    auto* helpArea = new ZelHelpArea(m_ui->uiDummyContent);
-    helpArea->setObjectName("helpArea");
-    helpArea->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_ui->helpLayout->addWidget(helpArea);
-    helpArea->watchPages(m_controlCenter->settingsWidget());
-    helpArea->useColumn(m_controlCenter.get(), m_controlCenter->findChild<QWidget*>("preferenceFrame"));
-    connect(m_controlCenter.get(), SIGNAL(pagesChanged()), helpArea, SLOT(refresh()));
-    connect(m_controlCenter.get(), SIGNAL(helpRequested(QWidget*)), helpArea, SLOT(showHelpOfFocusedField()));
-    connect(helpArea, SIGNAL(discardRequested()), m_controlCenter->findChild<QAction*>("discard"),
-            SLOT(trigger()));
-
+    createPages(*application);
+    createHelp();
     addWindowShortcuts(*this, *m_controlCenter);
     setTexts(*application);
     new LanguageFollower(this, [this, application] {
@@ -125,6 +108,28 @@ ZelControlCenterStandAloneWidget::~ZelControlCenterStandAloneWidget()
         m_controlCenter->unregisterSettingsPanel(panel->get(), true);
     while (!m_panels.empty())
         m_panels.pop_back(); // Deletes the last page first.
+}
+
+void ZelControlCenterStandAloneWidget::createPages(kqDMIApplication& application)
+{
+    m_panels.push_back(createPanel<ZelRendererSettingsPanel>(&application));
+    m_panels.push_back(createPanel<ZelGeneralSettingsPanel>(&application));
+    m_panels.push_back(createPanel<ZelSimplificationSettingsPanel>(&application));
+    m_panels.push_back(createPanel<ZelImportSettingsPanel>(&application));
+    m_panels.push_back(createPanel<ZelAboutSettingsPanel>(&application));
+    for (const auto& panel : m_panels)
+        m_controlCenter->registerSettingsPanel(panel.get());
+}
+
+void ZelControlCenterStandAloneWidget::createHelp()
+{
+    // Not in the form, which would style it twice: without the sheet of the window, and with it.
+    auto* helpArea = new ZelHelpArea(m_ui->uiDummyContent);
+    helpArea->setObjectName("helpArea");
+    helpArea->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_ui->helpLayout->addWidget(helpArea);
+    helpArea->follow(*m_controlCenter);
+    helpArea->useColumn(m_controlCenter.get(), m_controlCenter->findChild<QWidget*>("preferenceFrame"));
 }
 
 void ZelControlCenterStandAloneWidget::setTexts(kqDMIApplication& application)

@@ -65,6 +65,8 @@ private Q_SLOTS:
     void onFocusChanged(QWidget* previous, QWidget* current);
 
 private:
+    void createPages(kqDMIApplication& application);
+    void createHelp();
     /// Sets the texts that are not in the form, and how they look in the language.
     void setTexts(kqDMIApplication& application);
     void nameMaximizeButton();

@@ -4,23 +4,21 @@
 #include "LanguageFollower.h"
 #include "OpenedHelp.h"
 #include "PendingList.h"
+#include "PointerRest.h"
 #include "VerticalArea.h"
+#include "ZelControlCenter.h"
 #include "ZelPageHelp.h"
 #include "ZelSettingsPanel.h"
 
+#include <QAction>
 #include <QApplication>
-#include <QCursor>
 #include <QEvent>
-#include <QLabel>
 #include <QScrollBar>
-#include <QTimer>
 #include <QVBoxLayout>
 
 namespace zel {
 
 namespace {
-
-const int RestTime = 400; // ms
 
 // In pixels.
 const int MinimumWidth = 310; // fits the longest words of all languages, also beside a scroll bar
@@ -30,7 +28,6 @@ const int Margin = 12;
 const int ColumnMargin = 8;
 const int MaximumWidth = 520;
 const int MinimumCardHeight = 100;
-const int LineSlack = 8; // Japanese and Chinese lines are higher than those of a path.
 
 /// Independent of its scroll bar: else the help and the bar that it needs could hide each other in turns.
 int roomOf(const QWidget& area)
@@ -57,22 +54,6 @@ QScrollArea* newCardArea(QWidget* parent)
     return area;
 }
 
-/// From the top, so that name and buttons stand where they were.
-void showHelpOn(QWidget* field, HelpCard& card, QScrollArea& area)
-{
-    if (field != card.field())
-        area.verticalScrollBar()->setValue(0);
-    card.setField(field);
-}
-
-bool isOver(const QWidget& field, const QPoint& globalPosition)
-{
-    const QWidget* window = field.window();
-    const QWidget* widget = window->childAt(window->mapFromGlobal(globalPosition));
-    const auto* label = qobject_cast<const QLabel*>(widget);
-    return widget == &field || field.isAncestorOf(widget) || (label && label->buddy() == &field);
-}
-
 } // namespace
 
 ZelHelpArea::ZelHelpArea(QWidget* parent)
@@ -82,7 +63,7 @@ ZelHelpArea::ZelHelpArea(QWidget* parent)
     , m_card(new HelpCard(m_cardArea->widget())) // To move it there later would style it twice.
     , m_pending(new PendingList(m_help))
     , m_areaLayout(newLayout(this, Margin))
-    , m_rest(new QTimer(this))
+    , m_rest(new PointerRest(this))
 {
     m_help->setMaximumWidth(MaximumWidth);
     static_cast<QBoxLayout*>(m_cardArea->widget()->layout())->insertWidget(0, m_card);
@@ -92,14 +73,10 @@ ZelHelpArea::ZelHelpArea(QWidget* parent)
     layout->addStretch();
     m_areaLayout->addWidget(m_help);
     m_cardArea->installEventFilter(this);
-    connect(m_pending, SIGNAL(discardRequested()), this, SIGNAL(discardRequested()));
     new LanguageFollower(this, [this] { // Queued: when the pages have followed.
         QMetaObject::invokeMethod(this, "onLanguageChanged", Qt::QueuedConnection);
     });
-    m_rest->setObjectName("rest");
-    m_rest->setSingleShot(true);
-    m_rest->setInterval(RestTime);
-    connect(m_rest, SIGNAL(timeout()), this, SLOT(onRest()));
+    connect(m_rest, SIGNAL(rested(QWidget*)), this, SLOT(setField(QWidget*)));
     connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
 }
 
@@ -108,17 +85,21 @@ ZelHelpArea::~ZelHelpArea()
     delete m_columnHost;
 }
 
-void ZelHelpArea::watchPages(QWidget* tree)
+void ZelHelpArea::follow(ZelControlCenter& controlCenter)
 {
-    m_pending->setPages(tree->findChildren<ZelSettingsPanel*>());
-    const QList<ZelPageHelp*> pages = tree->findChildren<ZelPageHelp*>();
+    // Buttons such as Reset change a page without an edit in a field.
+    connect(&controlCenter, SIGNAL(pagesChanged()), this, SLOT(refresh()));
+    connect(&controlCenter, SIGNAL(helpRequested(QWidget*)), this, SLOT(onHelpRequested()));
+    connect(m_pending, SIGNAL(discardRequested()), controlCenter.findChild<QAction*>("discard"),
+            SLOT(trigger()));
+    QWidget* drawer = controlCenter.settingsWidget();
+    m_pending->setPages(drawer->findChildren<ZelSettingsPanel*>());
+    const QList<ZelPageHelp*> pages = drawer->findChildren<ZelPageHelp*>();
     for (ZelPageHelp* page : pages) {
-        connect(page, SIGNAL(reached(QWidget*)), this, SLOT(onReached(QWidget*)));
+        connect(page, SIGNAL(reached(QWidget*)), m_rest, SLOT(onReached(QWidget*)));
         connect(page, SIGNAL(edited()), this, SLOT(onEdited()));
         connect(page, SIGNAL(helpRequested(QWidget*)), this, SLOT(showHelp(QWidget*)));
         m_pages << page;
-        // Buttons such as Reset change a page without an edit in a field.
-        connect(page->parent(), SIGNAL(stateChanged()), this, SLOT(refresh()));
     }
     place();
 }
@@ -156,19 +137,28 @@ bool ZelHelpArea::eventFilter(QObject* watched, QEvent* event)
     return false;
 }
 
-void ZelHelpArea::showHelp(QWidget* field)
+void ZelHelpArea::setField(QWidget* field)
 {
     m_rest->stop();
     if (!m_help)
         return;
-    showHelpOn(field, *m_card, *m_cardArea);
+    if (field != m_card->field())
+        m_cardArea->verticalScrollBar()->setValue(0); // Name and buttons stand where they were.
+    m_card->setField(field);
+}
+
+void ZelHelpArea::showHelp(QWidget* field)
+{
+    if (!m_help)
+        return;
+    setField(field);
     const bool isWhole = m_help->isVisible() && m_cardArea->isVisible() &&
                          m_card->neededHeight(m_card->width()) <= m_cardArea->viewport()->height();
     if (field && !isWhole)
         openAt(*field);
 }
 
-void ZelHelpArea::showHelpOfFocusedField()
+void ZelHelpArea::onHelpRequested()
 {
     showHelp(QApplication::focusWidget());
 }
@@ -203,30 +193,10 @@ void ZelHelpArea::resizeEvent(QResizeEvent* event)
     place();
 }
 
-void ZelHelpArea::onReached(QWidget* field)
-{
-    m_hovered = field;
-    m_pointer = QCursor::pos();
-    m_rest->start();
-}
-
 void ZelHelpArea::onFocusChanged(QWidget*, QWidget* current)
 {
-    if (!m_help || !ZelPageHelp::HelpOn(current))
-        return;
-    m_rest->stop();
-    showHelpOn(current, *m_card, *m_cardArea);
-}
-
-void ZelHelpArea::onRest()
-{
-    const QPoint pointer = QCursor::pos();
-    if (!m_help || !m_hovered || !isOver(*m_hovered, pointer))
-        return;
-    if (pointer == m_pointer)
-        showHelpOn(m_hovered, *m_card, *m_cardArea);
-    else
-        onReached(m_hovered); // Still moving.
+    if (ZelPageHelp::HelpOn(current))
+        setField(current);
 }
 
 void ZelHelpArea::place()
@@ -256,7 +226,7 @@ void ZelHelpArea::place()
 
 void ZelHelpArea::moveToColumn()
 {
-    if (!m_help || !m_columnHost || roomOf(*this) >= MinimumWidth)
+    if (!m_columnHost || roomOf(*this) >= MinimumWidth)
         return;
     put(m_columnLayout, true);
     place();
@@ -277,35 +247,7 @@ void ZelHelpArea::reserveHeight()
     m_reservedWidth = width;
     // Beside a scroll bar, which would keep itself: a text may need another line because of it.
     const int textWidth = width - m_cardArea->verticalScrollBar()->sizeHint().width();
-    m_cardArea->setMaximumHeight(width ? heightOfLongestHelp(textWidth) : QWIDGETSIZE_MAX);
-}
-
-int ZelHelpArea::heightOfLongestHelp(int width) const
-{
-    // One card with the longest of all texts, because a screen reader is told of each text that is set.
-    HelpCard card(m_cardArea->widget());
-    card.setCompact(m_card->isCompact());
-    ZelSettingHelp longest = ZelSettingHelp();
-    QString byDefault, stored;
-    const auto keepLonger = [&](QString& kept, const QString& text, int room) {
-        if (kept.isEmpty() || card.textHeight(text, room) > card.textHeight(kept, room))
-            kept = text;
-    };
-    for (const QPointer<ZelPageHelp>& page : m_pages) {
-        for (QWidget* field : page ? page->parent()->findChildren<QWidget*>() : QList<QWidget*>()) {
-            const ZelSettingHelp* help = page->setting(field);
-            if (!help)
-                continue;
-            keepLonger(longest.description, help->description, width - 2 * Margin);
-            keepLonger(longest.range, help->range, width / 2);
-            keepLonger(longest.effect, help->effect, width / 2);
-            keepLonger(byDefault, help->text(DefaultValue), width / 2);
-            keepLonger(stored, help->text(StoredValue), width / 2);
-        }
-    }
-    longest.text = [&](ZelSettingSource source) { return source == DefaultValue ? byDefault : stored; };
-    longest.differs = [](ZelSettingSource) { return true; };
-    return card.heightOf(longest, width) + LineSlack;
+    m_cardArea->setMaximumHeight(width ? m_card->heightOfLongest(m_pages, textWidth) : QWIDGETSIZE_MAX);
 }
 
 int ZelHelpArea::freeHeightOfColumn() const

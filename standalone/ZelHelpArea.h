@@ -4,18 +4,18 @@
 #include "base/ZelExport.h"
 
 #include <QList>
-#include <QPoint>
 #include <QPointer>
 #include <QWidget>
 
 class QBoxLayout;
 class QScrollArea;
-class QTimer;
 
 namespace zel {
 
 class HelpCard;
 class PendingList;
+class PointerRest;
+class ZelControlCenter;
 class ZelPageHelp;
 
 /// The area beside the pages with the help on one setting, and below it what Apply would store. The setting
@@ -31,13 +31,13 @@ class ZEL_EXPORT ZelHelpArea : public QWidget
     Q_OBJECT
 
 public:
-    /// Shows no setting until watchPages() is called.
+    /// Shows no setting until follow() is called.
     explicit ZelHelpArea(QWidget* parent = nullptr);
     ~ZelHelpArea() override;
 
-    /// Shows the help of the pages among the descendants of a widget. Call it once, after they are
-    /// registered.
-    void watchPages(QWidget* tree);
+    /// Shows the help of the pages of a control center, which is updated with them, and what its user asks
+    /// for. Call it once, after the pages are registered.
+    void follow(ZelControlCenter& controlCenter);
 
     /// Uses the empty space of a column below one of its widgets while the area is too narrow. The help is
     /// gone when the column is deleted.
@@ -50,25 +50,18 @@ public Q_SLOTS:
     /// Shows the help on a field, or a hint where there is none. Without room for all of it, the help opens
     /// at the field until the user clicks elsewhere or presses Escape.
     void showHelp(QWidget* field);
-    /// The same for the focused field.
-    void showHelpOfFocusedField();
-    /// Updates the area. Call it after edits are applied or discarded.
-    void refresh();
-
-Q_SIGNALS:
-    /// The user wants all pending edits to be discarded.
-    void discardRequested();
 
 protected:
     /// Places the help where there is room.
     void resizeEvent(QResizeEvent* event) override;
 
 private Q_SLOTS:
+    void refresh();
     void onLanguageChanged();
+    void onHelpRequested();
     void onEdited();
-    void onReached(QWidget* field);
     void onFocusChanged(QWidget* previous, QWidget* current);
-    void onRest();
+    void setField(QWidget* field);
     void place();
     /// Puts the help into the column while the area is too narrow, also when the column has no room yet.
     void moveToColumn();
@@ -78,7 +71,6 @@ private:
     int freeHeightOfColumn() const;
     /// Keeps the height of the longest help free above what would be stored.
     void reserveHeight();
-    int heightOfLongestHelp(int width) const;
     void openAt(QWidget& field);
 
     const QPointer<QWidget> m_help; ///< What is placed: the card and the list below it.
@@ -91,9 +83,7 @@ private:
     QPointer<QWidget> m_above;
     QList<QPointer<ZelPageHelp>> m_pages;
     int m_reservedWidth = 0; ///< The width for which a height is reserved; 0 for none.
-    QPointer<QWidget> m_hovered;
-    QPoint m_pointer; ///< Where it was when the rest began.
-    QTimer* const m_rest;
+    PointerRest* const m_rest;
 };
 
 } // namespace zel

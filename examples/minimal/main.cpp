@@ -101,11 +101,7 @@ int main(int argc, char** argv)
     center.registerSettingsPanel(&page);
     zel::ZelHelpArea help;
     help.setMinimumWidth(330);
-    help.watchPages(center.settingsWidget()); // After all pages are registered.
-    QObject::connect(&center, SIGNAL(pagesChanged()), &help, SLOT(refresh()));
-    QObject::connect(&center, SIGNAL(helpRequested(QWidget*)), &help, SLOT(showHelpOfFocusedField()));
-    const auto* discard = center.findChild<QAction*>(QLatin1String("discard"));
-    QObject::connect(&help, SIGNAL(discardRequested()), discard, SLOT(trigger()));
+    help.follow(center); // After all pages are registered.
     QPushButton view(QLatin1String("Menu"));
     view.setCheckable(true);
     QObject::connect(&view, SIGNAL(clicked(bool)), &center, SLOT(openMenu(bool)));

@@ -1,5 +1,6 @@
 #include "Rows.h"
 #include "ShownPage.h"
+#include "ZelControlCenter.h"
 #include "ZelControlCenterStandAloneWidget.h"
 #include "ZelHelpArea.h"
 #include "ZelPageDefaults.h"
@@ -259,7 +260,7 @@ private Q_SLOTS:
             QVERIFY(!find("discardButton")->isVisible());
         }
         ZelHelpArea own; // As a host has one beside pages of its own.
-        own.watchPages(m_window.get());
+        own.follow(*m_window->findChild<ZelControlCenter*>());
         auto* resetAll = find("frame_4")->findChild<QWidget*>("resetButton");
         for (QWidget* button : {find("putBackButton"), resetAll, find("applyButton")}) {
             type("databaseSpinBox", "512");
