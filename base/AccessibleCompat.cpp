@@ -87,38 +87,11 @@ private:
     QSlider* const m_slider;
 };
 
-void dropInterface(QWidget& widget)
-{
-    QAccessibleInterface* cached = QAccessible::queryAccessibleInterface(&widget);
-    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(cached));
-}
-
 const QAccessible::Event ValueTextChanged = QAccessible::DescriptionChanged;
 
 void notify(QWidget& widget, QAccessible::Event type)
 {
     QAccessibleEvent event(&widget, type);
-    QAccessible::updateAccessibility(&event);
-}
-
-void notifyItem(QComboBox& box)
-{
-    // Over AT-SPI, a reader is silent about the value of a combo box. It reads an item that gets the focus.
-    if (!accessibleValuesAreNumbers() || !QAccessible::isActive())
-        return;
-    QAccessibleInterface* list = QAccessible::queryAccessibleInterface(box.view());
-    QAccessibleInterface* item = list ? list->child(box.currentIndex()) : nullptr;
-    if (!item)
-        return;
-    QAccessibleEvent event(item, QAccessible::Focus);
-    QAccessible::updateAccessibility(&event);
-}
-
-void notifyStateChanged(QWidget& widget)
-{
-    QAccessible::State changed;
-    changed.checked = true;
-    QAccessibleStateChangeEvent event(&widget, changed);
     QAccessible::updateAccessibility(&event);
 }
 
@@ -157,25 +130,11 @@ public:
     }
 };
 
-void dropInterface(QWidget&)
-{
-}
-
 const QAccessible::Event ValueTextChanged = QAccessible::ValueChanged;
 
 void notify(QWidget& widget, QAccessible::Event type)
 {
     QAccessible::updateAccessibility(&widget, 0, type);
-}
-
-void notifyItem(QComboBox& box)
-{
-    notify(box, QAccessible::ValueChanged);
-}
-
-void notifyStateChanged(QWidget& widget)
-{
-    notify(widget, QAccessible::StateChanged);
 }
 
 #endif
@@ -210,19 +169,9 @@ bool accessibleValuesAreNumbers()
 #endif
 }
 
-void forgetAccessible(QWidget& widget)
-{
-    dropInterface(widget);
-}
-
 void tellAccessibleValue(QWidget& widget)
 {
     notify(widget, ValueTextChanged);
-}
-
-void tellAccessibleState(QWidget& widget)
-{
-    notifyStateChanged(widget);
 }
 
 void tellAccessibleAlert(QWidget& widget)
@@ -230,9 +179,51 @@ void tellAccessibleAlert(QWidget& widget)
     notify(widget, QAccessible::Alert);
 }
 
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+
+void forgetAccessible(QWidget& widget)
+{
+    QAccessibleInterface* cached = QAccessible::queryAccessibleInterface(&widget);
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(cached));
+}
+
+void tellAccessibleState(QWidget& widget)
+{
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(&widget, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
 void tellAccessibleItem(QComboBox& box)
 {
-    notifyItem(box);
+    // Over AT-SPI, a reader is silent about the value of a combo box. It reads an item that gets the focus.
+    if (!accessibleValuesAreNumbers() || !QAccessible::isActive())
+        return;
+    QAccessibleInterface* list = QAccessible::queryAccessibleInterface(box.view());
+    QAccessibleInterface* item = list ? list->child(box.currentIndex()) : nullptr;
+    if (!item)
+        return;
+    QAccessibleEvent event(item, QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
 }
+
+#else
+
+void forgetAccessible(QWidget&)
+{
+}
+
+void tellAccessibleState(QWidget& widget)
+{
+    notify(widget, QAccessible::StateChanged);
+}
+
+void tellAccessibleItem(QComboBox& box)
+{
+    notify(box, QAccessible::ValueChanged);
+}
+
+#endif
 
 } // namespace zel
