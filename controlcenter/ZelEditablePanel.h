@@ -431,8 +431,10 @@ private:
     std::vector<Row> m_rows; ///< Stays where it is after setRows(), so that the help can refer to it.
     Fields m_fields;         ///< Of all rows, in the order in which they are stored.
     ZelPageHelp* m_help = nullptr;
-    std::optional<Model> m_stored;  ///< What was stored when that was last looked at.
-    Model m_loaded;                 ///< What the widgets have shown of it; under an edit, the stored value.
+    std::optional<Model> m_stored; ///< What was stored when that was last looked at.
+    /// What the widgets have shown of it. A stored 500 that another program makes 700 while the field shows
+    /// an edit to 512 is 700 here.
+    Model m_loaded;
     std::optional<Model> m_applied; ///< What Apply has stored since, which may not have been written.
 };
 

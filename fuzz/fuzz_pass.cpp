@@ -2,9 +2,9 @@
 // it names are made up, because the system calls for them would take most of the time.
 
 #include "Check.h"
+#include "FolderFunctions.h"
 #include "SettingsDamage.h"
 #include "SettingsKeys.h"
-#include "SettingsValidation.h"
 #include "ZelSettingsFile.h"
 #include "ZelSettingsRegistry.h"
 #include "ZelSettingsValidators.h"

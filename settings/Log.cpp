@@ -4,7 +4,30 @@
 
 #include <QString>
 
-void zel::logWarning(const QString& text)
+namespace zel {
+
+namespace {
+
+void log(const char* type, const QString& text)
 {
-    MTLogger::Log("warning", text.toUtf8().constData());
+    MTLogger::Log(type, text.toUtf8().constData());
 }
+
+} // namespace
+
+void logInfo(const QString& text)
+{
+    log("info", text);
+}
+
+void logWarning(const QString& text)
+{
+    log("warning", text);
+}
+
+void logError(const QString& text)
+{
+    log("error", text);
+}
+
+} // namespace zel

@@ -5,8 +5,12 @@ class QString;
 
 namespace zel {
 
-/// Writes a warning to the log.
+/// @{
+/// Write an event of this type to the log.
+void logInfo(const QString& text);
 void logWarning(const QString& text);
+void logError(const QString& text);
+/// @}
 
 } // namespace zel
 

@@ -8,17 +8,6 @@
 
 namespace zel {
 
-/// How the validators see folders and create them. The checker puts functions of its own here, because it
-/// only looks.
-struct FolderFunctions
-{
-    bool (*isFolder)(const QString& path);
-    /// Creates a folder with all missing parents; true when it exists afterwards.
-    bool (*createFolder)(const QString& path);
-};
-
-extern FolderFunctions folderFunctions;
-
 /// The error where a validator that fails gives none: the program has registered a default that is not valid.
 const char* const InvalidDefault = "The default of a setting is not valid";
 
@@ -63,7 +52,7 @@ inline bool needsRepair(const QVariant& stored, const QString& text)
     return !stored.isValid() || isList(stored) || stored.toString() != text;
 }
 
-/// Runs the registered end checks, up to the first that fails.
+/// Runs the registered end checks, up to the first that fails. In ZelSettingsRegistry.cpp, which lists them.
 bool runEndChecks(QSettings& settings, QString& error);
 
 } // namespace zel

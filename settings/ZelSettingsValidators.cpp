@@ -1,8 +1,8 @@
 #include "ZelSettingsValidators.h"
 
+#include "FolderFunctions.h"
 #include "SettingsKeys.h"
 #include "SettingsNumbers.h"
-#include "SettingsValidation.h"
 #include "base/QtCompat.h"
 
 #include "platform/kqDMManager.h"
@@ -22,10 +22,6 @@
 #include <vector>
 
 namespace zel {
-
-FolderFunctions folderFunctions = {
-    [](const QString& path) { return QFileInfo(path).isDir(); },
-    [](const QString& path) { return QFileInfo(path).isDir() || QDir(path).mkpath("."); }};
 
 namespace {
 

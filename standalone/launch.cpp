@@ -1,5 +1,6 @@
 #include "launch.h"
 
+#include "Log.h"
 #include "SettingsKeys.h"
 #include "SettingsMigration.h"
 #include "ZelControlCenter.h"
@@ -54,11 +55,6 @@ const struct
     {"kqSimplificationLib", &kq::initializeKqSimplificationLibrary, &kq::terminateKqSimplificationLibrary},
     {"ZelKernel", &zelInitializeKernelLibrary, &zelTerminateKernelLibrary},
 };
-
-void logInfo(const QString& text)
-{
-    MTLogger::Log("info", text.toUtf8().constData());
-}
 
 void writeMessage(const QString& text)
 {

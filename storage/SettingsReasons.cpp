@@ -1,9 +1,8 @@
 #include "SettingsReasons.h"
 
+#include "Log.h"
 #include "base/FileLock.h"
 #include "base/SystemFiles.h"
-
-#include "platform/MTLogger.h"
 
 #include <QFileInfo>
 
@@ -14,7 +13,7 @@ namespace {
 bool fail(const QString& text, const QString& path, const QString& reason, QString& error)
 {
     error = text.arg(path, reason);
-    MTLogger::Log("error", error.toUtf8().constData());
+    logError(error);
     return false;
 }
 

@@ -171,7 +171,8 @@ private Q_SLOTS:
         QFETCH(bool, whole);
         auto* size = find("databaseSpinBox");
         m_window->resize(window);
-        QTest::qWait(50); // It is hidden for a moment when it moves.
+        for (int pass = 0; pass < 3; ++pass) // It is hidden for a moment when it moves.
+            QCoreApplication::processEvents();
         QTRY_COMPARE(find("helpFrame")->isVisible(), shown);
         QCOMPARE(shown && find("mainPanel")->parentWidget()->isAncestorOf(find("helpFrame")), inColumn);
         size->setFocus();

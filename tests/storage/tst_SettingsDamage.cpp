@@ -1,8 +1,6 @@
-#include "Files.h"
 #include "IniCodec.h"
 #include "Rows.h"
 #include "SettingsDamage.h"
-#include "ZelSettingsFile.h"
 
 class tst_SettingsDamage : public QObject
 {
@@ -55,22 +53,6 @@ private Q_SLOTS:
         QFETCH(QByteArray, text);
         QFETCH(QString, expected);
         QCOMPARE(zel::settingsDamage(text), expected);
-    }
-
-    /// Windows has drives that do not exist, and does not even open a file that is read-only.
-    void unwritablePlacesAreToldAtOnce()
-    {
-        const QTemporaryDir folder;
-        const QString path = folder.path() + "/Settings.ini";
-        store(path, "a=1\n");
-        QVERIFY(QFile::setPermissions(path, QFile::ReadOwner));
-        QElapsedTimer clock;
-        clock.start();
-        QString error;
-        for (const QString& name : {path, QString("Q:Settings.ini"), QString("Q:/a/Settings.ini")})
-            QVERIFY(zel::ZelSettingsFile::IsWritable(name, error) || error.contains(name));
-        QVERIFY(clock.elapsed() < 900);
-        QVERIFY(zel::ZelSettingsFile::IsWritable(folder.path() + "/new/new/Settings.ini", error));
     }
 
     /// Streams of others, which ask for a codec by its name and split characters, do not get that of the

@@ -116,7 +116,7 @@ private Q_SLOTS:
         QVERIFY2(clock.elapsed() < 5000, "it waits for a lock that is not released");
     }
 
-    void readOnlyFileStays()
+    void readOnlyPlacesStay()
     {
         const auto name = reinterpret_cast<const wchar_t*>(m_path.utf16());
         QVERIFY(SetFileAttributesW(name, FILE_ATTRIBUTE_READONLY));
@@ -125,6 +125,12 @@ private Q_SLOTS:
         QVERIFY(!write(*settings, "software", error));
         QVERIFY2(error.contains(m_path), qPrintable(error));
         QCOMPARE(contentOf(m_path), Before);
+        QElapsedTimer clock;
+        clock.start();
+        for (const QString& place : {m_path, QString("Q:Settings.ini"), QString("Q:/a/Settings.ini")})
+            QVERIFY(!ZelSettingsFile::IsWritable(place, error) && error.contains(place));
+        QVERIFY2(clock.elapsed() < 900, "it waits for a drive that does not exist");
+        QVERIFY(ZelSettingsFile::IsWritable(m_folder->path() + "/new/new/Settings.ini", error));
         SetFileAttributesW(name, FILE_ATTRIBUTE_NORMAL);
         QVERIFY2(write(*settings, "software", error), qPrintable(error));
         QCOMPARE(contentOf(m_path), with("software"));

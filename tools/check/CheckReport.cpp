@@ -95,7 +95,7 @@ QByteArray array(const Items& items, ItemToJson itemToJson)
 QByteArray changeToJson(const SettingsChange& change)
 {
     return "{\"key\": " + quoted(change.key) +
-           ", \"old\": " + (change.old.isValid() ? quoted(textOf(change.old)) : "null") +
+           ", \"old\": " + (change.old.isValid() ? quoted(valueText(change.old)) : "null") +
            ", \"new\": " + quoted(change.newText) + ", \"reason\": " + quoted(change.reason) + '}';
 }
 
@@ -105,7 +105,7 @@ QByteArray changeToText(const SettingsChange& change)
     const QByteArray newText = " -> " + quoted(change.newText);
     if (!change.old.isValid())
         return key + ": missing" + newText;
-    return key + ": " + quoted(textOf(change.old)) + newText + ", for the old value " +
+    return key + ": " + quoted(valueText(change.old)) + newText + ", for the old value " +
            change.reason.toUtf8();
 }
 

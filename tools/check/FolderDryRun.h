@@ -1,7 +1,7 @@
 #ifndef ZEL_FOLDERDRYRUN_H
 #define ZEL_FOLDERDRYRUN_H
 
-#include "SettingsValidation.h"
+#include "FolderFunctions.h"
 
 #include <QStringList>
 

@@ -94,7 +94,7 @@ bool settleValues(const QSettings& settings, QString& error, Visit visit)
 
 } // namespace
 
-QString textOf(const QVariant& value)
+QString valueText(const QVariant& value)
 {
     return isList(value) ? value.toStringList().join(", ") : value.toString();
 }

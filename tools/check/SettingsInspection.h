@@ -21,7 +21,7 @@ struct SettingsChange
 };
 
 /// The text of a stored value, which may be a list.
-QString textOf(const QVariant& value);
+QString valueText(const QVariant& value);
 
 /// Finds out what migration and the validation pass would do to a settings file, without changing the file or
 /// creating a folder. Skips the end checks of applications, because they may write.
