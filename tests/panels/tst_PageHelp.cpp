@@ -52,6 +52,16 @@ private:
     void rest() { QMetaObject::invokeMethod(find<QTimer>("rest"), "timeout"); }
     QSettings& settings() { return m_application->getSettings(); }
 
+    /// The pages with a mark.
+    QString marked()
+    {
+        QStringList pages;
+        for (const QAbstractButton* button : find("applicationSettings")->findChildren<QAbstractButton*>())
+            if (button->accessibleDescription().contains("not applied"))
+                pages << button->text();
+        return pages.join(" ");
+    }
+
     /// The lines of the list.
     QStringList pending()
     {
@@ -215,16 +225,8 @@ private Q_SLOTS:
         QTRY_VERIFY(!find("openedHelp"));
     }
 
-    void marksAndTakesBackEdits()
+    void takesBackAnEditOfTheList()
     {
-        const auto marked = [this] {
-            QStringList pages;
-            for (const QAbstractButton* button :
-                 find("applicationSettings")->findChildren<QAbstractButton*>())
-                if (button->accessibleDescription().contains("not applied"))
-                    pages << button->text();
-            return pages.join(" ");
-        };
         QCOMPARE(marked(), QString());
         QCOMPARE(type("databaseSpinBox", "512"), QString("512 Mo"));
         QCOMPARE(marked(), QString("Folders"));
@@ -234,74 +236,112 @@ private Q_SLOTS:
         QVERIFY(find("databaseSpinBox")->hasFocus());
         QTest::keyClick(find("databaseSpinBox"), Qt::Key_Escape); // Makes no edit again.
         QVERIFY(marked().isEmpty() && find("pendingList")->isHidden());
-        // What no field can change is listed too, and leads nowhere.
-        const QString ratios = settings().value("Simplification/Ratios").toString();
-        for (const QString& stored : {ratios.mid(2).prepend("0.9/"), QString("1/0.5"), ratios}) {
-            settings().setValue("Simplification/Ratios", stored);
-            settings().sync();
-            for (auto* page : m_window->findChildren<ZelSettingsPanel*>())
-                page->initializeWidget();
-            for (auto* help : m_window->findChildren<ZelPageHelp*>())
-                if (const auto* fixed = help->setting(find("ratio1")))
-                    QVERIFY(!fixed->differs(StoredValue)); // It offers nothing.
-            type("databaseSpinBox", "512");
-            QCOMPARE(marked(), QString(stored == ratios ? "Folders" : "Folders Simplification"));
-            QTRY_COMPARE(pending().size(), stored == ratios ? 1 : 2);
-            QVERIFY(stored != "1/0.5" || pending()[1].startsWith("Simplification: 1/0.5 "));
-            QVERIFY(stored != "1/0.5" || pending()[1].endsWith(" 1/0.75/0.5/0.25/0.1"));
-            QVERIFY(find("discardButton")->isVisible());
-            QCOMPARE(find("discardButton")->accessibleName() + find("discardButton")->accessibleDescription(),
-                     QString("Discard changesNot applied yet"));
-            for (const char* button : {"editButton", "takeBack"})
-                QCOMPARE(find("pendingList")->findChildren<QWidget*>(button).last()->isEnabled(),
-                         stored == ratios);
-            for (auto* button : find("pendingList")->findChildren<QAbstractButton*>())
-                button->click();
-            QCOMPARE(marked(), QString(stored == ratios ? "" : "Simplification"));
-            QVERIFY(!find("discardButton")->isVisible());
-        }
+    }
+
+    void listsWhatNoFieldCanChange_data()
+    {
+        const std::tuple<const char*, QString, QString> rows[] = {
+            {"first level", "0.9/0.75/0.5/0.25/0.1",
+             QString::fromUtf8("No compression: 0.9/0.75/0.5/0.25/0.1 \342\206\222 100 %")},
+            {"missing levels", "1/0.5",
+             QString::fromUtf8("Simplification: 1/0.5 \342\206\222 1/0.75/0.5/0.25/0.1")},
+            {"nothing", "1/0.75/0.5/0.25/0.1", ""}};
+        addRows({"ratios", "listed"}, rows);
+    }
+
+    void listsWhatNoFieldCanChange()
+    {
+        QFETCH(QString, ratios);
+        QFETCH(QString, listed);
+        settings().setValue("Simplification/Ratios", ratios);
+        settings().sync();
+        for (auto* page : m_window->findChildren<ZelSettingsPanel*>())
+            page->initializeWidget();
+        for (auto* help : m_window->findChildren<ZelPageHelp*>())
+            if (const auto* fixed = help->setting(find("ratio1")))
+                QVERIFY(!fixed->differs(StoredValue)); // It offers nothing.
+        type("databaseSpinBox", "512");
+        QCOMPARE(marked(), QString(listed.isEmpty() ? "Folders" : "Folders Simplification"));
+        QTRY_COMPARE(pending().size(), listed.isEmpty() ? 1 : 2);
+        QCOMPARE(pending().value(1), listed);
+        QCOMPARE(find("discardButton")->accessibleName() + find("discardButton")->accessibleDescription(),
+                 QString("Discard changesNot applied yet"));
+        for (const char* button : {"editButton", "takeBack"}) // What leads to no field does nothing.
+            QCOMPARE(find("pendingList")->findChildren<QWidget*>(button).last()->isEnabled(),
+                     listed.isEmpty());
+        QVERIFY(find("discardButton")->isVisible());
+        for (auto* button : find("pendingList")->findChildren<QAbstractButton*>())
+            button->click();
+        QCOMPARE(marked(), QString(listed.isEmpty() ? "" : "Simplification"));
+        QVERIFY(!find("discardButton")->isVisible());
+    }
+
+    void buttonsClearTheMark_data()
+    {
+        const std::tuple<const char*, QString, QString> rows[] = {{"put back", "helpFrame", "putBackButton"},
+                                                                  {"reset", "frame_4", "resetButton"},
+                                                                  {"apply", "mainPanel", "applyButton"}};
+        addRows({"place", "button"}, rows);
+    }
+
+    void buttonsClearTheMark()
+    {
+        QFETCH(QString, place);
+        QFETCH(QString, button);
         ZelHelpArea own; // As a host has one beside pages of its own.
         own.follow(*m_window->findChild<ZelControlCenter*>());
-        auto* resetAll = find("frame_4")->findChild<QWidget*>("resetButton");
-        for (QWidget* button : {find("putBackButton"), resetAll, find("applyButton")}) {
-            type("databaseSpinBox", "512");
-            find("databaseSpinBox")->setFocus();
-            QVERIFY(said("stateLabel").startsWith("Changed") && marked() == "Folders");
-            QTest::mouseClick(button, Qt::LeftButton);
-            QVERIFY(!said("stateLabel").startsWith("Changed") && marked().isEmpty());
-            QVERIFY(!find("putBackButton")->isEnabled());
-            QVERIFY(button == find("applyButton") ||
-                    own.findChild<QLabel*>("stateLabel")->text() == said("stateLabel"));
-            QCOMPARE(find("defaultButton")->isEnabled(), find("stateLabel")->isVisible());
-        }
+        type("databaseSpinBox", "512");
+        find("databaseSpinBox")->setFocus();
+        own.showHelp(find("databaseSpinBox"));
+        QVERIFY(said("stateLabel").startsWith("Changed") && marked() == "Folders");
+        QTest::mouseClick(find(qPrintable(place))->findChild<QWidget*>(button), Qt::LeftButton);
+        QVERIFY(!said("stateLabel").startsWith("Changed"));
+        QCOMPARE(own.findChild<QLabel*>("stateLabel")->text(), said("stateLabel"));
+        QCOMPARE(marked(), QString());
+        QVERIFY(!find("putBackButton")->isEnabled());
+        QCOMPARE(find("defaultButton")->isEnabled(), find("stateLabel")->isVisible());
+    }
 
-        QCOMPARE(type("ratio3", "20"), QString("20"));
-        QCOMPARE(type("ratio2", "30"), QString("30"));
-        QTest::mouseClick(find("applyButton"), Qt::LeftButton);
-        find("ratio2")->setFocus();
-        QCOMPARE(said("rangeLabel") + ", " + said("storedLabel") + ", " + said("defaultLabel"),
-                 QString("1 % to 100 %, 30 %, 75 %"));
-        QTest::mouseClick(find("defaultButton"), Qt::LeftButton);
-        QCOMPARE(find<QDoubleSpinBox>("ratio2")->value(), 75.0);
-        QCOMPARE(find<QDoubleSpinBox>("ratio3")->value(), 20.0);
-        QCOMPARE(marked(), QString("Simplification"));
-        const QString shown[][3] = {
+    void tellsRangeAndDefault_data()
+    {
+        const std::tuple<const char*, QString, QString> rows[] = {
             {"maxGPUSPinBox", "128 Mo to 8,096 Mo", "2,048 Mo"},
             {"sceneUnitComboBox", "Kilometer (km) to Millimeter (mm)", "Millimeter (mm)"},
             {"deferredFXAACheckBox", "on or off", "on"},
             {"deferredButton", "High Mode (Discrete Graphic Card) / Low Mode (Run everywhere)",
              "High Mode (Discrete Graphic Card)"},
             {"defaultQuality", "Default / High Quality / Low Quality", "chosen by Torvane"},
-            {"defaultSag", "0.000 to 99.990", "chosen by Torvane"}};
-        for (const auto& [field, range, byDefault] : shown) {
-            find(field)->setFocus();
-            QCOMPARE(said("rangeLabel") + ", " + said("defaultLabel"), range + ", " + byDefault);
-        }
-        // The levels stay in order, as after an edit.
+            {"defaultSag", "0.000 to 99.990", "chosen by Torvane"},
+            {"ratio2", "1 % to 100 %", "75 %"}};
+        addRows({"range", "byDefault"}, rows);
+    }
+
+    void tellsRangeAndDefault()
+    {
+        QFETCH(QString, range);
+        QFETCH(QString, byDefault);
+        find(QTest::currentDataTag())->setFocus();
+        QCOMPARE(said("rangeLabel"), range);
+        QCOMPARE(said("defaultLabel"), byDefault);
+    }
+
+    void levelsStayInOrder()
+    {
+        QCOMPARE(type("ratio3", "20"), QString("20"));
+        QCOMPARE(type("ratio2", "30"), QString("30"));
+        QTest::mouseClick(find("applyButton"), Qt::LeftButton);
+        find("ratio2")->setFocus();
+        QCOMPARE(said("storedLabel"), QString("30 %"));
+        QTest::mouseClick(find("defaultButton"), Qt::LeftButton);
+        QCOMPARE(find<QDoubleSpinBox>("ratio2")->value(), 75.0);
+        QCOMPARE(find<QDoubleSpinBox>("ratio3")->value(), 20.0);
+        QCOMPARE(marked(), QString("Simplification"));
+        // What is put back lowers the next level, as an edit does.
         type("ratio2", "90");
         type("ratio3", "80");
         QTest::keyClick(find("ratio2"), Qt::Key_Backspace, Qt::AltModifier);
         QCOMPARE(find<QDoubleSpinBox>("ratio3")->value(), 30.0);
+        // What is stored while it is being typed raises the former level.
         find("ratio3")->setFocus();
         find<QDoubleSpinBox>("ratio3")->selectAll();
         QTest::keyClicks(find("ratio3"), "95");
