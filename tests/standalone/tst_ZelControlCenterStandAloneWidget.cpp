@@ -26,6 +26,20 @@ class tst_ZelControlCenterStandAloneWidget : public QObject, private User
 {
     Q_OBJECT
 
+private:
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers)
+    {
+        QApplication::setActiveWindow(&m_window); // After a box, too.
+        QTest::keyClick(inputOf(&m_window), key, modifiers);
+    }
+
+    /// The number counts before it is an edit.
+    void typeOver(const char* number)
+    {
+        m_size->selectAll();
+        QTest::keyClicks(m_size, number);
+    }
+
 private Q_SLOTS:
     void initTestCase()
     {
@@ -155,12 +169,8 @@ private Q_SLOTS:
         QCOMPARE(title.join("|"), QString("Control Center|Torvane|silent|silent"));
     }
 
-    void shortcuts()
+    void keysToggleApplyAndReset()
     {
-        const auto press = [this](Qt::Key key, Qt::KeyboardModifiers modifiers) {
-            QApplication::setActiveWindow(&m_window); // After a box, too.
-            QTest::keyClick(inputOf(&m_window), key, modifiers);
-        };
         m_check->setFocus();
         for (const bool alt : {false, true}) {
             const bool checked = m_check->isChecked();
@@ -179,10 +189,10 @@ private Q_SLOTS:
         QVERIFY(m_check->isChecked());
         press(Qt::Key_R, Qt::AltModifier);
         QTRY_VERIFY(!m_check->isChecked());
-        const auto typeOver = [&](const char* number) { // It counts before it is an edit.
-            m_size->selectAll();
-            QTest::keyClicks(m_size, number);
-        };
+    }
+
+    void undoTakesBackWhatIsTypedThenTheEdits()
+    {
         m_size->setFocus();
         typeOver("1"); // Less than the minimum.
         press(Qt::Key_C, Qt::ControlModifier);
@@ -194,6 +204,11 @@ private Q_SLOTS:
         }
         press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
         QVERIFY(m_check->isChecked());
+    }
+
+    void keysOfTheHelp()
+    {
+        m_size->setFocus();
         QSignalSpy help(m_controlCenter, SIGNAL(helpRequested(QWidget*)));
         for (const Qt::KeyboardModifier modifier : {Qt::NoModifier, Qt::ShiftModifier}) {
             press(Qt::Key_F1, modifier);
@@ -203,6 +218,10 @@ private Q_SLOTS:
             QTest::keyClick(opened, Qt::Key_Escape);
         }
         QCOMPARE(help.count(), 1);
+    }
+
+    void keysInOtherLanguages()
+    {
         auto *apply = find<QPushButton>("applyButton"), *reset = find<QPushButton>("resetButton");
         for (const char* text : {"\346\210\273\343\201\231", "Annuler", "Reset"}) { // As in other languages.
             reset->setText(QString::fromUtf8(text));
@@ -212,6 +231,10 @@ private Q_SLOTS:
             QVERIFY(!reset->shortcut().isEmpty() && reset->shortcut() != apply->shortcut());
             QCOMPARE(m_controlCenter->findChild<QAction*>("reset")->text(), QString::fromUtf8(text));
         }
+    }
+
+    void keysReadWhatIsTyped()
+    {
         m_size->setValue(m_size->maximum());
         find("closeButton")->setFocus(); // Neither in the column nor in the drawer.
         press(Qt::Key_S, Qt::ControlModifier);
