@@ -55,6 +55,20 @@ struct Choice
     int cores, quality;
 };
 
+class ShownSelector : public zel::ZelRendererSelector
+{
+public:
+    ShownSelector()
+        : ZelRendererSelector(nullptr, Qt::WindowFlags())
+    {
+        show();
+        activateWindow();
+        isActive = QTest::qWaitForWindowActive(this);
+    }
+
+    bool isActive;
+};
+
 } // namespace
 
 Q_DECLARE_METATYPE(Choice)
@@ -250,13 +264,11 @@ private Q_SLOTS:
         }
     }
 
-    void selectorChoosesByMouseAndKeyboard()
+    void selectorIsAWindowOfItsOwn()
     {
-        zel::ZelRendererSelector selector(nullptr, Qt::WindowFlags());
+        ShownSelector selector;
         const auto child = [&](const char* name) { return selector.findChild<QWidget*>(name); };
-        selector.show();
-        selector.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&selector));
+        QVERIFY(selector.isActive);
         QCOMPARE(selector.focusWidget(), child("okButton"));
         QVERIFY(selector.windowFlags() & Qt::FramelessWindowHint &&
                 selector.testAttribute(Qt::WA_TranslucentBackground));
@@ -265,6 +277,12 @@ private Q_SLOTS:
         selector.move(0, 0);
         drag(selector, QPoint(200, 20), QPoint(30, 20), QPoint(200, 20));
         QCOMPARE(selector.pos(), QPoint(30, 20));
+    }
+
+    void selectorChoosesByMouse()
+    {
+        ShownSelector selector;
+        const auto child = [&](const char* name) { return selector.findChild<QWidget*>(name); };
         const std::pair<const char*, bool> clicks[] = {
             {"label_2", true}, {"raytracerButton", false}, {"label_2", false}, {"deferredButton", true}};
         // The ring follows the choice, the colour does not.
@@ -284,6 +302,12 @@ private Q_SLOTS:
             QCOMPARE(pixel("raytracerButton", 1) == ring, !gpu);
             QVERIFY(pixel("raytracerButton", 9) == low && pixel("deferredButton", 9) == high);
         }
+    }
+
+    void selectorChoosesByKeyboard()
+    {
+        ShownSelector selector;
+        const auto child = [&](const char* name) { return selector.findChild<QWidget*>(name); };
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_Enter}) {
             const bool before = selector.useGPURenderer();
             QWidget* engine = child(before ? "raytracerButton" : "deferredButton");
@@ -295,11 +319,6 @@ private Q_SLOTS:
             QTest::keyClick(engine, key);
             QCOMPARE(selector.useGPURenderer(), !before);
         }
-        for (const char* name : {"raytracerButton", "deferredButton"}) {
-            pressByReader(child(name));
-            QVERIFY(selector.useGPURenderer() == (name == std::string("deferredButton")) &&
-                    roleOf(child(name)) == QAccessible::RadioButton);
-        }
         for (const auto& [key, gpu] : {std::make_pair(Qt::Key_Right, true),
                                        {Qt::Key_Up, false},
                                        {Qt::Key_Down, true},
@@ -308,9 +327,26 @@ private Q_SLOTS:
             QVERIFY(selector.useGPURenderer() == gpu && child("deferredButton")->hasFocus() == gpu);
         }
         QVERIFY(selector.isVisible());
+    }
+
+    void selectorChoosesByReader()
+    {
+        ShownSelector selector;
+        const auto child = [&](const char* name) { return selector.findChild<QWidget*>(name); };
+        for (const char* name : {"raytracerButton", "deferredButton"}) {
+            pressByReader(child(name));
+            QVERIFY(selector.useGPURenderer() == (name == std::string("deferredButton")) &&
+                    roleOf(child(name)) == QAccessible::RadioButton);
+        }
+    }
+
+    void selectorCloses()
+    {
+        ShownSelector selector;
+        const auto child = [&](const char* name) { return selector.findChild<QWidget*>(name); };
         child("okButton")->setFocus();
         QTest::keyClick(selector.focusWidget(), Qt::Key_Return);
-        QVERIFY(!selector.isVisible() && !selector.useGPURenderer());
+        QVERIFY(!selector.isVisible() && selector.useGPURenderer());
         QCOMPARE(selector.result(), int(QDialog::Accepted));
         for (const char* name : {"closeButton", "deferredButton"}) { // Both close without a choice.
             selector.show();
