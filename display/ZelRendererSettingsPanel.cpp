@@ -92,15 +92,15 @@ ZelRendererSettingsPanel::ZelRendererSettingsPanel(kqDMIApplication* application
     for (zelSpinBox* memory : {m_ui->maxCPU3DSpinBox, m_ui->maxCPURaySpinBox, m_ui->maxGPUSPinBox})
         memory->setRange(MinimumMebibytes, MaximumMebibytes);
     m_ui->maxTrianglesSpinBox->setRange(MinimumTriangles, MaximumTriangles);
-    followLanguage(*m_ui, [this] { setTexts(); });
+    followLanguage(*m_ui, [this] { describeSettings(); });
 }
 
 ZelRendererSettingsPanel::~ZelRendererSettingsPanel() = default;
 
-void ZelRendererSettingsPanel::setTexts()
+void ZelRendererSettingsPanel::describeSettings()
 {
     setPanelName(Text::tr("Display"));
-    const ZelFieldWidgets<bool> engines(m_ui->deferredButton, m_ui->raytracerButton);
+    const ZelFieldWidgets<bool> engineChoice(m_ui->deferredButton, m_ui->raytracerButton);
     const ZelFieldWidgets<int> qualities(m_ui->qualitySlider, qualityText);
     const ZelFieldWidgets<int> coreCounts(m_ui->coreUsedSlider, coresText);
     const auto software = &EngineModel::useSoftware;
@@ -110,7 +110,7 @@ void ZelRendererSettingsPanel::setTexts()
                      "takes longer."),
             qualityConversion())
             .onlyWhile(software),
-        row(keys::Engine, software, engines, EffectAfterRestart,
+        row(keys::Engine, software, engineChoice, EffectAfterRestart,
             Text::tr("Decides what draws your models. The high mode uses the graphics card; the low mode "
                      "uses the processor and runs everywhere. Only the settings of the chosen mode are "
                      "shown."),

@@ -74,8 +74,8 @@ protected:
     bool shouldRestart() const override;
 
 private:
-    /// Sets the texts that are not in the form.
-    void setTexts();
+    /// Names the page, and gives it its settings with their help, in the current language.
+    void describeSettings();
     /// True when the raytracer is chosen and its quality or number of cores needs a restart.
     bool hasRaytracerRebootChanged() const;
 

@@ -34,12 +34,12 @@ ZelGeneralSettingsPanel::ZelGeneralSettingsPanel(kqDMIApplication* application, 
     m_ui->setupUi(this);
     setNamedStyleSheet("ZelGeneralSettingsPanel");
     setPanelCategory(ApplicationCategory);
-    followLanguage(*m_ui, [this] { setTexts(); });
+    followLanguage(*m_ui, [this] { describeSettings(); });
 }
 
 ZelGeneralSettingsPanel::~ZelGeneralSettingsPanel() = default;
 
-void ZelGeneralSettingsPanel::setTexts()
+void ZelGeneralSettingsPanel::describeSettings()
 {
     setPanelName(Text::tr("Folders"));
     setRows({

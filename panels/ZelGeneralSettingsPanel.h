@@ -73,8 +73,8 @@ protected:
     void setMaxCacheSize() { setMaxCacheSize(currentModel()); }
 
 private:
-    /// Sets the texts that are not in the form.
-    void setTexts();
+    /// Names the page, and gives it its settings with their help, in the current language.
+    void describeSettings();
     void setScreenshotFolder(const GeneralModel& model);
     void setMaxCacheSize(const GeneralModel& model);
     void chooseFolder(QPushButton* button, const QString& title);

@@ -30,12 +30,12 @@ ZelImportSettingsPanel::ZelImportSettingsPanel(kqDMIApplication* application, QS
     m_ui->faceAngleSpin->setRange(0, MaximumFaceAngle);
     setNamedStyleSheet("ZelImportSettingsPanel");
     setPanelCategory(AdvancedCategory);
-    followLanguage(*m_ui, [this] { setTexts(); });
+    followLanguage(*m_ui, [this] { describeSettings(); });
 }
 
 ZelImportSettingsPanel::~ZelImportSettingsPanel() = default;
 
-void ZelImportSettingsPanel::setTexts()
+void ZelImportSettingsPanel::describeSettings()
 {
     setPanelName(Text::tr("Tessellation"));
     setRows({

@@ -61,8 +61,8 @@ protected Q_SLOTS:
 private:
     enum LimitIndex { Sag, Length, Angle };
 
-    /// Sets the texts that are not in the form.
-    void setTexts();
+    /// Names the page, and gives it its settings with their help, in the current language.
+    void describeSettings();
     Row qualityRow();
     /// A row of a value that counts only while the user has set it; else the importer chooses it.
     template <class Value>

@@ -85,12 +85,12 @@ ZelSimplificationSettingsPanel::ZelSimplificationSettingsPanel(kqDMIApplication*
                   QString(":/controlCenter/controlCenter/%1.png").arg(Images[level - 1]), ImageSize);
     setNamedStyleSheet("ZelSimplificationSettingsPanel");
     setPanelCategory(ProjectCategory);
-    followLanguage(*m_ui, [this] { setTexts(); });
+    followLanguage(*m_ui, [this] { describeSettings(); });
 }
 
 ZelSimplificationSettingsPanel::~ZelSimplificationSettingsPanel() = default;
 
-void ZelSimplificationSettingsPanel::setTexts()
+void ZelSimplificationSettingsPanel::describeSettings()
 {
     setPanelName(Text::tr("Simplification"));
     setRows({levelRow(1), levelRow(2), levelRow(3), levelRow(4), levelRow(5)});

@@ -64,8 +64,8 @@ protected:
     void saveRatios() { saveSettingsInternal(); }
 
 private:
-    /// Sets the texts that are not in the form.
-    void setTexts();
+    /// Names the page, and gives it its settings with their help, in the current language.
+    void describeSettings();
     /// Brings a level with a new value and its two neighbours into descending order; other levels stay as
     /// they are.
     void finishEditing(int level);

@@ -15,12 +15,12 @@ TurntableSettingsPanel::TurntableSettingsPanel(ViewerScene& scene, kqDMIApplicat
     // For the fonts and fields of the library's pages.
     setNamedStyleSheet("ZelGeneralSettingsPanel");
     setPanelCategory(ApplicationCategory);
-    followLanguage(*m_ui, [this] { setTexts(); });
+    followLanguage(*m_ui, [this] { describeSettings(); });
 }
 
 TurntableSettingsPanel::~TurntableSettingsPanel() = default;
 
-void TurntableSettingsPanel::setTexts()
+void TurntableSettingsPanel::describeSettings()
 {
     setPanelName(tr("Turntable"));
     setRows({

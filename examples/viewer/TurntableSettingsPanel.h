@@ -39,7 +39,8 @@ protected:
     void pushToApplication(const TurntableModel& model) override;
 
 private:
-    void setTexts();
+    /// In the current language.
+    void describeSettings();
 
     const std::unique_ptr<Ui::TurntableSettingsPanel> m_ui;
     ViewerScene& m_scene;
