@@ -10,13 +10,25 @@ class tst_ZelSettingsFile : public SettingsFolder
 {
     Q_OBJECT
 
+private:
+    /// A change that sets a value of the shared settings, and then does not succeed.
+    bool giveUp(QSettings& settings)
+    {
+        const auto change = [&](QSettings&, QString&) {
+            settings.setValue("page/a", 3);
+            return false;
+        };
+        return ZelSettingsFile::Write(settings, change, error);
+    }
+
 private Q_SLOTS:
     void changesThatFail()
     {
         store(m_path, Foreign);
         const auto settings = ZelSettingsFile::Open(m_path);
-        const auto throws = [](QSettings& changed, QString&) -> bool {
-            changed.setValue("new/key", 1);
+        const auto throws = [&](QSettings& changed, QString&) -> bool {
+            for (QSettings* one : {&changed, settings.get()})
+                one->setValue("new/key", 1);
             throw std::runtime_error("");
         };
         try {
@@ -24,6 +36,8 @@ private Q_SLOTS:
             QFAIL("the exception is lost");
         } catch (const std::runtime_error&) {
             QVERIFY(contentOf(m_path) == Foreign && files("*").size() == 1);
+            QVERIFY(!settings->contains("new/key") && write(*settings, {}) &&
+                    !contentOf(m_path).contains("[new]"));
         }
         const auto nested = [&](QSettings& changed, QString& text) {
             changed.setValue("new/key", 1);
@@ -115,7 +129,7 @@ private Q_SLOTS:
         QVERIFY(holds({"[page]\nkey=8\n", "[host]\nkey=99\n"}));
     }
 
-    void olderValuesDoNotReplaceNewerOnes()
+    void changeOfBothIsMergedWithThatOfOthers()
     {
         store(m_path, "[page]\na=1\nb=1\n[gone]\nkey=1\n" + Foreign);
         auto settings = ZelSettingsFile::Open(m_path);
@@ -129,29 +143,30 @@ private Q_SLOTS:
         };
         QVERIFY(ZelSettingsFile::Write(*settings, leavesGroup, error));
         QVERIFY(holds({"[page]\na=2\nb=newer\n"}) && !contentOf(m_path).contains("[gone]"));
-        const auto givesUp = [&](QSettings&, QString&) {
-            settings->setValue("page/a", 3);
-            return false;
-        };
-        QVERIFY(!ZelSettingsFile::Write(*settings, givesUp, error));
+        QVERIFY(!giveUp(*settings));
         settings->setValue("page/c", 1);
-        QVERIFY(hasPending(*settings) && hasPending(*settings) && write(*settings, {}) &&
-                contentOf(m_path).contains("c=1"));
+        QVERIFY(hasPending(*settings) && hasPending(*settings) && write(*settings, {}));
+        QVERIFY(holds({"[page]\na=2\nb=newer\nc=1\n"}));
         store(m_path, "");
-        QVERIFY(!ZelSettingsFile::Write(*settings, givesUp, error) && write(*settings, {{"own/key", 1}}));
+        QVERIFY(!giveUp(*settings) && write(*settings, {{"own/key", 1}}));
         QVERIFY(holds({"a=2"}));
-        QVERIFY(!ZelSettingsFile::Write(*settings, givesUp, error));
+        QVERIFY(!giveUp(*settings));
         store(m_path, "[page]\na=latest\n");
         settings.reset();
         QCOMPARE(contentOf(m_path), QByteArray("[page]\na=latest\n"));
-        settings = ZelSettingsFile::Open(m_path);
+    }
+
+    void pendingValuesAreWrittenAtTheEnd()
+    {
+        store(m_path, "[page]\na=1\n");
+        auto settings = ZelSettingsFile::Open(m_path);
         settings->setValue("page/b", 1);
-        QVERIFY(!ZelSettingsFile::Write(*settings, givesUp, error));
+        QVERIFY(!giveUp(*settings));
         store(m_path, "[page]\na=newest\n");
         QCoreApplication::sendPostedEvents(settings.get(), 0);
         QCOMPARE(contentOf(m_path), QByteArray("[page]\na=newest\n"));
         settings->beginGroup("page");
-        settings.reset(); // Writes what has stayed pending, as Write() does.
+        settings.reset();
         QCOMPARE(contentOf(m_path), QByteArray("[page]\na=newest\nb=1\n"));
         settings = ZelSettingsFile::Open(m_path);
         settings->setValue("page/b", 2);
@@ -159,7 +174,12 @@ private Q_SLOTS:
         store(m_path, "[page]\nb=latest\n");
         settings.reset();
         QCOMPARE(contentOf(m_path), QByteArray("[page]\nb=latest\n"));
-        settings = ZelSettingsFile::Open(m_path);
+    }
+
+    void clearedFileIsFilledAgainByOthers()
+    {
+        store(m_path, "[page]\nb=1\n");
+        const auto settings = ZelSettingsFile::Open(m_path);
         const auto clear = [](QSettings& copy, QString&) {
             copy.clear();
             return true;
@@ -169,11 +189,16 @@ private Q_SLOTS:
         settings->setValue("page/c", 1);
         QVERIFY(write(*settings, {}));
         QCOMPARE(contentOf(m_path), QByteArray("[page]\nb=again\nc=1\n"));
-        QSettings host(m_path, QSettings::IniFormat); // Not opened by us.
+    }
+
+    void settingsThatAHostHasOpened()
+    {
+        store(m_path, "[page]\nb=1\n");
+        QSettings host(m_path, QSettings::IniFormat);
         store(m_path, contentOf(m_path) + Foreign);
         host.setValue("host/key", 1);
         host.setValue("page/c", 2);
-        QVERIFY(write(host, {}) && holds({"[host]", "b=again\nc=2\n"}));
+        QVERIFY(write(host, {}) && holds({"[host]", "b=1\nc=2\n"}));
         store(m_path, "[page]\nb=last\n"); // What others have removed does not come back.
         QVERIFY(write(host, {{"page/b", "mine"}}));
         QCOMPARE(contentOf(m_path), QByteArray("[page]\nb=mine\n"));
