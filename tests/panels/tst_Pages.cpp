@@ -1,17 +1,13 @@
-#include "Rows.h"
 #include "SettingsKeys.h"
 #include "ShownPage.h"
 #include "Version.h"
 #include "ZelAboutSettingsPanel.h"
 #include "ZelGeneralSettingsPanel.h"
 #include "ZelImportSettingsPanel.h"
-#include "ZelPageDefaults.h"
 #include "ZelSettingsValidators.h"
 #include "ZelSimplificationSettingsPanel.h"
 #include "base/AccessibleCompat.h"
 #include "base/QtCompat.h"
-
-#include "platform/MTLogger.h"
 
 using namespace zel;
 
@@ -415,62 +411,6 @@ private Q_SLOTS:
             QTRY_COMPARE(notice->isVisible(), active == page.window);
         }
         QCOMPARE(roleOf(notice), NoticeRole);
-    }
-
-    void defaultsAreWhatTheValidatorsAccept()
-    {
-        ZelSettingsRegistry::ClearSettingsValues();
-        ZelPageDefaults::Register(QSettings(QString(), QSettings::IniFormat));
-        QStringList registered; // In the order of the keys.
-        for (const auto& setting : ZelSettingsRegistry::GetDefaultSettingsValues())
-            registered << setting.second.first;
-        QCOMPARE(registered.join(" "), QString("500000 2147483648 2147483648 2147483648 1/0.75/0.5/0.25/0.1 "
-                                               "true 20 false 10 false 0.1 false false 1000 false true true "
-                                               "%1 Medium ")
-                                           .arg(QThread::idealThreadCount()));
-    }
-
-    void defaultsOfTheHost_data()
-    {
-        const QString folder = QString::fromUtf8("/\303\274");
-        const QVariant list = QStringList({"/a", "b"}); // As a comma without quotes.
-        const std::tuple<const char*, QString, QVariant, QString, QString> rows[] = {
-            {"cores", keys::CoreNumber, "many", QString::number(QThread::idealThreadCount()), "be \"many\""},
-            {"check box", keys::UseEdgeDetection, "yes", "false", "useED\" cannot be \"yes\""},
-            {"unit", keys::SceneUnits, "7", "1000", "sceneUnits\" cannot be \"7\""},
-            {"angle", keys::MaxFaceAngle, "90.5", "20", "cannot be \"90.5\""},
-            {"no text", keys::UseSsao, "", "true", "useSSAO\" cannot be \"\""},
-            {"ratios", keys::SimplificationRatios, "1/0.5", DefaultRatios, "cannot be \"1/0.5\""},
-            {"list", keys::ScreenshotFolder, list, "", "ImageFolder\" cannot be \"/a, b\""},
-            {"of no page", "unknown", "1", {}, "no page has a setting \"unknown\""},
-            {"repaired", keys::TrianglesCap, "1", "50000", {}},
-            {"folder", keys::ScreenshotFolder, folder, folder, {}},
-            {"registered before", keys::RaytracerQuality, "Ultra", "Low", {}},
-            {"cut file", "", QVariant(), {}, "cannot be read to its end"},
-        };
-        addRows({"key", "value", "registered", "logged"}, rows);
-    }
-
-    void defaultsOfTheHost()
-    {
-        QFETCH(QString, key);
-        QFETCH(QVariant, value);
-        QFETCH(QString, registered);
-        QFETCH(QString, logged);
-        ZelSettingsRegistry::ClearSettingsValues();
-        ZelSettingsRegistry::RegisterSetting(keys::RaytracerQuality, "Low", &ZelSettingsValidators::noOp);
-        const QTemporaryDir folder;
-        MTLogger::InstallFileHandler(folder.filePath("log.txt").toStdString(), false, "");
-        store(folder.filePath("Defaults.ini"), value.isValid() ? "" : "[cut\n");
-        QSettings defaults(folder.filePath("Defaults.ini"), QSettings::IniFormat);
-        if (value.isValid())
-            defaults.setValue(key, value);
-        ZelPageDefaults::Register(defaults);
-        MTLogger::RemoveFileHandler();
-        const QString log = contentOf(folder.filePath("log.txt"));
-        QVERIFY2(log.contains(logged) && log.isEmpty() == logged.isEmpty(), qPrintable(log));
-        const QString used = ZelSettingsRegistry::GetDefaultSettingsValue(key);
-        QVERIFY2(used == registered && used.isNull() == registered.isNull(), qPrintable(used));
     }
 };
 

@@ -1,7 +1,6 @@
 #include "QtTestCompat.h"
 #include "Rows.h"
 #include "SettingsKeys.h"
-#include "ZelPageDefaults.h"
 #include "ZelSettingsRegistry.h"
 #include "ZelSettingsValidators.h"
 
@@ -81,15 +80,10 @@ private Q_SLOTS:
         }
     }
 
-    void defaults()
+    void defaultThatIsNotValid()
     {
         QString value("1/2"), error; // Neither they nor the default are well formed.
         QVERIFY(!V::ensureSimplificationRatios("key", "1/0.5", value, error) && error.isEmpty());
-        ZelPageDefaults::Register(QSettings(QString(), QSettings::IniFormat));
-        for (const auto& [key, rule] : ZelSettingsRegistry::GetDefaultSettingsValues()) {
-            QVERIFY(rule.second(key, rule.first, value = "?", error));
-            QVERIFY2((value == "?") == (key == keys::ScreenshotFolder), qPrintable(key));
-        }
     }
 
     void folders_data()

@@ -41,7 +41,7 @@ QString poorlyAnnounced(QAccessibleInterface* tree, int& controls)
 } // namespace
 
 /// What the user is told about the settings: by texts, tool tips, marks and assistive technology.
-class tst_PageHelp : public QObject, private User
+class tst_ZelHelpArea : public QObject, private User
 {
     Q_OBJECT
 
@@ -629,5 +629,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_PageHelp)
-#include "tst_PageHelp.moc"
+QTEST_MAIN(tst_ZelHelpArea)
+#include "tst_ZelHelpArea.moc"
