@@ -1,7 +1,7 @@
 #ifndef ZEL_SETTINGSFOLLOWER_H
 #define ZEL_SETTINGSFOLLOWER_H
 
-#include "base/SystemFiles.h"
+#include "base/QtSettingsFile.h"
 
 #include <QBasicTimer>
 #include <QObject>

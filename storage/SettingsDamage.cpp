@@ -1,7 +1,7 @@
 #include "SettingsDamage.h"
 
 #include "IniCodec.h"
-#include "base/SystemFiles.h"
+#include "base/QtSettingsFile.h"
 
 #include <QSet>
 #include <QStringList>

@@ -4,7 +4,7 @@
 #include "IniCodec.h"
 #include "SettingsDamage.h"
 #include "SettingsValues.h"
-#include "base/SystemFiles.h"
+#include "base/QtSettingsFile.h"
 
 #include <QCoreApplication>
 #include <QEvent>

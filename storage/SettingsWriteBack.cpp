@@ -6,7 +6,7 @@
 #include "SettingsValues.h"
 #include "SpareCopy.h"
 #include "WorkingCopy.h"
-#include "base/SystemFiles.h"
+#include "base/QtSettingsFile.h"
 
 #include <QSettings>
 

@@ -3,6 +3,7 @@
 #include "FileAccess.h"
 #include "SettingsBackup.h"
 #include "SettingsReasons.h"
+#include "base/QtSettingsFile.h"
 #include "base/QtSettingsLock.h"
 #include "base/SystemFiles.h"
 

@@ -7,6 +7,7 @@
 #include "SettingsReasons.h"
 #include "SettingsValidation.h"
 #include "SettingsValues.h"
+#include "base/QtSettingsFile.h"
 #include "base/QtSettingsLock.h"
 #include "base/SystemFiles.h"
 

@@ -4,7 +4,6 @@
 #include "ZelAboutSettingsPanel.h"
 #include "ZelGeneralSettingsPanel.h"
 #include "ZelImportSettingsPanel.h"
-#include "ZelSettingsValidators.h"
 #include "ZelSimplificationSettingsPanel.h"
 #include "base/AccessibleCompat.h"
 #include "base/QtCompat.h"

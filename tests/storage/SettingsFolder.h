@@ -8,7 +8,7 @@
 #include "ZelSettingsFile.h"
 #include "ZelSettingsRegistry.h"
 #include "ZelSettingsValidators.h"
-#include "base/SystemFiles.h"
+#include "base/QtSettingsFile.h"
 
 #include <memory>
 
