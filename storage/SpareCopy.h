@@ -1,20 +1,14 @@
 #ifndef ZEL_SPARECOPY_H
 #define ZEL_SPARECOPY_H
 
+#include "Outcome.h"
+
 #include <QByteArray>
 #include <QString>
 
 namespace zel {
 
 class Deadline;
-
-/// What an attempt to write the file has come to.
-enum class Outcome {
-    InPlace,
-    Outdated, ///< Another program has changed the file since it was copied, which is the reason then.
-    GivenUp,  ///< The change did not succeed, and has said why. No value is changed.
-    Failed    ///< The reason is set. Nothing is changed, or a spare copy is left for SpareCopy::finish().
-};
 
 /// A complete copy that stands beside a file, "Settings.ini.unfinished", while the file is written in place:
 /// by QSettings, or because QSettings locks the file itself. It has what the file holds in the end. If the
